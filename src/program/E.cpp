@@ -1,0 +1,188 @@
+#include "program/E.h"
+
+#include "shell/FirstRun.h"
+#include "text/Bytes.h"
+#include "text/Text.h"
+
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr std::string_view DesignCaption = "TALVORA 2.4";
+constexpr int GuideButton = 9;
+
+} // namespace
+
+E::E(Platform& platform, std::string directory)
+    : platform_(platform), form_(platform.screen, platform.metrics),
+      controls_(form_, platform.layout), stores_(state_.places),
+      shell_(platform, form_, controls_, state_),
+      reading_(form_, controls_, state_, stores_, shell_),
+      laterSections_(controls_, state_, stores_, shell_) {
+  state_.places.ThuMuc = std::move(directory);
+  form_.Caption(std::string(DesignCaption));
+  state_.declare(variables_);
+  stores_.declare(variables_);
+  shell_.declare(variables_);
+  reading_.declare(variables_);
+  wireMenu();
+  wireGuide();
+  const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
+  reading_.focusButton = focusButton;
+  laterSections_.focusButton = focusButton;
+  shell_.upward.DongNghia = [this] {
+    controls_.Rnen.Visible(false);
+    controls_.RHD.Visible(false);
+    shell_.focusReturn.TraLaiBeMat();
+  };
+}
+
+// -- Start-up.
+
+void E::Main() {
+  if (KiemTraCaiDat(state_.places.ThuMuc, platform_.installation, platform_.boxes) ==
+      FirstRun::DoneNow) {
+    end(Ending::FirstRun);
+    return;
+  }
+  shell_.setup.measureScreen(platform_.screen.pixelWidth(), platform_.screen.pixelHeight());
+  shell_.steering.pointAt({0, 0});
+  shell_.setup.placeForm();
+  shell_.setup.LapCoChu();
+  shell_.menu.setCaptions();
+  form_.Show();
+  shell_.menu.DatFontNut();
+  state_.places.waitkd = true;
+  shell_.setup.setTextFont();
+  shell_.setup.parkSurfaces();
+  shell_.hints.DemChay = 2;
+  shell_.hints.DatRDOS();
+  shell_.menu.DatHinhNut();
+  state_.places.DangBan = true;
+  shell_.menu.XepNut();
+  form_.Refresh();
+  loadEnglishSide();
+  shell_.steering.XepChuot();
+  shell_.setup.measureCard();
+  controls_.Rnen3.Text("");
+  controls_.Rnen3.Top(state_.measures.CaoMH + 100);
+  state_.places.waitkd = false;
+  state_.places.DangBan = false;
+  shell_.steering.pointAtButton(1);
+  shell_.hover.NutSang(controls_.but(1));
+}
+
+void E::loadEnglishSide() {
+  stores_.MoDuLieu();
+  state_.measures.KieuTruot = 5;
+  shell_.setup.adjustSlideStep();
+  shell_.menu.finishProgress();
+}
+
+// -- The menu.
+
+void E::wireMenu() {
+  for (int number = 1; number <= Controls::ButtonCount; ++number) {
+    Button& button = controls_.but(number);
+    button.GotFocus = [this, number] { shell_.hover.buttonGotFocus(number); };
+    button.MouseMove = [this, &button] { shell_.hover.NutSang(button); };
+    button.Click = [this, number] { clickButton(number); };
+    button.KeyPress = [this, number](int& KeyAscii) {
+      if (number <= 3) state_.word.DaChonRTD = false;
+      if (KeyAscii == key::Esc) HoiThoat();
+    };
+  }
+}
+
+void E::clickButton(int number) {
+  constexpr int WritingButton = 6;
+  if (number == WritingButton) {
+    // The closed section answers also while the program is busy; that is meant.
+    shell_.messages.ThongBao("PhÌn này ðang xây dÜng."_bytes, 1000);
+    return;
+  }
+  if (state_.places.DangBan) return;
+  switch (number) {
+  case 1:
+  case 5:
+    openReading(number, file::TextPositions);
+    break;
+  case 7:
+    openReading(number, file::SpeakingPositions);
+    break;
+  case GuideButton:
+    openGuide();
+    break;
+  default:
+    laterSections_.open(number);
+    break;
+  }
+}
+
+void E::openReading(int section, int store) {
+  state_.places.MucMenu = section;
+  stores_.ChonKho(store);
+  reading_.BatdauBut();
+}
+
+void E::openGuide() {
+  Surface& Rcachhoc = controls_.Rcachhoc;
+  Rcachhoc.FontSize(state_.measures.CoChu);
+  Rcachhoc.TabIndex(Controls::ButtonCount + 1);
+  Rcachhoc.Locked(false);
+  Rcachhoc.FileName(pathBelow(state_.places.ThuMuc, "\\readme.rtf"));
+  shell_.transitions.MoRan(Rcachhoc, controls_.Frame1);
+  shell_.curtain.KeoMan(Rcachhoc);
+}
+
+void E::wireGuide() {
+  Surface& Rcachhoc = controls_.Rcachhoc;
+  Rcachhoc.KeyDown = [&Rcachhoc, this](int& KeyCode, int) {
+    shell_.hints.showOnF2(KeyCode, Rcachhoc);
+    // The guide is not locked, but nothing in it is the learner's to delete.
+    if (KeyCode == key::Delete) KeyCode = 0;
+  };
+  Rcachhoc.KeyPress = [&Rcachhoc, this](int& KeyAscii) {
+    const int pressed = std::exchange(KeyAscii, 0);
+    if (pressed != key::Esc) return;
+    shell_.transitions.DongRan(Rcachhoc, controls_.Frame1);
+    controls_.but(GuideButton).SetFocus();
+  };
+  Rcachhoc.KeyUp = [this](int&, int) { shell_.gestures.keyReleased(); };
+}
+
+// -- The end.
+
+bool E::frameVisible() const {
+  return controls_.Frame1.Visible() || controls_.Frame2.Visible() || controls_.Frame3.Visible();
+}
+
+void E::HoiThoat() {
+  if (frameVisible()) return;
+  if (shell_.messages.XacNhan("Do you want to quit?", "yes")) quit();
+}
+
+void E::closeWindow() {
+  if (frameVisible()) {
+    end(Ending::Quit);
+  } else {
+    HoiThoat();
+  }
+}
+
+void E::quit() {
+  int& DemChay = shell_.hints.DemChay;
+  DemChay = nextRunCount(DemChay);
+  stores_.writeSetting(setting::RunCounter, DemChay);
+  end(Ending::Quit);
+}
+
+void E::end(Ending ending) {
+  if (ending_ != Ending::None) return;
+  stores_.closeAll();
+  ending_ = ending;
+}
+
+} // namespace talvora

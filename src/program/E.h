@@ -1,0 +1,67 @@
+// The form and its handlers: owns every module, wires them, starts the program up, sends the menu's
+// clicks to the sections, and ends it.
+#pragma once
+
+#include "platform/Platform.h"
+#include "program/LaterSections.h"
+#include "program/Program.h"
+#include "reading/Reading.h"
+#include "shell/Shell.h"
+#include "stores/Stores.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+#include "surface/Variables.h"
+
+#include <string>
+
+namespace talvora {
+
+/// The run counter after one more run: it goes on from 2 to 20, and anything else becomes 1.
+[[nodiscard]] constexpr int nextRunCount(int count) {
+  return count >= 2 && count <= 19 ? count + 1 : 1;
+}
+
+class E {
+ public:
+  E(Platform& platform, std::string directory);
+
+  /// The start-up, every step in its order.
+  void Main();
+  /// The quit question; while a section is open nothing is asked.
+  void HoiThoat();
+  /// The close box: the quit question, or with a section open the end without a question and
+  /// without the run counter.
+  void closeWindow();
+  void end(Ending ending);
+
+  [[nodiscard]] Ending ending() const noexcept { return ending_; }
+  [[nodiscard]] Form& form() noexcept { return form_; }
+  [[nodiscard]] Controls& controls() noexcept { return controls_; }
+  [[nodiscard]] const Variables& variables() const noexcept { return variables_; }
+
+ private:
+  void wireMenu();
+  void clickButton(int number);
+  /// Opens a section that begins with a title list.
+  void openReading(int section, int store);
+  void openGuide();
+  void wireGuide();
+  void loadEnglishSide();
+  /// Whether a section is open.
+  [[nodiscard]] bool frameVisible() const;
+  /// The end that the learner asked for: the run counter goes on, all files are closed.
+  void quit();
+
+  Platform& platform_;
+  Form form_;
+  Controls controls_;
+  SharedState state_;
+  Stores stores_;
+  Shell shell_;
+  Reading reading_;
+  LaterSections laterSections_;
+  Variables variables_;
+  Ending ending_ = Ending::None;
+};
+
+} // namespace talvora

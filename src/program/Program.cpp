@@ -1,0 +1,48 @@
+#include "program/Program.h"
+
+#include "program/E.h"
+
+#include <utility>
+
+namespace talvora {
+
+struct Program::Parts {
+  Parts(Platform& platform, std::string directory) : e(platform, std::move(directory)) {}
+
+  E e;
+};
+
+Program::Program(Platform& platform, std::string directory)
+    : parts_(std::make_unique<Parts>(platform, std::move(directory))) {}
+
+Program::~Program() = default;
+
+void Program::Main() {
+  parts_->e.Main();
+}
+
+void Program::closeWindow() {
+  parts_->e.closeWindow();
+}
+
+void Program::fail() {
+  parts_->e.end(Ending::Failure);
+}
+
+Ending Program::ending() const noexcept {
+  return parts_->e.ending();
+}
+
+Form& Program::form() noexcept {
+  return parts_->e.form();
+}
+
+Controls& Program::controls() noexcept {
+  return parts_->e.controls();
+}
+
+const Variables& Program::variables() const noexcept {
+  return parts_->e.variables();
+}
+
+} // namespace talvora

@@ -1,0 +1,45 @@
+// The program: owns the form and every module, wires them, and says when it is over.
+#pragma once
+
+#include "platform/Platform.h"
+#include "surface/Controls.h"
+#include "surface/Form.h"
+#include "surface/Variables.h"
+
+#include <memory>
+#include <string>
+
+namespace talvora {
+
+/// Why the program is no longer running.
+enum class Ending { None, Quit, FirstRun, Failure };
+
+class Program {
+ public:
+  /// `directory` is the current directory at the moment of start.
+  Program(Platform& platform, std::string directory);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+  ~Program();
+
+  /// The start-up, in its order; returns when the menu stands, or when the program has ended.
+  /// Throws FatalFailure when a file is missing.
+  void Main();
+  /// The close box of the window: asks, and ends the program unless the answer is No.
+  void closeWindow();
+  /// Ends the program after a fatal failure; what the learner owns is left untouched.
+  void fail();
+
+  [[nodiscard]] Ending ending() const noexcept;
+  [[nodiscard]] bool running() const noexcept { return ending() == Ending::None; }
+
+  [[nodiscard]] Form& form() noexcept;
+  [[nodiscard]] Controls& controls() noexcept;
+  [[nodiscard]] const Variables& variables() const noexcept;
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+} // namespace talvora

@@ -1,0 +1,322 @@
+#include "reading/Reading.h"
+
+#include "text/CharClass.h"
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour BodyColour = 0x750000;
+constexpr Colour HeadingColour = 0x393971;
+constexpr Colour GreyedColour = 0x80000003;
+constexpr Colour White = 0xFFFFFF;
+constexpr int AnalysisSection = 5;
+constexpr int VocabularySection = 2;
+constexpr int FirstAnalysedText = 4;
+constexpr int GuideText = 2;
+constexpr int MostHeadings = 38;
+// The guide's title, which section 5 shows but does not analyse.
+constexpr int GreyedFrom = 20;
+constexpr int GreyedTo = 47;
+
+} // namespace
+
+Reading::Reading(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell)
+    : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
+      text_(stores, state.text, state.word), page_(controls, state, stores, shell, text_) {
+  wireEvents();
+}
+
+void Reading::wireEvents() {
+  Surface& R1 = controls_.R1;
+  R1.KeyDown = [this, &R1](int& KeyCode, int) {
+    shell_.hints.showOnF2(KeyCode, R1);
+    if (KeyCode != key::Right && KeyCode != key::Left) return;
+    if (KeyCode == key::Right) {
+      jumpToNextHeading();
+    } else {
+      jumpToPreviousHeading();
+    }
+    // The surface's own step would take the caret off the heading again.
+    KeyCode = 0;
+  };
+  R1.KeyUp = [this, &R1](int& KeyCode, int) {
+    shell_.gestures.keyReleased();
+    switch (KeyCode) {
+    case key::Up:
+    case key::Down:
+    case key::PgUp:
+    case key::PgDn:
+    case key::Home:
+    case key::End:
+      ChonDongR1(R1);
+      break;
+    default:
+      break;
+    }
+  };
+  R1.KeyPress = [this](int& KeyAscii) {
+    const int pressed = KeyAscii;
+    KeyAscii = 0;
+    if (pressed == key::Esc) pressEsc();
+    if (pressed == key::Enter) openLine();
+  };
+  R1.MouseMove = [this, &R1](int, SurfacePoint at) { shell_.gestures.pointerMoved(R1, at); };
+  R1.MouseUp = [this](MouseButton button, int, SurfacePoint) { releaseMouse(button); };
+  shell_.focusReturn.onReturnTo(R1, [this, &R1] {
+    R1.SelStart(state_.word.ViTriCaretR1);
+    ChonDongR1(R1);
+    R1.SetFocus();
+  });
+  page_.leave = [this] { ExitR2(); };
+}
+
+// -- Entering and leaving.
+
+void Reading::BatdauBut() {
+  page_.clearStepFlags();
+  Surface& R1 = controls_.R1;
+  R1.FontSize(state_.measures.CoChu - 1);
+  controls_.Frame1.BackColor(White);
+  MoDanhSachBai();
+  shell_.transitions.MoRan(R1, controls_.Frame1);
+  R1.SelStart(ViTriDanhSachBai);
+  ChonDongR1(R1);
+  shell_.gestures.remindOnFirstOpening(state_.places.MucMenu, R1);
+}
+
+void Reading::MoDanhSachBai() {
+  Surface& R1 = controls_.R1;
+  R1.Visible(false);
+  R1.Top(state_.measures.CaoMH + 300);
+  ViTriDanhSachBai = stores_.readSetting(caretRecord());
+  if (!DaNapDanhSach) {
+    stores_.NapViTriBai();
+    controls_.R2.FontSize(state_.measures.CoChu);
+    XayDanhSachBai();
+    DaNapDanhSach = true;
+  }
+  R1.Visible(true);
+}
+
+int Reading::caretRecord() const {
+  if (state_.places.MucMenu == AnalysisSection) return setting::AnalysisCaret;
+  return stores_.FileChiSo == file::SpeakingPositions ? setting::SpeakingCaret
+                                                      : setting::ReadingCaret;
+}
+
+void Reading::ExitR1() {
+  if (controls_.R2.Visible()) {
+    ExitR2();
+    return;
+  }
+  ViTriDanhSachBai = controls_.R1.SelStart();
+  stores_.writeSetting(caretRecord(), ViTriDanhSachBai);
+  DaNapDanhSach = false;
+  shell_.transitions.DongRan(controls_.R1, controls_.Frame1);
+  controls_.Frame2.Visible(false);
+  controls_.Frame3.Visible(false);
+  const int section = state_.places.MucMenu;
+  if (section == 1 || section == 5 || section == 6 || section == 7) focusButton(section);
+}
+
+void Reading::GoiR2() {
+  shell_.hints.AnRDOS(controls_.R1);
+  state_.word.ViTriCaretR1 = controls_.R1.SelStart();
+  state_.word.NghiaHienTai.clear();
+  state_.word.ViTriCaret = 0;
+  const int number = state_.list.SoBaiChon;
+  if (state_.places.MucMenu == AnalysisSection && number < FirstAnalysedText) return;
+  page_.LaBaiHuongDan = stores_.FileChiSo == file::TextPositions && number == GuideText;
+  text_.DocBai(number);
+  page_.showText();
+  text_.DocDich(number);
+  shell_.transitions.MoRan(controls_.R2, controls_.Frame2);
+  state_.word.TuHienTai.clear();
+  controls_.RDOS.FontSize(controls_.R2.Font().size);
+  controls_.RDOS.FontName("x1");
+  shell_.curtain.KeoMan(controls_.R2);
+}
+
+void Reading::ExitR2() {
+  page_.LaBaiHuongDan = false;
+  state_.word.NghiaHienTai.clear();
+  shell_.upward.DongNghia();
+  state_.word.ViTriCaret = state_.word.ViTriCaretR1;
+  shell_.transitions.DongRan(controls_.R2, controls_.Frame2);
+  controls_.Frame3.Visible(false);
+  controls_.R1.SelStart(state_.word.ViTriCaretR1);
+  ChonDongR1(controls_.R1);
+  controls_.R1.SetFocus();
+}
+
+// -- The list.
+
+void Reading::XayDanhSachBai() {
+  if (state_.places.MucMenu == VocabularySection) return;
+  state_.list.DanhSachBai.clear();
+  state_.list.SoNhom = 0;
+  for (int i = 1; i <= stores_.SoBai; ++i) appendTitle(i);
+  showList();
+}
+
+void Reading::appendTitle(int i) {
+  CurrentList& list = state_.list;
+  std::string prefix = "\t\t";
+  std::string line;
+  PieceReader reader(stores_.fileOf(stores_.FileVanBan),
+                     stores_.ViTriBai[static_cast<std::size_t>(i)] + 1);
+  // A title without its line end ends with its file.
+  for (bool ended = false; !ended;) {
+    const auto piece = reader.next();
+    ended = !piece || *piece == "\r";
+    if (piece && *piece == "*") {
+      prefix.clear();
+      ++list.SoNhom;
+      list.ViTriNhom[static_cast<std::size_t>(list.SoNhom)] =
+          static_cast<std::int32_t>(list.DanhSachBai.size());
+      // The next heading starts the table over, so that only the last ones are formatted.
+      if (list.SoNhom > MostHeadings) list.SoNhom = 0;
+    }
+    line += !piece ? "\r" : *piece == "|" ? " " : *piece;
+  }
+  list.DanhSachBai += prefix + line;
+  list.BangViTri[static_cast<std::size_t>(i)] = static_cast<std::int32_t>(list.DanhSachBai.size());
+}
+
+void Reading::showList() {
+  Surface& R1 = controls_.R1;
+  R1.Text("");
+  if (state_.measures.largeScreen()) R1.FontBold(true);
+  R1.SelProtected(true);
+  R1.SelText(state_.list.DanhSachBai);
+  R1.SelStart(0);
+  R1.SelLength(R1.TextLength());
+  R1.SelColor(BodyColour);
+  R1.SelStart(0);
+  VeDauMuc();
+}
+
+void Reading::VeDauMuc() {
+  Surface& R1 = controls_.R1;
+  for (int heading = 1; heading <= state_.list.SoNhom; ++heading) {
+    styleHeading(state_.list.ViTriNhom[static_cast<std::size_t>(heading)]);
+  }
+  if (state_.places.MucMenu == AnalysisSection) {
+    R1.SelStart(GreyedFrom);
+    R1.SelLength(GreyedTo - GreyedFrom);
+    R1.SelColor(GreyedColour);
+  }
+  R1.SelStart(0);
+}
+
+void Reading::styleHeading(int caret) {
+  Surface& R1 = controls_.R1;
+  R1.SelStart(caret);
+  R1.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
+  R1.SelLength(R1.SelLength() + 1);
+  R1.SelProtected(false);
+  R1.SelColor(HeadingColour);
+  R1.SelFontSize(R1.Font().size + 3);
+  R1.SelBold(true);
+}
+
+void Reading::ChonDongR1(Surface& surface) {
+  const std::string& list = state_.list.DanhSachBai;
+  if (surface.SelStart() == surface.TextLength()) surface.SelStart(surface.SelStart() - 2);
+  const int caret = std::min<int>(surface.SelStart(), static_cast<int>(list.size()));
+  const auto lineEndBefore = caret > 0 ? list.rfind('\r', static_cast<std::size_t>(caret - 1))
+                                       : std::string::npos;
+  // Positions count from 1 and carets from 0: the caret so comes to stand behind the line's first
+  // character, which is a tab or the heading's mark.
+  const int lineStart =
+      lineEndBefore == std::string::npos ? 0 : static_cast<int>(lineEndBefore) + 2;
+  ViTriDanhSachBai = lineStart;
+  const auto lineEnd = list.find('\r', static_cast<std::size_t>(lineStart));
+  surface.SelStart(lineStart);
+  if (lineEnd != std::string::npos) {
+    surface.SelLength(static_cast<int>(lineEnd) + 1 - lineStart);
+  }
+  state_.word.ViTriCaretR1 = lineStart;
+  for (int i = 1; i <= stores_.SoBai; ++i) {
+    if (lineStart < state_.list.BangViTri[static_cast<std::size_t>(i)]) {
+      state_.list.SoBaiChon = i;
+      break;
+    }
+  }
+}
+
+// -- Keys and mouse.
+
+bool Reading::lineOpens() const {
+  const Surface& R1 = controls_.R1;
+  return state_.measures.largeScreen() ? R1.SelColor() != HeadingColour : !R1.SelBold();
+}
+
+void Reading::openLine() {
+  if (lineOpens()) GoiR2();
+}
+
+void Reading::pressEsc() {
+  if (shell_.gestures.DongPhu(controls_.R1)) return;
+  if (controls_.RAmthanh.Visible()) return;
+  if (controls_.R2.Visible()) {
+    ExitR2();
+  } else {
+    ExitR1();
+  }
+}
+
+void Reading::releaseMouse(MouseButton button) {
+  if (button == MouseButton::Right) {
+    state_.word.ChoGiai = true;
+    shell_.steering.NhapTrai();
+    return;
+  }
+  state_.word.NghiaHienTai.clear();
+  ChonDongR1(controls_.R1);
+  if (state_.word.ChoGiai) {
+    state_.word.ChoGiai = false;
+    if (MoNgheViet && lineOpens()) MoNgheViet();
+    return;
+  }
+  openLine();
+}
+
+void Reading::jumpToNextHeading() {
+  const CurrentList& list = state_.list;
+  if (list.SoNhom == 0) return;
+  const auto first = list.ViTriNhom.begin() + 1;
+  const auto last = first + list.SoNhom;
+  const auto next = std::find_if(first, last, [caret = controls_.R1.SelStart()](int heading) {
+    return heading > caret;
+  });
+  jumpTo(next == last ? *(last - 1) : *next);
+}
+
+void Reading::jumpToPreviousHeading() {
+  const CurrentList& list = state_.list;
+  const int caret = controls_.R1.SelStart() - 1;
+  int target = 0;
+  for (int heading = 1; heading <= list.SoNhom; ++heading) {
+    const int at = list.ViTriNhom[static_cast<std::size_t>(heading)];
+    if (at < caret) target = at;
+  }
+  jumpTo(target);
+}
+
+void Reading::jumpTo(int caret) {
+  Surface& R1 = controls_.R1;
+  R1.SelStart(R1.TextLength() - 2);
+  R1.SelStart(caret);
+}
+
+void Reading::declare(Variables& variables) const {
+  variables.add("DaNapDanhSach", &DaNapDanhSach);
+  variables.add("ViTriDanhSachBai", &ViTriDanhSachBai);
+  page_.declare(variables);
+}
+
+} // namespace talvora

@@ -1,0 +1,71 @@
+// The title list of reading texts, speaking texts and analysed texts, on `R1`, and the way from a
+// line of it to the text on `R2`.
+#pragma once
+
+#include "reading/ReadingPage.h"
+#include "reading/ReadingText.h"
+#include "shell/Shell.h"
+#include "stores/Stores.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+
+#include <functional>
+#include <string>
+
+namespace talvora {
+
+class Reading {
+ public:
+  Reading(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell);
+
+  /// Common opening of the sections that begin with a title list.
+  void BatdauBut();
+  /// Leaves the list, or first the text that was opened from it.
+  void ExitR1();
+  /// Takes the text off and goes back to its line of the list.
+  void ExitR2();
+  /// Opens the text of the current line.
+  void GoiR2();
+  /// Fetches the stored caret and builds the list, once for each time the section is entered.
+  void MoDanhSachBai();
+  /// Selects the line at the caret and sets `SoBaiChon`.
+  void ChonDongR1(Surface& surface);
+
+  void declare(Variables& variables) const;
+
+  /// What a right click on a line does; set by dictation.
+  std::function<void()> MoNgheViet;
+  /// The button that gets the focus when the section is left; set by the program.
+  std::function<void(int number)> focusButton = [](int) {};
+
+  bool DaNapDanhSach = false; ///< the section is entered and its list is built
+  int ViTriDanhSachBai = 0;   ///< caret in the list, kept in data.Kcu
+
+ private:
+  void wireEvents();
+  void XayDanhSachBai();
+  /// Appends text i's title line, a heading or an indented title, to the list.
+  void appendTitle(int i);
+  void VeDauMuc();
+  void styleHeading(int caret);
+  void showList();
+  [[nodiscard]] int caretRecord() const;
+  [[nodiscard]] bool lineOpens() const;
+  void jumpToNextHeading();
+  void jumpToPreviousHeading();
+  /// The way over the list's end brings the line to the top of the view.
+  void jumpTo(int caret);
+  void openLine();
+  void pressEsc();
+  void releaseMouse(MouseButton button);
+
+  Form& form_;
+  Controls& controls_;
+  SharedState& state_;
+  Stores& stores_;
+  Shell& shell_;
+  ReadingText text_;
+  ReadingPage page_;
+};
+
+} // namespace talvora

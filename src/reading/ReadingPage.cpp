@@ -1,0 +1,226 @@
+#include "reading/ReadingPage.h"
+
+#include "text/CharClass.h"
+#include "text/WordForm.h"
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour BodyColour = 0x750000;
+constexpr int AnalysisSection = 5;
+
+// Places in the guide text: the sentence that shows a message, and the end of what answers at all.
+constexpr int GuideSentenceFrom = 699;
+constexpr int GuideSentenceTo = 986;
+constexpr int GuideWordsTo = 1142;
+
+} // namespace
+
+ReadingPage::ReadingPage(Controls& controls, SharedState& state, Shell& shell,
+                         PageServices services, ReadingText& text, Clock& clock)
+    : controls_(controls), state_(state), shell_(shell), services_(services),
+      sentences_(text, state, shell.wordPick),
+      aloud_(controls.R2, state, sentences_, services.speech, services.voice, shell.steering,
+             clock) {
+  wireEvents();
+}
+
+void ReadingPage::wireEvents() {
+  Surface& R2 = controls_.R2;
+  R2.KeyDown = [this](int& KeyCode, int Shift) { pressKey(KeyCode, Shift); };
+  R2.KeyPress = [this](int& KeyAscii) { pressCharacter(KeyAscii); };
+  R2.KeyUp = [this](int& KeyCode, int Shift) { releaseKey(KeyCode, Shift); };
+  R2.MouseMove = [this, &R2](int, SurfacePoint at) { shell_.gestures.followPointer(R2, at); };
+  R2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
+  R2.DblClick = [this] {
+    shell_.upward.DongNghia();
+    state_.word.CoDupChuot = true;
+  };
+  R2.SelChange = [this, &R2] {
+    if (R2.SelLength() == 0) state_.word.TuHienTai.clear();
+  };
+}
+
+void ReadingPage::clearStepFlags() {
+  state_.word.CoDupChuot = false;
+  state_.word.GiuSpace = false;
+}
+
+void ReadingPage::showText() {
+  Surface& R2 = controls_.R2;
+  const int CoChu = state_.measures.CoChu;
+  R2.Text("");
+  R2.SelColor(BodyColour);
+  R2.SelBold(state_.measures.largeScreen());
+  R2.SelFontSize(CoChu);
+  R2.SelUnderline(false);
+  R2.SelText(state_.text.CauHoi);
+  R2.SelStart(0);
+  R2.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
+  R2.SelAlignment(Alignment::Centred);
+  R2.SelUnderline(true);
+  R2.SelFontSize(CoChu + 3);
+  R2.SelBold(true);
+  ViTriTieuDe = R2.SelLength() + 2;
+  R2.SelStart(0);
+}
+
+// -- Keys.
+
+void ReadingPage::pressKey(int& keyCode, int shift) {
+  Surface& R2 = controls_.R2;
+  const bool busy = aloud_.DangDocCa;
+  shell_.hints.showOnF2(keyCode, R2);
+  services_.vietnameseSide.showOnCtrl(keyCode, shift, R2);
+  if (keyCode == key::Esc) pressEsc();
+  if (busy) return;
+  // A held Space repeats; the sentence is taken once.
+  if (keyCode == key::Space && !state_.word.GiuSpace) ChonCauSpace();
+  const bool ctrl = (shift & shift::Ctrl) != 0;
+  if (keyCode == key::Right && !ctrl) {
+    // The surface's own step that follows takes the caret over the blank to the next word.
+    SentencePick::seekPhaiR2(R2);
+  } else if (keyCode == key::Left && !ctrl) {
+    SentencePick::seekTraiR2(R2);
+    keyCode = 0;
+  }
+}
+
+void ReadingPage::pressEsc() {
+  if (aloud_.DangDocCa) {
+    aloud_.DangDocCa = false;
+    return;
+  }
+  if (shell_.gestures.DongPhu(controls_.R2) || controls_.RAmthanh.Visible()) return;
+  if (leave) leave();
+}
+
+void ReadingPage::pressCharacter(int& keyAscii) {
+  const char character = chr(keyAscii);
+  const CurrentWord& word = state_.word;
+  if (keyAscii == key::Enter && !word.TuHienTai.empty() && word.ThongBaoHD.empty()) {
+    if (ThemTuVung) ThemTuVung();
+  } else if (Letters.has(character)) {
+    services_.dictionary.MoDanhSachTu(character);
+  }
+  keyAscii = 0;
+}
+
+void ReadingPage::releaseKey(int keyCode, int shift) {
+  Surface& R2 = controls_.R2;
+  shell_.gestures.keyReleased();
+  if (keyCode == key::Space) {
+    releaseSpace();
+  } else if (shift != shift::Ctrl) {
+    services_.vietnameseSide.DongTuD(R2);
+    // Closing gives the caret back; where a key has just put it, there it stays.
+    if (R2.SelLength() == 0) state_.word.ViTriCaret = R2.SelStart();
+    if (R2.Visible() && !state_.word.DaChonRTD) shell_.upward.DongNghia();
+  }
+  if (keyCode == key::F6 && GoiRxep) GoiRxep();
+  if (keyCode == key::F9 && !LaBaiHuongDan) readAloud();
+}
+
+void ReadingPage::ChonCauSpace() {
+  CurrentWord& word = state_.word;
+  word.ViTriCaret = controls_.R2.SelStart();
+  ViTriGiuSpace_ = word.ViTriCaret;
+  word.GiuSpace = true;
+  word.CoDupChuot = true;
+  sentences_.ChonCau(controls_.R2);
+  lookUp();
+}
+
+void ReadingPage::releaseSpace() {
+  Surface& R2 = controls_.R2;
+  state_.word.GiuSpace = false;
+  state_.word.CoDupChuot = false;
+  shell_.upward.DongNghia();
+  R2.SelLength(0);
+  R2.SelStart(ViTriGiuSpace_);
+}
+
+void ReadingPage::readAloud() {
+  shell_.hints.GoiYNghe();
+  aloud_.DocCa();
+  shell_.hints.AnRDOS(controls_.R2);
+}
+
+// -- Mouse.
+
+void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
+  CurrentWord& word = state_.word;
+  if (button == MouseButton::Left) {
+    word.ViTriChuot = at;
+    word.ViTriCaret = controls_.R2.SelStart();
+    if (word.ChoGiai) {
+      word.ChoGiai = false;
+      if (GiaiPhanTich) GiaiPhanTich();
+      return;
+    }
+    takeWordOrSentence();
+  } else if (state_.places.MucMenu == AnalysisSection) {
+    word.ChoGiai = true;
+    shell_.steering.NhapTrai();
+  } else if (!LaBaiHuongDan) {
+    speakAgain();
+  }
+}
+
+void ReadingPage::takeWordOrSentence() {
+  CurrentWord& word = state_.word;
+  if (word.CoDupChuot) {
+    sentences_.ChonCau(controls_.R2);
+    word.CoDupChuot = false;
+  } else {
+    word.ThongBaoHD.clear();
+    shell_.wordPick.ChonTu(controls_.R2);
+  }
+  lookUp();
+}
+
+void ReadingPage::lookUp() {
+  if (LaBaiHuongDan) {
+    lookUpInGuide();
+  } else if (!ChuanHoaTu(state_.word.TuHienTai).empty()) {
+    services_.dictionary.TraTu();
+  }
+}
+
+void ReadingPage::lookUpInGuide() {
+  Surface& R2 = controls_.R2;
+  CurrentWord& word = state_.word;
+  const int c = word.ViTriCaret;
+  if (c > GuideSentenceFrom && c < GuideSentenceTo) {
+    word.TuHienTai = "x";
+    if (R2.SelLength() > 3) R2.SelLength(R2.SelLength() - 3);
+    if (!word.ThongBaoHD.empty()) {
+      services_.dictionary.TraTu();
+      services_.speech.DungDoc();
+    }
+  } else if (c < GuideWordsTo) {
+    shell_.wordPick.LayCumTu(R2);
+    services_.dictionary.TraTu();
+  } else {
+    R2.SelLength(0);
+    R2.SelStart(c);
+  }
+  speakAgain();
+}
+
+void ReadingPage::speakAgain() {
+  CurrentWord& word = state_.word;
+  if (word.TuHienTai.empty()) return;
+  if (word.ThongBaoHD.empty()) word.TuHienTai = word.TuDaBam;
+  services_.speech.DocTu();
+}
+
+void ReadingPage::declare(Variables& variables) const {
+  variables.add("LaBaiHuongDan", &LaBaiHuongDan);
+  variables.add("ViTriTieuDe", &ViTriTieuDe);
+  variables.add("DangDocCa", &aloud_.DangDocCa);
+  variables.add("ViTriGiuSpace", &ViTriGiuSpace_);
+}
+
+} // namespace talvora

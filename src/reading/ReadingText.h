@@ -1,0 +1,39 @@
+// A reading text as the store holds it: cutting it out of its stream, finding its sentences, and
+// its translation sentence by sentence.
+#pragma once
+
+#include "stores/Stores.h"
+#include "surface/State.h"
+
+namespace talvora {
+
+/// The character that stands for a sentence mark in a text on show; it looks like a blank.
+inline constexpr char SentenceMark = static_cast<char>(static_cast<unsigned char>(160));
+
+class ReadingText {
+ public:
+  ReadingText(const Stores& stores, CurrentText& text, CurrentWord& word)
+      : stores_(stores), text_(text), word_(word) {}
+
+  /// Reads text i, from 1, of the current store into `CauHoi` and finds its sentences.
+  /// Throws FatalFailure when it has more marks than the tables hold.
+  void DocBai(int i);
+  /// Reads the translation of text i into `DichCau`.
+  void DocDich(int i);
+  /// The number of the sentence that holds character v, from 1; its translation goes into
+  /// `ThongBaoHD`. The title is sentence 1 and has no translation.
+  int CauTaiViTri(int v);
+  /// Position, from 1, of the mark that opens sentence k; 0 outside the table.
+  [[nodiscard]] int markOf(int k) const noexcept;
+
+ private:
+  void LamSachVanBan();
+  /// Finds the sentence marks of text i, whose number a failure names.
+  void TachCau(int i);
+
+  const Stores& stores_;
+  CurrentText& text_;
+  CurrentWord& word_;
+};
+
+} // namespace talvora

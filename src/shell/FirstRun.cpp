@@ -1,0 +1,25 @@
+#include "shell/FirstRun.h"
+
+#include "platform/Files.h"
+#include "text/Text.h"
+
+namespace talvora {
+
+FirstRun KiemTraCaiDat(const std::string& ThuMuc, Installation& installation, Boxes& boxes) {
+  const std::string marker = pathBelow(ThuMuc, "\\Yes1");
+  if (TonTaiFile(marker)) return FirstRun::AlreadyDone;
+  installation.installFonts();
+  const ReadWriteFile created(marker);
+  if (!installation.speechEngineInstalled()) installation.run(ThuMuc + "\\s1.exe");
+  boxes.tell("Neu chuong trinh bi loi thi xem muc <Huong dan cach hoc> Hoac doc file README trong "
+             "thu muc: " +
+             ThuMuc);
+  if (!installation.englishVoiceInstalled()) {
+    boxes.tell("Xin nhan muc YES trong chuong trinh duoi day. Sau do chay lai chuong trinh "
+               "TALVORA:");
+    installation.run(ThuMuc + "\\s3.exe");
+  }
+  return FirstRun::DoneNow;
+}
+
+} // namespace talvora

@@ -1,0 +1,67 @@
+// Behaviour that every text surface shares: what a mouse move does, what Esc closes first, what
+// every key release cleans up, and the reminder on a section's first opening.
+#pragma once
+
+#include "platform/Desk.h"
+#include "shell/HintBar.h"
+#include "shell/UpwardCalls.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace talvora {
+
+class Gestures {
+ public:
+  Gestures(Controls& controls, const Measures& measures, CurrentWord& word, HintBar& hints,
+           const UpwardCalls& upward, Clipboard& clipboard);
+
+  /// Stores where the pointer came in, and takes the hint bar away once it has left that place.
+  void pointerMoved(Surface& surface, SurfacePoint at);
+  /// The whole pointer rule of a text: `pointerMoved`, then `RoiChuot`.
+  void followPointer(Surface& surface, SurfacePoint at);
+  /// The pointer left the word at hand: beyond a twelfth of the screen the word and its popup go.
+  void RoiChuot(Surface& surface, SurfacePoint at);
+
+  /// Closes the top thing that is open; false when nothing was.
+  bool DongPhu(Surface& surface);
+  /// What `DongPhu` does when that surface is the top thing; it is given the surface that asked.
+  void onClose(const Surface& surface, std::function<void(Surface& asking)> action);
+
+  /// What every key release begins with: nothing copied stays on the clipboard.
+  void keyReleased();
+
+  /// The F2 reminder, once for each section, while its surface has not been moved over.
+  void remindOnFirstOpening(int section, const Surface& surface);
+
+  void declare(Variables& variables) const;
+
+ private:
+  /// One byte for a surface; `RDT` and `Rsai` share theirs.
+  enum class PointerState { NotMovedOver = 0, PointStored = 1, BarTakenAway = 2 };
+  struct ClosingRow {
+    const Surface* surface;
+    std::function<void(Surface&)> action;
+  };
+
+  [[nodiscard]] PointerState& stateOf(const Surface& surface);
+  [[nodiscard]] bool isFar(SurfacePoint at) const;
+  [[nodiscard]] bool mayClose(const Surface& surface) const;
+
+  Controls& controls_;
+  const Measures& measures_;
+  CurrentWord& word_;
+  HintBar& hints_;
+  const UpwardCalls& upward_;
+  Clipboard& clipboard_;
+  std::vector<ClosingRow> closingRows_;
+  std::map<std::string, PointerState> TrangThaiChuot_;
+  std::set<int> reminded_;
+};
+
+} // namespace talvora

@@ -1,0 +1,142 @@
+#include "shell/HintBar.h"
+
+#include "shell/HintTexts.h"
+#include "text/Bytes.h"
+#include "text/Rounding.h"
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour Blue = 0xFF0000;
+constexpr Colour Red = 255;
+constexpr int AnalysisSection = 5;
+constexpr int MostReminders = 3;
+
+} // namespace
+
+HintBar::HintBar(Form& form, Controls& controls, const Places& places, const Measures& measures,
+                 Steering& steering)
+    : form_(form), controls_(controls), places_(places), measures_(measures),
+      steering_(steering) {
+  controls_.RDOS.MouseMove = [this](int, SurfacePoint) {
+    controls_.RDOS.Visible(false);
+    if (controls_.R2.Visible()) controls_.R2.SetFocus();
+  };
+}
+
+void HintBar::DatRDOS() {
+  const double W = measures_.RongMH;
+  const double H = measures_.CaoMH;
+  const int cardTop = Round((H - Round(H * 80 / 100)) / 2);
+  const int cardLeft = Round((W - Round(W * measures_.PhanTramRong / 100)) / 2);
+  Surface& RDOS = controls_.RDOS;
+  // The text holds both high and low letters.
+  RDOS.Height(form_.TextWidth("a") + form_.TextHeight("ghAIG"));
+  RDOS.Width(Round(W * measures_.PhanTramRong / 100) + Round(W * 2 / 100));
+  RDOS.Left(cardLeft - Round(W / 100));
+  RDOS.Top(cardTop - Round(H / 100) - RDOS.Height());
+  RDOS.FontSize(form_.Font().size + 1.5);
+
+  Label& L1 = controls_.L1;
+  L1.Top(RDOS.Top());
+  L1.Left(RDOS.Left());
+  L1.Width(RDOS.Width());
+  L1.ForeColor(0);
+  L1.Font({"x1", RDOS.Font().size, false});
+  L1.BackColor(RDOS.BackColor());
+}
+
+void HintBar::AnRDOS(Surface& surface) {
+  controls_.RDOS.Visible(false);
+  DatRDOS();
+  if (surface.Visible()) surface.SetFocus();
+}
+
+void HintBar::clear() {
+  controls_.RDOS.Text("");
+  controls_.RDOS.SelAlignment(Alignment::Centred);
+}
+
+void HintBar::NoiDungHD(Surface& surface) {
+  AnRDOS(surface);
+  clear();
+  Surface& RDOS = controls_.RDOS;
+  RDOS.SelColor(Blue);
+  const auto holds = [&](HintCase when) {
+    switch (when) {
+    case HintCase::Analysis:
+      return places_.MucMenu == AnalysisSection;
+    case HintCase::NotAnalysis:
+      return places_.MucMenu != AnalysisSection;
+    case HintCase::ItemJudged:
+      return itemJudged();
+    case HintCase::Always:
+    case HintCase::ItemOpen:
+      return true;
+    }
+    return false;
+  };
+  const auto& hints = hintTexts();
+  const auto hint = std::find_if(hints.begin(), hints.end(), [&](const Hint& each) {
+    return each.surface == surface.Name() && holds(each.when);
+  });
+  if (hint == hints.end()) return;
+  for (std::size_t line = 0; line < hint->lines.size(); ++line) {
+    if (line > 0) RDOS.SelText('\r');
+    RDOS.SelText(hint->lines[line]);
+  }
+  RDOSCao();
+}
+
+void HintBar::HuongDan(Surface& surface) {
+  NoiDungHD(surface);
+  if (controls_.RDOS.TextLength() > 0) controls_.RDOS.Visible(true);
+}
+
+void HintBar::showOnF2(int keyCode, Surface& surface) {
+  if (keyCode == key::F2 && !controls_.RDOS.Visible()) HuongDan(surface);
+}
+
+void HintBar::RDOSCao() {
+  controls_.RDOS.Height(2 * controls_.RDOS.Height());
+  controls_.RDOS.Top(0);
+  controls_.L1.Top(0);
+  controls_.L1.ForeColor(Blue);
+}
+
+void HintBar::GoiYF2() {
+  if (DemChay < 2 || DemGoiYF2 >= MostReminders) return;
+  clear();
+  Surface& RDOS = controls_.RDOS;
+  RDOS.SelColor(Blue);
+  RDOS.SelText("NhÍn Phím "_bytes);
+  RDOS.SelColor(Red);
+  RDOS.SelText("F2");
+  RDOS.SelColor(Blue);
+  RDOS.SelText(" ðÇ xem cách sÛ düng trong möi lúc."_bytes);
+  RDOS.Visible(true);
+  ++DemGoiYF2;
+}
+
+void HintBar::GoiYNghe() {
+  steering_.ChuotGoc();
+  AnRDOS(controls_.R2);
+  clear();
+  Surface& RDOS = controls_.RDOS;
+  RDOS.SelColor(Blue);
+  RDOS.SelText("Møi tên Trái=Nghe läi;  Møi tên phåi/xuÓng=TÝi"_bytes);
+  RDOS.SelText('\r');
+  RDOS.SelText("Møi tên lên=Lui;      ESC = thoát"_bytes);
+  RDOSCao();
+  RDOS.Visible(true);
+}
+
+void HintBar::declare(Variables& variables) const {
+  variables.add("DemGoiYF2", &DemGoiYF2);
+  variables.add("DemChay", &DemChay);
+}
+
+} // namespace talvora

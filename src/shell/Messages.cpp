@@ -1,0 +1,64 @@
+#include "shell/Messages.h"
+
+#include "text/Rounding.h"
+#include "text/Text.h"
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour Red = 255;
+
+} // namespace
+
+void Messages::ThongBao(std::string_view text, int ms) {
+  Surface& RHD = controls_.RHD;
+  if (RHD.Visible()) upward_.DongNghia();
+  RHD.Text("");
+  RHD.SelAlignment(Alignment::Centred);
+  RHD.SelColor(0);
+  RHD.SelText("\r" + std::string(text) + "\r");
+  RHD.SelStart(0);
+  RHD.Top(measures_.CaoMH / 3);
+  // The width of two letters stands for a line here.
+  RHD.Height(3 * form_.TextWidth("AA"));
+  RHD.Width(form_.TextWidth("AAAAA") + form_.TextWidth(text));
+  RHD.Left(Round((measures_.RongMH - RHD.Width()) / 2.0));
+  VeKhung();
+  RHD.Visible(true);
+  narrator_.messageShown(std::string(text), ms);
+  form_.Refresh();
+  if (ms <= 0) return;
+  clock_.Sleep(ms);
+  TatThongBao();
+}
+
+void Messages::TatThongBao() {
+  controls_.RHD.Text("");
+  controls_.RHD.SelAlignment(Alignment::Centred);
+  controls_.Rnen.Visible(false);
+  controls_.RHD.Visible(false);
+  narrator_.messageTakenDown();
+}
+
+void Messages::VeKhung() {
+  Surface& RHD = controls_.RHD;
+  Surface& Rnen = controls_.Rnen;
+  const double W = measures_.RongMH;
+  const double H = measures_.CaoMH;
+  RHD.Height(RHD.Height() + form_.TextWidth("  "));
+  Rnen.BackColor(Red);
+  Rnen.Text(" ");
+  Rnen.Height(RHD.Height() + Round(2 * H / 100));
+  Rnen.Width(RHD.Width() + 2 * Round(2 * W / 400));
+  Rnen.Top(RHD.Top() - Round(2 * H / 200));
+  Rnen.Left(RHD.Left() - Round(2 * W / 400));
+  Rnen.Visible(true);
+}
+
+bool Messages::XacNhan(std::string_view question, std::string_view defaultAnswer) {
+  const BoxAnswer byDefault = lower(defaultAnswer) == "yes" ? BoxAnswer::Yes : BoxAnswer::No;
+  return boxes_.ask(question, trim(form_.Caption()), byDefault) == BoxAnswer::Yes;
+}
+
+} // namespace talvora

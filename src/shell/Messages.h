@@ -1,0 +1,44 @@
+// The ways of telling the user something and of asking.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "platform/Clock.h"
+#include "platform/Desk.h"
+#include "shell/UpwardCalls.h"
+#include "surface/Controls.h"
+#include "surface/Form.h"
+#include "surface/State.h"
+
+#include <string>
+#include <string_view>
+
+namespace talvora {
+
+class Messages {
+ public:
+  Messages(Form& form, Controls& controls, const Measures& measures, const UpwardCalls& upward,
+           Clock& clock, Boxes& boxes, Narrator& narrator)
+      : form_(form), controls_(controls), measures_(measures), upward_(upward), clock_(clock),
+        boxes_(boxes), narrator_(narrator) {}
+
+  /// Shows a message on `RHD` for `ms` milliseconds, in which no events run; with 0 it stays until
+  /// `TatThongBao`. A text longer than the screen still centres by arithmetic.
+  void ThongBao(std::string_view text, int ms);
+  void TatThongBao();
+  /// Fits the red plate behind the popup.
+  void VeKhung();
+  /// A question box with Yes and No; `defaultAnswer` "yes", in any case of letters, makes Yes the
+  /// default button. True when Yes was pressed.
+  bool XacNhan(std::string_view question, std::string_view defaultAnswer);
+
+ private:
+  Form& form_;
+  Controls& controls_;
+  const Measures& measures_;
+  const UpwardCalls& upward_;
+  Clock& clock_;
+  Boxes& boxes_;
+  Narrator& narrator_;
+};
+
+} // namespace talvora

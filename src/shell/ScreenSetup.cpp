@@ -1,0 +1,129 @@
+#include "shell/ScreenSetup.h"
+
+#include "text/Rounding.h"
+
+#include <string>
+
+namespace talvora {
+
+namespace {
+
+struct ScreenClass {
+  int CoNut;
+  int CoChu;
+  int PhanTramRong;
+  int BuocTruot;
+  int captionBlanks;
+};
+
+// Every width of 12005 or more takes the third class: larger screens were never told apart, and
+// that is meant.
+ScreenClass screenClassOf(int RongMH) {
+  if (RongMH < 12000) return {9, 13, 75, 150, 50};
+  if (RongMH < 12005) return {10, 15, 85, 200, 80};
+  return {13, 20, 76, 300, 110};
+}
+
+constexpr Colour InactiveCaptionText = 0x80000013;
+
+} // namespace
+
+void ScreenSetup::measureScreen(int pixelWidth, int pixelHeight) {
+  measures_.CaoMH = pixelHeight * TwipsPerPixel * 97 / 100;
+  measures_.RongMH = pixelWidth * TwipsPerPixel;
+}
+
+void ScreenSetup::placeForm() {
+  form_.Height(measures_.CaoMH);
+  form_.Width(measures_.RongMH);
+  Image& background = controls_.Im1;
+  background.Width(measures_.RongMH);
+  background.Height(measures_.CaoMH);
+  background.Left(0);
+  background.Top(0);
+  background.Visible(true);
+}
+
+void ScreenSetup::LapCoChu() {
+  const ScreenClass screenClass = screenClassOf(measures_.RongMH);
+  measures_.CoNut = screenClass.CoNut;
+  measures_.CoChu = screenClass.CoChu;
+  measures_.PhanTramRong = screenClass.PhanTramRong;
+  measures_.BuocTruot = screenClass.BuocTruot;
+  adjustSlideStep();
+  measures_.KhoangDem = std::string(static_cast<std::size_t>(screenClass.captionBlanks), ' ');
+  measures_.TieuDeE = measures_.KhoangDem + form_.Caption();
+  form_.Caption(measures_.TieuDeE);
+}
+
+void ScreenSetup::adjustSlideStep() {
+  if (measures_.KieuTruot == 4) measures_.BuocTruot = measures_.RongMH / 16;
+}
+
+void ScreenSetup::setTextFont() {
+  Controls& c = controls_;
+  for (Surface* surface : {&c.RHD, &c.RVP1, &c.RVP2, &c.R1, &c.R2, &c.RW1, &c.RW2, &c.RN1, &c.RN2,
+                           &c.Rchon, &c.RTD, &c.Rxep, &c.RDOS, &c.RDT, &c.RABCD, &c.Rsai,
+                           &c.RAmthanh}) {
+    surface->FontName("x1");
+  }
+}
+
+void ScreenSetup::parkSurfaces() {
+  controls_.RHD.BackColor(InactiveCaptionText);
+  controls_.RTD.BackColor(InactiveCaptionText);
+  measures_.MauNenHD = controls_.RHD.BackColor();
+  shareMeasures();
+  parkOffScreen();
+  setFontSizes();
+}
+
+void ScreenSetup::shareMeasures() {
+  Measures& m = measures_;
+  m.RongBai = Round(static_cast<double>(m.RongMH) * m.PhanTramRong / 100);
+  m.CaoBai = Round(static_cast<double>(m.CaoMH) * 80 / 100);
+  m.LeTraiBai = Round((m.RongMH - m.RongBai) / 2.0);
+  m.LeTrenBai = Round((m.CaoMH - m.CaoBai) / 2.0);
+  m.Phan12 = m.RongMH / 12;
+  m.Phan3 = m.RongMH / 3;
+  m.Phan6 = m.Phan3 / 2;
+}
+
+void ScreenSetup::parkOffScreen() {
+  Controls& c = controls_;
+  const int right = measures_.RongMH + 2;
+  const int below = measures_.CaoMH + 300;
+  for (Control* control : std::initializer_list<Control*>{&c.R1, &c.R2, &c.RW1, &c.MM}) {
+    control->Left(right);
+  }
+  c.RVP1.Left(c.R1.Left());
+  for (Control* control : std::initializer_list<Control*>{
+           &c.R1, &c.RW1, &c.R2, &c.RW2, &c.RN1, &c.RN2, &c.RVP1, &c.RVP2, &c.Rchon, &c.RHD, &c.RTD,
+           &c.Rnen, &c.RDOS, &c.RDT, &c.RABCD, &c.Rsai, &c.Rxep, &c.L1}) {
+    control->Top(below);
+  }
+}
+
+void ScreenSetup::setFontSizes() {
+  Controls& c = controls_;
+  const double CoChu = measures_.CoChu;
+  form_.FontSize(CoChu - 1);
+  for (Surface* surface : {&c.RHD, &c.RHDBT, &c.RTD, &c.R1, &c.RVP1, &c.Rchon, &c.RAmthanh}) {
+    surface->FontSize(CoChu - 1);
+  }
+  for (Surface* surface : {&c.Rviet, &c.RN1, &c.RN2, &c.RDT, &c.Rsai, &c.RABCD}) {
+    surface->FontSize(CoChu);
+  }
+  for (Surface* surface : {&c.Rxep, &c.RW2}) surface->FontSize(CoChu + 2);
+  c.RTD.FontBold(true);
+}
+
+void ScreenSetup::measureCard() {
+  Measures& m = measures_;
+  m.RongKhung = m.RongBai + Round(m.RongMH * 2 / 100.0);
+  m.CaoKhung = m.CaoBai;
+  m.LeTrenKhung = Round((m.CaoMH - m.CaoKhung) / 2.0);
+  m.LeTraiKhung = Round((m.RongMH - m.RongKhung) / 2.0);
+}
+
+} // namespace talvora

@@ -1,0 +1,43 @@
+// The screen class, the measures that follow from it, and where every surface stands at the start.
+#pragma once
+
+#include "surface/Controls.h"
+#include "surface/Form.h"
+#include "surface/State.h"
+
+namespace talvora {
+
+/// Twips to a pixel of the virtual screen.
+inline constexpr int TwipsPerPixel = 15;
+
+class ScreenSetup {
+ public:
+  ScreenSetup(Form& form, Controls& controls, Measures& measures)
+      : form_(form), controls_(controls), measures_(measures) {}
+
+  /// Sets `RongMH` and `CaoMH` from the screen's size in pixels.
+  void measureScreen(int pixelWidth, int pixelHeight);
+  /// Gives the form and its background the screen's size.
+  void placeForm();
+  /// Chooses the screen class and pads the caption, which so comes to stand near the middle.
+  void LapCoChu();
+  /// Mode 4 slides by a sixteenth of the screen.
+  void adjustSlideStep();
+  /// The text font on every surface that the sections fill.
+  void setTextFont();
+  /// Back colours, parked places, shared measures and font sizes of the surfaces.
+  void parkSurfaces();
+  /// Size and place of the card behind a standard text surface.
+  void measureCard();
+
+ private:
+  void shareMeasures();
+  void parkOffScreen();
+  void setFontSizes();
+
+  Form& form_;
+  Controls& controls_;
+  Measures& measures_;
+};
+
+} // namespace talvora

@@ -1,0 +1,55 @@
+// The shell as the sections use it: one of each of its modules.
+#pragma once
+
+#include "platform/Platform.h"
+#include "shell/Curtain.h"
+#include "shell/FocusReturn.h"
+#include "shell/Gestures.h"
+#include "shell/HintBar.h"
+#include "shell/Hover.h"
+#include "shell/MENU.h"
+#include "shell/Messages.h"
+#include "shell/ScreenSetup.h"
+#include "shell/Steering.h"
+#include "shell/Transitions.h"
+#include "shell/UpwardCalls.h"
+#include "shell/WordPick.h"
+
+namespace talvora {
+
+struct Shell {
+  Shell(Platform& platform, Form& form, Controls& controls, SharedState& state)
+      : setup(form, controls, state.measures), steering(platform.input, state.measures),
+        menu(form, controls, state.measures, steering, platform.random),
+        hover(form, controls, state.places, steering, platform.events, platform.narrator),
+        hints(form, controls, state.places, state.measures, steering),
+        transitions(form, state.measures, hints, upward, platform.clock),
+        curtain(form, controls, state.measures, steering, platform.clock, platform.narrator),
+        messages(form, controls, state.measures, upward, platform.clock, platform.boxes,
+                 platform.narrator),
+        gestures(controls, state.measures, state.word, hints, upward, platform.clipboard),
+        focusReturn(controls, state.word), wordPick(state.text, state.word) {}
+
+  void declare(Variables& variables) const {
+    steering.declare(variables);
+    menu.declare(variables);
+    hover.declare(variables);
+    hints.declare(variables);
+    gestures.declare(variables);
+  }
+
+  UpwardCalls upward;
+  ScreenSetup setup;
+  Steering steering;
+  MENU menu;
+  Hover hover;
+  HintBar hints;
+  Transitions transitions;
+  Curtain curtain;
+  Messages messages;
+  Gestures gestures;
+  FocusReturn focusReturn;
+  WordPick wordPick;
+};
+
+} // namespace talvora

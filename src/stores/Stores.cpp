@@ -1,0 +1,115 @@
+#include "stores/Stores.h"
+
+#include "stores/ByteCode.h"
+#include "stores/Integers.h"
+#include "text/Text.h"
+
+namespace talvora {
+
+namespace {
+
+struct StoreFile {
+  int number;
+  std::string_view name;
+};
+
+// The read-only files that stay open for the run.
+constexpr StoreFile readOnlyFiles[] = {
+    {file::TextPositions, "\\data.vt"},      {file::Texts, "\\data.av"},
+    {file::Dictionary, "\\data.avt"},        {file::LessonPositions, "\\datavp.vt"},
+    {file::Lessons, "\\datavp.n"},           {file::VietnameseSide, "\\dataD.av"},
+    {file::ItemPositions, "\\data.vbt"},     {file::Items, "\\data.bt"},
+    {file::SpeakingPositions, "\\datasp.vt"}, {file::SpeakingTexts, "\\datasp.av"},
+    {file::AnalysisPositions, "\\dataPt.vt"}, {file::Analyses, "\\dataPt.v"},
+};
+
+std::size_t settingOffset(int record) {
+  return static_cast<std::size_t>(record - 1) * IntegerSize;
+}
+
+} // namespace
+
+std::int32_t RecordFile::integer(std::int64_t record) const noexcept {
+  if (mapped_ == nullptr || record < 1) return 0;
+  const auto bytes = mapped_->bytes();
+  const auto last = static_cast<std::int64_t>(bytes.size() / IntegerSize);
+  if (record > last) return 0;
+  return integerAt(bytes.data() + static_cast<std::size_t>(record - 1) * IntegerSize);
+}
+
+unsigned char RecordFile::byte(std::int64_t record) const noexcept {
+  return holdsByte(record) ? mapped_->bytes()[static_cast<std::size_t>(record - 1)]
+                           : static_cast<unsigned char>(0);
+}
+
+bool RecordFile::holdsByte(std::int64_t record) const noexcept {
+  return mapped_ != nullptr && record >= 1 &&
+         record <= static_cast<std::int64_t>(mapped_->bytes().size());
+}
+
+std::optional<std::string_view> PieceReader::next() {
+  if (!stream_->holdsByte(next_)) return std::nullopt;
+  return MoRongByte(GiaiMaByte(stream_->byte(next_++)));
+}
+
+void Stores::MoDuLieu() {
+  closeAll();
+  for (const StoreFile& each : readOnlyFiles) {
+    files_[static_cast<std::size_t>(each.number)] =
+        RecordFile(MappedFile::open(pathBelow(places_.ThuMuc, each.name)));
+  }
+  settings_ = std::make_unique<ReadWriteFile>(pathBelow(places_.ThuMuc, "\\data.Kcu"));
+  // The word list is written whole, so that it is only made sure that it is there.
+  const ReadWriteFile created(vocabularyPath());
+}
+
+void Stores::closeAll() {
+  files_.fill(RecordFile());
+  settings_.reset();
+}
+
+void Stores::ChonKho(int positionsFile) {
+  FileChiSo = positionsFile;
+  FileVanBan = positionsFile + 1;
+  SoBai = places_.MucMenu == 5 ? AnalysedTexts : textsInTable();
+}
+
+int Stores::textsInTable() const noexcept {
+  return places_.MucMenu == 7 ? SpeakingTexts : ReadingTexts;
+}
+
+void Stores::NapViTriBai() {
+  const RecordFile& positions = fileOf(FileChiSo);
+  const int last = 2 * textsInTable() + 1;
+  for (int record = 1; record <= last; ++record) {
+    ViTriBai[static_cast<std::size_t>(record)] = positions.integer(record);
+  }
+}
+
+std::string Stores::vocabularyPath() const {
+  return pathBelow(places_.ThuMuc, "\\data.c");
+}
+
+const RecordFile& Stores::fileOf(int number) const {
+  return files_.at(static_cast<std::size_t>(number));
+}
+
+std::int32_t Stores::readSetting(int record) const {
+  if (settings_ == nullptr) return 0;
+  std::array<unsigned char, IntegerSize> bytes{};
+  settings_->read(settingOffset(record), bytes);
+  return integerAt(bytes.data());
+}
+
+void Stores::writeSetting(int record, std::int32_t value) {
+  if (settings_ != nullptr) settings_->write(settingOffset(record), bytesOf(value));
+}
+
+void Stores::declare(Variables& variables) const {
+  variables.add("FileChiSo", &FileChiSo);
+  variables.add("FileVanBan", &FileVanBan);
+  variables.add("SoBai", &SoBai);
+  variables.addTable("ViTriBai", &ViTriBai);
+}
+
+} // namespace talvora

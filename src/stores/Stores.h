@@ -1,0 +1,128 @@
+// The program's side files: their table, how a record is read, how a text is cut out of a stream,
+// and the small settings store.
+#pragma once
+
+#include "platform/Files.h"
+#include "surface/State.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace talvora {
+
+/// File numbers, by which stores are addressed. A stream's number is its position table's plus 1.
+namespace file {
+inline constexpr int TextPositions = 1;
+inline constexpr int Texts = 2;
+inline constexpr int Settings = 3;
+inline constexpr int Vocabulary = 4;
+inline constexpr int Dictionary = 5;
+inline constexpr int LessonPositions = 6;
+inline constexpr int Lessons = 7;
+inline constexpr int VietnameseSide = 8;
+inline constexpr int ItemPositions = 20;
+inline constexpr int Items = 21;
+inline constexpr int SpeakingPositions = 22;
+inline constexpr int SpeakingTexts = 23;
+inline constexpr int AnalysisPositions = 24;
+inline constexpr int Analyses = 25;
+} // namespace file
+
+/// Records of data.Kcu.
+namespace setting {
+inline constexpr int ReadingCaret = 1;
+inline constexpr int SoundOn = 2;
+inline constexpr int SpeedLevel = 4;
+inline constexpr int RunCounter = 6;
+inline constexpr int SpeakingCaret = 8;
+inline constexpr int AnalysisCaret = 9;
+} // namespace setting
+
+/// A read-only file of fixed-length records, numbered from 1. Reading past its end, or ahead of its
+/// first record, gives 0.
+class RecordFile {
+ public:
+  RecordFile() = default;
+  explicit RecordFile(std::shared_ptr<const MappedFile> mapped) : mapped_(std::move(mapped)) {}
+
+  [[nodiscard]] bool isOpen() const noexcept { return mapped_ != nullptr; }
+  /// A 4-byte record, signed and little-endian.
+  [[nodiscard]] std::int32_t integer(std::int64_t record) const noexcept;
+  /// A 1-byte record.
+  [[nodiscard]] unsigned char byte(std::int64_t record) const noexcept;
+  /// True when a 1-byte record of that number exists.
+  [[nodiscard]] bool holdsByte(std::int64_t record) const noexcept;
+
+ private:
+  std::shared_ptr<const MappedFile> mapped_;
+};
+
+/// Reads a stream piece by piece from a record on; each piece is what one stored byte stands for.
+class PieceReader {
+ public:
+  /// `record` is that of the first byte fetched.
+  PieceReader(const RecordFile& stream, std::int64_t record) : stream_(&stream), next_(record) {}
+
+  /// The next piece; empty at the end of the file, so that no text without its terminator runs on.
+  [[nodiscard]] std::optional<std::string_view> next();
+  /// Record number of the byte that `next` fetches next.
+  [[nodiscard]] std::int64_t nextRecord() const noexcept { return next_; }
+
+ private:
+  const RecordFile* stream_;
+  std::int64_t next_;
+};
+
+class Stores {
+ public:
+  static constexpr int ReadingTexts = 408;
+  static constexpr int SpeakingTexts = 2025;
+  static constexpr int AnalysedTexts = 14;
+
+  explicit Stores(const Places& places) : places_(places) {}
+
+  /// Closes every open file, then opens all that stay open for the run.
+  /// Throws FatalFailure naming a read-only file that is missing; the learner's files are created.
+  void MoDuLieu();
+  void closeAll();
+
+  /// Chooses the store whose position table has that file number, 1 or 22, and sets `SoBai` from
+  /// the current section.
+  void ChonKho(int positionsFile);
+  /// Copies the current store's position table into `ViTriBai`. Section 5 reads the same table as
+  /// section 1, though it shows fewer texts.
+  void NapViTriBai();
+
+  /// Number of texts whose titles and translations the current store's table holds.
+  [[nodiscard]] int textsInTable() const noexcept;
+  [[nodiscard]] const RecordFile& fileOf(int number) const;
+
+  /// Path of the learner's word list.
+  [[nodiscard]] std::string vocabularyPath() const;
+
+  /// A record of data.Kcu; 0 past its end.
+  [[nodiscard]] std::int32_t readSetting(int record) const;
+  /// Written through at once.
+  void writeSetting(int record, std::int32_t value);
+
+  void declare(Variables& variables) const;
+
+  int FileChiSo = 0;  ///< file number of the current store's position table
+  int FileVanBan = 0; ///< file number of its stream
+  int SoBai = 0;      ///< number of texts that the current section shows
+  /// The current store's position table, record k in element k; element 0 stays 0.
+  std::array<std::int32_t, CurrentList::MaxLines + 1> ViTriBai{};
+
+ private:
+  static constexpr int FileCount = 26;
+
+  const Places& places_;
+  std::array<RecordFile, FileCount> files_;
+  std::unique_ptr<ReadWriteFile> settings_;
+};
+
+} // namespace talvora

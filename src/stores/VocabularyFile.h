@@ -1,0 +1,43 @@
+// The learner's word list on disk, data.c: records of 24 bytes, a word of 20 bytes padded with
+// blanks, then the place of its sentence.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace talvora {
+
+/// One word of the learner's list.
+struct VocabularyWord {
+  static constexpr std::size_t LongestWord = 20;
+
+  std::string Tu; ///< padded with blanks to 20 characters
+  /// Record number of the sentence's first byte: positive in data.av, its negative in datasp.av.
+  std::int32_t ViTriCauTu = 0;
+
+  friend bool operator==(const VocabularyWord&, const VocabularyWord&) = default;
+};
+
+/// A word padded with blanks to its field; what is longer is cut.
+[[nodiscard]] std::string paddedWord(std::string word);
+
+class VocabularyFile {
+ public:
+  explicit VocabularyFile(std::string path) : path_(std::move(path)) {}
+
+  /// All whole records. A length that is no multiple of 24 is read as far as it goes; the odd bytes
+  /// stay at the file's end.
+  /// Throws FatalFailure when the file is missing or cannot be read.
+  [[nodiscard]] std::vector<VocabularyWord> read();
+  /// Replaces all records at once; odd bytes that were read are kept behind them. Returns what went
+  /// wrong, or nothing; then the old list stands.
+  [[nodiscard]] std::optional<std::string> write(const std::vector<VocabularyWord>& words);
+
+ private:
+  std::string path_;
+  std::vector<unsigned char> oddBytes_;
+};
+
+} // namespace talvora

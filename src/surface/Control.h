@@ -1,0 +1,131 @@
+// A control is anything that stands on the form: a surface, a button, a frame, a label, a panel.
+#pragma once
+
+#include "platform/TextStyle.h"
+
+#include <functional>
+#include <string>
+
+namespace talvora {
+
+class Control;
+
+/// What about a control has changed, for whoever paints it.
+enum class ControlChange { Place, Text, Look, Selection, Scroll };
+
+/// The form, as its controls see it.
+class ControlHost {
+ public:
+  virtual ~ControlHost() = default;
+
+  /// Gives a control the keyboard; does nothing when it is hidden or disabled.
+  virtual void giveFocus(Control& control) = 0;
+  [[nodiscard]] virtual bool hasFocus(const Control& control) const noexcept = 0;
+  /// Gives the keyboard to the next control in the tab order, or with -1 to the one before; the
+  /// order is a ring.
+  virtual void focusNeighbour(Control& control, int step) = 0;
+  /// Called after every change that can be seen.
+  virtual void controlChanged(Control& control, ControlChange change) = 0;
+};
+
+/// Place and flags of a control. All measures are twips from the form's upper left corner.
+class Control {
+ public:
+  Control(std::string name, ControlHost& host) : name_(std::move(name)), host_(host) {}
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  [[nodiscard]] const std::string& Name() const noexcept { return name_; }
+
+  [[nodiscard]] bool Visible() const noexcept { return visible_; }
+  void Visible(bool visible);
+  [[nodiscard]] bool Enabled() const noexcept { return enabled_; }
+  void Enabled(bool enabled);
+  [[nodiscard]] int Left() const noexcept { return left_; }
+  void Left(int twips);
+  [[nodiscard]] int Top() const noexcept { return top_; }
+  void Top(int twips);
+  [[nodiscard]] int Width() const noexcept { return width_; }
+  void Width(int twips);
+  [[nodiscard]] int Height() const noexcept { return height_; }
+  void Height(int twips);
+  [[nodiscard]] Colour BackColor() const noexcept { return backColor_; }
+  void BackColor(Colour colour);
+
+  /// Place in the tab order; 0 keeps the control out of it.
+  [[nodiscard]] int TabIndex() const noexcept { return tabIndex_; }
+  void TabIndex(int index) noexcept { tabIndex_ = index; }
+
+  /// Gives the control the keyboard; fails quietly when it is hidden.
+  void SetFocus() { host_.giveFocus(*this); }
+
+  std::function<void()> GotFocus;
+  std::function<void()> LostFocus;
+
+ protected:
+  [[nodiscard]] ControlHost& host() const noexcept { return host_; }
+  void changed(ControlChange change) { host_.controlChanged(*this, change); }
+  /// Called when the size has changed, before the host hears of it.
+  virtual void resized() {}
+
+ private:
+  template <class Value>
+  void set(Value& field, Value value, ControlChange change);
+
+  std::string name_;
+  ControlHost& host_;
+  bool visible_ = false;
+  bool enabled_ = true;
+  int left_ = 0;
+  int top_ = 0;
+  int width_ = 0;
+  int height_ = 0;
+  int tabIndex_ = 0;
+  Colour backColor_ = 0xFFFFFF;
+};
+
+/// A plain white card behind an open surface.
+class Frame final : public Control {
+ public:
+  using Control::Control;
+};
+
+/// A stretched picture.
+class Image final : public Control {
+ public:
+  using Control::Control;
+};
+
+/// A line of centred text that takes no keys.
+class Label final : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] const std::string& Caption() const noexcept { return caption_; }
+  void Caption(std::string caption);
+  [[nodiscard]] const FontSpec& Font() const noexcept { return font_; }
+  void Font(FontSpec font);
+  [[nodiscard]] Colour ForeColor() const noexcept { return foreColor_; }
+  void ForeColor(Colour colour);
+
+ private:
+  std::string caption_;
+  FontSpec font_;
+  Colour foreColor_ = 0;
+};
+
+/// A dark translucent panel, one half of the curtain.
+class Panel final : public Control {
+ public:
+  using Control::Control;
+
+  /// Opacity from 0 to 255.
+  [[nodiscard]] int Alpha() const noexcept { return alpha_; }
+  void Alpha(int alpha);
+
+ private:
+  int alpha_ = 255;
+};
+
+} // namespace talvora

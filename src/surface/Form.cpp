@@ -1,0 +1,102 @@
+#include "surface/Form.h"
+
+#include "surface/Button.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+bool takesKeys(const Control& control) {
+  return control.Visible() && control.Enabled();
+}
+
+bool takesMouse(const Control& control) {
+  return control.Visible() && control.Enabled() &&
+         (dynamic_cast<const Surface*>(&control) != nullptr ||
+          dynamic_cast<const Button*>(&control) != nullptr ||
+          dynamic_cast<const Frame*>(&control) != nullptr);
+}
+
+bool holds(const Control& control, SurfacePoint point) {
+  return point.x >= control.Left() && point.x < control.Left() + control.Width() &&
+         point.y >= control.Top() && point.y < control.Top() + control.Height();
+}
+
+} // namespace
+
+void Form::Caption(std::string caption) {
+  if (caption_ == caption) return;
+  caption_ = std::move(caption);
+  if (observer_ != nullptr) observer_->captionChanged();
+}
+
+void Form::Show() {
+  visible_ = true;
+  screen_.Refresh();
+}
+
+Control* Form::find(std::string_view name) const noexcept {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* control) { return control->Name() == name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+Control* Form::controlAt(SurfacePoint point) const noexcept {
+  const auto found =
+      std::find_if(controls_.rbegin(), controls_.rend(), [&](const Control* control) {
+        return takesMouse(*control) && holds(*control, point);
+      });
+  return found == controls_.rend() ? nullptr : *found;
+}
+
+void Form::giveFocus(Control& control) {
+  if (focus_ == &control || !takesKeys(control)) return;
+  Control* const before = std::exchange(focus_, &control);
+  if (before != nullptr && before->LostFocus) before->LostFocus();
+  // The one that lost the keyboard may have handed it on.
+  if (focus_ != &control) return;
+  if (observer_ != nullptr) observer_->focusChanged();
+  if (control.GotFocus) control.GotFocus();
+}
+
+void Form::focusNeighbour(Control& control, int step) {
+  std::vector<Control*> ring;
+  std::copy_if(controls_.begin(), controls_.end(), std::back_inserter(ring),
+               [](const Control* each) { return each->TabIndex() > 0 && takesKeys(*each); });
+  std::sort(ring.begin(), ring.end(), [](const Control* left, const Control* right) {
+    return left->TabIndex() < right->TabIndex();
+  });
+  const auto here = std::find(ring.begin(), ring.end(), &control);
+  if (here == ring.end()) return;
+  const auto size = static_cast<std::ptrdiff_t>(ring.size());
+  const auto next = (here - ring.begin() + step + size) % size;
+  giveFocus(*ring[static_cast<std::size_t>(next)]);
+}
+
+void Form::controlChanged(Control& control, ControlChange change) {
+  if (observer_ != nullptr) observer_->controlChanged(control, change);
+  if (focus_ == &control && !takesKeys(control)) dropFocus();
+}
+
+void Form::dropFocus() {
+  Control* const before = std::exchange(focus_, nullptr);
+  if (before->LostFocus) before->LostFocus();
+  if (focus_ == nullptr && observer_ != nullptr) observer_->focusChanged();
+}
+
+void Form::pressKey(int keyCode, int shift, char character) {
+  if (auto* surface = dynamic_cast<Surface*>(focus_)) {
+    surface->pressKey(keyCode, shift, character);
+  } else if (auto* button = dynamic_cast<Button*>(focus_)) {
+    button->pressKey(keyCode, shift, character);
+  }
+}
+
+void Form::releaseKey(int keyCode, int shift) {
+  if (auto* surface = dynamic_cast<Surface*>(focus_)) surface->releaseKey(keyCode, shift);
+}
+
+} // namespace talvora

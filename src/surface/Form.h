@@ -1,0 +1,90 @@
+// The form: the one window as the program sees it. It knows its controls in their stacking order,
+// who has the keyboard, its caption and its font.
+#pragma once
+
+#include "platform/Desk.h"
+#include "platform/TextMetrics.h"
+#include "surface/Control.h"
+#include "surface/Surface.h"
+
+#include <string>
+#include <vector>
+
+namespace talvora {
+
+/// Whoever paints the form. All calls come on the program's thread.
+class FormObserver {
+ public:
+  virtual ~FormObserver() = default;
+
+  virtual void controlChanged(Control& control, ControlChange change) = 0;
+  virtual void focusChanged() = 0;
+  virtual void captionChanged() = 0;
+};
+
+class Form final : public ControlHost {
+ public:
+  Form(Screen& screen, TextMetrics& metrics) : screen_(screen), metrics_(metrics) {}
+
+  [[nodiscard]] const std::string& Caption() const noexcept { return caption_; }
+  void Caption(std::string caption);
+  [[nodiscard]] const FontSpec& Font() const noexcept { return font_; }
+  void FontSize(double points) { font_.size = points; }
+
+  /// Size in twips; the caption strip is not part of it.
+  [[nodiscard]] int Width() const noexcept { return width_; }
+  void Width(int twips) noexcept { width_ = twips; }
+  [[nodiscard]] int Height() const noexcept { return height_; }
+  void Height(int twips) noexcept { height_ = twips; }
+  [[nodiscard]] bool Visible() const noexcept { return visible_; }
+  /// Shows the form; until then a front paints nothing.
+  void Show();
+
+  /// Width and height of a text in the form's font, in twips.
+  [[nodiscard]] int TextWidth(std::string_view text) const { return metrics_.TextWidth(text, font_); }
+  [[nodiscard]] int TextHeight(std::string_view text) const { return metrics_.TextHeight(text, font_); }
+  /// Paints at once what has changed.
+  void Refresh() { screen_.Refresh(); }
+
+  /// Adds a control in front of those added before. The form does not own it.
+  void add(Control& control) { controls_.push_back(&control); }
+  /// The controls from the back to the front.
+  [[nodiscard]] const std::vector<Control*>& controls() const noexcept { return controls_; }
+  /// The control of that name, or null.
+  [[nodiscard]] Control* find(std::string_view name) const noexcept;
+  /// The foremost visible control that takes the mouse at a point of the form, in twips; null where
+  /// there is only background.
+  [[nodiscard]] Control* controlAt(SurfacePoint point) const noexcept;
+
+  /// The control that has the keyboard, or null.
+  [[nodiscard]] Control* ActiveControl() const noexcept { return focus_; }
+  void giveFocus(Control& control) override;
+  [[nodiscard]] bool hasFocus(const Control& control) const noexcept override {
+    return focus_ == &control;
+  }
+  void focusNeighbour(Control& control, int step) override;
+  void controlChanged(Control& control, ControlChange change) override;
+
+  /// Delivers half a key stroke to whatever has the keyboard; `character` is 0 for a key without.
+  void pressKey(int keyCode, int shift, char character);
+  void releaseKey(int keyCode, int shift);
+
+  /// Null when nobody paints.
+  void observe(FormObserver* observer) noexcept { observer_ = observer; }
+
+ private:
+  void dropFocus();
+
+  Screen& screen_;
+  TextMetrics& metrics_;
+  std::string caption_;
+  FontSpec font_;
+  int width_ = 0;
+  int height_ = 0;
+  bool visible_ = false;
+  std::vector<Control*> controls_;
+  Control* focus_ = nullptr;
+  FormObserver* observer_ = nullptr;
+};
+
+} // namespace talvora

@@ -1,0 +1,121 @@
+// State that several modules share, in small structs grouped by what they describe. The program
+// owns one of each.
+#pragma once
+
+#include "platform/TextStyle.h"
+#include "surface/Surface.h"
+#include "surface/Variables.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace talvora {
+
+/// Where the program is.
+struct Places {
+  std::string ThuMuc;   ///< program directory: the current directory at the moment of start
+  int MucMenu = 0;      ///< section last entered, 1 to 18; it stays when the section is left
+  bool DangBan = false; ///< busy: start-up or dictation runs, and menu clicks fall away
+  bool waitkd = false;  ///< loading is in progress, the hover animation is idle
+
+  void declare(Variables& variables) const;
+};
+
+/// Measures fixed once at start-up, in twips unless said otherwise.
+struct Measures {
+  int RongMH = 0;         ///< screen width
+  int CaoMH = 0;          ///< usable screen height
+  int CoNut = 0;          ///< font size of the menu buttons, in points; names the screen class
+  int CoChu = 0;          ///< base font size of the text surfaces, in points
+  int PhanTramRong = 0;   ///< percent of the screen width that the standard text area takes
+  int BuocTruot = 0;      ///< step of a slide in mode 4
+  int KieuTruot = 0;      ///< slide mode, 1 to 5; 5 stands at once
+  std::string KhoangDem;  ///< blanks put in front of the window caption
+  std::string TieuDeE;    ///< the caption with them in front
+  int RongBai = 0;        ///< width of a standard text surface
+  int CaoBai = 0;         ///< height of it
+  int LeTraiBai = 0;      ///< left of it
+  int LeTrenBai = 0;      ///< top of it
+  int RongKhung = 0;      ///< width of the card behind it
+  int CaoKhung = 0;       ///< height taken for panels
+  int LeTraiKhung = 0;    ///< left of the card
+  int LeTrenKhung = 0;    ///< top of the card
+  int Phan12 = 0;         ///< a twelfth of the screen width: tolerance of the pointer
+  int Phan3 = 0;          ///< a third of the screen width: popup width
+  int Phan6 = 0;          ///< a sixth of the screen width: popup height
+  Colour MauNenHD = 0;    ///< back colour of the dictionary popup
+
+  /// The large screen class, in which text is bold throughout.
+  [[nodiscard]] bool largeScreen() const noexcept { return CoNut == 13; }
+
+  void declare(Variables& variables) const;
+};
+
+/// The word or sentence at hand, and the pointer's part in it.
+struct CurrentWord {
+  std::string TuHienTai;    ///< the word or sentence that speech says
+  std::string NghiaHienTai; ///< its entry
+  std::string ThongBaoHD;   ///< translation or message that the popup shows instead of an entry
+  std::string TuDaBam;      ///< the word as it was clicked, before any reduction
+  std::string NghiaD;       ///< Vietnamese-side entry on show; "?" means that nothing was found
+  int ViTriCaret = 0;       ///< saved caret of the surface in use
+  int ViTriCaretR1 = 0;     ///< saved caret of the list behind it
+  SurfacePoint ViTriChuot;  ///< stored pointer, twips on its surface
+  bool ChoGiai = false;     ///< a right click is pending
+  bool CoDupChuot = false;  ///< a double click or Space asks for the sentence, not the word
+  bool GiuSpace = false;    ///< Space is held: the sentence stays however the pointer moves
+  bool XoaTuKhiDong = false; ///< the word is cleared when the popup closes
+  bool DaChonRTD = false;   ///< a pick from the look-up list is under way; the focus stays put
+
+  void declare(Variables& variables) const;
+};
+
+/// The text that a section has open.
+struct CurrentText {
+  static constexpr std::size_t MaxSentences = 200;
+  static constexpr std::size_t MaxFileMarks = 2000;
+
+  std::string CauHoi;    ///< the text; sentence marks are character 160
+  std::string VanBanGoc; ///< its copy with the marks written as "|"
+  /// Element k-1: position, from 1, of sentence k's mark.
+  std::array<std::int16_t, MaxSentences> ViTriCauVan{};
+  int SoCauVanBan = 0; ///< number of marks; the last one closes the last sentence
+  /// Element k-1: record number in the stream where sentence k starts.
+  std::array<std::int32_t, MaxFileMarks> ViTriCauTrongFile{};
+  std::vector<std::string> DichCau; ///< element k-1: translation of sentence k
+  int CauChon = 0;                  ///< number of the sentence at hand
+
+  void declare(Variables& variables) const;
+};
+
+/// The list that a section has open.
+struct CurrentList {
+  static constexpr std::size_t MaxLines = 4053;
+  static constexpr std::size_t MaxHeadings = 40;
+  static constexpr std::size_t LessonCount = 357;
+
+  std::string DanhSachBai; ///< the list as shown; each line ends in character 13
+  /// Element i: length of the list after line i; sections that show panels keep cell starts here.
+  std::array<std::int32_t, MaxLines + 1> BangViTri{};
+  std::array<std::int32_t, MaxHeadings + 1> ViTriNhom{}; ///< caret of each heading line, from 1
+  int SoNhom = 0;                                        ///< number of headings
+  int SoBaiChon = 0;                                     ///< number of the current line, from 1
+  std::array<std::string, LessonCount + 1> TenBaiHoc;    ///< lesson titles, from 1
+
+  void declare(Variables& variables) const;
+};
+
+/// One of each, as the program owns them.
+struct SharedState {
+  Places places;
+  Measures measures;
+  CurrentWord word;
+  CurrentText text;
+  CurrentList list;
+
+  void declare(Variables& variables) const;
+};
+
+} // namespace talvora
