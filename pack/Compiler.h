@@ -1,0 +1,49 @@
+// The whole of a content tree: read, checked and compiled.
+#pragma once
+
+#include "pack/FilledList.h"
+#include "pack/PackFile.h"
+#include "pack/ReadingSource.h"
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace talvora::pack {
+
+struct Options {
+  std::filesystem::path source;
+  std::filesystem::path wordNet = "/usr/share/wordnet";
+  std::vector<std::filesystem::path> wordLists = {"/usr/share/dict/american-english-huge",
+                                                  "/usr/share/dict/british-english-huge"};
+  /// The greatest number of lines of a small word list; none for the full one.
+  std::optional<std::size_t> smallWordList = std::nullopt;
+};
+
+/// Is told the name of each step as it begins.
+using Progress = std::function<void(std::string_view step)>;
+
+/// A content tree as read.
+struct Content {
+  ReadingSource readings;
+  std::string guide; ///< as rich text
+  WordSources words;
+};
+
+[[nodiscard]] Content readContent(const Options& options, Problems& problems,
+                                  const Progress& progress);
+
+/// The word list of a content tree; a full list that stays short is reported.
+[[nodiscard]] WordList makeWordList(const Content& content, const Options& options,
+                                    Problems& problems);
+
+/// Every file of the pack. When the sources have problems the result is not to be used.
+[[nodiscard]] std::vector<PackFile> compile(const Options& options, Problems& problems,
+                                            const Progress& progress);
+
+/// The English words of the reading texts, in small letters, in the order of the texts.
+[[nodiscard]] std::vector<std::string> wordsOfReadings(const ReadingSource& readings);
+
+} // namespace talvora::pack

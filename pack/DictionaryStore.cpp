@@ -1,0 +1,68 @@
+// Layout of the word list, its records and its entries.
+#include "pack/DictionaryStore.h"
+
+#include "pack/SourceFile.h"
+#include "pack/StreamText.h"
+
+#include <unordered_map>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr char entryEnd = '\r';
+
+/// The stream of entries; equal entries share one place.
+class EntryStream {
+ public:
+  /// Record number of the entry's first byte, from 1.
+  std::size_t place(const std::string& entry) {
+    const auto [known, isNew] = places_.emplace(entry, bytes_.size() + 1);
+    if (isNew) {
+      appendStored(bytes_, entry);
+      appendStored(bytes_, std::string_view(&entryEnd, 1));
+    }
+    return known->second;
+  }
+
+  std::string takeBytes() { return std::move(bytes_); }
+
+ private:
+  std::string bytes_;
+  std::unordered_map<std::string, std::size_t> places_;
+};
+
+} // namespace
+
+std::vector<PackFile> compileDictionary(const WordList& list) {
+  std::string words;
+  std::string records;
+  EntryStream entries;
+  for (const std::size_t number : list.sorted()) {
+    const Word& word = list.at(number);
+    words += word.head + "\n";
+    appendInteger(records, entries.place(list.entryOf(word)));
+    appendInteger(records, words.size());
+  }
+  return {{"datatu.txt", std::move(words)},
+          {"data.mtd", std::move(records)},
+          {"data.avt", entries.takeBytes()}};
+}
+
+std::vector<OwnEntry> decodeOwnEntries(std::string_view words, std::string_view records,
+                                       std::string_view entries, Problems& problems) {
+  std::vector<OwnEntry> own;
+  for (const SourceLine& line : linesOf(words)) {
+    const auto record = 2 * static_cast<std::size_t>(line.number) - 1;
+    const auto entry = storedUntil(entries, integerAt(records, record) - std::int64_t{1}, entryEnd);
+    if (!entry) {
+      problems.add({"datatu.txt", line.number, 1}, "the entry of this word cannot be read");
+      continue;
+    }
+    if (!opensWithVietnamese(*entry)) continue;
+    own.push_back({std::string(line.text), sensesOfEntry(*entry), {}, {}});
+  }
+  return own;
+}
+
+} // namespace talvora::pack

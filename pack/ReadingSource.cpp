@@ -1,0 +1,188 @@
+// Parsing and writing of reading texts.
+#include "pack/ReadingSource.h"
+
+#include "pack/SourceFile.h"
+#include "pack/StreamText.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr std::string_view titleOpener = "title: ";
+constexpr std::string_view translationOpener = "= ";
+constexpr int mostHeadings = 38;
+// The table of sentence marks holds 200; the mark ahead of the title and the closing one take two.
+constexpr std::size_t mostSentences = 198;
+
+std::optional<int> slotOf(std::string_view digits) {
+  int slot = 0;
+  const auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), slot);
+  if (failure != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
+  if (slot < 1 || slot > ReadingSlots) return std::nullopt;
+  return slot;
+}
+
+/// Reads one text line by line; knows whether a sentence still waits for its translation.
+class TextParser {
+ public:
+  TextParser(const std::string& file, Problems& problems) : file_(file), problems_(problems) {}
+
+  void read(const SourceLine& line) {
+    if (line.text.starts_with("//")) return;
+    if (line.text.empty()) {
+      expectNoSentenceWaits(line.number);
+      newParagraph_ = true;
+    } else if (!titleRead_) {
+      readTitle(line);
+    } else if (line.text.starts_with('=')) {
+      readTranslation(line);
+    } else {
+      readSentence(line);
+    }
+  }
+
+  ReadingText finish(int lastLine) {
+    expectNoSentenceWaits(lastLine);
+    std::size_t sentences = 0;
+    for (const Paragraph& paragraph : text_.paragraphs)
+      sentences += paragraph.size();
+    if (!titleRead_) problems_.add({file_, 1, 1}, "the text has no title");
+    if (titleRead_ && sentences == 0) problems_.add({file_}, "the text has no sentences");
+    if (sentences > mostSentences) {
+      problems_.add({file_}, "the text has " + std::to_string(sentences) + " sentences; at most " +
+                                 std::to_string(mostSentences) + " fit");
+    }
+    return std::move(text_);
+  }
+
+ private:
+  void expectNoSentenceWaits(int line) {
+    if (waits_) problems_.add({file_, line, 1}, "a translation (\"= ...\") is missing here");
+    waits_ = false;
+  }
+
+  void readTitle(const SourceLine& line) {
+    titleRead_ = true;
+    if (!line.text.starts_with(titleOpener)) {
+      problems_.add({file_, line.number, 1}, "the first line must be \"title: ...\"");
+      return;
+    }
+    const Where where{file_, line.number, static_cast<int>(titleOpener.size()) + 1};
+    text_.title = stretch(line.text.substr(titleOpener.size()), where, "_`@|*");
+  }
+
+  void readSentence(const SourceLine& line) {
+    expectNoSentenceWaits(line.number);
+    if (newParagraph_ || text_.paragraphs.empty()) text_.paragraphs.emplace_back();
+    newParagraph_ = false;
+    text_.paragraphs.back().push_back({stretch(line.text, {file_, line.number, 1}), ""});
+    waits_ = true;
+  }
+
+  void readTranslation(const SourceLine& line) {
+    if (!waits_) {
+      problems_.add({file_, line.number, 1}, "a translation without its sentence");
+      return;
+    }
+    waits_ = false;
+    if (!line.text.starts_with(translationOpener)) {
+      problems_.add({file_, line.number, 2}, "a blank must follow the \"=\"");
+      return;
+    }
+    text_.paragraphs.back().back().vietnamese =
+        stretch(line.text.substr(translationOpener.size()), {file_, line.number, 3});
+  }
+
+  std::string stretch(std::string_view utf8, const Where& where,
+                      std::string_view forbidden = StreamMarks) {
+    if (utf8.empty()) problems_.add(where, "a text is missing here");
+    if (utf8.starts_with(' ') || utf8.ends_with(' ')) problems_.add(where, "a blank at an end");
+    return sourceText(utf8, where, forbidden, problems_);
+  }
+
+  const std::string& file_;
+  Problems& problems_;
+  ReadingText text_;
+  bool titleRead_ = false;
+  bool newParagraph_ = true;
+  bool waits_ = false;
+};
+
+} // namespace
+
+ReadingText parseReadingText(std::string_view text, const std::string& file, Problems& problems) {
+  TextParser parser(file, problems);
+  const auto lines = linesOf(text);
+  for (const SourceLine& line : lines)
+    parser.read(line);
+  return parser.finish(static_cast<int>(lines.size()) + 1);
+}
+
+std::map<int, std::string> parseHeadings(std::string_view text, const std::string& file,
+                                         Problems& problems) {
+  std::map<int, std::string> headings;
+  for (const SourceLine& line : linesOf(text)) {
+    if (line.text.empty() || line.text.starts_with("//")) continue;
+    const std::size_t tab = line.text.find('\t');
+    const auto slot = slotOf(line.text.substr(0, std::min(tab, line.text.size())));
+    if (tab == std::string_view::npos || !slot) {
+      problems.add({file, line.number, 1}, "a line must be a slot from 1 to 408, a tab, a heading");
+      continue;
+    }
+    const Where where{file, line.number, static_cast<int>(tab) + 2};
+    const auto heading = sourceText(line.text.substr(tab + 1), where, "_`@|*", problems);
+    if (heading.empty()) problems.add(where, "a heading is missing here");
+    if (!headings.emplace(*slot, heading).second) {
+      problems.add({file, line.number, 1}, "slot " + std::to_string(*slot) + " is taken already");
+    }
+  }
+  if (headings.size() > mostHeadings) {
+    problems.add({file}, "there are more than " + std::to_string(mostHeadings) + " headings");
+  }
+  return headings;
+}
+
+ReadingSource readReadings(const std::filesystem::path& folder, Problems& problems) {
+  ReadingSource source;
+  for (const auto& path : textFilesIn(folder)) {
+    const std::string file = path.string();
+    const std::string name = path.filename().string();
+    if (name == "headings.txt") {
+      source.headings = parseHeadings(readSource(path, problems), file, problems);
+      continue;
+    }
+    const auto slot = name.size() > 4 && name[3] == '-' ? slotOf(name.substr(0, 3)) : std::nullopt;
+    if (!slot) {
+      problems.add({file}, "the name must be NNN-slug.txt with a slot from 001 to 408");
+      continue;
+    }
+    auto text = parseReadingText(readSource(path, problems), file, problems);
+    if (!source.texts.emplace(*slot, std::move(text)).second) {
+      problems.add({file}, "slot " + std::to_string(*slot) + " has a text already");
+    }
+  }
+  for (const auto& [slot, heading] : source.headings) {
+    if (source.texts.count(slot) == 0) continue;
+    problems.add({(folder / "headings.txt").string()},
+                 "slot " + std::to_string(slot) + " holds a text; it cannot be a heading");
+  }
+  return source;
+}
+
+std::string writeReadingText(const ReadingText& text) {
+  std::string source = std::string(titleOpener) + utf8Of(text.title) + "\n";
+  for (const Paragraph& paragraph : text.paragraphs) {
+    source += "\n";
+    for (const SentencePair& pair : paragraph) {
+      source += utf8Of(pair.english) + "\n";
+      source += std::string(translationOpener) + utf8Of(pair.vietnamese) + "\n";
+    }
+  }
+  return source;
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,51 @@
+// The sources of the reading texts: a title, pairs of a sentence and its translation, and the list
+// of headings.
+#pragma once
+
+#include "pack/Problems.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace talvora::pack {
+
+/// Number of slots in the list of reading texts.
+inline constexpr int ReadingSlots = 408;
+
+/// A sentence and its translation, in the text font's bytes.
+struct SentencePair {
+  std::string english;
+  std::string vietnamese;
+};
+
+using Paragraph = std::vector<SentencePair>;
+
+struct ReadingText {
+  std::string title;
+  std::vector<Paragraph> paragraphs;
+};
+
+/// All reading slots that have a source.
+struct ReadingSource {
+  std::map<int, ReadingText> texts;
+  std::map<int, std::string> headings;
+};
+
+/// Parses one text; what is wrong is reported.
+[[nodiscard]] ReadingText parseReadingText(std::string_view text, const std::string& file,
+                                           Problems& problems);
+
+/// Parses the lines "slot TAB heading".
+[[nodiscard]] std::map<int, std::string> parseHeadings(std::string_view text,
+                                                       const std::string& file, Problems& problems);
+
+/// Reads a folder of texts "NNN-slug.txt" with its "headings.txt".
+[[nodiscard]] ReadingSource readReadings(const std::filesystem::path& folder, Problems& problems);
+
+/// The source of a text, as `parseReadingText` reads it.
+[[nodiscard]] std::string writeReadingText(const ReadingText& text);
+
+} // namespace talvora::pack

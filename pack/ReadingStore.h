@@ -1,0 +1,31 @@
+// The reading texts as the program's pair of files, and back.
+#pragma once
+
+#include "pack/ReadingSource.h"
+
+#include <string>
+#include <string_view>
+
+namespace talvora::pack {
+
+/// A position table and its stream.
+struct TextStore {
+  std::string positions;
+  std::string stream;
+};
+
+/// The title of a slot whose text is still being written.
+[[nodiscard]] std::string openSlotTitle();
+
+/// Every slot filled: texts, headings, and slots still open.
+[[nodiscard]] TextStore compileReadings(const ReadingSource& source);
+
+/// A store whose slots are all still open, as many as given.
+[[nodiscard]] TextStore openTextStore(int slots);
+
+/// The texts and headings of a store; open slots are left out.
+/// Problems name the record at which a damaged store cannot be read.
+[[nodiscard]] ReadingSource decodeReadings(std::string_view positions, std::string_view stream,
+                                           Problems& problems);
+
+} // namespace talvora::pack

@@ -1,0 +1,32 @@
+// A content source as its lines, and the folders that sources lie in.
+#pragma once
+
+#include "pack/Problems.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace talvora::pack {
+
+/// A line of a source, without its line end.
+struct SourceLine {
+  std::string_view text;
+  int number = 0;
+};
+
+/// The lines of a text; a line end is LF or CR LF.
+[[nodiscard]] std::vector<SourceLine> linesOf(std::string_view text);
+
+/// The whole of a file; empty when it cannot be read.
+[[nodiscard]] std::optional<std::string> readWhole(const std::filesystem::path& path);
+
+/// The same, with a problem instead when it cannot be read.
+[[nodiscard]] std::string readSource(const std::filesystem::path& path, Problems& problems);
+
+/// The regular ".txt" files of a folder, sorted by name; none when there is no such folder.
+[[nodiscard]] std::vector<std::filesystem::path> textFilesIn(const std::filesystem::path& folder);
+
+} // namespace talvora::pack

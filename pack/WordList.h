@@ -1,0 +1,101 @@
+// The word list while it is being filled: every word once by its normal form, with what its entry
+// will say.
+#pragma once
+
+#include "pack/Entry.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace talvora::pack {
+
+/// What kind of word a line is; the earlier kinds are preferred.
+enum class WordKind : std::uint8_t {
+  Letter,
+  Own,
+  OwnForm,
+  WordNet,
+  Form,
+  PhraseForm,
+  Spelling,
+  Derivation,
+  PhrasePlural,
+  Possessive,
+  PhrasePossessive
+};
+
+struct WordKindName {
+  WordKind kind;
+  std::string_view name;
+};
+
+inline constexpr std::array<WordKindName, 11> WordKindNames = {{
+    {WordKind::Letter, "letters that open a section"},
+    {WordKind::Own, "entries of our own"},
+    {WordKind::OwnForm, "forms of our own entries"},
+    {WordKind::WordNet, "WordNet words"},
+    {WordKind::Form, "forms of WordNet words"},
+    {WordKind::PhraseForm, "forms of verbs of several words"},
+    {WordKind::Spelling, "other spellings"},
+    {WordKind::Derivation, "words built from known ones"},
+    {WordKind::PhrasePlural, "plurals of nouns of several words"},
+    {WordKind::Possessive, "possessives"},
+    {WordKind::PhrasePossessive, "possessives of nouns of several words"},
+}};
+
+/// Says what a word is to another one: "dạng -ing của go".
+struct Origin {
+  std::string relation;
+  std::size_t base = 0;
+  ClassSet classes = {}; ///< whose senses the entry borrows; none means all
+};
+
+struct Word {
+  std::string head;
+  WordKind kind = WordKind::Own;
+  ClassSet classes;
+  std::vector<Sense> senses;
+  std::vector<Origin> origins;
+  std::string note = {}; ///< a last line of the entry; empty without one
+  std::string form = {}; ///< the normal form; the list fills it in
+};
+
+class WordList {
+ public:
+  /// `limit` is the number of lines that the list holds at most.
+  explicit WordList(std::size_t limit) : limit_(limit) {}
+
+  [[nodiscard]] bool full() const noexcept { return words_.size() >= limit_; }
+  [[nodiscard]] std::size_t size() const noexcept { return words_.size(); }
+  /// The word of a normal form.
+  [[nodiscard]] std::optional<std::size_t> find(const std::string& form) const;
+  /// Adds a word and gives its number; nothing when the list is full, when the normal form is
+  /// taken, or when it does not begin with a letter from a to z.
+  std::optional<std::size_t> add(Word word);
+
+  [[nodiscard]] const Word& at(std::size_t number) const { return words_.at(number); }
+  [[nodiscard]] Word& at(std::size_t number) { return words_.at(number); }
+  [[nodiscard]] const std::vector<Word>& words() const noexcept { return words_; }
+
+  /// Numbers of all words in the order of the list: by normal form, in binary order.
+  [[nodiscard]] std::vector<std::size_t> sorted() const;
+  /// The word whose senses stand for a word: itself, or the end of its line of first origins.
+  [[nodiscard]] const Word& rootOf(const Word& word) const;
+  /// True when the entry of the word gives a Vietnamese sense.
+  [[nodiscard]] bool hasVietnamese(const Word& word) const;
+  /// The whole entry of a word in entry notation, without the character 13 that ends it.
+  [[nodiscard]] std::string entryOf(const Word& word) const;
+
+ private:
+  std::size_t limit_;
+  std::vector<Word> words_;
+  std::unordered_map<std::string, std::size_t> byForm_;
+};
+
+} // namespace talvora::pack

@@ -1,0 +1,121 @@
+// The command line of the content compiler.
+#include "pack/Compiler.h"
+#include "pack/Dump.h"
+#include "pack/Status.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <iostream>
+#include <unistd.h>
+
+namespace {
+
+using namespace talvora::pack;
+
+constexpr int contentErrors = 1;
+constexpr int usageOrDiskErrors = 2;
+
+/// Tells the steps on a terminal; a log or a script is spared them.
+void showStep(std::string_view step) {
+  if (::isatty(STDERR_FILENO) != 0) std::cerr << step << "...\n";
+}
+
+int tell(const Problems& problems) {
+  for (const Problem& problem : problems.all())
+    std::cerr << describe(problem) << "\n";
+  return problems.none() ? 0 : contentErrors;
+}
+
+int failWith(const std::string& message) {
+  std::cerr << message << "\n";
+  return usageOrDiskErrors;
+}
+
+int build(const Options& options, const std::filesystem::path& out) {
+  Problems problems;
+  const auto files = compile(options, problems, showStep);
+  if (!problems.none()) return tell(problems);
+  std::filesystem::create_directories(out);
+  for (const PackFile& file : files) {
+    showStep(file.name);
+    if (const auto failure = store(file, out)) return failWith(*failure);
+  }
+  return 0;
+}
+
+int check(const Options& options) {
+  Problems problems;
+  static_cast<void>(compile(options, problems, showStep));
+  return tell(problems);
+}
+
+int status(const Options& options) {
+  Problems problems;
+  const Content content = readContent(options, problems, showStep);
+  if (!problems.none()) return tell(problems);
+  const WordList list = makeWordList(content, options, problems);
+  std::cout << statusReport(content, list);
+  return tell(problems);
+}
+
+int dumpTo(const std::filesystem::path& pack, const std::filesystem::path& out) {
+  Problems problems;
+  const auto sources = dump(pack, problems);
+  for (const SourceText& source : sources) {
+    const auto folder = (out / source.name).parent_path();
+    std::filesystem::create_directories(folder);
+    const auto name = std::filesystem::path(source.name).filename().string();
+    if (const auto failure = store({name, source.text}, folder)) return failWith(*failure);
+  }
+  return tell(problems);
+}
+
+void addSourceOptions(CLI::App& command, Options& options) {
+  command.add_option("SOURCE", options.source, "folder of the content sources")->required();
+  command.add_option("--wordnet", options.wordNet, "folder of the WordNet database")
+      ->capture_default_str();
+  command.add_option("--word-list", options.wordLists, "English word lists, one word a line");
+  command.add_option("--words", options.smallWordList,
+                     "a small word list of at most that many lines: our own entries and their "
+                     "forms, without WordNet and the word lists");
+}
+
+int run(int argumentCount, char** arguments) {
+  CLI::App application("Compiles content sources to the files that Talvora opens");
+  application.require_subcommand(1);
+  Options options;
+  std::filesystem::path out;
+  std::filesystem::path pack;
+
+  CLI::App* buildCommand =
+      application.add_subcommand("build", "compile SOURCE into the folder OUT");
+  addSourceOptions(*buildCommand, options);
+  buildCommand->add_option("OUT", out, "folder of the pack")->required();
+  CLI::App* checkCommand = application.add_subcommand("check", "check SOURCE and write nothing");
+  addSourceOptions(*checkCommand, options);
+  CLI::App* dumpCommand = application.add_subcommand("dump", "decode the pack PACK into sources");
+  dumpCommand->add_option("PACK", pack, "folder of the pack")->required();
+  dumpCommand->add_option("OUT", out, "folder for the sources")->required();
+  CLI::App* statusCommand = application.add_subcommand("status", "tell what SOURCE still lacks");
+  addSourceOptions(*statusCommand, options);
+
+  try {
+    application.parse(argumentCount, arguments);
+  } catch (const CLI::ParseError& error) {
+    return application.exit(error) == 0 ? 0 : usageOrDiskErrors;
+  }
+  if (buildCommand->parsed()) return build(options, out);
+  if (checkCommand->parsed()) return check(options);
+  return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+  try {
+    return run(argumentCount, arguments);
+  } catch (const std::exception& error) {
+    return failWith(std::string("talvora-pack: ") + error.what());
+  }
+}

@@ -1,0 +1,178 @@
+// The whole way from a content tree to a pack and back.
+#include "pack/Compiler.h"
+
+#include "pack/Dump.h"
+#include "pack/SourceFile.h"
+#include "pack/Status.h"
+#include "pack/StreamText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+namespace talvora::pack {
+namespace {
+
+const std::filesystem::path content = TALVORA_SMALL_CONTENT;
+
+Options smallOptions() {
+  Options options;
+  options.source = content;
+  options.smallWordList = 200;
+  return options;
+}
+
+void noProgress(std::string_view) {}
+
+std::vector<PackFile> compiled() {
+  Problems problems;
+  auto files = compile(smallOptions(), problems, noProgress);
+  for (const Problem& problem : problems.all())
+    ADD_FAILURE() << describe(problem);
+  return files;
+}
+
+std::filesystem::path emptyFolder(const std::string& name) {
+  const auto folder = std::filesystem::path(testing::TempDir()) / name;
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  return folder;
+}
+
+std::string bytesOf(const std::vector<PackFile>& files, std::string_view name) {
+  const auto found = std::find_if(files.begin(), files.end(),
+                                  [name](const PackFile& file) { return file.name == name; });
+  return found != files.end() ? found->bytes : "(missing)";
+}
+
+TEST(Compiler, MakesEveryFileThatTheProgramOpens) {
+  const auto files = compiled();
+  std::vector<std::string> names;
+  for (const PackFile& file : files)
+    names.push_back(file.name);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<std::string>{
+                       "DataS",        "data.Kcu",  "data.Muc",  "data.av",   "data.avt",
+                       "data.bt",      "data.c",    "data.mtd",  "data.vbt",  "data.vt",
+                       "dataABCD.rtf", "dataD.av",  "dataD.vt",  "dataN.av",  "dataN.vt",
+                       "dataPt.v",     "dataPt.vt", "datasp.av", "datasp.vt", "datatu.txt",
+                       "datatuD.txt",  "datavp.n",  "datavp.vt", "readme.rtf"}));
+}
+
+TEST(Compiler, TablesHaveTheirFixedSizes) {
+  const auto files = compiled();
+  EXPECT_EQ(bytesOf(files, "data.vt").size(), 817U * 4);
+  EXPECT_EQ(bytesOf(files, "datasp.vt").size(), 4051U * 4);
+  EXPECT_EQ(bytesOf(files, "datavp.vt").size(), 357U * 4);
+  EXPECT_EQ(bytesOf(files, "dataN.vt").size(), 556U * 4);
+  EXPECT_EQ(bytesOf(files, "data.Muc").size(), 366U * 2);
+  EXPECT_EQ(bytesOf(files, "data.vbt").size(), 2U * 366 * 4);
+}
+
+TEST(Compiler, FirstSettingsTurnTheSoundOnAtMiddleSpeed) {
+  const std::string settings = bytesOf(compiled(), "data.Kcu");
+  ASSERT_EQ(settings.size(), 76U);
+  for (std::size_t record = 1; record <= 19; ++record) {
+    EXPECT_EQ(integerAt(settings, record), record == 2 ? 1 : record == 4 ? 5 : 0);
+  }
+}
+
+TEST(Compiler, OpenSlotsSayThatTheyAreBeingWritten) {
+  const auto files = compiled();
+  EXPECT_EQ(storedUntil(bytesOf(files, "datavp.n"), 0, '@'), ownText("(đang soạn)") + "\r");
+  const std::string item =
+      *storedUntil(bytesOf(files, "dataN.av"), integerAt(bytesOf(files, "dataN.vt"), 556), '@');
+  EXPECT_EQ(utf8Of(item.substr(0, 2)), "9 ");
+  EXPECT_EQ(std::count(item.begin(), item.end(), '\r'), 5);
+}
+
+TEST(Compiler, BuildsTheSameBytesEveryTime) {
+  const auto first = compiled();
+  const auto second = compiled();
+  ASSERT_EQ(first.size(), second.size());
+  for (std::size_t place = 0; place < first.size(); ++place) {
+    EXPECT_EQ(first[place].bytes, second[place].bytes) << first[place].name;
+  }
+}
+
+TEST(Compiler, ADumpGivesTheSourcesBack) {
+  const auto pack = emptyFolder("talvora-pack-out");
+  for (const PackFile& file : compiled())
+    ASSERT_FALSE(store(file, pack));
+  Problems problems;
+  const auto sources = dump(pack, problems);
+  ASSERT_TRUE(problems.none()) << describe(problems.all().front());
+  const auto textOf = [&sources](const std::string& name) {
+    const auto found = std::find_if(sources.begin(), sources.end(),
+                                    [&name](const SourceText& each) { return each.name == name; });
+    return found != sources.end() ? found->text : "(missing)";
+  };
+  EXPECT_EQ(textOf("reading/004-text.txt"), readWhole(content / "reading/004-the-old-bank.txt"));
+  EXPECT_EQ(textOf("reading/400-text.txt"), readWhole(content / "reading/400-listening-one.txt"));
+  EXPECT_EQ(textOf("reading/headings.txt"), "1\tMỞ ĐẦU VÀ LÀM QUEN\n3\tBÀI NGẮN\n");
+  EXPECT_EQ(textOf("dictionary/g.txt"),
+            "go\n  v. đi\n    > We go to school by bus. = Chúng tôi đi học bằng xe buýt.\n");
+  EXPECT_EQ(textOf("dictionary/z.txt"), "(missing)");
+}
+
+TEST(Compiler, NeverOverwritesWhatTheLearnerOwns) {
+  const auto pack = emptyFolder("talvora-pack-learner");
+  std::ofstream(pack / "data.c") << "mine";
+  std::ofstream(pack / "data.vt") << "old";
+  for (const PackFile& file : compiled())
+    ASSERT_FALSE(store(file, pack));
+  EXPECT_EQ(readWhole(pack / "data.c"), "mine");
+  EXPECT_NE(readWhole(pack / "data.vt"), "old");
+  EXPECT_FALSE(std::filesystem::exists(pack / "data.vt.new"));
+}
+
+TEST(Compiler, AFolderThatCannotBeWrittenIsAFailure) {
+  EXPECT_TRUE(store({"data.vt", "x"}, "/nowhere/at/all"));
+}
+
+TEST(Compiler, AMissingSourceIsReported) {
+  Options options = smallOptions();
+  options.source = "/nowhere/at/all";
+  Problems problems;
+  EXPECT_TRUE(compile(options, problems, noProgress).empty());
+  EXPECT_FALSE(problems.none());
+}
+
+TEST(Compiler, AFullListThatStaysShortIsReported) {
+  const auto folder = emptyFolder("talvora-pack-short");
+  for (const char* part : {"noun", "verb", "adj", "adv"}) {
+    std::ofstream(folder / ("index." + std::string(part))) << "  1 licence\n";
+    std::ofstream(folder / ("data." + std::string(part))) << "  1 licence\n";
+    std::ofstream(folder / (std::string(part) + ".exc"));
+  }
+  Options options;
+  options.source = content;
+  options.wordNet = folder;
+  options.wordLists = {};
+  Problems problems;
+  EXPECT_TRUE(compile(options, problems, noProgress).empty());
+  ASSERT_EQ(problems.all().size(), 1U);
+  EXPECT_NE(problems.all()[0].message.find("needs 385082"), std::string::npos);
+}
+
+TEST(Status, ListsWordsWithoutAVietnameseSense) {
+  Problems problems;
+  const Options options = smallOptions();
+  const Content read = readContent(options, problems, noProgress);
+  const WordList list = makeWordList(read, options, problems);
+  ASSERT_TRUE(problems.none());
+  const auto missing = missingWords(list, read.readings);
+  const auto has = [&missing](const std::string& word) {
+    return std::any_of(missing.begin(), missing.end(),
+                       [&word](const MissingWord& each) { return each.word == word; });
+  };
+  EXPECT_TRUE(has("home"));
+  EXPECT_FALSE(has("bank"));
+  EXPECT_FALSE(has("children"));
+  EXPECT_FALSE(has("studied"));
+  EXPECT_NE(statusReport(read, list).find("3 texts, 2 headings, 403 open"), std::string::npos);
+}
+
+} // namespace
+} // namespace talvora::pack

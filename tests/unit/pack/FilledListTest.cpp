@@ -1,0 +1,122 @@
+// Filling of the word list, and the files it becomes.
+#include "pack/FilledList.h"
+
+#include "pack/DictionaryStore.h"
+#include "pack/Status.h"
+#include "pack/StreamText.h"
+
+#include <gtest/gtest.h>
+
+namespace talvora::pack {
+namespace {
+
+WordSources smallSources() {
+  Problems problems;
+  WordSources sources;
+  sources.own = parseDictionary("I\n  pron. tôi\n\nleave\n  v. rời đi\n  forms: left\n\n"
+                                "walk\n  v. đi bộ\n  n. cuộc đi bộ\n",
+                                "d.txt", problems);
+  sources.wordNet.words = {
+      {"Left Bank", {WordClass::Noun}, {{WordClass::Noun, Language::English, "a part", ""}}},
+      {"chief of staff", {WordClass::Noun}, {{WordClass::Noun, Language::English, "a head", ""}}},
+      {"chief", {WordClass::Noun}, {{WordClass::Noun, Language::English, "a leader", ""}}},
+      {"left", {WordClass::Noun}, {{WordClass::Noun, Language::English, "a side", ""}}},
+      {"walk out", {WordClass::Verb}, {{WordClass::Verb, Language::English, "leave", ""}}},
+      {"hidden", {WordClass::Noun}, {}}};
+  sources.listed = {"walks", "walking", "walker", "walker's", "chiefs", "zebra"};
+  for (const std::string& word : sources.listed)
+    sources.known.insert(word);
+  return sources;
+}
+
+WordList filled(std::size_t limit = FullWordCount, Filling filling = Filling::Full) {
+  Problems problems;
+  WordList list = fillWordList(smallSources(), limit, filling, problems);
+  EXPECT_TRUE(problems.none());
+  return list;
+}
+
+std::string entry(const WordList& list, const std::string& form) {
+  const auto number = list.find(form);
+  return number ? utf8Of(list.entryOf(list.at(*number))) : "(none)";
+}
+
+TEST(FilledList, LettersCarryTheEntriesOfWordsOfOneLetter) {
+  const WordList list = filled();
+  EXPECT_EQ(entry(list, "i"), "_#đại từ #tôi_chữ cái thứ 9 của bảng chữ cái tiếng Anh");
+  EXPECT_EQ(entry(list, "z"), "_chữ cái thứ 26 của bảng chữ cái tiếng Anh");
+}
+
+TEST(FilledList, FormsSayWhatTheyAreAndBorrowTheSensesOfTheirClass) {
+  const WordList list = filled();
+  EXPECT_EQ(entry(list, "walking"), "_dạng -ing của walk_#động từ #đi bộ");
+  EXPECT_EQ(entry(list, "left"),
+            "_quá khứ và quá khứ phân từ của leave_#động từ #rời đi_#noun #a side");
+  EXPECT_EQ(entry(list, "walking out"), "_dạng -ing của walk out_#verb #leave");
+  EXPECT_EQ(entry(list, "chiefs of staff"), "_dạng số nhiều của chief of staff_#noun #a head");
+}
+
+TEST(FilledList, BuiltWordsAndPossessivesLeadToTheirBase) {
+  const WordList list = filled();
+  EXPECT_EQ(entry(list, "walker"),
+            "_cấu tạo: walk + -er (người hoặc vật làm việc đó)_#động từ #đi bộ"
+            "_#danh từ #cuộc đi bộ");
+  EXPECT_EQ(entry(list, "walker's"),
+            "_sở hữu cách của walker_#động từ #đi bộ_#danh từ #cuộc đi bộ");
+}
+
+TEST(FilledList, WordsWithNothingToSayAreLeftOut) {
+  const WordList list = filled();
+  EXPECT_FALSE(list.find("hidden"));
+  EXPECT_FALSE(list.find("zebra"));
+}
+
+TEST(FilledList, StopsAtItsLimit) {
+  EXPECT_EQ(filled(31).size(), 31U);
+  Problems problems;
+  static_cast<void>(fillWordList(smallSources(), 27, Filling::Full, problems));
+  ASSERT_EQ(problems.all().size(), 1U);
+  EXPECT_EQ(describe(problems.all()[0]), "d.txt:8:1: the word list has no more room for this word");
+}
+
+TEST(FilledList, OurOwnWordsAloneGoWithoutTheDatabases) {
+  const WordList list = filled(100, Filling::OwnOnly);
+  EXPECT_TRUE(list.find("left"));
+  EXPECT_FALSE(list.find("chief"));
+}
+
+TEST(FilledList, FilesAreSortedAndLeadToTheirEntries) {
+  const WordList list = filled();
+  const auto files = compileDictionary(list);
+  const std::string& words = files[0].bytes;
+  EXPECT_EQ(words.substr(0, 20), "a\nb\nc\nchief\nchief of");
+  std::size_t begin = 0;
+  std::string before;
+  for (std::size_t record = 1; begin < words.size(); ++record) {
+    const std::size_t end = words.find('\n', begin) + 1;
+    const auto form = list.at(list.sorted()[record - 1]).form;
+    EXPECT_LT(before, form);
+    before = form;
+    EXPECT_EQ(integerAt(files[1].bytes, 2 * record), static_cast<int>(end));
+    const auto text =
+        storedUntil(files[2].bytes, integerAt(files[1].bytes, 2 * record - 1) - 1, '\r');
+    EXPECT_EQ(text, list.entryOf(list.at(*list.find(form))));
+    begin = end;
+  }
+  EXPECT_EQ(files[1].bytes.size(), 8 * list.size());
+}
+
+TEST(FilledList, LookUpGoesTheProgramsWay) {
+  const WordList list = filled();
+  const auto found = [&list](const std::string& word) {
+    const auto number = lookUp(list, word);
+    return number ? list.at(*number).head : "(none)";
+  };
+  EXPECT_EQ(found("walks"), "walks");
+  EXPECT_EQ(found("walkable"), "walk");
+  EXPECT_EQ(found("leaving"), "leave");
+  EXPECT_EQ(found("qxqx"), "(none)");
+}
+
+} // namespace
+} // namespace talvora::pack
