@@ -2,12 +2,10 @@
 add_library(talvora-settings INTERFACE)
 target_compile_options(talvora-settings INTERFACE
   -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wold-style-cast
-  -Woverloaded-virtual -Wnull-dereference -Wduplicated-cond -Wlogical-op)
+  -Woverloaded-virtual -Wduplicated-cond -Wlogical-op)
 target_include_directories(talvora-settings INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
 if(TALVORA_SANITIZE)
   target_compile_options(talvora-settings INTERFACE
     -fsanitize=${TALVORA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(talvora-settings INTERFACE -fsanitize=${TALVORA_SANITIZE})
-  # The sanitizers' own checks make the optimiser warn of null pointers that cannot be.
-  target_compile_options(talvora-settings INTERFACE -Wno-null-dereference)
 endif()

@@ -11,6 +11,8 @@ namespace talvora {
 namespace {
 
 constexpr std::string_view DesignCaption = "TALVORA 2.4";
+constexpr int VocabularyButton = 2;
+constexpr int SettingsButton = 8;
 constexpr int GuideButton = 9;
 
 } // namespace
@@ -19,24 +21,31 @@ E::E(Platform& platform, std::string directory)
     : platform_(platform), form_(platform.screen, platform.metrics),
       controls_(form_, platform.layout), stores_(state_.places),
       shell_(platform, form_, controls_, state_),
-      reading_(form_, controls_, state_, stores_, shell_),
-      laterSections_(controls_, state_, stores_, shell_) {
+      voice_(state_.places, platform.wave, shell_.messages),
+      speech_(state_, platform, shell_.steering, voice_),
+      dictionary_(form_, controls_, state_, stores_, shell_, speech_),
+      vietnameseSide_(controls_, state_, stores_, shell_, speech_),
+      soundSettings_(controls_, state_, platform, stores_, shell_, speech_),
+      reading_(controls_, state_, stores_, shell_,
+               PageServices{dictionary_, vietnameseSide_, speech_, voice_}, platform.clock),
+      laterSections_(controls_, state_, shell_) {
   state_.places.ThuMuc = std::move(directory);
   form_.Caption(std::string(DesignCaption));
   state_.declare(variables_);
   stores_.declare(variables_);
   shell_.declare(variables_);
+  voice_.declare(variables_);
+  speech_.declare(variables_);
+  dictionary_.declare(variables_);
+  soundSettings_.declare(variables_);
   reading_.declare(variables_);
   wireMenu();
   wireGuide();
   const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
   reading_.focusButton = focusButton;
+  reading_.vocabulary().focusButton = [focusButton] { focusButton(VocabularyButton); };
+  soundSettings_.focusButton = focusButton;
   laterSections_.focusButton = focusButton;
-  shell_.upward.DongNghia = [this] {
-    controls_.Rnen.Visible(false);
-    controls_.RHD.Visible(false);
-    shell_.focusReturn.TraLaiBeMat();
-  };
 }
 
 // -- Start-up.
@@ -55,6 +64,7 @@ void E::Main() {
   form_.Show();
   shell_.menu.DatFontNut();
   state_.places.waitkd = true;
+  speech_.DemGiong();
   shell_.setup.setTextFont();
   shell_.setup.parkSurfaces();
   shell_.hints.DemChay = 2;
@@ -62,6 +72,7 @@ void E::Main() {
   shell_.menu.DatHinhNut();
   state_.places.DangBan = true;
   shell_.menu.XepNut();
+  vietnameseSide_.NapTuD(platform_.events);
   form_.Refresh();
   loadEnglishSide();
   shell_.steering.XepChuot();
@@ -75,8 +86,10 @@ void E::Main() {
 }
 
 void E::loadEnglishSide() {
+  dictionary_.NapTuDien();
   stores_.MoDuLieu();
   state_.measures.KieuTruot = 5;
+  speech_.setUp(stores_);
   shell_.setup.adjustSlideStep();
   shell_.menu.finishProgress();
 }
@@ -111,6 +124,13 @@ void E::clickButton(int number) {
     break;
   case 7:
     openReading(number, file::SpeakingPositions);
+    break;
+  case VocabularyButton:
+    state_.places.MucMenu = VocabularyButton;
+    reading_.vocabulary().open();
+    break;
+  case SettingsButton:
+    soundSettings_.open();
     break;
   case GuideButton:
     openGuide();

@@ -2,11 +2,16 @@
 // clicks to the sections, and ends it.
 #pragma once
 
+#include "dictionary/Dictionary.h"
+#include "dictionary/VietnameseSide.h"
 #include "platform/Platform.h"
 #include "program/LaterSections.h"
 #include "program/Program.h"
 #include "reading/Reading.h"
 #include "shell/Shell.h"
+#include "sound/Amthanhcaidat.h"
+#include "sound/AmthanhThuc.h"
+#include "sound/Speech.h"
 #include "stores/Stores.h"
 #include "surface/Controls.h"
 #include "surface/State.h"
@@ -58,6 +63,11 @@ class E {
   SharedState state_;
   Stores stores_;
   Shell shell_;
+  RecordedVoice voice_;
+  Speech speech_;
+  Dictionary dictionary_;
+  VietnameseSide vietnameseSide_;
+  Amthanhcaidat soundSettings_;
   Reading reading_;
   LaterSections laterSections_;
   Variables variables_;

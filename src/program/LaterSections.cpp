@@ -1,31 +1,21 @@
 #include "program/LaterSections.h"
 
-#include "text/Bytes.h"
-
 namespace talvora {
 
 namespace {
 
 constexpr Colour White = 0xFFFFFF;
-constexpr int SettingsButton = 8;
-constexpr int VocabularyButton = 2;
+constexpr int LessonsButton = 3;
 
 } // namespace
 
-LaterSections::LaterSections(Controls& controls, SharedState& state, Stores& stores, Shell& shell)
-    : controls_(controls), state_(state), stores_(stores), shell_(shell) {
-  for (Surface* surface : {&controls.RVP1, &controls.RN1, &controls.RAmthanh}) wire(*surface);
+LaterSections::LaterSections(Controls& controls, SharedState& state, Shell& shell)
+    : controls_(controls), state_(state), shell_(shell) {
+  for (Surface* surface : {&controls.RVP1, &controls.RN1}) wire(*surface);
 }
 
 Surface& LaterSections::surfaceOf(int button) {
-  switch (button) {
-  case 3:
-    return controls_.RVP1;
-  case SettingsButton:
-    return controls_.RAmthanh;
-  default:
-    return controls_.RN1;
-  }
+  return button == LessonsButton ? controls_.RVP1 : controls_.RN1;
 }
 
 void LaterSections::wire(Surface& surface) {
@@ -43,13 +33,7 @@ void LaterSections::wire(Surface& surface) {
 }
 
 void LaterSections::open(int button) {
-  // The settings leave the number of the section before them standing.
-  if (button != SettingsButton) state_.places.MucMenu = button;
-  if (button == VocabularyButton) {
-    stores_.ChonKho(file::TextPositions);
-    shell_.messages.ThongBao("Bän chŸa chön tÙ vÜng trong bài ðöc."_bytes, 2000);
-    return;
-  }
+  state_.places.MucMenu = button;
   opened_ = button;
   Surface& surface = surfaceOf(button);
   surface.Text("");

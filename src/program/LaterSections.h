@@ -3,7 +3,6 @@
 #pragma once
 
 #include "shell/Shell.h"
-#include "stores/Stores.h"
 #include "surface/Controls.h"
 #include "surface/State.h"
 
@@ -13,7 +12,7 @@ namespace talvora {
 
 class LaterSections {
  public:
-  LaterSections(Controls& controls, SharedState& state, Stores& stores, Shell& shell);
+  LaterSections(Controls& controls, SharedState& state, Shell& shell);
 
   /// Opens the section of a menu button.
   void open(int button);
@@ -27,7 +26,6 @@ class LaterSections {
 
   Controls& controls_;
   SharedState& state_;
-  Stores& stores_;
   Shell& shell_;
   int opened_ = 0;
 };

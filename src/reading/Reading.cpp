@@ -17,15 +17,19 @@ constexpr int VocabularySection = 2;
 constexpr int FirstAnalysedText = 4;
 constexpr int GuideText = 2;
 constexpr int MostHeadings = 38;
+// Texts from here on are the scripts of the recordings.
+constexpr int FirstScript = 400;
 // The guide's title, which section 5 shows but does not analyse.
 constexpr int GreyedFrom = 20;
 constexpr int GreyedTo = 47;
 
 } // namespace
 
-Reading::Reading(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell)
-    : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
-      text_(stores, state.text, state.word), page_(controls, state, stores, shell, text_) {
+Reading::Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+                 PageServices services, Clock& clock)
+    : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
+      text_(stores, state.text, state.word), page_(controls, state, shell, services, text_, clock),
+      vocabulary_(controls, state, stores, shell, services, text_) {
   wireEvents();
 }
 
@@ -62,6 +66,7 @@ void Reading::wireEvents() {
     KeyAscii = 0;
     if (pressed == key::Esc) pressEsc();
     if (pressed == key::Enter) openLine();
+    if (Letters.has(chr(pressed))) services_.dictionary.MoDanhSachTu(chr(pressed));
   };
   R1.MouseMove = [this, &R1](int, SurfacePoint at) { shell_.gestures.pointerMoved(R1, at); };
   R1.MouseUp = [this](MouseButton button, int, SurfacePoint) { releaseMouse(button); };
@@ -71,6 +76,11 @@ void Reading::wireEvents() {
     R1.SetFocus();
   });
   page_.leave = [this] { ExitR2(); };
+  page_.ThemTuVung = [this] { vocabulary_.ThemTuVung(); };
+  vocabulary_.ensureListBuilt = [this] {
+    if (!DaNapDanhSach) MoDanhSachBai();
+  };
+  vocabulary_.forgetList = [this] { DaNapDanhSach = false; };
 }
 
 // -- Entering and leaving.
@@ -96,6 +106,7 @@ void Reading::MoDanhSachBai() {
     stores_.NapViTriBai();
     controls_.R2.FontSize(state_.measures.CoChu);
     XayDanhSachBai();
+    vocabulary_.NapTuVung();
     DaNapDanhSach = true;
   }
   R1.Visible(true);
@@ -112,6 +123,7 @@ void Reading::ExitR1() {
     ExitR2();
     return;
   }
+  vocabulary_.LuuTuVung();
   ViTriDanhSachBai = controls_.R1.SelStart();
   stores_.writeSetting(caretRecord(), ViTriDanhSachBai);
   DaNapDanhSach = false;
@@ -130,6 +142,7 @@ void Reading::GoiR2() {
   const int number = state_.list.SoBaiChon;
   if (state_.places.MucMenu == AnalysisSection && number < FirstAnalysedText) return;
   page_.LaBaiHuongDan = stores_.FileChiSo == file::TextPositions && number == GuideText;
+  openVoice();
   text_.DocBai(number);
   page_.showText();
   text_.DocDich(number);
@@ -140,7 +153,14 @@ void Reading::GoiR2() {
   shell_.curtain.KeoMan(controls_.R2);
 }
 
+void Reading::openVoice() {
+  if (stores_.FileChiSo != file::TextPositions || state_.list.SoBaiChon < FirstScript) return;
+  services_.voice.MoAm(1 + state_.list.SoBaiChon - FirstScript);
+}
+
 void Reading::ExitR2() {
+  services_.speech.DungDoc();
+  if (services_.voice.AmThanhThuc) services_.voice.DongAm();
   page_.LaBaiHuongDan = false;
   state_.word.NghiaHienTai.clear();
   shell_.upward.DongNghia();
@@ -317,6 +337,7 @@ void Reading::declare(Variables& variables) const {
   variables.add("DaNapDanhSach", &DaNapDanhSach);
   variables.add("ViTriDanhSachBai", &ViTriDanhSachBai);
   page_.declare(variables);
+  vocabulary_.declare(variables);
 }
 
 } // namespace talvora

@@ -4,6 +4,7 @@
 
 #include "reading/ReadingPage.h"
 #include "reading/ReadingText.h"
+#include "reading/TuVungChon.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
 #include "surface/Controls.h"
@@ -16,7 +17,8 @@ namespace talvora {
 
 class Reading {
  public:
-  Reading(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell);
+  Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+          PageServices services, Clock& clock);
 
   /// Common opening of the sections that begin with a title list.
   void BatdauBut();
@@ -30,6 +32,10 @@ class Reading {
   void MoDanhSachBai();
   /// Selects the line at the caret and sets `SoBaiChon`.
   void ChonDongR1(Surface& surface);
+
+  [[nodiscard]] ReadingPage& page() noexcept { return page_; }
+  [[nodiscard]] ReadingText& text() noexcept { return text_; }
+  [[nodiscard]] TuVungChon& vocabulary() noexcept { return vocabulary_; }
 
   void declare(Variables& variables) const;
 
@@ -55,17 +61,20 @@ class Reading {
   void jumpToPreviousHeading();
   /// The way over the list's end brings the line to the top of the view.
   void jumpTo(int caret);
+  /// Opens the recording of a listening script.
+  void openVoice();
   void openLine();
   void pressEsc();
   void releaseMouse(MouseButton button);
 
-  Form& form_;
   Controls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;
+  PageServices services_;
   ReadingText text_;
   ReadingPage page_;
+  TuVungChon vocabulary_;
 };
 
 } // namespace talvora

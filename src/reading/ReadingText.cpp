@@ -9,9 +9,8 @@ namespace talvora {
 
 namespace {
 
-[[noreturn]] void failOverrun(const std::string& store, int text, std::size_t most) {
-  throw FatalFailure(store + ": text " + std::to_string(text) + " has more than " +
-                     std::to_string(most) + " sentence marks");
+[[noreturn]] void failOverrun(const std::string& where, std::size_t most) {
+  throw FatalFailure(where + " has more than " + std::to_string(most) + " sentence marks");
 }
 
 std::string nameOfStore(int stream) {
@@ -21,6 +20,7 @@ std::string nameOfStore(int stream) {
 } // namespace
 
 void ReadingText::DocBai(int i) {
+  const std::string where = nameOfStore(stores_.FileVanBan) + ": text " + std::to_string(i);
   std::string& text = text_.CauHoi;
   text = "_";
   const std::int64_t start = stores_.ViTriBai.at(static_cast<std::size_t>(i));
@@ -34,7 +34,7 @@ void ReadingText::DocBai(int i) {
     ended = !piece || *piece == "@";
     if (piece && (*piece == "_" || *piece == "`")) {
       if (marks == CurrentText::MaxFileMarks) {
-        failOverrun(nameOfStore(stores_.FileVanBan), i, CurrentText::MaxFileMarks);
+        failOverrun(where, CurrentText::MaxFileMarks);
       }
       text_.ViTriCauTrongFile[marks++] = static_cast<std::int32_t>(reader.nextRecord());
     }
@@ -46,7 +46,7 @@ void ReadingText::DocBai(int i) {
   }
   text_.VanBanGoc = text;
   LamSachVanBan();
-  TachCau(i);
+  TachCau(where);
 }
 
 void ReadingText::LamSachVanBan() {
@@ -64,7 +64,7 @@ void ReadingText::LamSachVanBan() {
   std::replace(text_.CauHoi.begin(), text_.CauHoi.end(), '|', ' ');
 }
 
-void ReadingText::TachCau(int i) {
+void ReadingText::TachCau(const std::string& where) {
   text_.SoCauVanBan = 0;
   text_.ViTriCauVan.fill(0);
   std::string& text = text_.CauHoi;
@@ -73,7 +73,7 @@ void ReadingText::TachCau(int i) {
     text[at] = SentenceMark;
     const auto mark = static_cast<std::size_t>(text_.SoCauVanBan);
     if (mark == CurrentText::MaxSentences) {
-      failOverrun(nameOfStore(stores_.FileVanBan), i, CurrentText::MaxSentences);
+      failOverrun(where, CurrentText::MaxSentences);
     }
     ++text_.SoCauVanBan;
     text_.ViTriCauVan[mark] = static_cast<std::int16_t>(at + 1);

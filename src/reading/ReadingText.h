@@ -5,6 +5,8 @@
 #include "stores/Stores.h"
 #include "surface/State.h"
 
+#include <string>
+
 namespace talvora {
 
 /// The character that stands for a sentence mark in a text on show; it looks like a blank.
@@ -23,13 +25,14 @@ class ReadingText {
   /// The number of the sentence that holds character v, from 1; its translation goes into
   /// `ThongBaoHD`. The title is sentence 1 and has no translation.
   int CauTaiViTri(int v);
+  /// Turns the marks "_" of `CauHoi` into character 160 and notes where they stand.
+  /// Throws FatalFailure naming `where` when it has more marks than the table holds.
+  void TachCau(const std::string& where);
   /// Position, from 1, of the mark that opens sentence k; 0 outside the table.
   [[nodiscard]] int markOf(int k) const noexcept;
 
  private:
   void LamSachVanBan();
-  /// Finds the sentence marks of text i, whose number a failure names.
-  void TachCau(int i);
 
   const Stores& stores_;
   CurrentText& text_;

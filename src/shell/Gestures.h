@@ -23,6 +23,8 @@ class Gestures {
 
   /// Stores where the pointer came in, and takes the hint bar away once it has left that place.
   void pointerMoved(Surface& surface, SurfacePoint at);
+  /// The pointer counts as having come in at the stored point: the hint bar goes once it leaves.
+  void pointerCameIn(const Surface& surface) { stateOf(surface) = PointerState::PointStored; }
   /// The whole pointer rule of a text: `pointerMoved`, then `RoiChuot`.
   void followPointer(Surface& surface, SurfacePoint at);
   /// The pointer left the word at hand: beyond a twelfth of the screen the word and its popup go.

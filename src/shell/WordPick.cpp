@@ -13,25 +13,28 @@ constexpr char Mark = chr(160);
 // do line ends and tabs.
 constexpr std::string_view LeftBounds = "< ,;:.?!\r\t\x93";
 constexpr std::string_view RightBounds = " ,;:.?>!\x94";
+constexpr std::string_view LeftBoundsBT = "(/\\< ,;:.?!-\r\t\x93";
+constexpr std::string_view RightBoundsBT = " ,;:.?>/\\)!\x94\r\t";
 
 } // namespace
 
-bool WordPick::settleCaret(Surface& surface) {
+char WordPick::questionAt(int position) const noexcept {
   const std::string& text = text_.CauHoi;
+  return position >= 1 && position <= static_cast<int>(text.size())
+             ? text[static_cast<std::size_t>(position - 1)]
+             : '\0';
+}
+
+bool WordPick::settleCaret(Surface& surface) {
   const int p = surface.SelStart();
-  const auto at = [&](int position) {
-    return position >= 1 && position <= static_cast<int>(text.size())
-               ? text[static_cast<std::size_t>(position - 1)]
-               : '\0';
-  };
-  if (p < 2 || text.empty()) return true;
-  switch (at(p)) {
+  if (p < 2 || text_.CauHoi.empty()) return true;
+  switch (questionAt(p)) {
   case '\r':
   case ',':
     surface.SelStart(p + 1);
     return false;
   case Mark:
-    if (at(p + 1) == '\t') surface.SelStart(p + 1);
+    if (questionAt(p + 1) == '\t') surface.SelStart(p + 1);
     return false;
   case '\t':
     return false;
@@ -40,7 +43,7 @@ bool WordPick::settleCaret(Surface& surface) {
   case '?':
   case '!':
   case ':':
-    if (at(p + 1) != '\r') return false;
+    if (questionAt(p + 1) != '\r') return false;
     // Behind the last point of a line the line's last word is meant.
     surface.SelStart(p - 2);
     return true;
@@ -57,13 +60,47 @@ void WordPick::ChonTu(Surface& surface) {
   LayTuChon(surface);
 }
 
-void WordPick::LayTuChon(const Surface& surface) {
-  if (surface.SelLength() == 0) return;
+bool WordPick::settleCaretBT(Surface& surface) {
+  const int p = surface.SelStart();
+  if (p < 2 || text_.CauHoi.empty()) return true;
+  switch (questionAt(p)) {
+  case '\r':
+    surface.SelStart(p + 2);
+    return false;
+  case ',':
+    surface.SelStart(p + 1);
+    return false;
+  case '\t':
+  case '.':
+  case '"':
+  case '?':
+  case '!':
+  case ':':
+    return false;
+  default:
+    return true;
+  }
+}
+
+void WordPick::ChonTuBT(Surface& surface) {
+  if (settleCaretBT(surface)) {
+    surface.Span(LeftBoundsBT, SpanDirection::Backward, SpanUntil::InSet);
+  }
+  surface.Span(RightBoundsBT, SpanDirection::Forward, SpanUntil::InSet);
+  word_.TuHienTai = lettersOf(surface.SelText());
+}
+
+std::string WordPick::lettersOf(std::string_view text) {
   std::string kept;
-  for (const char character : surface.SelText()) {
+  for (const char character : text) {
     if (Kept.has(character)) kept += character;
   }
-  word_.TuHienTai = trim(kept);
+  return std::string(trim(kept));
+}
+
+void WordPick::LayTuChon(const Surface& surface) {
+  if (surface.SelLength() == 0) return;
+  word_.TuHienTai = lettersOf(surface.SelText());
 }
 
 void WordPick::LayCumTu(Surface& surface) {

@@ -1,0 +1,59 @@
+// The English dictionary as the sections use it: word list, look-up, popup and look-up list.
+#pragma once
+
+#include "dictionary/LookUp.h"
+#include "dictionary/LookUpList.h"
+#include "dictionary/Popup.h"
+#include "dictionary/WordList.h"
+#include "shell/Shell.h"
+#include "sound/Speech.h"
+#include "stores/Stores.h"
+#include "surface/Controls.h"
+#include "surface/Form.h"
+#include "surface/State.h"
+
+namespace talvora {
+
+class Dictionary {
+ public:
+  Dictionary(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+             Speech& speech);
+  Dictionary(const Dictionary&) = delete;
+  Dictionary& operator=(const Dictionary&) = delete;
+
+  /// Loads the word list, with the menu's buttons as its progress.
+  /// Throws FatalFailure when a file is missing or the list has no room.
+  void NapTuDien();
+  /// Looks `TuHienTai` up with all attempts and shows its entry, or shows the text that
+  /// `NghiaHienTai` already holds. Without an entry nothing is shown.
+  void TraTu();
+  /// Shows the entry of the line picked in the look-up list.
+  void TraTuGan();
+  /// Opens the look-up list with a typed letter.
+  void MoDanhSachTu(char character) { list_.MoDanhSachTu(character); }
+
+  [[nodiscard]] Popup& popup() noexcept { return popup_; }
+  [[nodiscard]] LookUpList& list() noexcept { return list_; }
+  [[nodiscard]] const WordList& words() const noexcept { return words_; }
+  [[nodiscard]] const LookUp& lookUp() const noexcept { return lookUp_; }
+
+  void declare(Variables& variables) const;
+
+ private:
+  void wirePopup();
+  void pressPopupCharacter(int code);
+  /// Looks up the word that a click in the popup has met.
+  void lookUpInPopup();
+  /// The head word and the entry at hand as one text; the entry is taken.
+  [[nodiscard]] std::string takeEntry();
+
+  Controls& controls_;
+  SharedState& state_;
+  Shell& shell_;
+  WordList words_;
+  LookUp lookUp_;
+  Popup popup_;
+  LookUpList list_;
+};
+
+} // namespace talvora

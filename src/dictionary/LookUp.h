@@ -1,0 +1,72 @@
+// Searches a word in the word list, and reduces it when it is not found as it stands.
+#pragma once
+
+#include "dictionary/WordList.h"
+#include "stores/Stores.h"
+#include "surface/State.h"
+#include "text/WordForm.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace talvora {
+
+/// Whether a search also fetches the entry of what it finds.
+enum class LayNghia { No, Yes };
+
+/// Bounds of a search, as line numbers of the word list.
+struct LetterRange {
+  int TimDau = 0;
+  int TimCuoi = 0;
+
+  friend bool operator==(const LetterRange&, const LetterRange&) = default;
+};
+
+/// What a search of the list found.
+struct SearchResult {
+  bool TimThay = false;
+  int ViTriGan = 0;            ///< the word found, or the nearest place; 0 behind all words
+  std::int32_t ViTriNghia = 0; ///< record of the entry of the word found
+};
+
+class LookUp {
+ public:
+  LookUp(const WordList& words, const Stores& stores, CurrentWord& word)
+      : words_(words), stores_(stores), word_(word) {}
+
+  /// The bounds of the section of a key whose first character has that code; the whole list for a
+  /// code that is no letter's.
+  [[nodiscard]] LetterRange KhoangChuCai(int code) const;
+  /// Searches a key, in small letters, within bounds. It ends for every list, sorted or not.
+  [[nodiscard]] SearchResult search(std::string_view key, LetterRange range) const;
+  /// The entry from a record of file 5 on, its character 13 included; it ends with the file too.
+  [[nodiscard]] std::string entryAt(std::int32_t record) const;
+
+  /// Searches a key in any case of letters, and fills `NghiaHienTai` when that is wanted and the
+  /// key was found; otherwise `NghiaHienTai` is left empty.
+  void TimTu(std::string_view key, LayNghia layNghia);
+  /// Fills `NghiaHienTai` with the entry of a line of the list.
+  void DocNghia(int TuChon);
+  /// Looks `TuHienTai` up: as it stands, by the suffix rules, and shortened letter by letter. With
+  /// an entry found `TuHienTai` becomes the form that was found.
+  void timMoiDang();
+
+  void declare(Variables& variables) const;
+
+  int TimDau = 0;       ///< first line of the section that was searched last
+  int TimCuoi = 0;      ///< last line of it
+  bool TimThay = false; ///< the last search found its key
+  int ViTriGan = 0;     ///< line that the last search settled on; 0 when it lies behind all
+
+ private:
+  /// Searches with the entry; true when there is one.
+  bool fetch(std::string_view key);
+  [[nodiscard]] SearchResult searchPair(std::string_view key, int low, int high) const;
+
+  const WordList& words_;
+  const Stores& stores_;
+  CurrentWord& word_;
+};
+
+} // namespace talvora

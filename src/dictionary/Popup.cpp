@@ -1,0 +1,168 @@
+#include "dictionary/Popup.h"
+
+#include "text/Rounding.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour Black = 0;
+constexpr Colour Red = 255;
+constexpr Colour Blue = 0xFF0000;
+constexpr Colour MessageBack = 0x750000;
+constexpr Colour MessageText = 0xFFFFC0;
+constexpr int MostLines = 12;
+// A longer entry gets less than the most; it is scrolled.
+constexpr int LinesOfLongEntry = 10;
+
+/// The first words of a text, up to `count`; blanks between them stand as they do there.
+std::string_view firstWords(const std::string& text, std::size_t count) {
+  std::size_t end = text.find(' ');
+  for (; count > 1 && end != std::string::npos; --count)
+    end = text.find(' ', end + 1);
+  return trim(std::string_view(text).substr(0, end));
+}
+
+} // namespace
+
+WrappedMessage wrapMessage(const std::string& message, double room,
+                           const std::function<int(std::string_view)>& widthOf) {
+  const auto words = static_cast<int>(std::count(message.begin(), message.end(), ' ')) + 1;
+  WrappedMessage wrapped{message, 1};
+  // With more lines than words the first line is one word and gets no shorter.
+  while (widthOf(wrapped.firstLine) > room && wrapped.lines <= words) {
+    ++wrapped.lines;
+    wrapped.firstLine = firstWords(message, static_cast<std::size_t>(words / wrapped.lines + 1));
+  }
+  return wrapped;
+}
+
+// -- Up and down.
+
+void Popup::HienNghia(const std::string& text) {
+  speech_.DocTu();
+  place();
+  if (!text.empty()) {
+    if (XemCauTuVung) {
+      VeCauTuVung(text);
+    } else {
+      VeNghia(text);
+    }
+  }
+  controls_.RHD.Visible(true);
+}
+
+void Popup::place() {
+  Surface& RHD = controls_.RHD;
+  const Measures& m = state_.measures;
+  const SurfacePoint pointer = state_.word.ViTriChuot;
+  const double d = m.Phan12 - m.Phan12 / 3.0;
+  RHD.Left(pointer.x < m.RongBai / 2 ? Round(m.LeTraiBai + d + pointer.x)
+                                     : Round(d + (pointer.x - m.Phan3)));
+  RHD.Top(pointer.y < m.CaoBai / 2 ? Round(m.LeTrenBai + d + pointer.y)
+                                   : Round(d) / 2 + (pointer.y - m.Phan6));
+  RHD.Width(m.Phan3);
+  RHD.Height(m.Phan6);
+}
+
+void Popup::DongNghia() {
+  speech_.DungDoc();
+  CurrentWord& word = state_.word;
+  if (controls_.RHD.Visible()) controls_.RHD.BackColor(state_.measures.MauNenHD);
+  controls_.Rnen.Visible(false);
+  if (word.XoaTuKhiDong) {
+    word.TuHienTai.clear();
+    word.XoaTuKhiDong = false;
+  }
+  controls_.RHD.Visible(false);
+  shell_.focusReturn.TraLaiBeMat();
+}
+
+// -- What it shows.
+
+void Popup::VeNghia(const std::string& text) {
+  Surface& RHD = controls_.RHD;
+  RHD.FontName("x1");
+  RHD.Text("");
+  RHD.SelBold(false);
+  RHD.SelItalic(false);
+  RHD.SelColor(Black);
+  if (state_.word.ThongBaoHD.empty()) {
+    VeMucTu(text);
+  } else {
+    VeThongBao();
+  }
+  RHD.SelStart(0);
+}
+
+void Popup::VeMucTu(const std::string& text) {
+  Surface& RHD = controls_.RHD;
+  const ShownEntry entry = readMarkup(text);
+  RHD.SelText(entry.text);
+  if (select({0, static_cast<int>(state_.word.TuHienTai.size())})) {
+    RHD.SelBold(true);
+    RHD.SelColor(Red);
+  }
+  for (const EntrySpan& span : entry.blue) {
+    if (select(span)) RHD.SelColor(Blue);
+  }
+  for (const EntrySpan& span : entry.redItalic) {
+    if (!select(span)) continue;
+    RHD.SelItalic(true);
+    RHD.SelColor(Red);
+  }
+  CoHopNghia();
+  shell_.messages.VeKhung();
+}
+
+bool Popup::select(EntrySpan span) {
+  if (span.length <= 0) return false;
+  controls_.RHD.SelStart(span.start);
+  controls_.RHD.SelLength(span.length);
+  return true;
+}
+
+int Popup::heightOf(int lines) const {
+  return lines * form_.TextHeight("AAAA") + form_.TextWidth(" ");
+}
+
+void Popup::CoHopNghia() {
+  Surface& RHD = controls_.RHD;
+  RHD.Visible(true);
+  RHD.SelStart(RHD.TextLength());
+  const int lines = RHD.GetLineFromChar(RHD.SelStart()) + 1;
+  RHD.Height(heightOf(lines > MostLines ? LinesOfLongEntry : lines));
+  RHD.SelStart(0);
+}
+
+void Popup::VeThongBao() {
+  writeMessage(state_.word.ThongBaoHD);
+  shell_.messages.VeKhung();
+  controls_.RHD.SelColor(Black);
+}
+
+void Popup::writeMessage(const std::string& message) {
+  Surface& RHD = controls_.RHD;
+  const Surface& R2 = controls_.R2;
+  const double room = R2.Left() + R2.Width() - RHD.Left() - RHD.Width() / 5.0;
+  const WrappedMessage wrapped =
+      wrapMessage(message, room, [this](std::string_view text) { return form_.TextWidth(text); });
+  RHD.Text("");
+  RHD.Width(form_.TextWidth(wrapped.firstLine) + form_.TextWidth("  "));
+  RHD.Height(heightOf(wrapped.lines + 1));
+  RHD.BackColor(MessageBack);
+  RHD.SelColor(MessageText);
+  RHD.SelBold(state_.measures.largeScreen());
+  RHD.SelText(message);
+  RHD.SelStart(RHD.TextLength() - 1);
+  RHD.Height(heightOf(RHD.GetLineFromChar(RHD.SelStart()) + 1));
+}
+
+void Popup::declare(Variables& variables) const {
+  variables.add("XemCauTuVung", &XemCauTuVung);
+}
+
+} // namespace talvora

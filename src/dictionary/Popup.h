@@ -1,0 +1,68 @@
+// The popup beside the pointer: a dictionary entry in its colours, or the translation of a
+// sentence.
+#pragma once
+
+#include "dictionary/EntryMarkup.h"
+#include "shell/Shell.h"
+#include "sound/Speech.h"
+#include "surface/Controls.h"
+#include "surface/Form.h"
+#include "surface/State.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace talvora {
+
+class Popup {
+ public:
+  Popup(Form& form, Controls& controls, SharedState& state, Shell& shell, Speech& speech)
+      : form_(form), controls_(controls), state_(state), shell_(shell), speech_(speech) {}
+
+  /// Speaks the word at hand, and shows a text beside the stored pointer: a head word, "~", and its
+  /// entry.
+  void HienNghia(const std::string& text);
+  /// Takes the popup down, ends speech, and gives the focus back.
+  void DongNghia();
+  /// Writes a message, wrapped and in the colours of a message, and sizes the popup to it; the red
+  /// plate is left to the caller.
+  void writeMessage(const std::string& message);
+
+  void declare(Variables& variables) const;
+
+  /// What stands in for the entry while `XemCauTuVung` is set; set by the vocabulary.
+  std::function<void(const std::string& text)> VeCauTuVung = [](const std::string&) {};
+
+  bool XemCauTuVung = false; ///< the sentence of a vocabulary word is to be shown
+
+ private:
+  void place();
+  void VeNghia(const std::string& text);
+  void VeMucTu(const std::string& text);
+  void VeThongBao();
+  /// Selects a stretch; false when there is nothing in it.
+  bool select(EntrySpan span);
+  void CoHopNghia();
+  /// Height of so many lines of text, in twips.
+  [[nodiscard]] int heightOf(int lines) const;
+
+  Form& form_;
+  Controls& controls_;
+  SharedState& state_;
+  Shell& shell_;
+  Speech& speech_;
+};
+
+/// A message cut so that its first line fits a width.
+struct WrappedMessage {
+  std::string firstLine;
+  int lines = 1;
+};
+
+/// Cuts a message at blanks into more and more lines until the first of them fits `room`, in twips.
+/// A single word that does not fit stays as it is.
+[[nodiscard]] WrappedMessage wrapMessage(const std::string& message, double room,
+                                         const std::function<int(std::string_view)>& widthOf);
+
+} // namespace talvora

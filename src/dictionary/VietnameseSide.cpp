@@ -1,0 +1,164 @@
+#include "dictionary/VietnameseSide.h"
+
+#include "platform/FatalFailure.h"
+#include "text/Bytes.h"
+#include "text/Text.h"
+#include "text/WordForm.h"
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour Red = 255;
+constexpr Colour Black = 0;
+constexpr Colour Blue = 0xFF0000;
+// Events are let run so often while the list loads: often enough for the eye, and no wait.
+constexpr std::size_t LinesBetweenEvents = 1024;
+
+// Lines end in CR LF, LF or CR.
+std::vector<std::string> linesOf(std::string_view text, std::size_t most) {
+  std::vector<std::string> lines;
+  while (!text.empty() && lines.size() < most) {
+    const auto end = text.find_first_of("\r\n");
+    lines.emplace_back(text.substr(0, end));
+    if (end == std::string_view::npos) break;
+    const bool pair = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
+    text.remove_prefix(end + (pair ? 2 : 1));
+  }
+  return lines;
+}
+
+} // namespace
+
+void VietnameseSide::NapTuD(EventLoop& events) {
+  // The list is an extra: without it the program does everything else.
+  try {
+    const auto words = MappedFile::open(pathBelow(state_.places.ThuMuc, "\\datatuD.txt"));
+    for (std::string& line : linesOf(words->text(), EntryCount)) {
+      Chu_.push_back(std::move(line));
+      if (Chu_.size() % LinesBetweenEvents == 0) events.letEventsRun();
+    }
+    ViTriNghia_.resize(Chu_.size());
+    const RecordFile positions(
+        MappedFile::open(pathBelow(state_.places.ThuMuc, "\\dataD.vt")));
+    for (std::size_t index = 1; index < Chu_.size(); ++index) {
+      ViTriNghia_[index] = positions.integer(static_cast<std::int64_t>(index));
+    }
+    events.letEventsRun();
+  } catch (const FatalFailure&) {
+    return;
+  }
+}
+
+std::string_view VietnameseSide::wordAt(int index) const {
+  const auto place = static_cast<std::size_t>(index);
+  return place < Chu_.size() ? std::string_view(Chu_[place]) : std::string_view();
+}
+
+int VietnameseSide::find(const std::string& key) const {
+  int low = 1;
+  int high = EntryCount;
+  while (high - low > 1) {
+    const int middle = (low + high) / 2;
+    const std::string word = ChuanHoaTu(wordAt(middle));
+    if (key == word) return middle;
+    // A list that ends early is searched as if what is missing stood behind every word.
+    const bool before = static_cast<std::size_t>(middle) >= Chu_.size() || key < word;
+    (before ? high : low) = middle;
+  }
+  for (int index = low; index <= high; ++index) {
+    if (key == ChuanHoaTu(wordAt(index))) return index;
+  }
+  return 0;
+}
+
+void VietnameseSide::TimTuD(std::string_view key) {
+  state_.word.NghiaD = "?";
+  const std::string wanted = lower(key);
+  if (wanted.empty()) {
+    state_.word.TuHienTai.clear();
+    return;
+  }
+  const int index = find(wanted);
+  if (index != 0) readEntry(index);
+}
+
+void VietnameseSide::readEntry(int index) {
+  state_.word.NghiaD.clear();
+  PieceReader reader(stores_.fileOf(file::VietnameseSide),
+                     ViTriNghia_[static_cast<std::size_t>(index)]);
+  while (const auto piece = reader.next()) {
+    if (*piece == "\r") break;
+    state_.word.NghiaD += *piece;
+  }
+}
+
+void VietnameseSide::HienTuD(Surface& surface) {
+  CurrentWord& word = state_.word;
+  shell_.upward.DongNghia();
+  if (controls_.RDOS.Top() == 0) shell_.hints.DatRDOS();
+  word.ViTriCaret = surface.SelStart();
+  shell_.wordPick.ChonTu(surface);
+  const std::string key = lower(word.TuHienTai);
+  TimTuD(key);
+  if (word.NghiaD.empty()) return;
+  if (word.NghiaD == "?") word.NghiaD = "Không tìm thÍy!"_bytes;
+  word.NghiaD = trim(word.NghiaD);
+  capitaliseI(key);
+  writeEntry();
+  controls_.RDOS.SelStart(0);
+  controls_.RDOS.Visible(true);
+  speech_.DocTu();
+}
+
+void VietnameseSide::capitaliseI(const std::string& word) {
+  std::string& entry = state_.word.NghiaD;
+  if (entry.size() < 2) return;
+  const bool pronoun = entry[0] == 'i' && (entry[1] == '\'' || entry[1] == ' ');
+  if (word == "i" || pronoun) entry[0] = 'I';
+}
+
+void VietnameseSide::writeEntry() {
+  Surface& RDOS = controls_.RDOS;
+  RDOS.Text("");
+  RDOS.SelAlignment(Alignment::Centred);
+  RDOS.SelFontSize(state_.measures.CoChu);
+  RDOS.SelColor(Red);
+  for (const char character : state_.word.NghiaD) {
+    switch (character) {
+    case '~':
+      RDOS.SelColor(Black);
+      RDOS.SelText(' ');
+      break;
+    case '<':
+      RDOS.SelText('<');
+      RDOS.SelColor(Blue);
+      break;
+    case '>':
+      RDOS.SelColor(Black);
+      RDOS.SelText('>');
+      break;
+    default:
+      RDOS.SelText(character);
+      break;
+    }
+  }
+}
+
+void VietnameseSide::DongTuD(Surface& surface) {
+  if (state_.word.NghiaD.empty()) return;
+  speech_.DungDoc();
+  state_.word.NghiaD.clear();
+  controls_.RDOS.Visible(false);
+  surface.SetFocus();
+}
+
+void VietnameseSide::showOnCtrl(int keyCode, int shift, Surface& surface) {
+  if (keyCode == key::Ctrl && shift == shift::Ctrl && state_.word.NghiaD.empty()) HienTuD(surface);
+}
+
+void VietnameseSide::closeWithoutCtrl(int shift, Surface& surface) {
+  if (shift != shift::Ctrl) DongTuD(surface);
+}
+
+} // namespace talvora

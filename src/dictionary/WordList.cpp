@@ -1,0 +1,121 @@
+#include "dictionary/WordList.h"
+
+#include "platform/FatalFailure.h"
+#include "surface/LineEnds.h"
+#include "text/CharClass.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace talvora {
+
+namespace {
+
+constexpr CharClass Marker("[a-z,A-Z]");
+// Line ends are sought in pieces of so many characters, so that a list that is too long is found
+// out before much memory is spent on it.
+constexpr std::size_t PieceSize = 1 << 16;
+
+[[noreturn]] void failAtLine(const std::string& path, int line, const std::string& what) {
+  throw FatalFailure(path + ": line " + std::to_string(line) + ": " + what);
+}
+
+} // namespace
+
+void WordList::NapTuDien(const std::string& directory, const std::function<void()>& TienTrinhNap) {
+  NapViTriTu(directory, TienTrinhNap);
+  const std::string path = pathBelow(directory, "\\datatu.txt");
+  file_ = MappedFile::open(path);
+  text_ = file_->text();
+  findLines(path);
+  findLetters(path, TienTrinhNap);
+}
+
+void WordList::NapViTriTu(const std::string& directory, const std::function<void()>& TienTrinhNap) {
+  positions_ = RecordFile(MappedFile::open(pathBelow(directory, "\\data.mtd")));
+  risingTo_ = 0;
+  TienTrinhNap();
+  // The records are read where they lie, when they are asked for; the pace stays.
+  for (int i = Stride; i <= WordCount; i += Stride)
+    TienTrinhNap();
+  TienTrinhNap();
+}
+
+void WordList::findLines(const std::string& path) {
+  if (text_.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+    throw FatalFailure(path + ": is too long for a word list");
+  }
+  starts_.clear();
+  starts_.reserve(std::min(text_.size(), std::size_t{MostLines}) + 1);
+  if (!text_.empty()) starts_.push_back(0);
+  for (std::size_t from = 0; from < text_.size(); from += PieceSize) {
+    const std::string_view piece = text_.substr(from, PieceSize);
+    appendLineStarts(piece, static_cast<int>(from), starts_);
+    const std::size_t to = from + piece.size();
+    if (to < text_.size() && endsLine(piece.back(), text_[to])) {
+      starts_.push_back(static_cast<int>(to));
+    }
+    if (starts_.size() > std::size_t{MostLines}) {
+      failAtLine(path, MostLines + 1,
+                 "the word list has more than " + std::to_string(MostLines) + " lines");
+    }
+  }
+  count_ = static_cast<int>(starts_.size());
+  starts_.push_back(static_cast<int>(text_.size()));
+}
+
+void WordList::findLetters(const std::string& path, const std::function<void()>& TienTrinhNap) {
+  // One character and a line end of at most two.
+  constexpr int LongestMarkerLine = 3;
+  ChiSoChu.fill(0);
+  std::size_t letters = 0;
+  for (int n = 1; n <= count_; ++n) {
+    if ((n - 1) % Stride == 0) TienTrinhNap();
+    const auto line = static_cast<std::size_t>(n - 1);
+    if (starts_[line + 1] - starts_[line] > LongestMarkerLine) continue;
+    const std::string_view word = Chu(n);
+    if (word.size() != 1 || !Marker.has(word[0])) continue;
+    if (letters == LetterSlots) {
+      failAtLine(path, n,
+                 "the word list has more than " + std::to_string(LetterSlots) +
+                     " lines of one letter");
+    }
+    ChiSoChu[letters++] = n;
+  }
+  ChiSoChu.back() = count_ + 1;
+}
+
+std::string_view WordList::Chu(int i) const noexcept {
+  if (i < 1 || i > count_) return {};
+  const auto line = static_cast<std::size_t>(i - 1);
+  const auto from = static_cast<std::size_t>(starts_[line]);
+  const auto to = static_cast<std::size_t>(starts_[line + 1]);
+  return withoutLineEnd({text_.data() + from, to - from});
+}
+
+void WordList::examineCarets() {
+  risingTo_ = 1;
+  while (risingTo_ < WordCount && ViTriDanhSach(risingTo_ + 1) >= ViTriDanhSach(risingTo_)) {
+    ++risingTo_;
+  }
+}
+
+int WordList::lineAt(int caret) const {
+  int low = 1;
+  int high = risingTo_ + 1;
+  while (low < high) {
+    const int middle = low + (high - low) / 2;
+    if (ViTriDanhSach(middle) > caret) {
+      high = middle;
+    } else {
+      low = middle + 1;
+    }
+  }
+  // Behind the rising carets, which end early in a short list, there is no order to go by.
+  while (low < WordCount && ViTriDanhSach(low) <= caret)
+    ++low;
+  return std::min(low, WordCount);
+}
+
+} // namespace talvora

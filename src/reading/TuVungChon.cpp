@@ -1,0 +1,315 @@
+#include "reading/TuVungChon.h"
+
+#include "text/Bytes.h"
+#include "text/CharClass.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour BodyColour = 0x750000;
+constexpr Colour Red = 255;
+constexpr Colour ScrollBarColour = 0x80000000;
+constexpr int ProblemMs = 10000;
+
+} // namespace
+
+bool CoSoVaChu(std::string_view text) {
+  constexpr CharClass digits("[0-9]");
+  constexpr CharClass smallLetters("[a-z]");
+  const auto holds = [text](const CharClass& wanted) {
+    return std::any_of(text.begin(), text.end(), [&](char each) { return wanted.has(each); });
+  };
+  return holds(digits) && holds(smallLetters);
+}
+
+TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+                       PageServices services, ReadingText& text)
+    : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
+      text_(text), file_(stores.vocabularyPath()) {
+  wireEvents();
+}
+
+// -- The list in memory and on disk.
+
+void TuVungChon::NapTuVung() {
+  file_ = VocabularyFile(stores_.vocabularyPath());
+  TuVung_ = file_.read();
+}
+
+void TuVungChon::LuuTuVung() {
+  if (DaDoiTuVung_) store();
+}
+
+void TuVungChon::store() {
+  const auto problem = file_.write(TuVung_);
+  DaDoiTuVung_ = problem.has_value();
+  if (problem) shell_.messages.ThongBao(*problem, ProblemMs);
+}
+
+bool TuVungChon::CoTuVung() {
+  const std::string wanted = lower(state_.word.TuHienTai);
+  const auto found = std::find_if(TuVung_.begin(), TuVung_.end(), [&](const VocabularyWord& each) {
+    return lower(trim(each.Tu)) == wanted;
+  });
+  if (found == TuVung_.end()) return false;
+  TuVungDangXem_ = *found;
+  return true;
+}
+
+void TuVungChon::ThemTuVung() {
+  const std::string& word = state_.word.TuHienTai;
+  if (word.empty() || word.size() > VocabularyWord::LongestWord || CoTuVung()) return;
+  DaDoiTuVung_ = true;
+  // Looking for the sentence must not turn the word at hand into a sentence.
+  const std::string message = state_.word.ThongBaoHD;
+  const int k = text_.CauTaiViTri(state_.word.ViTriCaret + 1);
+  state_.word.ThongBaoHD = message;
+  const std::int32_t place = state_.text.ViTriCauTrongFile.at(static_cast<std::size_t>(k - 1));
+  const bool speaking = stores_.FileChiSo == file::SpeakingPositions;
+  TuVung_.push_back(
+      {paddedWord(word.front() == 'I' ? word : lower(word)), speaking ? -place : place});
+}
+
+// -- The section.
+
+void TuVungChon::open() {
+  Surface& Rchon = controls_.Rchon;
+  Rchon.BackColor(ScrollBarColour);
+  stores_.ChonKho(file::TextPositions);
+  ensureListBuilt();
+  if (TuVung_.empty()) {
+    shell_.messages.ThongBao("Bän chŸa chön tÙ vÜng trong bài ðöc."_bytes, 2000);
+    leaveList();
+    return;
+  }
+  CurrentWord& word = state_.word;
+  word.NghiaHienTai.clear();
+  word.ViTriCaret = 0;
+  word.CoDupChuot = false;
+  controls_.RHD.FontBold(false);
+  Rchon.Text("");
+  Rchon.FontSize(state_.measures.CoChu - 1);
+  shell_.transitions.MoRan(Rchon, controls_.Frame1);
+  HienTuVung();
+  word.TuHienTai.clear();
+  Rchon.SetFocus();
+  word.ViTriCaret = Rchon.SelStart();
+  shell_.gestures.remindOnFirstOpening(state_.places.MucMenu, Rchon);
+}
+
+void TuVungChon::HienTuVung() {
+  std::string& list = state_.text.CauHoi;
+  list.clear();
+  for (int row = 1; row <= SoTuVung(); ++row) {
+    list += std::to_string(row) + "\t\t";
+    list += trim(TuVung_[static_cast<std::size_t>(row - 1)].Tu);
+    list += '\r';
+  }
+  Surface& Rchon = controls_.Rchon;
+  Rchon.Text("");
+  Rchon.SelColor(BodyColour);
+  Rchon.SelBold(state_.measures.largeScreen());
+  Rchon.SelText(list);
+  Rchon.SelStart(0);
+}
+
+void TuVungChon::ExitRChon() {
+  state_.word.NghiaHienTai.clear();
+  if (controls_.RHD.Visible()) shell_.upward.DongNghia();
+  leaveList();
+  shell_.transitions.DongRan(controls_.Rchon, controls_.Frame1);
+  controls_.Frame2.Visible(false);
+  controls_.Frame3.Visible(false);
+  state_.word.DaChonRTD = false;
+  focusButton();
+}
+
+void TuVungChon::leaveList() {
+  controls_.R1.Visible(false);
+  controls_.R1.Top(state_.measures.CaoMH + 300);
+  forgetList();
+}
+
+// -- Rows.
+
+int TuVungChon::rowOf(int caret) const {
+  return controls_.Rchon.GetLineFromChar(std::max(caret, 1)) + 1;
+}
+
+void TuVungChon::ChonDongChon() {
+  Surface& Rchon = controls_.Rchon;
+  const int row = rowOf(Rchon.SelStart());
+  if (row > SoTuVung()) return;
+  TuVungDangXem_ = TuVung_[static_cast<std::size_t>(row - 1)];
+  const std::string word(trim(TuVungDangXem_.Tu));
+  const std::string& list = state_.text.CauHoi;
+  // A caret on a line end belongs to the line behind it.
+  auto from = static_cast<std::size_t>(std::max(Rchon.SelStart(), 1));
+  if (from <= list.size() && list[from - 1] == '\r') ++from;
+  const auto lineEnd = list.find('\r', from - 1);
+  if (lineEnd == std::string::npos) return;
+  const int caret = static_cast<int>(lineEnd - word.size());
+  Rchon.SelStart(caret);
+  state_.word.ViTriCaret = caret;
+  Rchon.SelLength(static_cast<int>(word.size()));
+  state_.word.TuHienTai = word;
+}
+
+void TuVungChon::TraTuVung() {
+  shell_.upward.DongNghia();
+  state_.word.NghiaHienTai.clear();
+  state_.word.DaChonRTD = false;
+  controls_.Rchon.SelStart(state_.word.ViTriCaret);
+  ChonDongChon();
+  services_.dictionary.TraTu();
+  ChonDongChon();
+}
+
+void TuVungChon::XemCau() {
+  ChonDongChon();
+  services_.dictionary.popup().XemCauTuVung = true;
+  DocCauTuVung();
+  services_.dictionary.TraTu();
+  state_.word.CoDupChuot = false;
+}
+
+void TuVungChon::DocCauTuVung() {
+  const std::int32_t place = TuVungDangXem_.ViTriCauTu;
+  const int stream = place < 0 ? file::SpeakingTexts : file::Texts;
+  ChuoiCau_.clear();
+  PieceReader reader(stores_.fileOf(stream), std::abs(static_cast<std::int64_t>(place)));
+  while (const auto piece = reader.next()) {
+    if (*piece == "`" || *piece == "@" || *piece == "\r" || *piece == "_") break;
+    if (*piece == "\t") continue;
+    ChuoiCau_ += *piece == "|" ? " " : *piece;
+  }
+  state_.word.NghiaHienTai = ChuoiCau_;
+  state_.word.TuHienTai = ChuoiCau_;
+}
+
+void TuVungChon::VeCauTuVung(const std::string& text) {
+  services_.dictionary.popup().writeMessage(text);
+  const std::string w = lower(trim(TuVungDangXem_.Tu));
+  const std::string s = lower(trim(text));
+  const std::array<std::string, 6> forms = {" " + w + " ", " " + w + ".", " " + w + ",",
+                                            w + " ",       " " + w,       "\"" + w};
+  for (const std::string& form : forms) {
+    const auto place = s.find(form);
+    if (place == std::string::npos) continue;
+    controls_.RHD.SelStart(static_cast<int>(place));
+    controls_.RHD.SelLength(static_cast<int>(w.size()) + 1);
+    controls_.RHD.SelColor(Red);
+    break;
+  }
+  controls_.RHD.SelStart(0);
+  services_.dictionary.popup().XemCauTuVung = false;
+  shell_.messages.VeKhung();
+}
+
+void TuVungChon::XoaTuVung() {
+  const Surface& Rchon = controls_.Rchon;
+  const int first = rowOf(Rchon.SelStart());
+  const int last = rowOf(Rchon.SelStart() + Rchon.SelLength() - 1);
+  const std::string question =
+      first == last ? "Xoa tu vung " + std::to_string(first) + " khong?"
+                    : "Xoa cac tu vung " + std::to_string(first) + " - " + std::to_string(last) +
+                          " khong?";
+  if (shell_.messages.XacNhan(question, "no")) removeRows(first, last);
+}
+
+void TuVungChon::removeRows(int first, int last) {
+  const auto at = [this](int row) {
+    return TuVung_.begin() + std::clamp(row, 0, SoTuVung());
+  };
+  TuVung_.erase(at(first - 1), at(last));
+  store();
+  if (TuVung_.empty()) {
+    ExitRChon();
+    return;
+  }
+  HienTuVung();
+  controls_.Rchon.SetFocus();
+}
+
+// -- Events.
+
+void TuVungChon::wireEvents() {
+  Surface& Rchon = controls_.Rchon;
+  CurrentWord& word = state_.word;
+  services_.dictionary.popup().VeCauTuVung = [this](const std::string& text) {
+    VeCauTuVung(text);
+  };
+  shell_.focusReturn.onReturnTo(Rchon, [this, &Rchon, &word] {
+    Rchon.SelStart(word.ViTriCaret);
+    Rchon.SetFocus();
+    ChonDongChon();
+  });
+  Rchon.MouseDown = [this](MouseButton, int, SurfacePoint) { shell_.upward.DongNghia(); };
+  Rchon.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
+  Rchon.MouseMove = [this, &Rchon](int, SurfacePoint at) {
+    shell_.gestures.followPointer(Rchon, at);
+  };
+  Rchon.DblClick = [this, &word] {
+    shell_.upward.DongNghia();
+    word.CoDupChuot = true;
+  };
+  Rchon.KeyDown = [this, &Rchon](int& KeyCode, int) { shell_.hints.showOnF2(KeyCode, Rchon); };
+  Rchon.KeyPress = [this](int& KeyAscii) {
+    const int pressed = std::exchange(KeyAscii, 0);
+    if (pressed == key::Esc) {
+      if (!shell_.gestures.DongPhu(controls_.Rchon)) ExitRChon();
+    } else if (Letters.has(chr(pressed))) {
+      services_.dictionary.MoDanhSachTu(chr(pressed));
+    }
+  };
+  Rchon.KeyUp = [this, &Rchon](int&, int) {
+    shell_.gestures.keyReleased();
+    state_.word.ViTriCaret = Rchon.SelStart();
+    if (Rchon.Visible()) shell_.upward.DongNghia();
+  };
+  Rchon.SelChange = [this, &Rchon, &word] {
+    if (Rchon.SelLength() == 0) word.TuHienTai.clear();
+  };
+}
+
+void TuVungChon::releaseMouse(MouseButton button, SurfacePoint at) {
+  CurrentWord& word = state_.word;
+  word.ViTriChuot = at;
+  word.ViTriCaret = controls_.Rchon.SelStart();
+  ChuoiCau_.clear();
+  if (CoSoVaChu(controls_.Rchon.SelText())) {
+    XoaTuVung();
+  } else if (button == MouseButton::Right) {
+    if (!word.TuHienTai.empty()) services_.speech.DocTu();
+  } else if (word.CoDupChuot) {
+    XemCau();
+  } else {
+    TraTuVung();
+  }
+}
+
+void TuVungChon::declare(Variables& variables) const {
+  variables.add("SoTuVung", [this] { return VariableValue(SoTuVung()); });
+  variables.add("DaDoiTuVung", &DaDoiTuVung_);
+  variables.add("ChuoiCau", &ChuoiCau_);
+  const auto record = [](const VocabularyWord& word) {
+    return VariableValue(VariableValue::Record{{"Tu", VariableValue(word.Tu)},
+                                               {"ViTriCauTu", VariableValue(word.ViTriCauTu)}});
+  };
+  variables.add("TuVungDangXem", [this, record] { return record(TuVungDangXem_); });
+  variables.add("TuVung", [this, record] {
+    // Words count from 1; element 0 is never used.
+    VariableValue::Table table{record({})};
+    for (const VocabularyWord& word : TuVung_) table.push_back(record(word));
+    return VariableValue(std::move(table));
+  });
+}
+
+} // namespace talvora

@@ -1,0 +1,359 @@
+// Text, selection and attributes of a surface.
+#include "surface/Surface.h"
+
+#include "platform/Files.h"
+#include "surface/LineEnds.h"
+#include "surface/RichText.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace talvora {
+
+Surface::Surface(std::string name, ControlHost& host, const LineLayout& layout)
+    : Control(std::move(name), host), layout_(layout) {
+  setWholeText({});
+}
+
+// -- The text as a whole.
+
+std::string Surface::Text() const {
+  return text_.between(0, text_.length());
+}
+
+void Surface::Text(std::string_view text) {
+  const int fitting = text_.room(text.size(), text_.length());
+  text_.assign(text);
+  setWholeText(text.substr(0, static_cast<std::size_t>(fitting)));
+  textChanged();
+}
+
+int Surface::TextLength() const noexcept {
+  return text_.length();
+}
+
+std::string Surface::TextBetween(int from, int to) const {
+  const int first = clampCaret(from);
+  return text_.between(first, std::max(first, clampCaret(to)));
+}
+
+char Surface::CharAt(int caret) const noexcept {
+  return caret >= 0 && caret < text_.length() ? text_.at(caret) : '\0';
+}
+
+StyledText Surface::TextRTF() const {
+  return {Text(), runs(), paragraphs()};
+}
+
+void Surface::TextRTF(const StyledText& text) {
+  text_.assign(text.text);
+  setWholeText(text.text);
+  for (const StyledRun& run : text.runs) {
+    const int from = clampCaret(run.from);
+    const int to = std::max(from, clampCaret(run.to));
+    runs_.replace(from, to, to - from, styles_.idOf(run.style));
+  }
+  for (const StyledParagraph& each : text.paragraphs) {
+    paragraphs_.style(paragraphOf(clampCaret(each.from)), paragraphStyles_.idOf(each.style));
+  }
+  textChanged();
+}
+
+void Surface::LoadFile(const std::string& path) {
+  const auto file = MappedFile::open(path);
+  if (looksLikeRichText(file->text())) {
+    TextRTF(readRichText(file->text(), Font()));
+    return;
+  }
+  text_.adopt(file);
+  setWholeText(file->text());
+  textChanged();
+}
+
+// Makes everything beside the text new: one style, no selection, the first line in view.
+void Surface::setWholeText(std::string_view text) {
+  styles_.clear();
+  paragraphStyles_.clear();
+  runs_.assign(text_.length(), styles_.idOf(defaultStyle_));
+  paragraphs_.assign(text, paragraphStyles_.idOf({}));
+  pendingStyle_.reset();
+  columnX_.reset();
+  unshownCarets_.clear();
+  scroll_ = {};
+  anchor_ = 0;
+}
+
+void Surface::textChanged() {
+  const bool hadSelection = std::exchange(selStart_, 0) != 0;
+  const bool hadLength = std::exchange(selLength_, 0) != 0;
+  ++revision_;
+  changed(ControlChange::Text);
+  if (Change) Change();
+  if ((hadSelection || hadLength) && SelChange) SelChange();
+}
+
+void Surface::replaceText(int from, int to, std::string_view text, const CharStyle& style) {
+  const int added = text_.room(text.size(), to - from);
+  const std::string_view fitting = text.substr(0, static_cast<std::size_t>(added));
+  const StyleId id = styles_.idOf(style);
+  text_.replace(from, to, fitting);
+  runs_.replace(from, to, added, id);
+  paragraphs_.replaced(from, to, fitting, text_);
+  const ScrollPlace before = scroll_;
+  scroll_.paragraph = std::min(scroll_.paragraph, paragraphs_.count() - 1);
+  if (scroll_.paragraph != before.paragraph) scroll_.offset = 0;
+  ++revision_;
+}
+
+// -- Defaults for new text.
+
+void Surface::FontName(std::string name) {
+  defaultStyle_.font.name = std::move(name);
+  defaultsChanged();
+}
+
+void Surface::FontSize(double points) {
+  defaultStyle_.font.size = points;
+  defaultsChanged();
+}
+
+void Surface::FontBold(bool bold) {
+  defaultStyle_.font.bold = bold;
+  defaultsChanged();
+}
+
+void Surface::defaultsChanged() {
+  ++revision_;
+  changed(ControlChange::Look);
+}
+
+// -- Caret and selection.
+
+int Surface::clampCaret(long long caret) const noexcept {
+  return static_cast<int>(std::clamp<long long>(caret, 0, text_.length()));
+}
+
+void Surface::SelStart(int caret) {
+  const int place = clampCaret(caret);
+  pendingStyle_.reset();
+  columnX_.reset();
+  anchor_ = place;
+  bringIntoView(place);
+  select(place, 0);
+}
+
+void Surface::SelLength(int length) {
+  const int end = clampCaret(static_cast<long long>(selStart_) + std::max(length, 0));
+  if (end - selStart_ != selLength_) pendingStyle_.reset();
+  anchor_ = selStart_;
+  select(selStart_, end - selStart_);
+}
+
+void Surface::select(int start, int length) {
+  if (start == selStart_ && length == selLength_) return;
+  selStart_ = start;
+  selLength_ = length;
+  changed(ControlChange::Selection);
+  if (SelChange) SelChange();
+}
+
+void Surface::SelText(std::string_view text) {
+  const CharStyle style = selLength_ > 0 ? styleAt(selStart_) : insertionStyle();
+  const std::string own(text);
+  const int length = text_.length() - selLength_;
+  replaceText(selStart_, selStart_ + selLength_, own, style);
+  pendingStyle_ = style;
+  columnX_.reset();
+  const int start = std::exchange(selStart_, selStart_ + text_.length() - length);
+  const bool selectionMoved = start != selStart_ || selLength_ != 0;
+  selLength_ = 0;
+  anchor_ = selStart_;
+  changed(ControlChange::Text);
+  if (Change) Change();
+  if (selectionMoved && SelChange) SelChange();
+}
+
+void Surface::Span(std::string_view characters, SpanDirection direction, SpanUntil until) {
+  const auto stops = [&](char character) {
+    const bool inSet = characters.find(character) != std::string_view::npos;
+    return until == SpanUntil::InSet ? inSet : !inSet;
+  };
+  int start = selStart_;
+  int end = selStart_ + selLength_;
+  if (direction == SpanDirection::Forward) {
+    while (end < text_.length() && !stops(text_.at(end))) ++end;
+  } else {
+    while (start > 0 && !stops(text_.at(start - 1))) --start;
+  }
+  anchor_ = start;
+  select(start, end - start);
+}
+
+// -- Attributes of characters.
+
+const CharStyle& Surface::styleAt(int caret) const {
+  return styles_[runs_.styleAt(caret)];
+}
+
+const CharStyle& Surface::insertionStyle() const {
+  if (pendingStyle_) return *pendingStyle_;
+  if (text_.length() == 0) return defaultStyle_;
+  const bool opensParagraph = paragraphStart(paragraphOf(selStart_)) == selStart_;
+  const bool hasTextBehind = selStart_ < text_.length();
+  return styleAt((opensParagraph && hasTextBehind) || selStart_ == 0 ? selStart_ : selStart_ - 1);
+}
+
+const CharStyle& Surface::selStyle() const {
+  return selLength_ > 0 ? styleAt(selStart_) : insertionStyle();
+}
+
+template <class Edit>
+void Surface::changeStyle(Edit edit) {
+  if (selLength_ == 0) {
+    CharStyle style = insertionStyle();
+    edit(style);
+    pendingStyle_ = std::move(style);
+    return;
+  }
+  const int end = selStart_ + selLength_;
+  for (int from = selStart_; from < end;) {
+    const int run = runs_.runOf(from);
+    const int to = std::min(end, runs_.start(run + 1));
+    CharStyle style = styles_[runs_.style(run)];
+    edit(style);
+    runs_.replace(from, to, to - from, styles_.idOf(style));
+    from = to;
+  }
+  ++revision_;
+  changed(ControlChange::Look);
+}
+
+void Surface::SelColor(Colour colour) {
+  changeStyle([colour](CharStyle& style) { style.color = colour; });
+}
+
+void Surface::SelFontName(const std::string& name) {
+  changeStyle([&name](CharStyle& style) { style.font.name = name; });
+}
+
+void Surface::SelFontSize(double points) {
+  changeStyle([points](CharStyle& style) { style.font.size = points; });
+}
+
+void Surface::SelBold(bool bold) {
+  changeStyle([bold](CharStyle& style) { style.font.bold = bold; });
+}
+
+void Surface::SelItalic(bool italic) {
+  changeStyle([italic](CharStyle& style) { style.italic = italic; });
+}
+
+void Surface::SelUnderline(bool underline) {
+  changeStyle([underline](CharStyle& style) { style.underline = underline; });
+}
+
+void Surface::SelProtected(bool isProtected) {
+  changeStyle([isProtected](CharStyle& style) { style.protectedText = isProtected; });
+}
+
+// -- Attributes of paragraphs.
+
+ParagraphStyle Surface::selParagraphStyle() const {
+  return paragraphStyles_[paragraphs_.style(paragraphOf(selStart_))];
+}
+
+template <class Edit>
+void Surface::changeParagraphs(Edit edit) {
+  const int first = paragraphOf(selStart_);
+  // A selection that ends at a paragraph's start does not touch that paragraph.
+  const int last = selLength_ == 0 ? first : paragraphOf(selStart_ + selLength_ - 1);
+  for (int each = first; each <= last; ++each) {
+    ParagraphStyle style = paragraphStyles_[paragraphs_.style(each)];
+    edit(style);
+    paragraphs_.style(each, paragraphStyles_.idOf(style));
+  }
+  ++revision_;
+  changed(ControlChange::Look);
+}
+
+void Surface::SelAlignment(Alignment alignment) {
+  changeParagraphs([alignment](ParagraphStyle& style) { style.align = alignment; });
+}
+
+void Surface::SelIndent(double twips) {
+  changeParagraphs([twips](ParagraphStyle& style) { style.indent = twips; });
+}
+
+void Surface::SelBullet(bool bullet) {
+  changeParagraphs([bullet](ParagraphStyle& style) { style.bullet = bullet; });
+}
+
+// -- What a front paints and a test compares.
+
+int Surface::paragraphCount() const noexcept {
+  return paragraphs_.count();
+}
+
+int Surface::paragraphOf(int caret) const noexcept {
+  return paragraphs_.paragraphOf(clampCaret(caret));
+}
+
+int Surface::paragraphStart(int paragraph) const noexcept {
+  return paragraph <= 0 ? 0 : paragraphs_.start(std::min(paragraph, paragraphs_.count()));
+}
+
+ParagraphContent Surface::paragraph(int index) const {
+  const int start = paragraphStart(index);
+  const int end = paragraphStart(index + 1);
+  ParagraphContent content;
+  content.text = withoutLineEnd(text_.between(start, end));
+  content.style = paragraphStyles_[paragraphs_.style(index)];
+  const int textEnd = start + static_cast<int>(content.text.size());
+  for (int from = start; from < textEnd;) {
+    const int run = runs_.runOf(from);
+    content.styles.push_back(styles_[runs_.style(run)]);
+    content.runStarts.push_back(from - start);
+    from = runs_.start(run + 1);
+  }
+  if (content.styles.empty()) {
+    // An empty line is as high as its line end, or as what would be written there.
+    content.styles.push_back(start < text_.length() ? styleAt(start) : defaultStyle_);
+    content.runStarts.push_back(0);
+  }
+  return content;
+}
+
+std::vector<StyledRun> Surface::runs() const {
+  std::vector<StyledRun> all;
+  all.reserve(static_cast<std::size_t>(runs_.count()));
+  for (int run = 0; run < runs_.count(); ++run) {
+    all.push_back({runs_.start(run), runs_.start(run + 1), styles_[runs_.style(run)]});
+  }
+  return all;
+}
+
+std::vector<StyledParagraph> Surface::paragraphs() const {
+  std::vector<StyledParagraph> all;
+  all.reserve(static_cast<std::size_t>(paragraphs_.count()));
+  for (int each = 0; each < paragraphs_.count(); ++each) {
+    all.push_back({paragraphStart(each), paragraphStart(each + 1),
+                   paragraphStyles_[paragraphs_.style(each)]});
+  }
+  return all;
+}
+
+void Surface::Check() const {
+  text_.Check();
+  runs_.Check();
+  paragraphs_.Check(text_);
+  if (runs_.length() != text_.length()) throw std::logic_error("runs do not cover the text");
+  if (selStart_ < 0 || selLength_ < 0 || selStart_ + selLength_ > text_.length()) {
+    throw std::logic_error("the selection lies outside the text");
+  }
+  if (scroll_.paragraph < 0 || scroll_.paragraph >= paragraphs_.count() || scroll_.offset < 0) {
+    throw std::logic_error("the surface is scrolled to no paragraph");
+  }
+}
+
+} // namespace talvora

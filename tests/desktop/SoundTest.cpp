@@ -1,0 +1,326 @@
+// Speech and wave playing of the desktop, heard by a device that only counts.
+#include "desktop/FliteSpeech.h"
+#include "desktop/PcmPlayer.h"
+#include "desktop/WaveOutput.h"
+
+#include <gtest/gtest.h>
+#include <sndfile.hh>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <unistd.h>
+
+namespace talvora {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int Rate = 16000;
+/// Far beyond what any machine needs; only a hang gets there.
+constexpr auto Patience = 60s;
+
+/// What the devices of a test were given.
+class Heard {
+ public:
+  void add(std::span<const std::int16_t> samples, int rate) {
+    const std::lock_guard lock(mutex_);
+    samples_.insert(samples_.end(), samples.begin(), samples.end());
+    rate_ = rate;
+  }
+  void silence() {
+    const std::lock_guard lock(mutex_);
+    ++silences_;
+  }
+  [[nodiscard]] Samples samples() const {
+    const std::lock_guard lock(mutex_);
+    return samples_;
+  }
+  [[nodiscard]] std::size_t count() const { return samples().size(); }
+  [[nodiscard]] int silences() const {
+    const std::lock_guard lock(mutex_);
+    return silences_;
+  }
+  [[nodiscard]] int rate() const {
+    const std::lock_guard lock(mutex_);
+    return rate_;
+  }
+
+ private:
+  mutable std::mutex mutex_;
+  Samples samples_;
+  int silences_ = 0;
+  int rate_ = 0;
+};
+
+class CountingDevice final : public PcmDevice {
+ public:
+  CountingDevice(Heard& heard, std::size_t room) : heard_(heard), room_(room) {}
+
+  std::size_t write(std::span<const std::int16_t> samples, int rate) override {
+    const auto taken = std::min(samples.size(), room_);
+    heard_.add(samples.first(taken), rate);
+    return taken;
+  }
+  void silence() override { heard_.silence(); }
+
+ private:
+  Heard& heard_;
+  std::size_t room_;
+};
+
+PcmPlayer::MakeDevice counting(Heard& heard, std::size_t room = Rate) {
+  return [&heard, room] { return std::make_unique<CountingDevice>(heard, room); };
+}
+
+template <class Condition>
+bool comesTrue(Condition condition) {
+  const auto until = std::chrono::steady_clock::now() + Patience;
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > until) return false;
+    std::this_thread::sleep_for(1ms);
+  }
+  return true;
+}
+
+Samples rising(int count) {
+  Samples samples;
+  for (int place = 0; place < count; ++place)
+    samples.push_back(static_cast<std::int16_t>(place));
+  return samples;
+}
+
+// -- The clock and the player.
+
+TEST(PlayClock, SoundsFollowEachOther) {
+  PlayClock clock;
+  const PlayClock::Moment start(10s);
+  EXPECT_FALSE(clock.isPlaying(start));
+  clock.add(start, Rate, Rate);
+  clock.add(start + 200ms, Rate / 2, Rate);
+  EXPECT_TRUE(clock.isPlaying(start + 1499ms));
+  EXPECT_FALSE(clock.isPlaying(start + 1500ms));
+  clock.add(start + 5s, Rate, Rate);
+  EXPECT_TRUE(clock.isPlaying(start + 5999ms));
+  EXPECT_FALSE(clock.isPlaying(start + 6000ms));
+  clock.add(start + 10s, Rate, Rate);
+  clock.stop(start + 10100ms);
+  EXPECT_FALSE(clock.isPlaying(start + 10100ms));
+}
+
+TEST(PcmPlayer, TheDeviceGetsEverySampleInOrder) {
+  Heard heard;
+  PcmPlayer player(counting(heard));
+  player.play(rising(3000), Rate);
+  player.play(rising(500), Rate);
+  ASSERT_TRUE(comesTrue([&] { return heard.count() >= 3500; }));
+  Samples expected = rising(3000);
+  const Samples second = rising(500);
+  expected.insert(expected.end(), second.begin(), second.end());
+  EXPECT_EQ(heard.samples(), expected);
+  EXPECT_EQ(heard.rate(), Rate);
+}
+
+TEST(PcmPlayer, ADeviceThatTakesLittleAtATimeGetsEverySampleToo) {
+  Heard heard;
+  PcmPlayer player(counting(heard, 7));
+  player.play(rising(1000), Rate);
+  ASSERT_TRUE(comesTrue([&] { return heard.count() >= 1000; }));
+  EXPECT_EQ(heard.samples(), rising(1000));
+}
+
+TEST(PcmPlayer, StoppingSilencesTheDeviceAndDropsTheRest) {
+  Heard heard;
+  PcmPlayer player(counting(heard, 0));
+  player.play(Samples(600 * Rate), Rate);
+  EXPECT_TRUE(player.isPlaying());
+  player.stop();
+  EXPECT_FALSE(player.isPlaying());
+  EXPECT_TRUE(comesTrue([&] { return heard.silences() == 1; }));
+  EXPECT_EQ(heard.count(), 0U);
+}
+
+TEST(PcmPlayer, WithoutADeviceTheTimingStays) {
+  PcmPlayer player({});
+  player.play(Samples(600 * Rate), Rate);
+  EXPECT_TRUE(player.isPlaying());
+  player.stop();
+  EXPECT_FALSE(player.isPlaying());
+  player.play(rising(Rate / 100), Rate);
+  EXPECT_TRUE(comesTrue([&] { return !player.isPlaying(); }));
+}
+
+TEST(PcmPlayer, ItEndsWhileItPlays) {
+  Heard heard;
+  PcmPlayer player(counting(heard, 0));
+  player.play(Samples(600 * Rate), Rate);
+}
+
+// -- Speech.
+
+constexpr int Clearest = 4;
+
+/// Samples of a text at a speed, once the engine has no more to say.
+std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times = 1) {
+  Heard heard;
+  FliteSpeech speech(counting(heard));
+  EXPECT_TRUE(speech.Select(Clearest));
+  speech.Speed(wordsPerMinute);
+  for (int time = 0; time < times; ++time)
+    speech.Speak(text);
+  EXPECT_TRUE(speech.IsSpeaking());
+  EXPECT_TRUE(comesTrue([&] { return !speech.IsSpeaking(); }));
+  std::size_t count = 0;
+  // The device is fed on a thread of its own and may be a little behind.
+  comesTrue([&] {
+    const std::size_t before = std::exchange(count, heard.count());
+    std::this_thread::sleep_for(100ms);
+    return before == heard.count() && before > 0;
+  });
+  return heard.count();
+}
+
+TEST(FliteSpeech, VoicesAreNumberedFromOne) {
+  FliteSpeech speech({});
+  EXPECT_FALSE(speech.Select(0));
+  for (int voice = 1; voice <= Clearest; ++voice)
+    EXPECT_TRUE(speech.Select(voice)) << voice;
+  EXPECT_FALSE(speech.Select(Clearest + 1));
+}
+
+TEST(FliteSpeech, SlowAndFastFollowTheSpeed) {
+  const auto slow = static_cast<double>(spokenSamples("go", 50));
+  const auto fast = static_cast<double>(spokenSamples("go", 230));
+  EXPECT_GT(fast, 0);
+  EXPECT_NEAR(slow / fast, 230.0 / 50.0, 0.6);
+}
+
+TEST(FliteSpeech, ASecondTextQueuesBehindTheFirst) {
+  EXPECT_EQ(spokenSamples("go", 230, 2), 2 * spokenSamples("go", 230));
+}
+
+TEST(FliteSpeech, StoppingEndsWhatIsQueued) {
+  FliteSpeech speech({});
+  speech.Speed(50);
+  for (int time = 0; time < 100; ++time)
+    speech.Speak("a sentence that takes its time");
+  EXPECT_TRUE(speech.IsSpeaking());
+  speech.StopSpeaking();
+  EXPECT_FALSE(speech.IsSpeaking());
+  speech.StopSpeaking();
+}
+
+TEST(FliteSpeech, ABlankTextIsNotSpoken) {
+  FliteSpeech speech({});
+  speech.Speak("");
+  speech.Speak("  ");
+  EXPECT_FALSE(speech.IsSpeaking());
+}
+
+TEST(FliteSpeech, ItEndsWhileItSpeaks) {
+  FliteSpeech speech({});
+  speech.Speak("a sentence that nobody will hear to its end");
+}
+
+// -- Waves.
+
+/// A wave file in which sample n of the first channel has the value n, and the second is silent.
+class WaveFile {
+ public:
+  WaveFile(int frames, int rate, int channels)
+      : path_(std::filesystem::temp_directory_path() /
+              ("talvora-sound-" + std::to_string(getpid()) + ".wav")) {
+    SndfileHandle file(path_.string(), SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, channels, rate);
+    Samples samples(static_cast<std::size_t>(frames * channels));
+    for (int frame = 0; frame < frames; ++frame) {
+      samples[static_cast<std::size_t>(frame * channels)] = static_cast<std::int16_t>(frame);
+    }
+    file.writef(samples.data(), frames);
+  }
+  WaveFile(const WaveFile&) = delete;
+  WaveFile& operator=(const WaveFile&) = delete;
+  ~WaveFile() { std::filesystem::remove(path_); }
+
+  [[nodiscard]] std::string path() const { return path_.string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+TEST(WaveOutput, AStretchIsPlayedFromMarkToMark) {
+  const WaveFile file(2000, 1000, 1);
+  Heard heard;
+  WaveOutput wave(counting(heard));
+  wave.Open(file.path());
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+  wave.Play(100, 350);
+  ASSERT_TRUE(comesTrue([&] { return heard.count() >= 250; }));
+  ASSERT_TRUE(comesTrue([&] { return wave.Mode() == WavePlayer::Stopped; }));
+  const Samples samples = heard.samples();
+  ASSERT_EQ(samples.size(), 250U);
+  EXPECT_EQ(samples.front(), 100);
+  EXPECT_EQ(samples.back(), 349);
+  EXPECT_EQ(heard.rate(), 1000);
+}
+
+TEST(WaveOutput, AStretchEndsWithTheFile) {
+  const WaveFile file(300, 1000, 1);
+  Heard heard;
+  WaveOutput wave(counting(heard));
+  wave.Open(file.path());
+  wave.Play(200, 5000);
+  ASSERT_TRUE(comesTrue([&] { return heard.count() >= 100; }));
+  ASSERT_TRUE(comesTrue([&] { return wave.Mode() == WavePlayer::Stopped; }));
+  EXPECT_EQ(heard.count(), 100U);
+}
+
+TEST(WaveOutput, ChannelsAreMixedToOne) {
+  const WaveFile file(1000, 1000, 2);
+  Heard heard;
+  WaveOutput wave(counting(heard));
+  wave.Open(file.path());
+  wave.Play(100, 110);
+  ASSERT_TRUE(comesTrue([&] { return heard.count() >= 10; }));
+  EXPECT_EQ(heard.samples(), (Samples{50, 50, 51, 51, 52, 52, 53, 53, 54, 54}));
+}
+
+TEST(WaveOutput, AStretchWithoutLengthPlaysNothing) {
+  const WaveFile file(2000, 1000, 1);
+  WaveOutput wave({});
+  wave.Open(file.path());
+  wave.Play(500, 500);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+  wave.Play(500, 0);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+}
+
+TEST(WaveOutput, StoppingAndClosingEndTheStretch) {
+  const WaveFile file(30000, 100, 1);
+  WaveOutput wave({});
+  wave.Open(file.path());
+  wave.Play(1, 300000);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Playing);
+  wave.Stop();
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+  wave.Play(1, 300000);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Playing);
+  wave.Close();
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+  wave.Play(1, 300000);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+}
+
+TEST(WaveOutput, AFileThatIsMissingOrNoWavePlaysNothing) {
+  WaveOutput wave({});
+  wave.Play(1, 1000);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+  wave.Open("/nowhere/1.wav");
+  wave.Play(1, 1000);
+  EXPECT_EQ(wave.Mode(), WavePlayer::Stopped);
+}
+
+} // namespace
+} // namespace talvora

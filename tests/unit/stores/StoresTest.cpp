@@ -1,0 +1,157 @@
+#include "stores/Stores.h"
+
+#include "platform/FatalFailure.h"
+#include "stores/VocabularyFile.h"
+#include "support/TestFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace talvora {
+namespace {
+
+using test::TestFolder;
+
+class StoresTest : public testing::Test {
+ protected:
+  StoresTest() {
+    folder.writeEmptyStores();
+    places.ThuMuc = folder.path();
+  }
+
+  TestFolder folder;
+  Places places;
+  Stores stores{places};
+};
+
+TEST_F(StoresTest, IntegersAreSignedAndLittleEndian) {
+  folder.write("data.vt", std::string("\x01\x02\x03\x04\xFF\xFF\xFF\xFF", 8));
+  stores.MoDuLieu();
+  EXPECT_EQ(stores.fileOf(file::TextPositions).integer(1), 0x04030201);
+  EXPECT_EQ(stores.fileOf(file::TextPositions).integer(2), -1);
+}
+
+TEST_F(StoresTest, ReadingPastAnEndOrAheadOfTheStartGives0) {
+  folder.write("data.vt", "\x01\x02\x03\x04\x05");
+  folder.write("data.av", "A");
+  stores.MoDuLieu();
+  const RecordFile& positions = stores.fileOf(file::TextPositions);
+  for (const std::int64_t record : {std::int64_t{-1}, std::int64_t{0}, std::int64_t{2},
+                                    std::int64_t{1} << 60}) {
+    EXPECT_EQ(positions.integer(record), 0);
+    EXPECT_EQ(stores.fileOf(file::Texts).byte(record), 0);
+  }
+  EXPECT_EQ(stores.fileOf(file::Texts).byte(1), 'A');
+}
+
+TEST_F(StoresTest, AReaderStopsAtTheEndOfItsFile) {
+  folder.writeStream("data.av", std::string("a\xA6") + "b");
+  stores.MoDuLieu();
+  PieceReader reader(stores.fileOf(file::Texts), 1);
+  EXPECT_EQ(reader.next(), "a");
+  EXPECT_EQ(reader.nextRecord(), 2);
+  EXPECT_EQ(reader.next(), ". ");
+  EXPECT_EQ(reader.next(), "b");
+  EXPECT_EQ(reader.next(), std::nullopt);
+  EXPECT_EQ(reader.next(), std::nullopt);
+}
+
+TEST_F(StoresTest, AMissingFileIsNamed) {
+  folder.remove("datavp.n");
+  try {
+    stores.MoDuLieu();
+    FAIL() << "no failure";
+  } catch (const FatalFailure& failure) {
+    EXPECT_THAT(failure.what(), testing::HasSubstr("datavp.n"));
+  }
+}
+
+TEST_F(StoresTest, TheLearnersFilesAreCreatedWhenMissing) {
+  stores.MoDuLieu();
+  EXPECT_TRUE(folder.has("data.c"));
+  EXPECT_TRUE(folder.has("data.Kcu"));
+  EXPECT_EQ(stores.readSetting(setting::RunCounter), 0);
+}
+
+TEST_F(StoresTest, SettingsAreWrittenAtOnce) {
+  stores.MoDuLieu();
+  stores.writeSetting(setting::SpeakingCaret, -5);
+  EXPECT_EQ(folder.read("data.Kcu").size(), 32U);
+  EXPECT_EQ(folder.read("data.Kcu").substr(28), "\xFB\xFF\xFF\xFF");
+  stores.writeSetting(setting::ReadingCaret, 70000);
+  EXPECT_EQ(stores.readSetting(setting::ReadingCaret), 70000);
+  EXPECT_EQ(stores.readSetting(setting::SpeakingCaret), -5);
+  EXPECT_EQ(stores.readSetting(100), 0);
+}
+
+TEST_F(StoresTest, AStoreIsChosenByItsNumberAndTheSection) {
+  places.MucMenu = 1;
+  stores.ChonKho(file::TextPositions);
+  EXPECT_EQ(stores.FileVanBan, file::Texts);
+  EXPECT_EQ(stores.SoBai, 408);
+  places.MucMenu = 5;
+  stores.ChonKho(file::TextPositions);
+  EXPECT_EQ(stores.SoBai, 14);
+  places.MucMenu = 7;
+  stores.ChonKho(file::SpeakingPositions);
+  EXPECT_EQ(stores.FileVanBan, file::SpeakingTexts);
+  EXPECT_EQ(stores.SoBai, 2025);
+}
+
+TEST_F(StoresTest, Section5ReadsTheWholePositionTable) {
+  std::vector<std::int32_t> positions(900);
+  for (std::size_t at = 0; at < positions.size(); ++at) {
+    positions[at] = static_cast<std::int32_t>(at + 1);
+  }
+  folder.writeIntegers("data.vt", positions);
+  stores.MoDuLieu();
+  places.MucMenu = 5;
+  stores.ChonKho(file::TextPositions);
+  stores.NapViTriBai();
+  EXPECT_EQ(stores.ViTriBai[0], 0);
+  EXPECT_EQ(stores.ViTriBai[1], 1);
+  EXPECT_EQ(stores.ViTriBai[817], 817);
+  EXPECT_EQ(stores.ViTriBai[818], 0);
+}
+
+TEST(VocabularyFileTest, RecordsComeBackAsTheyWereWritten) {
+  TestFolder folder;
+  folder.write("data.c", "");
+  VocabularyFile file(folder.pathOf("data.c"));
+  EXPECT_TRUE(file.read().empty());
+  const std::vector<VocabularyWord> words = {{paddedWord("word"), 7},
+                                             {paddedWord("twentycharacters1234"), -9}};
+  EXPECT_EQ(file.write(words), std::nullopt);
+  EXPECT_EQ(folder.read("data.c").size(), 48U);
+  EXPECT_EQ(file.read(), words);
+  EXPECT_FALSE(folder.has("data.c.new"));
+}
+
+TEST(VocabularyFileTest, OddBytesAreKeptBehindTheRecords) {
+  TestFolder folder;
+  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4) + "odd");
+  VocabularyFile file(folder.pathOf("data.c"));
+  auto words = file.read();
+  ASSERT_EQ(words.size(), 1U);
+  words.push_back({paddedWord("two"), 2});
+  EXPECT_EQ(file.write(words), std::nullopt);
+  EXPECT_EQ(folder.read("data.c").size(), 51U);
+  EXPECT_EQ(folder.read("data.c").substr(48), "odd");
+  EXPECT_EQ(file.read(), words);
+}
+
+TEST(VocabularyFileTest, AListThatCannotBeWrittenIsReportedAndTheOldOneStands) {
+  TestFolder folder;
+  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4));
+  VocabularyFile file(folder.pathOf("data.c"));
+  (void)file.read();
+  // A folder in the way of the new file.
+  folder.write("data.c.new/in-the-way", "");
+  const auto problem = file.write({});
+  ASSERT_TRUE(problem);
+  EXPECT_THAT(*problem, testing::HasSubstr("data.c"));
+  EXPECT_EQ(file.read().size(), 1U);
+}
+
+} // namespace
+} // namespace talvora

@@ -1,0 +1,115 @@
+#include "support/ProgramRun.h"
+
+#include <map>
+#include <stdexcept>
+
+namespace talvora::test {
+
+ProgramRun::ProgramRun(const ScriptedOptions& options)
+    : machine(options), program(machine.platform, folder.path()) {
+  folder.writeEmptyStores();
+  folder.write("Yes1", "");
+}
+
+void ProgramRun::writeTexts(const std::vector<StoredText>& texts, bool speaking) const {
+  const int slots = speaking ? 2025 : 408;
+  std::map<int, StoredText> bySlot;
+  for (const StoredText& each : texts) bySlot[each.slot] = each;
+  std::vector<std::int32_t> positions;
+  std::string stream;
+  for (int slot = 1; slot <= slots; ++slot) {
+    positions.push_back(static_cast<std::int32_t>(stream.size()));
+    const auto found = bySlot.find(slot);
+    stream += found == bySlot.end() ? "slot " + std::to_string(slot) + "\r" : found->second.text;
+    stream += '@';
+  }
+  for (int slot = 1; slot <= slots; ++slot) {
+    positions.push_back(static_cast<std::int32_t>(stream.size()));
+    const auto found = bySlot.find(slot);
+    if (found != bySlot.end()) stream += found->second.translation;
+    stream += '@';
+  }
+  positions.push_back(static_cast<std::int32_t>(stream.size()));
+  folder.writeIntegers(speaking ? "datasp.vt" : "data.vt", positions);
+  folder.writeStream(speaking ? "datasp.av" : "data.av", stream);
+}
+
+void ProgramRun::clickButton(int number) {
+  Button& button = controls().but(number);
+  if (button.MouseMove) button.MouseMove();
+  if (button.Click) button.Click();
+  deliverSynthetic();
+}
+
+void ProgramRun::key(int keyCode, int shift) {
+  const bool hasCharacter = keyCode == key::Esc || keyCode == key::Enter ||
+                            keyCode == key::Backspace || keyCode == key::Space ||
+                            keyCode == key::Tab;
+  machine.input.keyDown(keyCode);
+  form().pressKey(keyCode, shift, hasCharacter ? static_cast<char>(keyCode) : '\0');
+  machine.input.keyUp(keyCode);
+  form().releaseKey(keyCode, shift);
+  deliverSynthetic();
+}
+
+void ProgramRun::type(char character) {
+  const int code = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
+  form().pressKey(code, shift::None, character);
+  form().releaseKey(code, shift::None);
+  deliverSynthetic();
+}
+
+void ProgramRun::click(Surface& surface, int caret, MouseButton button) {
+  const SurfacePoint at = surface.pointOf(caret);
+  surface.moveMouse(shift::None, at);
+  surface.pressMouse(button, shift::None, at);
+  if (button == MouseButton::Left) surface.SelStart(caret);
+  surface.releaseMouse(button, shift::None, at);
+  // A left click that the program sends itself arrives where the pointer is; the right click of
+  // the curtain goes aside.
+  for (auto event = machine.input.takeSynthetic(); event;
+       event = machine.input.takeSynthetic()) {
+    const auto* sent = std::get_if<SyntheticClick>(&*event);
+    if (sent == nullptr || sent->button != MouseButton::Left) continue;
+    surface.pressMouse(MouseButton::Left, shift::None, at);
+    surface.SelStart(caret);
+    surface.releaseMouse(MouseButton::Left, shift::None, at);
+  }
+}
+
+void ProgramRun::doubleClick(Surface& surface, int caret) {
+  click(surface, caret);
+  const SurfacePoint at = surface.pointOf(caret);
+  surface.doubleClick(shift::None, at);
+  surface.releaseMouse(MouseButton::Left, shift::None, at);
+}
+
+void ProgramRun::deliverSynthetic() {
+  while (machine.input.takeSynthetic()) {
+  }
+}
+
+const VariableValue ProgramRun::value(const std::string& name) const {
+  const Variables::Reader* reader = program.variables().find(name);
+  if (reader == nullptr) throw std::runtime_error("no variable " + name);
+  return (*reader)();
+}
+
+double ProgramRun::number(const std::string& name) const {
+  return std::get<double>(value(name).value);
+}
+
+std::string ProgramRun::text(const std::string& name) const {
+  return std::get<std::string>(value(name).value);
+}
+
+bool ProgramRun::flag(const std::string& name) const {
+  return std::get<bool>(value(name).value);
+}
+
+std::string ProgramRun::focus() {
+  const Control* control = form().ActiveControl();
+  return control == nullptr ? std::string() : control->Name();
+}
+
+} // namespace talvora::test
