@@ -1,11 +1,17 @@
 // The steps of a build.
 #include "pack/Compiler.h"
 
+#include "pack/AnalysisStore.h"
 #include "pack/DictionaryStore.h"
+#include "pack/ExerciseStore.h"
 #include "pack/Guide.h"
+#include "pack/LessonStore.h"
+#include "pack/ListeningStore.h"
 #include "pack/OtherStores.h"
 #include "pack/ReadingStore.h"
+#include "pack/Recordings.h"
 #include "pack/SourceFile.h"
+#include "pack/SpeakingSource.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -57,6 +63,27 @@ WordSources readWordSources(const Options& options, const ReadingSource& reading
   return words;
 }
 
+void readDrills(const Options& options, Content& content, Problems& problems) {
+  content.speaking = readSpeaking(options.source / "speaking", problems);
+  content.listening = readListening(options.source / "listening", problems);
+  checkAgainstScripts(content.listening, content.readings, problems);
+  content.analyses = readAnalyses(options.source / "analysis", problems);
+  markStretches(content.analyses, content.readings, problems);
+}
+
+std::vector<PackFile> compileDrills(const Content& content) {
+  TextStore speaking = compileSpeakingTexts(content.speaking);
+  TextStore items = compileListeningItems(content.listening);
+  TextStore analyses = compileAnalysisTexts(content.analyses);
+  return {{"datasp.vt", std::move(speaking.positions)},
+          {"datasp.av", std::move(speaking.stream)},
+          {"dataN.vt", std::move(items.positions)},
+          {"dataN.av", std::move(items.stream)},
+          {"dataABCD.rtf", compileListeningPage(content.listening.page)},
+          {"dataPt.vt", std::move(analyses.positions)},
+          {"dataPt.v", std::move(analyses.stream)}};
+}
+
 void append(std::vector<PackFile>& files, std::vector<PackFile> more) {
   std::move(more.begin(), more.end(), std::back_inserter(files));
 }
@@ -71,10 +98,16 @@ Content readContent(const Options& options, Problems& problems, const Progress& 
   }
   progress("reading texts");
   content.readings = readReadings(options.source / "reading", problems);
+  progress("lessons and exercises");
+  content.lessons = readLessons(options.source / "lessons", problems);
+  content.exercises = readExercises(options.source, content.lessons, problems);
+  progress("drills");
+  readDrills(options, content, problems);
   progress("guide");
   const auto guide = options.source / "guide.txt";
   content.guide = compileGuide(readSource(guide, problems), guide.string(), problems);
   content.words = readWordSources(options, content.readings, problems, progress);
+  if (!options.smallWordList) content.wordNetLicence = readSource(options.wordNetLicence, problems);
   return content;
 }
 
@@ -88,6 +121,18 @@ WordList makeWordList(const Content& content, const Options& options, Problems& 
                      std::to_string(limit) + "; the word sources are too small");
   }
   return list;
+}
+
+std::vector<SideEntry> makeVietnameseSide(const Content& content, const WordList& list,
+                                          const Options& options, Problems& problems) {
+  auto entries = vietnameseSideOf(list, content.words.listed);
+  if (!options.smallWordList && entries.size() < VietnameseSideCount) {
+    problems.add({(options.source / "dictionary").string()},
+                 "the Vietnamese side has " + std::to_string(entries.size()) +
+                     " entries and needs " + std::to_string(VietnameseSideCount) +
+                     "; more words of our own are needed");
+  }
+  return entries;
 }
 
 std::vector<PackFile> compile(const Options& options, Problems& problems,
@@ -104,13 +149,17 @@ std::vector<PackFile> compile(const Options& options, Problems& problems,
   files.push_back({"data.vt", std::move(readings.positions)});
   files.push_back({"data.av", std::move(readings.stream)});
   files.push_back({"readme.rtf", content.guide});
-  append(files, compileLessons());
-  append(files, compileSpeaking());
-  append(files, compileExercises());
-  append(files, compileAnalyses());
-  append(files, compileListening());
-  append(files, compileVietnameseSide());
+  TextStore lessons = compileLessons(content.lessons, content.exercises.lessonsWithItems());
+  files.push_back({"datavp.vt", std::move(lessons.positions)});
+  files.push_back({"datavp.n", std::move(lessons.stream)});
+  append(files, compileExercises(content.exercises, content.lessons));
+  append(files, compileDrills(content));
+  append(files, compileVietnameseSide(makeVietnameseSide(content, list, options, problems)));
   append(files, firstSettings());
+  if (!content.wordNetLicence.empty())
+    files.push_back({"LICENCE-wordnet.txt", content.wordNetLicence});
+  if (!problems.none()) return {};
+  append(files, compileRecordings(content.readings, options.earlierPack, progress));
   return files;
 }
 

@@ -18,11 +18,11 @@ constexpr int mostHeadings = 38;
 // The table of sentence marks holds 200; the mark ahead of the title and the closing one take two.
 constexpr std::size_t mostSentences = 198;
 
-std::optional<int> slotOf(std::string_view digits) {
+std::optional<int> slotOf(std::string_view digits, int slots) {
   int slot = 0;
   const auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), slot);
   if (failure != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  if (slot < 1 || slot > ReadingSlots) return std::nullopt;
+  if (slot < 1 || slot > slots) return std::nullopt;
   return slot;
 }
 
@@ -123,14 +123,16 @@ ReadingText parseReadingText(std::string_view text, const std::string& file, Pro
 }
 
 std::map<int, std::string> parseHeadings(std::string_view text, const std::string& file,
-                                         Problems& problems) {
+                                         Problems& problems, int slots) {
   std::map<int, std::string> headings;
   for (const SourceLine& line : linesOf(text)) {
     if (line.text.empty() || line.text.starts_with("//")) continue;
     const std::size_t tab = line.text.find('\t');
-    const auto slot = slotOf(line.text.substr(0, std::min(tab, line.text.size())));
+    const auto slot = slotOf(line.text.substr(0, std::min(tab, line.text.size())), slots);
     if (tab == std::string_view::npos || !slot) {
-      problems.add({file, line.number, 1}, "a line must be a slot from 1 to 408, a tab, a heading");
+      problems.add({file, line.number, 1},
+                   "a line must be a slot from 1 to " + std::to_string(slots) +
+                       ", a tab, a heading");
       continue;
     }
     const Where where{file, line.number, static_cast<int>(tab) + 2};
@@ -146,18 +148,24 @@ std::map<int, std::string> parseHeadings(std::string_view text, const std::strin
   return headings;
 }
 
-ReadingSource readReadings(const std::filesystem::path& folder, Problems& problems) {
+ReadingSource readTexts(const std::filesystem::path& folder, int slots, Problems& problems) {
+  const std::string last = std::to_string(slots);
+  const std::size_t digits = last.size();
   ReadingSource source;
   for (const auto& path : textFilesIn(folder)) {
     const std::string file = path.string();
     const std::string name = path.filename().string();
     if (name == "headings.txt") {
-      source.headings = parseHeadings(readSource(path, problems), file, problems);
+      source.headings = parseHeadings(readSource(path, problems), file, problems, slots);
       continue;
     }
-    const auto slot = name.size() > 4 && name[3] == '-' ? slotOf(name.substr(0, 3)) : std::nullopt;
+    const auto slot = name.size() > digits + 1 && name[digits] == '-'
+                          ? slotOf(name.substr(0, digits), slots)
+                          : std::nullopt;
     if (!slot) {
-      problems.add({file}, "the name must be NNN-slug.txt with a slot from 001 to 408");
+      const std::string first = std::string(digits - 1, '0') + "1";
+      problems.add({file}, "the name must be " + std::string(digits, 'N') +
+                               "-slug.txt with a slot from " + first + " to " + last);
       continue;
     }
     auto text = parseReadingText(readSource(path, problems), file, problems);

@@ -38,12 +38,19 @@ struct ReadingSource {
 [[nodiscard]] ReadingText parseReadingText(std::string_view text, const std::string& file,
                                            Problems& problems);
 
-/// Parses the lines "slot TAB heading".
+/// Parses the lines "slot TAB heading" of a list with so many slots.
 [[nodiscard]] std::map<int, std::string> parseHeadings(std::string_view text,
-                                                       const std::string& file, Problems& problems);
+                                                       const std::string& file, Problems& problems,
+                                                       int slots = ReadingSlots);
 
-/// Reads a folder of texts "NNN-slug.txt" with its "headings.txt".
-[[nodiscard]] ReadingSource readReadings(const std::filesystem::path& folder, Problems& problems);
+/// Reads a folder of texts "NNN-slug.txt", with as many digits as the number of slots has, and its
+/// "headings.txt".
+[[nodiscard]] ReadingSource readTexts(const std::filesystem::path& folder, int slots,
+                                      Problems& problems);
+[[nodiscard]] inline ReadingSource readReadings(const std::filesystem::path& folder,
+                                                Problems& problems) {
+  return readTexts(folder, ReadingSlots, problems);
+}
 
 /// The source of a text, as `parseReadingText` reads it.
 [[nodiscard]] std::string writeReadingText(const ReadingText& text);

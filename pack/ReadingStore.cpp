@@ -94,9 +94,9 @@ std::string openSlotTitle() {
   return ownText("(đang soạn)");
 }
 
-TextStore compileReadings(const ReadingSource& source) {
+TextStore compileReadings(const ReadingSource& source, int slots) {
   std::vector<ReadingText> texts;
-  for (int slot = 1; slot <= ReadingSlots; ++slot)
+  for (int slot = 1; slot <= slots; ++slot)
     texts.push_back(textOfSlot(source, slot));
   return compileSlots(texts);
 }
@@ -107,16 +107,17 @@ TextStore openTextStore(int slots) {
 }
 
 ReadingSource decodeReadings(std::string_view positions, std::string_view stream,
-                             Problems& problems) {
+                             Problems& problems, int slots) {
+  const auto shift = static_cast<std::size_t>(slots);
   ReadingSource source;
-  for (int slot = 1; slot <= ReadingSlots; ++slot) {
+  for (int slot = 1; slot <= slots; ++slot) {
     const auto record = static_cast<std::size_t>(slot);
     const auto plain = storedUntil(stream, integerAt(positions, record), textEnd);
     const auto translation =
-        storedUntil(stream, integerAt(positions, record + ReadingSlots), textEnd);
+        storedUntil(stream, integerAt(positions, record + shift), textEnd);
     auto text = plain && translation ? textFrom(*plain, *translation) : std::nullopt;
     if (!text) {
-      problems.add({"data.av"}, "text " + std::to_string(slot) + " cannot be read");
+      problems.add({slots == ReadingSlots ? "data.av" : "datasp.av"}, "text " + std::to_string(slot) + " cannot be read");
     } else if (text->title.starts_with('*')) {
       source.headings.emplace(slot, text->title.substr(1));
     } else if (!text->paragraphs.empty() || text->title != openSlotTitle()) {

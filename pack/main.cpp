@@ -1,6 +1,7 @@
 // The command line of the content compiler.
 #include "pack/Compiler.h"
 #include "pack/Dump.h"
+#include "pack/Recordings.h"
 #include "pack/Status.h"
 
 #include <CLI/CLI.hpp>
@@ -32,14 +33,16 @@ int failWith(const std::string& message) {
   return usageOrDiskErrors;
 }
 
-int build(const Options& options, const std::filesystem::path& out) {
+int build(Options options, const std::filesystem::path& out) {
   Problems problems;
+  options.earlierPack = out;
   const auto files = compile(options, problems, showStep);
   if (!problems.none()) return tell(problems);
-  std::filesystem::create_directories(out);
   for (const PackFile& file : files) {
     showStep(file.name);
+    std::filesystem::create_directories((out / file.name).parent_path());
     if (const auto failure = store(file, out)) return failWith(*failure);
+    if (file.name == "DataS") removeUnmarkedRecordings(out, file.bytes);
   }
   return 0;
 }
@@ -75,6 +78,10 @@ void addSourceOptions(CLI::App& command, Options& options) {
   command.add_option("SOURCE", options.source, "folder of the content sources")->required();
   command.add_option("--wordnet", options.wordNet, "folder of the WordNet database")
       ->capture_default_str();
+  command
+      .add_option("--wordnet-licence", options.wordNetLicence,
+                  "licence of WordNet, which goes with the pack")
+      ->capture_default_str();
   command.add_option("--word-list", options.wordLists, "English word lists, one word a line");
   command.add_option("--words", options.smallWordList,
                      "a small word list of at most that many lines: our own entries and their "
@@ -88,8 +95,10 @@ int run(int argumentCount, char** arguments) {
   std::filesystem::path out;
   std::filesystem::path pack;
 
-  CLI::App* buildCommand =
-      application.add_subcommand("build", "compile SOURCE into the folder OUT");
+  CLI::App* buildCommand = application.add_subcommand(
+      "build", "compile SOURCE into the folder OUT, and speak the listening "
+               "scripts (texts 400 to 408) into OUT/sound where they are new "
+               "or have changed");
   addSourceOptions(*buildCommand, options);
   buildCommand->add_option("OUT", out, "folder of the pack")->required();
   CLI::App* checkCommand = application.add_subcommand("check", "check SOURCE and write nothing");
@@ -97,7 +106,9 @@ int run(int argumentCount, char** arguments) {
   CLI::App* dumpCommand = application.add_subcommand("dump", "decode the pack PACK into sources");
   dumpCommand->add_option("PACK", pack, "folder of the pack")->required();
   dumpCommand->add_option("OUT", out, "folder for the sources")->required();
-  CLI::App* statusCommand = application.add_subcommand("status", "tell what SOURCE still lacks");
+  CLI::App* statusCommand =
+      application.add_subcommand("status", "tell what SOURCE holds and still lacks: slots, "
+                                           "scripts to record, words, the Vietnamese side");
   addSourceOptions(*statusCommand, options);
 
   try {

@@ -35,7 +35,7 @@ class Dictionary {
   [[nodiscard]] Popup& popup() noexcept { return popup_; }
   [[nodiscard]] LookUpList& list() noexcept { return list_; }
   [[nodiscard]] const WordList& words() const noexcept { return words_; }
-  [[nodiscard]] const LookUp& lookUp() const noexcept { return lookUp_; }
+  [[nodiscard]] LookUp& lookUp() noexcept { return lookUp_; }
 
   void declare(Variables& variables) const;
 

@@ -66,24 +66,34 @@ void WordList::findLines(const std::string& path) {
 }
 
 void WordList::findLetters(const std::string& path, const std::function<void()>& TienTrinhNap) {
-  // One character and a line end of at most two.
-  constexpr int LongestMarkerLine = 3;
   ChiSoChu.fill(0);
   std::size_t letters = 0;
-  for (int n = 1; n <= count_; ++n) {
-    if ((n - 1) % Stride == 0) TienTrinhNap();
-    const auto line = static_cast<std::size_t>(n - 1);
-    if (starts_[line + 1] - starts_[line] > LongestMarkerLine) continue;
-    const std::string_view word = Chu(n);
-    if (word.size() != 1 || !Marker.has(word[0])) continue;
-    if (letters == LetterSlots) {
-      failAtLine(path, n,
-                 "the word list has more than " + std::to_string(LetterSlots) +
-                     " lines of one letter");
+  for (int first = 1; first <= count_; first += Stride) {
+    TienTrinhNap();
+    const int last = std::min(first + Stride - 1, count_);
+    for (int n = nextShortLine(first, last); n <= last; n = nextShortLine(n + 1, last)) {
+      const std::string_view word = Chu(n);
+      if (word.size() != 1 || !Marker.has(word[0])) continue;
+      if (letters == LetterSlots) {
+        failAtLine(path, n,
+                   "the word list has more than " + std::to_string(LetterSlots) +
+                       " lines of one letter");
+      }
+      ChiSoChu[letters++] = n;
     }
-    ChiSoChu[letters++] = n;
   }
   ChiSoChu.back() = count_ + 1;
+}
+
+int WordList::nextShortLine(int from, int last) const noexcept {
+  // One character and a line end of at most two.
+  constexpr int LongestMarkerLine = 3;
+  const int* start = starts_.data() + (from - 1);
+  while (from <= last && start[1] - start[0] > LongestMarkerLine) {
+    ++from;
+    ++start;
+  }
+  return from;
 }
 
 std::string_view WordList::Chu(int i) const noexcept {

@@ -65,6 +65,9 @@ class WordList {
   void findLines(const std::string& path);
   void findLetters(const std::string& path, const std::function<void()>& TienTrinhNap);
 
+  /// The first line of a stretch that is short enough for a letter mark; behind `last` if none is.
+  [[nodiscard]] int nextShortLine(int from, int last) const noexcept;
+
   RecordFile positions_;
   std::shared_ptr<const MappedFile> file_;
   std::string_view text_;

@@ -1,8 +1,13 @@
 #include "program/E.h"
 
+#include "dictionary/SyllableGate.h"
+#include "platform/Files.h"
 #include "shell/FirstRun.h"
+#include "shell/Names.h"
+#include "stores/ByteCode.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/WordForm.h"
 
 #include <utility>
 
@@ -15,11 +20,18 @@ constexpr int VocabularyButton = 2;
 constexpr int SettingsButton = 8;
 constexpr int GuideButton = 9;
 
+SharedState startingIn(std::string directory) {
+  SharedState state;
+  state.places.ThuMuc = std::move(directory);
+  return state;
+}
+
 } // namespace
 
 E::E(Platform& platform, std::string directory)
     : platform_(platform), form_(platform.screen, platform.metrics),
-      controls_(form_, platform.layout), stores_(state_.places),
+      controls_(form_, platform.layout),
+      state_(startingIn(std::move(directory))), stores_(state_.places),
       shell_(platform, form_, controls_, state_),
       voice_(state_.places, platform.wave, shell_.messages),
       speech_(state_, platform, shell_.steering, voice_),
@@ -29,8 +41,19 @@ E::E(Platform& platform, std::string directory)
       reading_(controls_, state_, stores_, shell_,
                PageServices{dictionary_, vietnameseSide_, speech_, voice_}, platform.clock),
       laterSections_(controls_, state_, shell_) {
-  state_.places.ThuMuc = std::move(directory);
   form_.Caption(std::string(DesignCaption));
+  declareAll();
+  registerProcedures();
+  wireMenu();
+  wireGuide();
+  const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
+  reading_.focusButton = focusButton;
+  reading_.vocabulary().focusButton = [focusButton] { focusButton(VocabularyButton); };
+  soundSettings_.focusButton = focusButton;
+  laterSections_.focusButton = focusButton;
+}
+
+void E::declareAll() {
   state_.declare(variables_);
   stores_.declare(variables_);
   shell_.declare(variables_);
@@ -39,13 +62,66 @@ E::E(Platform& platform, std::string directory)
   dictionary_.declare(variables_);
   soundSettings_.declare(variables_);
   reading_.declare(variables_);
-  wireMenu();
-  wireGuide();
-  const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
-  reading_.focusButton = focusButton;
-  reading_.vocabulary().focusButton = [focusButton] { focusButton(VocabularyButton); };
-  soundSettings_.focusButton = focusButton;
-  laterSections_.focusButton = focusButton;
+}
+
+void E::registerProcedures() {
+  procedures_.addOfNumber("GiaiMaByte", [](int byte) {
+    return VariableValue(static_cast<int>(GiaiMaByte(static_cast<unsigned char>(byte))));
+  });
+  procedures_.addOfNumber("MoRongByte", [](int byte) {
+    return VariableValue(std::string(MoRongByte(static_cast<unsigned char>(byte))));
+  });
+  procedures_.addOfText("ChuanHoaTu",
+                        [](const std::string& s) { return VariableValue(ChuanHoaTu(s)); });
+  procedures_.addOfText("RutGonDuoi",
+                        [](const std::string& s) { return VariableValue(RutGonDuoi(s)); });
+  procedures_.addOfText("LaTiengAnh",
+                        [](const std::string& s) { return VariableValue(LaTiengAnh(s)); });
+  procedures_.addOfText("SoTrongTen",
+                        [](const std::string& s) { return VariableValue(SoTrongTen(s)); });
+  procedures_.addOfText("CoSoVaChu",
+                        [](const std::string& s) { return VariableValue(CoSoVaChu(s)); });
+  procedures_.addOfText("TonTaiFile",
+                        [](const std::string& s) { return VariableValue(TonTaiFile(s)); });
+  registerSearches();
+}
+
+// The searches leave their results in shared state; a call of its own puts back what stood there.
+void E::registerSearches() {
+  procedures_.addOfNumber("CauTaiViTri", [this](int v) {
+    const std::string message = state_.word.ThongBaoHD;
+    const int sentence = reading_.text().CauTaiViTri(v);
+    state_.word.ThongBaoHD = message;
+    return VariableValue(sentence);
+  });
+  procedures_.addOfNumber("KhoangChuCai", [this](int code) {
+    const LetterRange range = dictionary_.lookUp().KhoangChuCai(code);
+    return VariableValue(VariableValue::Record{{"TimDau", range.TimDau},
+                                               {"TimCuoi", range.TimCuoi}});
+  });
+  procedures_.addOfText("TimTuD", [this](const std::string& key) {
+    const CurrentWord before = state_.word;
+    vietnameseSide_.TimTuD(key);
+    return VariableValue(std::exchange(state_.word, before).NghiaD);
+  });
+  procedures_.add("TimTu",
+                  [this](const Procedures::Arguments& arguments) -> std::optional<VariableValue> {
+                    const auto key = textArgument(arguments, 0);
+                    if (!key || arguments.size() != 2) return std::nullopt;
+                    const auto* wanted = std::get_if<bool>(&arguments[1].value);
+                    if (wanted == nullptr) return std::nullopt;
+                    return search(*key, *wanted ? LayNghia::Yes : LayNghia::No);
+                  });
+}
+
+VariableValue E::search(const std::string& key, LayNghia layNghia) {
+  const CurrentWord before = state_.word;
+  LookUp& lookUp = dictionary_.lookUp();
+  lookUp.TimTu(key, layNghia);
+  const CurrentWord after = std::exchange(state_.word, before);
+  return VariableValue::Record{{"TimThay", lookUp.TimThay},
+                               {"ViTriGan", lookUp.ViTriGan},
+                               {"NghiaHienTai", after.NghiaHienTai}};
 }
 
 // -- Start-up.

@@ -6,6 +6,7 @@
 #include "dictionary/VietnameseSide.h"
 #include "platform/Platform.h"
 #include "program/LaterSections.h"
+#include "program/Procedures.h"
 #include "program/Program.h"
 #include "reading/Reading.h"
 #include "shell/Shell.h"
@@ -43,8 +44,15 @@ class E {
   [[nodiscard]] Form& form() noexcept { return form_; }
   [[nodiscard]] Controls& controls() noexcept { return controls_; }
   [[nodiscard]] const Variables& variables() const noexcept { return variables_; }
+  [[nodiscard]] const Procedures& procedures() const noexcept { return procedures_; }
+  [[nodiscard]] const Places& places() const noexcept { return state_.places; }
+  [[nodiscard]] int hoveredButton() const noexcept { return shell_.hover.HoverSo; }
 
  private:
+  void declareAll();
+  void registerProcedures();
+  void registerSearches();
+  VariableValue search(const std::string& key, LayNghia layNghia);
   void wireMenu();
   void clickButton(int number);
   /// Opens a section that begins with a title list.
@@ -71,6 +79,7 @@ class E {
   Reading reading_;
   LaterSections laterSections_;
   Variables variables_;
+  Procedures procedures_;
   Ending ending_ = Ending::None;
 };
 

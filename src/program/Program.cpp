@@ -45,4 +45,20 @@ const Variables& Program::variables() const noexcept {
   return parts_->e.variables();
 }
 
+const Procedures& Program::procedures() const noexcept {
+  return parts_->e.procedures();
+}
+
+int Program::section() const noexcept {
+  return parts_->e.places().MucMenu;
+}
+
+int Program::hoveredButton() const noexcept {
+  return parts_->e.hoveredButton();
+}
+
+bool Program::busy() const noexcept {
+  return parts_->e.places().DangBan;
+}
+
 } // namespace talvora

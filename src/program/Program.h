@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "program/Procedures.h"
 #include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/Variables.h"
@@ -36,6 +37,13 @@ class Program {
   [[nodiscard]] Form& form() noexcept;
   [[nodiscard]] Controls& controls() noexcept;
   [[nodiscard]] const Variables& variables() const noexcept;
+  [[nodiscard]] const Procedures& procedures() const noexcept;
+  /// The section last entered.
+  [[nodiscard]] int section() const noexcept;
+  /// Number of the menu button that was animated last.
+  [[nodiscard]] int hoveredButton() const noexcept;
+  /// The program is busy: start-up or dictation runs.
+  [[nodiscard]] bool busy() const noexcept;
 
  private:
   struct Parts;

@@ -39,7 +39,6 @@ TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, S
 // -- The list in memory and on disk.
 
 void TuVungChon::NapTuVung() {
-  file_ = VocabularyFile(stores_.vocabularyPath());
   TuVung_ = file_.read();
 }
 

@@ -25,6 +25,8 @@ class Gestures {
   void pointerMoved(Surface& surface, SurfacePoint at);
   /// The pointer counts as having come in at the stored point: the hint bar goes once it leaves.
   void pointerCameIn(const Surface& surface) { stateOf(surface) = PointerState::PointStored; }
+  /// Whether a point lies more than a twelfth of the screen from the stored one, in either axis.
+  [[nodiscard]] bool isFar(SurfacePoint at) const;
   /// The whole pointer rule of a text: `pointerMoved`, then `RoiChuot`.
   void followPointer(Surface& surface, SurfacePoint at);
   /// The pointer left the word at hand: beyond a twelfth of the screen the word and its popup go.
@@ -52,7 +54,6 @@ class Gestures {
   };
 
   [[nodiscard]] PointerState& stateOf(const Surface& surface);
-  [[nodiscard]] bool isFar(SurfacePoint at) const;
   [[nodiscard]] bool mayClose(const Surface& surface) const;
 
   Controls& controls_;

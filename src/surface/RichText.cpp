@@ -20,9 +20,11 @@ constexpr std::string_view Opening = "{\\rtf";
 // Deeper groups than any writer makes; what lies deeper is read as if it stood on this depth.
 constexpr std::size_t DeepestGroup = 256;
 constexpr int LargestNumber = 1'000'000;
+// Every run holds its font's name, so a name without end would cost many times the file's length.
+constexpr std::size_t LongestFontName = 64;
 
 /// What a group's characters are.
-enum class Destination { Text, FontTable, ColourTable, Skipped };
+enum class Destination { Text, FontTable, ColourTable, Bullet, Skipped };
 
 struct GroupState {
   Destination destination = Destination::Text;
@@ -54,7 +56,8 @@ class RichTextReader {
   }
 
   StyledText read() {
-    while (at_ < rtf_.size()) takeNext();
+    while (at_ < rtf_.size())
+      takeNext();
     closeParagraph();
     return std::move(result_);
   }
@@ -93,13 +96,11 @@ class RichTextReader {
     if (tooDeep_ > 0) {
       --tooDeep_;
     } else if (!groups_.empty()) {
-      // The look of the paragraph belongs to the paragraph, not to the group.
       const ParagraphStyle paragraph = state_.paragraph;
-      const bool text = groups_.back().destination == Destination::Text;
-      const bool textEnds = state_.destination == Destination::Text;
-      state_ = groups_.back();
+      state_ = std::move(groups_.back());
       groups_.pop_back();
-      if (text && textEnds) state_.paragraph = paragraph;
+      // The last paragraph ends with the outermost group and looks as it did inside.
+      if (groups_.empty()) state_.paragraph = paragraph;
     }
   }
 
@@ -137,18 +138,21 @@ class RichTextReader {
 
   ControlWord readWord() {
     const std::size_t start = at_;
-    while (at_ < rtf_.size() && isLetter(rtf_[at_])) ++at_;
+    while (at_ < rtf_.size() && isLetter(rtf_[at_]))
+      ++at_;
     ControlWord word{rtf_.substr(start, at_ - start), std::nullopt};
     const std::size_t numberStart = at_;
     if (at_ < rtf_.size() && rtf_[at_] == '-') ++at_;
     const std::size_t digits = at_;
-    while (at_ < rtf_.size() && rtf_[at_] >= '0' && rtf_[at_] <= '9') ++at_;
+    while (at_ < rtf_.size() && rtf_[at_] >= '0' && rtf_[at_] <= '9')
+      ++at_;
     if (at_ == digits) {
       at_ = numberStart;
     } else {
       long long number = 0;
       const auto result = std::from_chars(rtf_.data() + numberStart, rtf_.data() + at_, number);
-      if (result.ec != std::errc{}) number = rtf_[numberStart] == '-' ? -LargestNumber : LargestNumber;
+      if (result.ec != std::errc{})
+        number = rtf_[numberStart] == '-' ? -LargestNumber : LargestNumber;
       word.number = static_cast<int>(std::clamp<long long>(number, -LargestNumber, LargestNumber));
     }
     if (at_ < rtf_.size() && rtf_[at_] == ' ') ++at_;
@@ -181,13 +185,16 @@ class RichTextReader {
         colour_ = 0;
       }
       break;
+    case Destination::Bullet:
     case Destination::Skipped:
       break;
     }
   }
 
   void nameFont(char character) {
-    if (state_.font >= 0 && character != ';') fonts_[state_.font] += character;
+    if (state_.font < 0 || character == ';') return;
+    std::string& name = fonts_[state_.font];
+    if (name.size() < LongestFontName) name += character;
   }
 
   void append(char character) {
@@ -214,8 +221,17 @@ class RichTextReader {
 
   void obey(const ControlWord& word) {
     const bool ignorable = std::exchange(ignorable_, false);
+    if (word.name == "bin") {
+      skipBinary(word.number.value_or(0));
+      return;
+    }
     if (obeyDestination(word) || obeyCharacter(word) || obeyParagraph(word)) return;
     if (ignorable) state_.destination = Destination::Skipped;
+  }
+
+  // Bytes of a picture stand as they are; what looks like a brace among them is none.
+  void skipBinary(int count) {
+    at_ += std::min(static_cast<std::size_t>(std::max(count, 0)), rtf_.size() - at_);
   }
 
   bool obeyDestination(const ControlWord& word) {
@@ -226,7 +242,7 @@ class RichTextReader {
     } else if (word.name == "colortbl") {
       state_.destination = Destination::ColourTable;
     } else if (word.name == "pn") {
-      state_.destination = Destination::Skipped;
+      if (state_.destination == Destination::Text) state_.destination = Destination::Bullet;
     } else if (std::find(skipped.begin(), skipped.end(), word.name) != skipped.end()) {
       state_.destination = Destination::Skipped;
     } else {
@@ -294,8 +310,10 @@ class RichTextReader {
       style.indent = std::clamp(word.number.value_or(0), 0, 20000);
     } else if (word.name == "pnlvlblt") {
       style.bullet = true;
-      // The word stands in a group of its own, and means the paragraph around it.
-      if (!groups_.empty()) groups_.back().paragraph.bullet = true;
+      // In a group of its own the word means the paragraph around it.
+      if (state_.destination == Destination::Bullet && !groups_.empty()) {
+        groups_.back().paragraph.bullet = true;
+      }
     } else {
       return false;
     }

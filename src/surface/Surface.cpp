@@ -11,9 +11,30 @@
 
 namespace talvora {
 
+namespace {
+
+/// Runs a handler unless it is at work already. It is held for the call, since it may replace
+/// itself.
+void runOnce(const std::function<void()>& handler, bool& running) {
+  if (!handler || running) return;
+  struct Mark {
+    explicit Mark(bool& flag) : flag_(flag) { flag_ = true; }
+    Mark(const Mark&) = delete;
+    Mark& operator=(const Mark&) = delete;
+    ~Mark() { flag_ = false; }
+    bool& flag_;
+  };
+  const std::function<void()> held = handler;
+  const Mark mark(running);
+  held();
+}
+
+} // namespace
+
 Surface::Surface(std::string name, ControlHost& host, const LineLayout& layout)
     : Control(std::move(name), host), layout_(layout) {
-  setWholeText({});
+  text_.assign({});
+  resetAll({});
 }
 
 // -- The text as a whole.
@@ -23,10 +44,10 @@ std::string Surface::Text() const {
 }
 
 void Surface::Text(std::string_view text) {
-  const int fitting = text_.room(text.size(), text_.length());
-  text_.assign(text);
-  setWholeText(text.substr(0, static_cast<std::size_t>(fitting)));
-  textChanged();
+  replaceAll(text, [&] {
+    text_.assign(text);
+    resetAll(text);
+  });
 }
 
 int Surface::TextLength() const noexcept {
@@ -47,84 +68,118 @@ StyledText Surface::TextRTF() const {
 }
 
 void Surface::TextRTF(const StyledText& text) {
-  text_.assign(text.text);
-  setWholeText(text.text);
+  replaceAll(text.text, [&] {
+    text_.assign(text.text);
+    resetAll(text.text);
+    format(text);
+  });
+}
+
+void Surface::format(const StyledText& text) {
   for (const StyledRun& run : text.runs) {
     const int from = clampCaret(run.from);
     const int to = std::max(from, clampCaret(run.to));
     runs_.replace(from, to, to - from, styles_.idOf(run.style));
   }
   for (const StyledParagraph& each : text.paragraphs) {
-    paragraphs_.style(paragraphOf(clampCaret(each.from)), paragraphStyles_.idOf(each.style));
+    paragraphs_.style(paragraphOf(each.from), paragraphStyles_.idOf(each.style));
   }
-  textChanged();
 }
 
 void Surface::LoadFile(const std::string& path) {
   const auto file = MappedFile::open(path);
   if (looksLikeRichText(file->text())) {
     TextRTF(readRichText(file->text(), Font()));
-    return;
+  } else {
+    replaceAll(file->text(), [&] {
+      text_.adopt(file);
+      resetAll(file->text());
+    });
   }
-  text_.adopt(file);
-  setWholeText(file->text());
-  textChanged();
+}
+
+void Surface::replaceAll(std::string_view text, const std::function<void()>& fill) {
+  const TextIs now = text_.equals(text) ? TextIs::Same : TextIs::Different;
+  const Selection before = selection();
+  fill();
+  ++revision_;
+  tellText(before, now);
 }
 
 // Makes everything beside the text new: one style, no selection, the first line in view.
-void Surface::setWholeText(std::string_view text) {
+void Surface::resetAll(std::string_view text) {
   styles_.clear();
   paragraphStyles_.clear();
   runs_.assign(text_.length(), styles_.idOf(defaultStyle_));
-  paragraphs_.assign(text, paragraphStyles_.idOf({}));
+  paragraphs_.assign(text.substr(0, static_cast<std::size_t>(text_.length())),
+                     paragraphStyles_.idOf({}));
   pendingStyle_.reset();
   columnX_.reset();
   unshownCarets_.clear();
   scroll_ = {};
-  anchor_ = 0;
+  selStart_ = selLength_ = anchor_ = 0;
 }
 
-void Surface::textChanged() {
-  const bool hadSelection = std::exchange(selStart_, 0) != 0;
-  const bool hadLength = std::exchange(selLength_, 0) != 0;
-  ++revision_;
+void Surface::tellText(Selection before, TextIs text) {
+  const bool moved = before != selection();
   changed(ControlChange::Text);
-  if (Change) Change();
-  if ((hadSelection || hadLength) && SelChange) SelChange();
+  if (text == TextIs::Different) runOnce(Change, changeRuns_);
+  if (moved) runOnce(SelChange, selChangeRuns_);
 }
 
-void Surface::replaceText(int from, int to, std::string_view text, const CharStyle& style) {
+// Replaces characters of the text and leaves the caret behind the new ones.
+void Surface::replaceText(int from, int to, std::string_view text, StyleId style) {
+  const Selection before = selection();
+  const int length = text_.length();
+  // First out, then in: paragraphs that come are split from what is left.
+  if (from < to) exchange(from, to, {}, style);
+  if (!text.empty()) exchange(from, from, text, style);
+  selStart_ = anchor_ = to + text_.length() - length;
+  selLength_ = 0;
+  columnX_.reset();
+  ++revision_;
+  tellText(before, TextIs::Different);
+}
+
+void Surface::exchange(int from, int to, std::string_view text, StyleId style) {
   const int added = text_.room(text.size(), to - from);
   const std::string_view fitting = text.substr(0, static_cast<std::size_t>(added));
-  const StyleId id = styles_.idOf(style);
+  const int first = paragraphs_.paragraphOf(from);
+  const int last = paragraphs_.paragraphOf(to);
+  const int count = paragraphs_.count();
   text_.replace(from, to, fitting);
-  runs_.replace(from, to, added, id);
+  runs_.replace(from, to, added, style);
   paragraphs_.replaced(from, to, fitting, text_);
-  const ScrollPlace before = scroll_;
-  scroll_.paragraph = std::min(scroll_.paragraph, paragraphs_.count() - 1);
-  if (scroll_.paragraph != before.paragraph) scroll_.offset = 0;
-  ++revision_;
+  scrollWithEdit(first, last, paragraphs_.count() - count);
+  for (int& caret : unshownCarets_) {
+    if (caret >= to) {
+      caret += added - (to - from);
+    } else {
+      caret = std::min(caret, from);
+    }
+  }
 }
 
 // -- Defaults for new text.
 
 void Surface::FontName(std::string name) {
   defaultStyle_.font.name = std::move(name);
-  defaultsChanged();
+  tellLook();
 }
 
 void Surface::FontSize(double points) {
   defaultStyle_.font.size = points;
-  defaultsChanged();
+  tellLook();
 }
 
 void Surface::FontBold(bool bold) {
   defaultStyle_.font.bold = bold;
-  defaultsChanged();
+  tellLook();
 }
 
-void Surface::defaultsChanged() {
+void Surface::tellLook() {
   ++revision_;
+  scrollMayBeOff_ = true;
   changed(ControlChange::Look);
 }
 
@@ -140,38 +195,33 @@ void Surface::SelStart(int caret) {
   columnX_.reset();
   anchor_ = place;
   bringIntoView(place);
-  select(place, 0);
+  select({place, 0});
 }
 
 void Surface::SelLength(int length) {
   const int end = clampCaret(static_cast<long long>(selStart_) + std::max(length, 0));
   if (end - selStart_ != selLength_) pendingStyle_.reset();
   anchor_ = selStart_;
-  select(selStart_, end - selStart_);
+  select({selStart_, end - selStart_});
 }
 
-void Surface::select(int start, int length) {
-  if (start == selStart_ && length == selLength_) return;
-  selStart_ = start;
-  selLength_ = length;
+void Surface::select(Selection wanted) {
+  if (wanted == selection()) {
+    // The caret may still have to come back into view.
+    if (!unshownCarets_.empty()) changed(ControlChange::Scroll);
+    return;
+  }
+  selStart_ = wanted.start;
+  selLength_ = wanted.length;
   changed(ControlChange::Selection);
-  if (SelChange) SelChange();
+  runOnce(SelChange, selChangeRuns_);
 }
 
 void Surface::SelText(std::string_view text) {
-  const CharStyle style = selLength_ > 0 ? styleAt(selStart_) : insertionStyle();
-  const std::string own(text);
-  const int length = text_.length() - selLength_;
-  replaceText(selStart_, selStart_ + selLength_, own, style);
-  pendingStyle_ = style;
-  columnX_.reset();
-  const int start = std::exchange(selStart_, selStart_ + text_.length() - length);
-  const bool selectionMoved = start != selStart_ || selLength_ != 0;
-  selLength_ = 0;
-  anchor_ = selStart_;
-  changed(ControlChange::Text);
-  if (Change) Change();
-  if (selectionMoved && SelChange) SelChange();
+  if (text.empty() && selLength_ == 0) return;
+  const std::optional<StyleId> style = selLength_ > 0 ? runs_.styleAt(selStart_) : insertionStyle();
+  replaceText(selStart_, selStart_ + selLength_, text,
+              style ? *style : styles_.idOf(defaultStyle_));
 }
 
 void Surface::Span(std::string_view characters, SpanDirection direction, SpanUntil until) {
@@ -182,38 +232,41 @@ void Surface::Span(std::string_view characters, SpanDirection direction, SpanUnt
   int start = selStart_;
   int end = selStart_ + selLength_;
   if (direction == SpanDirection::Forward) {
-    while (end < text_.length() && !stops(text_.at(end))) ++end;
+    while (end < text_.length() && !stops(text_.at(end)))
+      ++end;
   } else {
-    while (start > 0 && !stops(text_.at(start - 1))) --start;
+    while (start > 0 && !stops(text_.at(start - 1)))
+      --start;
   }
+  if (start != selStart_ || end != selStart_ + selLength_) pendingStyle_.reset();
+  columnX_.reset();
   anchor_ = start;
-  select(start, end - start);
+  select({start, end - start});
 }
 
 // -- Attributes of characters.
 
-const CharStyle& Surface::styleAt(int caret) const {
-  return styles_[runs_.styleAt(caret)];
-}
-
-const CharStyle& Surface::insertionStyle() const {
-  if (pendingStyle_) return *pendingStyle_;
-  if (text_.length() == 0) return defaultStyle_;
+// The number of the style that new text at the caret will have; none stands for the default.
+std::optional<StyleId> Surface::insertionStyle() const {
+  if (pendingStyle_) return pendingStyle_;
+  if (text_.length() == 0) return std::nullopt;
   const bool opensParagraph = paragraphStart(paragraphOf(selStart_)) == selStart_;
-  const bool hasTextBehind = selStart_ < text_.length();
-  return styleAt((opensParagraph && hasTextBehind) || selStart_ == 0 ? selStart_ : selStart_ - 1);
+  const bool takesNext = opensParagraph && selStart_ < text_.length();
+  return runs_.styleAt(takesNext ? selStart_ : selStart_ - 1);
 }
 
 const CharStyle& Surface::selStyle() const {
-  return selLength_ > 0 ? styleAt(selStart_) : insertionStyle();
+  if (selLength_ > 0) return styleAt(selStart_);
+  const std::optional<StyleId> style = insertionStyle();
+  return style ? styles_[*style] : defaultStyle_;
 }
 
 template <class Edit>
 void Surface::changeStyle(Edit edit) {
   if (selLength_ == 0) {
-    CharStyle style = insertionStyle();
+    CharStyle style = selStyle();
     edit(style);
-    pendingStyle_ = std::move(style);
+    pendingStyle_ = styles_.idOf(style);
     return;
   }
   const int end = selStart_ + selLength_;
@@ -225,8 +278,7 @@ void Surface::changeStyle(Edit edit) {
     runs_.replace(from, to, to - from, styles_.idOf(style));
     from = to;
   }
-  ++revision_;
-  changed(ControlChange::Look);
+  tellLook();
 }
 
 void Surface::SelColor(Colour colour) {
@@ -273,8 +325,7 @@ void Surface::changeParagraphs(Edit edit) {
     edit(style);
     paragraphs_.style(each, paragraphStyles_.idOf(style));
   }
-  ++revision_;
-  changed(ControlChange::Look);
+  tellLook();
 }
 
 void Surface::SelAlignment(Alignment alignment) {
@@ -318,7 +369,8 @@ ParagraphContent Surface::paragraph(int index) const {
   }
   if (content.styles.empty()) {
     // An empty line is as high as its line end, or as what would be written there.
-    content.styles.push_back(start < text_.length() ? styleAt(start) : defaultStyle_);
+    const int like = start < text_.length() ? start : start - 1;
+    content.styles.push_back(like >= 0 ? styleAt(like) : defaultStyle_);
     content.runStarts.push_back(0);
   }
   return content;
@@ -348,8 +400,22 @@ void Surface::Check() const {
   runs_.Check();
   paragraphs_.Check(text_);
   if (runs_.length() != text_.length()) throw std::logic_error("runs do not cover the text");
+  for (int run = 0; run < runs_.count(); ++run) {
+    if (runs_.style(run) >= styles_.size()) throw std::logic_error("a run has no style");
+  }
+  for (int each = 0; each < paragraphs_.count(); ++each) {
+    if (paragraphs_.style(each) >= paragraphStyles_.size()) {
+      throw std::logic_error("a paragraph has no style");
+    }
+  }
+  if (pendingStyle_ && (*pendingStyle_ >= styles_.size() || selLength_ > 0)) {
+    throw std::logic_error("a style is kept for a caret that is not there");
+  }
   if (selStart_ < 0 || selLength_ < 0 || selStart_ + selLength_ > text_.length()) {
     throw std::logic_error("the selection lies outside the text");
+  }
+  if (anchor_ != selStart_ && anchor_ != selStart_ + selLength_) {
+    throw std::logic_error("the selection is not held at one of its ends");
   }
   if (scroll_.paragraph < 0 || scroll_.paragraph >= paragraphs_.count() || scroll_.offset < 0) {
     throw std::logic_error("the surface is scrolled to no paragraph");

@@ -82,7 +82,9 @@ class Surface final : public Control {
   [[nodiscard]] int SelLength() const noexcept { return selLength_; }
   /// Sets the selection's length from the caret on, at most to the text's end; below 0 counts as 0.
   void SelLength(int length);
-  [[nodiscard]] std::string SelText() const { return TextBetween(selStart_, selStart_ + selLength_); }
+  [[nodiscard]] std::string SelText() const {
+    return TextBetween(selStart_, selStart_ + selLength_);
+  }
   /// Replaces the selection and leaves the caret behind the new text.
   void SelText(std::string_view text);
   void SelText(char character) { SelText(std::string_view(&character, 1)); }
@@ -127,6 +129,7 @@ class Surface final : public Control {
   /// The middle of the character behind a caret (of the caret itself at a line's end), with the
   /// present scrolling.
   [[nodiscard]] SurfacePoint pointOf(int caret) const;
+  /// Which paragraph is first in view. Whatever the host is told of may have moved it.
   [[nodiscard]] ScrollPlace scroll() const {
     settleScroll();
     return scroll_;
@@ -166,6 +169,8 @@ class Surface final : public Control {
   std::function<void(int Shift, SurfacePoint at)> MouseMove;
   std::function<void()> Click;
   std::function<void()> DblClick;
+  /// Caret or selection have changed. What a handler of this or of `Change` does to the surface
+  /// itself does not run that handler again.
   std::function<void()> SelChange;
   /// The text has changed, by the program or by a key.
   std::function<void()> Change;
@@ -180,7 +185,8 @@ class Surface final : public Control {
   void moveMouse(int shift, SurfacePoint at);
   /// MouseDown; for the left button the caret then goes to the point.
   void pressMouse(MouseButton button, int shift, SurfacePoint at);
-  /// The pointer is dragged with the left button down: the selection runs from where it was pressed.
+  /// The pointer is dragged with the left button down: the selection runs from where it was
+  /// pressed.
   void dragMouse(int shift, SurfacePoint at);
   /// MouseUp, then Click.
   void releaseMouse(MouseButton button, int shift, SurfacePoint at);
@@ -200,23 +206,40 @@ class Surface final : public Control {
     int top;     ///< twips below the paragraph's top
     int height;  ///< twips
     int number;  ///< in the paragraph, from 0
+    bool goesOn; ///< the paragraph has another line below
+  };
+  /// A height in a paragraph, in twips below its top.
+  struct ParagraphSpot {
+    int paragraph;
+    long long y;
+  };
+  struct Selection {
+    int start = 0;
+    int length = 0;
+
+    friend bool operator==(const Selection&, const Selection&) = default;
   };
   enum class Selecting { No, Yes };
+  enum class TextIs { Same, Different };
 
   // Text and attributes.
   [[nodiscard]] const CharStyle& selStyle() const;
   [[nodiscard]] ParagraphStyle selParagraphStyle() const;
-  [[nodiscard]] const CharStyle& insertionStyle() const;
-  [[nodiscard]] const CharStyle& styleAt(int caret) const;
-  void replaceText(int from, int to, std::string_view text, const CharStyle& style);
-  void setWholeText(std::string_view text);
+  [[nodiscard]] std::optional<StyleId> insertionStyle() const;
+  [[nodiscard]] const CharStyle& styleAt(int caret) const { return styles_[runs_.styleAt(caret)]; }
+  void replaceText(int from, int to, std::string_view text, StyleId style);
+  void exchange(int from, int to, std::string_view text, StyleId style);
+  void replaceAll(std::string_view text, const std::function<void()>& fill);
+  void format(const StyledText& text);
+  void resetAll(std::string_view text);
   template <class Edit>
   void changeStyle(Edit edit);
   template <class Edit>
   void changeParagraphs(Edit edit);
-  void select(int start, int length);
-  void textChanged();
-  void defaultsChanged();
+  void select(Selection selection);
+  [[nodiscard]] Selection selection() const noexcept { return {selStart_, selLength_}; }
+  void tellText(Selection before, TextIs text);
+  void tellLook();
   [[nodiscard]] int clampCaret(long long caret) const noexcept;
 
   // Lines and scrolling.
@@ -225,8 +248,12 @@ class Surface final : public Control {
   [[nodiscard]] ParagraphShape shapeOf(int paragraph) const;
   [[nodiscard]] int heightOf(int paragraph) const { return shapeOf(paragraph).height; }
   [[nodiscard]] LinePlace lineAt(int caret) const;
+  [[nodiscard]] std::optional<LinePlace> neighbourLine(const LinePlace& line, int step) const;
+  [[nodiscard]] ParagraphSpot spotAt(int paragraph, long long y) const;
   [[nodiscard]] int caretInLine(const LinePlace& line, int x) const;
   [[nodiscard]] int columnOf(int caret) const;
+  void resized() override { scrollMayBeOff_ = true; }
+  void scrollWithEdit(int first, int last, int added);
   void bringIntoView(int caret);
   void settleScroll() const;
   void showCaret(int caret) const;
@@ -237,8 +264,13 @@ class Surface final : public Control {
   void typeCharacter(char character);
   void moveCaret(int caret, Selecting selecting);
   [[nodiscard]] int activeEnd() const noexcept;
-  void moveByLines(int lines, Selecting selecting);
+  void moveHorizontally(int keyCode, int shift);
+  void moveInLine(int keyCode, int shift);
+  void moveToLine(const LinePlace& line, Selecting selecting);
+  void moveByLine(int step, Selecting selecting);
   void moveByPage(int direction, Selecting selecting);
+  [[nodiscard]] int caretBefore(int caret) const;
+  [[nodiscard]] int caretBehind(int caret) const;
   [[nodiscard]] int wordStartBefore(int caret) const;
   [[nodiscard]] int wordStartBehind(int caret) const;
   void erase(int from, int to);
@@ -252,7 +284,7 @@ class Surface final : public Control {
   StyleTable<ParagraphStyle> paragraphStyles_;
   CharStyle defaultStyle_;
   /// Style of what is written next at the caret, until the caret moves.
-  std::optional<CharStyle> pendingStyle_;
+  std::optional<StyleId> pendingStyle_;
   int selStart_ = 0;
   int selLength_ = 0;
   int anchor_ = 0;             ///< the end of the selection that stays while it is extended
@@ -260,9 +292,12 @@ class Surface final : public Control {
   /// Carets that are still to be brought into view, oldest first; done when somebody looks.
   mutable std::vector<int> unshownCarets_;
   mutable ScrollPlace scroll_;
+  mutable bool scrollMayBeOff_ = false; ///< the first paragraph in view may have become shorter
   std::uint64_t revision_ = 0;
   bool locked_ = true;
   bool clickIsOver_ = false; ///< the next release belongs to a double click
+  bool changeRuns_ = false;  ///< the handler is at work, and what it does itself is not told again
+  bool selChangeRuns_ = false;
 };
 
 } // namespace talvora

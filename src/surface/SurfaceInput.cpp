@@ -13,6 +13,11 @@ namespace {
 constexpr CharClass WordCharacters("[a-zA-Z0-9'\x80-\xFF]");
 constexpr char Blank = ' ';
 
+/// A character that a key has and that is no text: Esc, Backspace.
+constexpr bool isControl(char character) {
+  return asc(character) < asc(Blank) && character != '\r' && character != '\t';
+}
+
 } // namespace
 
 // -- Keys.
@@ -28,11 +33,10 @@ void Surface::pressKey(int keyCode, int shift, char character) {
     typed = chr(keyAscii);
     if (typed == 0) return;
   }
-  const bool control = asc(typed) < asc(Blank) && typed != '\r' && typed != '\t';
-  if (typed != 0 && !control) {
-    typeCharacter(typed);
-  } else {
+  if (typed == 0 || isControl(typed)) {
     actOnKey(code, shift);
+  } else {
+    typeCharacter(typed);
   }
 }
 
@@ -43,29 +47,20 @@ void Surface::releaseKey(int keyCode, int shift) {
 
 void Surface::actOnKey(int keyCode, int shift) {
   const Selecting selecting = (shift & shift::Shift) != 0 ? Selecting::Yes : Selecting::No;
-  const bool ctrl = (shift & shift::Ctrl) != 0;
-  const int caret = activeEnd();
-  const int selectionEnd = selStart_ + selLength_;
   switch (keyCode) {
   case key::Left:
-    if (selLength_ > 0 && selecting == Selecting::No && !ctrl) {
-      moveCaret(selStart_, selecting);
-    } else {
-      moveCaret(ctrl ? wordStartBefore(caret) : caret - 1, selecting);
-    }
-    break;
   case key::Right:
-    if (selLength_ > 0 && selecting == Selecting::No && !ctrl) {
-      moveCaret(selectionEnd, selecting);
-    } else {
-      moveCaret(ctrl ? wordStartBehind(caret) : caret + 1, selecting);
-    }
+    moveHorizontally(keyCode, shift);
+    break;
+  case key::Home:
+  case key::End:
+    moveInLine(keyCode, shift);
     break;
   case key::Up:
-    moveByLines(-1, selecting);
+    moveByLine(-1, selecting);
     break;
   case key::Down:
-    moveByLines(1, selecting);
+    moveByLine(1, selecting);
     break;
   case key::PgUp:
     moveByPage(-1, selecting);
@@ -73,33 +68,11 @@ void Surface::actOnKey(int keyCode, int shift) {
   case key::PgDn:
     moveByPage(1, selecting);
     break;
-  case key::Home: {
-    const LinePlace line = lineAt(caret);
-    moveCaret(ctrl ? 0 : paragraphStart(line.paragraph) + line.from, selecting);
-    break;
-  }
-  case key::End: {
-    const LinePlace line = lineAt(caret);
-    const int end = paragraphStart(line.paragraph) + line.to;
-    // The end of a line that goes on below stands ahead of the blank that it breaks at.
-    const bool goesOn = end > 0 && end < text_.length() && lineAt(end).from == line.to &&
-                        lineAt(end).paragraph == line.paragraph && line.to > line.from;
-    moveCaret(ctrl ? text_.length() : goesOn ? end - 1 : end, selecting);
-    break;
-  }
   case key::Backspace:
-    if (selLength_ > 0) {
-      erase(selStart_, selectionEnd);
-    } else if (selStart_ > 0) {
-      erase(selStart_ - 1, selStart_);
-    }
+    erase(selLength_ > 0 ? selStart_ : caretBefore(selStart_), selStart_ + selLength_);
     break;
   case key::Delete:
-    if (selLength_ > 0) {
-      erase(selStart_, selectionEnd);
-    } else if (selStart_ < text_.length()) {
-      erase(selStart_, selStart_ + 1);
-    }
+    erase(selStart_, selLength_ > 0 ? selStart_ + selLength_ : caretBehind(selStart_));
     break;
   default:
     break;
@@ -116,50 +89,88 @@ void Surface::moveCaret(int caret, Selecting selecting) {
   columnX_.reset();
   bringIntoView(place);
   if (selecting == Selecting::No) anchor_ = place;
-  select(std::min(anchor_, place), std::abs(place - anchor_));
-  changed(ControlChange::Scroll);
+  select({std::min(anchor_, place), std::abs(place - anchor_)});
 }
 
-void Surface::moveByLines(int lines, Selecting selecting) {
-  int caret = activeEnd();
-  const LinePlace start = lineAt(caret);
-  const int x = columnX_ ? *columnX_ : columnOf(caret);
-  const int step = lines < 0 ? -1 : 1;
-  for (LinePlace line = start; lines != 0; lines -= step) {
-    const int edge = step < 0 ? paragraphStart(line.paragraph) + line.from - 1
-                              : paragraphStart(line.paragraph) + line.to;
-    // A line that goes on below is followed by the caret where it breaks, another one by the caret
-    // behind its line end.
-    const bool lastOfParagraph =
-        line.to == static_cast<int>(paragraph(line.paragraph).text.size());
-    const int next = step > 0 && lastOfParagraph ? paragraphStart(line.paragraph + 1) : edge;
-    const bool stays = next < 0 || next > text_.length() ||
-                       (step > 0 && lastOfParagraph && line.paragraph + 1 == paragraphs_.count());
-    if (stays) break;
-    line = lineAt(next);
-    caret = caretInLine(line, x);
+void Surface::moveHorizontally(int keyCode, int shift) {
+  const Selecting selecting = (shift & shift::Shift) != 0 ? Selecting::Yes : Selecting::No;
+  const bool byWord = (shift & shift::Ctrl) != 0;
+  const bool left = keyCode == key::Left;
+  const int caret = activeEnd();
+  if (byWord) {
+    moveCaret(left ? wordStartBefore(caret) : wordStartBehind(caret), selecting);
+  } else if (selLength_ > 0 && selecting == Selecting::No) {
+    moveCaret(left ? selStart_ : selStart_ + selLength_, selecting);
+  } else {
+    moveCaret(left ? caretBefore(caret) : caretBehind(caret), selecting);
   }
-  moveCaret(caret, selecting);
-  columnX_ = x;
 }
 
-void Surface::moveByPage(int direction, Selecting selecting) {
+void Surface::moveInLine(int keyCode, int shift) {
+  const Selecting selecting = (shift & shift::Shift) != 0 ? Selecting::Yes : Selecting::No;
+  const bool home = keyCode == key::Home;
+  if ((shift & shift::Ctrl) != 0) {
+    moveCaret(home ? 0 : text_.length(), selecting);
+    return;
+  }
   const LinePlace line = lineAt(activeEnd());
-  const int lines = std::max(1, Height() / std::max(line.height, 1) - 1);
-  moveByLines(direction * lines, selecting);
+  // The end of a line that goes on stands ahead of the blank that it breaks at.
+  const int end = line.goesOn ? std::max(line.from, line.to - 1) : line.to;
+  moveCaret(paragraphStart(line.paragraph) + (home ? line.from : end), selecting);
+}
+
+// Goes to a line and keeps the column that the caret came from.
+void Surface::moveToLine(const LinePlace& line, Selecting selecting) {
+  const int x = columnX_ ? *columnX_ : columnOf(activeEnd());
+  const int caret = caretInLine(line, x);
+  moveCaret(caret, selecting);
+  if (activeEnd() == caret) columnX_ = x;
+}
+
+void Surface::moveByLine(int step, Selecting selecting) {
+  const LinePlace here = lineAt(activeEnd());
+  moveToLine(neighbourLine(here, step).value_or(here), selecting);
+}
+
+// Goes by as many lines as the surface shows, at least by one.
+void Surface::moveByPage(int direction, Selecting selecting) {
+  LinePlace line = lineAt(activeEnd());
+  int room = Height();
+  for (auto next = neighbourLine(line, direction); next; next = neighbourLine(line, direction)) {
+    line = *next;
+    room -= line.height;
+    if (room < line.height) break;
+  }
+  moveToLine(line, selecting);
+}
+
+// A line end of two characters is passed as one.
+
+int Surface::caretBefore(int caret) const {
+  const bool pair = caret >= 2 && text_.at(caret - 1) == '\n' && text_.at(caret - 2) == '\r';
+  return std::max(caret - (pair ? 2 : 1), 0);
+}
+
+int Surface::caretBehind(int caret) const {
+  const bool pair = CharAt(caret) == '\r' && CharAt(caret + 1) == '\n';
+  return std::min(caret + (pair ? 2 : 1), text_.length());
 }
 
 int Surface::wordStartBefore(int caret) const {
   int place = caret;
-  while (place > 0 && !WordCharacters.has(text_.at(place - 1))) --place;
-  while (place > 0 && WordCharacters.has(text_.at(place - 1))) --place;
+  while (place > 0 && !WordCharacters.has(text_.at(place - 1)))
+    --place;
+  while (place > 0 && WordCharacters.has(text_.at(place - 1)))
+    --place;
   return place;
 }
 
 int Surface::wordStartBehind(int caret) const {
   int place = caret;
-  while (place < text_.length() && WordCharacters.has(text_.at(place))) ++place;
-  while (place < text_.length() && !WordCharacters.has(text_.at(place))) ++place;
+  while (place < text_.length() && WordCharacters.has(text_.at(place)))
+    ++place;
+  while (place < text_.length() && !WordCharacters.has(text_.at(place)))
+    ++place;
   return place;
 }
 
@@ -167,7 +178,7 @@ int Surface::wordStartBehind(int caret) const {
 
 bool Surface::mayChange(int from, int to) const {
   if (locked_ || !Enabled()) return false;
-  for (int place = from; place < to; ++place) {
+  for (int place = from; place < to; place = runs_.start(runs_.runOf(place) + 1)) {
     if (styleAt(place).protectedText) return false;
   }
   // Protected text has no gaps to write into.
@@ -177,22 +188,15 @@ bool Surface::mayChange(int from, int to) const {
 
 void Surface::typeCharacter(char character) {
   if (!mayChange(selStart_, selStart_ + selLength_)) return;
+  bringIntoView(selStart_ + selLength_);
   SelText(character);
-  bringIntoView(selStart_);
 }
 
 void Surface::erase(int from, int to) {
-  if (!mayChange(from, to)) return;
-  const int caretBefore = selStart_;
-  replaceText(from, to, {}, defaultStyle_);
+  if (from == to || !mayChange(from, to)) return;
   pendingStyle_.reset();
-  selStart_ = from;
-  selLength_ = 0;
-  anchor_ = from;
   bringIntoView(from);
-  changed(ControlChange::Text);
-  if (Change) Change();
-  if (caretBefore != selStart_ && SelChange) SelChange();
+  replaceText(from, to, {}, runs_.styleAt(from));
 }
 
 // -- Mouse.
@@ -224,13 +228,17 @@ void Surface::releaseMouse(MouseButton button, int shift, SurfacePoint at) {
 void Surface::doubleClick(int, SurfacePoint at) {
   clickIsOver_ = true;
   int start = caretAt(at);
-  while (start > 0 && WordCharacters.has(text_.at(start - 1))) --start;
+  while (start > 0 && WordCharacters.has(text_.at(start - 1)))
+    --start;
   int end = start;
-  while (end < text_.length() && WordCharacters.has(text_.at(end))) ++end;
-  while (end < text_.length() && text_.at(end) == Blank) ++end;
+  while (end < text_.length() && WordCharacters.has(text_.at(end)))
+    ++end;
+  while (end < text_.length() && text_.at(end) == Blank)
+    ++end;
   pendingStyle_.reset();
+  columnX_.reset();
   anchor_ = start;
-  select(start, end - start);
+  select({start, end - start});
   if (DblClick) DblClick();
 }
 

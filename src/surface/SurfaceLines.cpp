@@ -2,13 +2,18 @@
 #include "surface/Surface.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace talvora {
 
 namespace {
 
-/// More jumps than this before anybody looks change nothing about what is seen.
-constexpr std::size_t MostUnshownCarets = 4;
+/// Turns to and fro that are kept while nobody looks.
+constexpr std::size_t MostUnshownCarets = 16;
+
+bool liesBetween(int value, int first, int last) {
+  return std::min(first, last) <= value && value <= std::max(first, last);
+}
 
 } // namespace
 
@@ -32,11 +37,38 @@ Surface::LinePlace Surface::lineAt(int caret) const {
   const int offset = caret - paragraphStart(index);
   const ParagraphShape shape = shapeOf(index);
   std::size_t line = 0;
-  while (line + 1 < shape.lines.size() && shape.lines[line + 1].from <= offset) ++line;
-  const bool last = line + 1 == shape.lines.size();
-  const int to = last ? static_cast<int>(paragraph(index).text.size()) : shape.lines[line + 1].from;
+  while (line + 1 < shape.lines.size() && shape.lines[line + 1].from <= offset)
+    ++line;
+  const bool goesOn = line + 1 < shape.lines.size();
+  const int to =
+      goesOn ? shape.lines[line + 1].from : static_cast<int>(paragraph(index).text.size());
   const LineShape& found = shape.lines[line];
-  return {index, found.from, to, found.top, found.height, static_cast<int>(line)};
+  return {index, found.from, to, found.top, found.height, static_cast<int>(line), goesOn};
+}
+
+// The line below with a step of 1, the one above with -1.
+std::optional<Surface::LinePlace> Surface::neighbourLine(const LinePlace& line, int step) const {
+  const int start = paragraphStart(line.paragraph);
+  if (step < 0) {
+    const int caret = start + line.from - 1;
+    return caret < 0 ? std::nullopt : std::optional(lineAt(caret));
+  }
+  if (line.goesOn) return lineAt(start + line.to);
+  if (line.paragraph + 1 == paragraphs_.count()) return std::nullopt;
+  return lineAt(paragraphStart(line.paragraph + 1));
+}
+
+// The same height told from the paragraph that it lies in; beyond the text from its nearest one.
+Surface::ParagraphSpot Surface::spotAt(int paragraph, long long y) const {
+  while (y < 0 && paragraph > 0)
+    y += heightOf(--paragraph);
+  while (paragraph + 1 < paragraphs_.count()) {
+    const int height = heightOf(paragraph);
+    if (y < height) break;
+    y -= height;
+    ++paragraph;
+  }
+  return {paragraph, std::clamp<long long>(y, 0, heightOf(paragraph))};
 }
 
 int Surface::GetLineFromChar(int caret) const {
@@ -50,18 +82,12 @@ int Surface::GetLineFromChar(int caret) const {
 
 int Surface::caretAt(SurfacePoint point) const {
   settleScroll();
-  int index = scroll_.paragraph;
-  int y = point.y + scroll_.offset;
-  while (index + 1 < paragraphs_.count()) {
-    const int height = heightOf(index);
-    if (y < height) break;
-    y -= height;
-    ++index;
-  }
-  const int offset = withView(index, [&](const ParagraphView& view) {
-    return layout_.offsetAt(view, point.x, y);
+  const ParagraphSpot spot =
+      spotAt(scroll_.paragraph, static_cast<long long>(scroll_.offset) + point.y);
+  const int offset = withView(spot.paragraph, [&](const ParagraphView& view) {
+    return layout_.offsetAt(view, point.x, static_cast<int>(spot.y));
   });
-  return paragraphStart(index) + offset;
+  return paragraphStart(spot.paragraph) + offset;
 }
 
 SurfacePoint Surface::pointOf(int caret) const {
@@ -69,8 +95,10 @@ SurfacePoint Surface::pointOf(int caret) const {
   const int place = clampCaret(caret);
   const int index = paragraphOf(place);
   int top = -scroll_.offset;
-  for (int each = scroll_.paragraph; each < index; ++each) top += heightOf(each);
-  for (int each = index; each < scroll_.paragraph; ++each) top -= heightOf(each);
+  for (int each = scroll_.paragraph; each < index; ++each)
+    top += heightOf(each);
+  for (int each = index; each < scroll_.paragraph; ++each)
+    top -= heightOf(each);
   const int offset = place - paragraphStart(index);
   return withView(index, [&](const ParagraphView& view) {
     const CaretPlace left = layout_.placeOf(view, offset);
@@ -85,7 +113,9 @@ int Surface::caretInLine(const LinePlace& line, int x) const {
   const int offset = withView(line.paragraph, [&](const ParagraphView& view) {
     return layout_.offsetAt(view, x, line.top + line.height / 2);
   });
-  return paragraphStart(line.paragraph) + offset;
+  // The caret behind the last character of a line that goes on stands on the next line.
+  const int last = line.goesOn ? std::max(line.from, line.to - 1) : line.to;
+  return paragraphStart(line.paragraph) + std::clamp(offset, line.from, last);
 }
 
 int Surface::columnOf(int caret) const {
@@ -99,14 +129,38 @@ int Surface::columnOf(int caret) const {
 //    placements only lead to the next one.
 
 void Surface::bringIntoView(int caret) {
-  if (unshownCarets_.size() == MostUnshownCarets) unshownCarets_.erase(unshownCarets_.begin());
-  unshownCarets_.push_back(caret);
+  std::vector<int>& carets = unshownCarets_;
+  // Of several steps in one direction only the first and the last decide what is seen.
+  const std::size_t count = carets.size();
+  if (count >= 2 && liesBetween(carets[count - 1], carets[count - 2], caret)) carets.pop_back();
+  carets.push_back(caret);
+  if (carets.size() <= MostUnshownCarets) return;
+  settleScroll();
+  // A surface without a size shows nothing that an old caret could have moved.
+  if (!carets.empty()) carets.erase(carets.begin());
 }
 
 void Surface::settleScroll() const {
-  if (unshownCarets_.empty() || Height() <= 0 || Width() <= 0) return;
-  for (const int caret : unshownCarets_) showCaret(clampCaret(caret));
+  if (Height() <= 0 || Width() <= 0) return;
+  if (std::exchange(scrollMayBeOff_, false) && scroll_.offset > 0) {
+    scroll_.offset = std::min(scroll_.offset, shapeOf(scroll_.paragraph).lines.back().top);
+  }
+  for (const int caret : unshownCarets_)
+    showCaret(clampCaret(caret));
   unshownCarets_.clear();
+}
+
+// Keeps the same text in view when paragraphs come or go: the edit touched those from `first` to
+// `last` and added some.
+void Surface::scrollWithEdit(int first, int last, int added) {
+  if (scroll_.paragraph < first) return;
+  if (scroll_.paragraph > last) {
+    scroll_.paragraph += added;
+    return;
+  }
+  const int now = std::min(scroll_.paragraph, last + added);
+  if (now != scroll_.paragraph) scroll_ = {now, 0};
+  scrollMayBeOff_ = true;
 }
 
 void Surface::showCaret(int caret) const {
@@ -139,16 +193,9 @@ void Surface::showAsLastLine(const LinePlace& line) const {
 void Surface::scrollBy(int twips) {
   settleScroll();
   const ScrollPlace before = scroll_;
-  long long offset = static_cast<long long>(scroll_.offset) + twips;
-  while (offset < 0 && scroll_.paragraph > 0) offset += heightOf(--scroll_.paragraph);
-  offset = std::max<long long>(offset, 0);
-  while (scroll_.paragraph + 1 < paragraphs_.count()) {
-    const int height = heightOf(scroll_.paragraph);
-    if (offset < height) break;
-    offset -= height;
-    ++scroll_.paragraph;
-  }
-  scroll_.offset = static_cast<int>(std::min<long long>(offset, heightOf(scroll_.paragraph)));
+  const ParagraphSpot spot =
+      spotAt(scroll_.paragraph, static_cast<long long>(scroll_.offset) + twips);
+  scroll_ = {spot.paragraph, static_cast<int>(spot.y)};
   // The last line stays at the lower edge, unless all of the text is shorter than the surface.
   long long below = -scroll_.offset;
   for (int each = scroll_.paragraph; each < paragraphs_.count() && below < Height(); ++each) {

@@ -2,6 +2,8 @@
 // that a seed number fixes. A failure is whatever the sanitizers or the target itself abort on; the
 // input that led there is left in the file "crash-input".
 
+#include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -12,8 +14,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <chrono>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 

@@ -48,37 +48,50 @@ int roomOf(const ParagraphView& paragraph) {
   return paragraph.width - margins - indentOf(paragraph);
 }
 
-std::vector<int> lineStarts(const ParagraphView& paragraph) {
-  std::vector<int> starts = {0};
-  RunWalker walker(paragraph);
-  const int room = roomOf(paragraph);
-  int taken = 0;        // by the line so far
-  int breakAt = 0;      // where the word at hand begins
-  int takenAtBreak = 0; // by the line up to there
-  for (int offset = 0; offset < length(paragraph); ++offset) {
-    const int width = walker.widthAt(offset);
-    const bool blank = paragraph.text[static_cast<std::size_t>(offset)] == ' ';
-    if (!blank && taken + width > room && offset > starts.back()) {
-      if (breakAt <= starts.back()) {
-        breakAt = offset;
-        takenAtBreak = taken;
-      }
-      starts.push_back(breakAt);
-      taken -= takenAtBreak;
-      takenAtBreak = 0;
-      // What moved down to the new line may be longer than that line by itself.
-      if (taken + width > room && offset > starts.back()) {
-        starts.push_back(offset);
-        taken = 0;
-      }
-    }
-    taken += width;
+/// Breaks one paragraph, character by character.
+class LineBreaker {
+ public:
+  explicit LineBreaker(int room) : room_(room) {}
+
+  void add(int offset, int width, char character) {
+    const bool blank = character == ' ';
+    if (!blank) breakAhead(offset, width);
+    taken_ += width;
     if (blank) {
-      breakAt = offset + 1;
-      takenAtBreak = taken;
+      word_ = offset + 1;
+      takenAtWord_ = taken_;
     }
   }
-  return starts;
+  [[nodiscard]] const std::vector<int>& starts() const noexcept { return starts_; }
+
+ private:
+  void breakAhead(int offset, int width) {
+    if (overflows(offset, width) && word_ > starts_.back()) startLine(word_, taken_ - takenAtWord_);
+    // A word that does not fit by itself is broken.
+    if (overflows(offset, width)) startLine(offset, 0);
+  }
+  [[nodiscard]] bool overflows(int offset, int width) const noexcept {
+    return taken_ + width > room_ && offset > starts_.back();
+  }
+  void startLine(int offset, int taken) {
+    starts_.push_back(offset);
+    taken_ = taken;
+  }
+
+  int room_;
+  std::vector<int> starts_ = {0};
+  int taken_ = 0;       ///< by the line so far
+  int word_ = 0;        ///< where the word at hand begins
+  int takenAtWord_ = 0; ///< by the line up to there
+};
+
+std::vector<int> lineStarts(const ParagraphView& paragraph) {
+  RunWalker walker(paragraph);
+  LineBreaker breaker(roomOf(paragraph));
+  for (int offset = 0; offset < length(paragraph); ++offset) {
+    breaker.add(offset, walker.widthAt(offset), paragraph.text[static_cast<std::size_t>(offset)]);
+  }
+  return breaker.starts();
 }
 
 int heightOfLine(RunWalker& walker, int from, int to) {

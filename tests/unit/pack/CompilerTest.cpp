@@ -83,7 +83,8 @@ TEST(Compiler, OpenSlotsSayThatTheyAreBeingWritten) {
   EXPECT_EQ(storedUntil(bytesOf(files, "datavp.n"), 0, '@'), ownText("(đang soạn)") + "\r");
   const std::string item =
       *storedUntil(bytesOf(files, "dataN.av"), integerAt(bytesOf(files, "dataN.vt"), 556), '@');
-  EXPECT_EQ(utf8Of(item.substr(0, 2)), "9 ");
+  // An open record stands behind the ninth unit, where the program does not play it.
+  EXPECT_EQ(utf8Of(item.substr(0, 3)), "10 ");
   EXPECT_EQ(std::count(item.begin(), item.end(), '\r'), 5);
 }
 

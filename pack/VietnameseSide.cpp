@@ -1,0 +1,197 @@
+// Choice of the entries and of their senses, and their layout.
+#include "pack/VietnameseSide.h"
+
+#include "pack/Derivation.h"
+#include "pack/StreamText.h"
+#include "text/Text.h"
+#include "text/WordForm.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <unordered_set>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr char entryEnd = '\r';
+constexpr std::string_view possessiveEnding = "'s";
+
+/// An affix that changes the sense of an adjective in one way, and the Vietnamese for that.
+struct PlainAffix {
+  std::string_view affix;
+  std::string_view opening;
+};
+
+constexpr std::array<PlainAffix, 3> plainAffixes = {
+    {{"un-", "không "}, {"-ly", "một cách "}, {"-ness", "sự "}}};
+
+bool isSingleWord(std::string_view head) {
+  return head.find(' ') == std::string_view::npos;
+}
+
+bool hasCapital(std::string_view head) {
+  return lower(head) != head;
+}
+
+/// The shortest of the meanings that semicolons part; those within brackets part nothing.
+std::string shortestMeaning(std::string_view sense) {
+  std::string_view shortest;
+  int depth = 0;
+  std::size_t begin = 0;
+  for (std::size_t at = 0; at <= sense.size(); ++at) {
+    const char character = at < sense.size() ? sense[at] : ';';
+    if (character == '(') ++depth;
+    if (character == ')') --depth;
+    if (character != ';' || (depth > 0 && at < sense.size())) continue;
+    const std::string_view meaning = trim(sense.substr(begin, at - begin));
+    if (shortest.empty() || (!meaning.empty() && meaning.size() < shortest.size()))
+      shortest = meaning;
+    begin = at + 1;
+  }
+  return std::string(shortest);
+}
+
+/// The meaning of a word in one of the classes, or, when none of its senses has one, in its first.
+// Senses stand with the commonest first: a shorter one further down would mislead.
+std::string meaningOf(const Word& word, ClassSet classes) {
+  const auto fits = [classes](const Sense& sense) { return classes.has(sense.wordClass); };
+  const auto found = std::find_if(word.senses.begin(), word.senses.end(), fits);
+  return shortestMeaning((found != word.senses.end() ? *found : word.senses.front()).text);
+}
+
+class SideFiller {
+ public:
+  SideFiller(const WordList& list, const std::vector<std::string>& listed)
+      : list_(list), listed_(listed) {}
+
+  // A click picks single words, so that phrases come behind them.
+  void addOwn() {
+    for (const Word& word : list_.words())
+      if (isSingleWord(word.head)) addOwnWord(word);
+    for (const Word& word : list_.words())
+      if (word.kind == WordKind::OwnForm) addForm(word);
+    for (const Word& word : list_.words())
+      if (!isSingleWord(word.head)) addOwnWord(word);
+  }
+
+  void addFurtherWords() {
+    for (const std::string& listed : listed_)
+      if (isInWordNet(listed)) addDerivation(listed);
+    addPossessives();
+    // What only the word lists know is seldom met: "unnoisy".
+    for (const std::string& listed : listed_)
+      addDerivation(listed);
+  }
+
+  [[nodiscard]] std::vector<SideEntry> takeSorted() {
+    std::sort(entries_.begin(), entries_.end(),
+              [](const SideEntry& left, const SideEntry& right) { return left.form < right.form; });
+    return std::move(entries_);
+  }
+
+ private:
+  void addOwnWord(const Word& word) {
+    const bool own = word.kind == WordKind::Own || word.kind == WordKind::Letter;
+    if (own && !word.senses.empty()) add(word.head, meaningOf(word, {}), {}, word.kind);
+  }
+
+  void addForm(const Word& word) {
+    const Origin& origin = word.origins.front();
+    const Word& base = list_.at(origin.base);
+    add(word.head, meaningOf(base, origin.classes), base.head, word.kind);
+  }
+
+  [[nodiscard]] bool isInWordNet(const std::string& listed) const {
+    const auto number = list_.find(ChuanHoaTu(listed));
+    return number && list_.at(*number).kind == WordKind::WordNet;
+  }
+
+  void addDerivation(const std::string& listed) {
+    const auto fits = [&listed](const PlainAffix& each) {
+      return each.affix.ends_with('-')
+                 ? listed.starts_with(each.affix.substr(0, each.affix.size() - 1))
+                 : listed.ends_with(each.affix.substr(1));
+    };
+    if (std::none_of(plainAffixes.begin(), plainAffixes.end(), fits) || hasCapital(listed)) return;
+    for (const Derivation& derivation : derivationsOf(listed)) {
+      const auto affix = std::find_if(
+          plainAffixes.begin(), plainAffixes.end(),
+          [&derivation](const PlainAffix& each) { return each.affix == derivation.affix; });
+      if (affix == plainAffixes.end()) continue;
+      const Word* base = ownWord(derivation.base, WordClass::Adjective);
+      if (base == nullptr) continue;
+      add(listed, ownText(affix->opening) + meaningOf(*base, {WordClass::Adjective}), base->head,
+          WordKind::Derivation);
+      return;
+    }
+  }
+
+  // There may be more of them than room: short words are met more often than long ones.
+  void addPossessives() {
+    std::vector<std::string> possessives;
+    std::copy_if(listed_.begin(), listed_.end(), std::back_inserter(possessives),
+                 [](const std::string& listed) { return listed.ends_with(possessiveEnding); });
+    std::sort(possessives.begin(), possessives.end(), [](const auto& left, const auto& right) {
+      return left.size() != right.size() ? left.size() < right.size() : left < right;
+    });
+    const std::string opening = ownText("của ");
+    for (const std::string& head : possessives) {
+      const Word* base =
+          ownWord(ChuanHoaTu(std::string_view(head).substr(0, head.size() - 2)), WordClass::Noun);
+      // "Baker's" belongs to a name, not to the word "baker".
+      if (base == nullptr || hasCapital(head) != hasCapital(base->head)) continue;
+      add(head, opening + meaningOf(*base, {WordClass::Noun}), base->head, WordKind::Possessive);
+    }
+  }
+
+  /// The word of our own with a normal form, when it has the class.
+  [[nodiscard]] const Word* ownWord(const std::string& form, WordClass wordClass) const {
+    const auto number = list_.find(form);
+    if (!number) return nullptr;
+    const Word& word = list_.at(*number);
+    return word.kind == WordKind::Own && word.classes.has(wordClass) ? &word : nullptr;
+  }
+
+  void add(const std::string& head, const std::string& meaning, const std::string& base,
+           WordKind kind) {
+    if (entries_.size() == VietnameseSideCount) return;
+    std::string form = ChuanHoaTu(head);
+    if (!forms_.insert(form).second) return;
+    std::string text = head + "~" + meaning;
+    if (!base.empty()) text += " <" + base + ">";
+    entries_.push_back({head, std::move(form), std::move(text), kind});
+  }
+
+  const WordList& list_;
+  const std::vector<std::string>& listed_;
+  std::vector<SideEntry> entries_;
+  std::unordered_set<std::string> forms_;
+};
+
+} // namespace
+
+std::vector<SideEntry> vietnameseSideOf(const WordList& list,
+                                        const std::vector<std::string>& listed) {
+  SideFiller filler(list, listed);
+  filler.addOwn();
+  filler.addFurtherWords();
+  return filler.takeSorted();
+}
+
+std::vector<PackFile> compileVietnameseSide(const std::vector<SideEntry>& entries) {
+  std::string words;
+  std::string positions;
+  std::string stream;
+  for (const SideEntry& entry : entries) {
+    words += entry.head + "\n";
+    appendInteger(positions, stream.size() + 1);
+    appendStored(stream, entry.text + entryEnd);
+  }
+  return {{"datatuD.txt", std::move(words)},
+          {"dataD.vt", std::move(positions)},
+          {"dataD.av", std::move(stream)}};
+}
+
+} // namespace talvora::pack

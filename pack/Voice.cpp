@@ -1,0 +1,59 @@
+// Synthesis with flite.
+#include "pack/Voice.h"
+
+#include "text/Bytes.h"
+
+#include <flite/flite.h>
+#include <flite/flite_version.h>
+
+#include <memory>
+#include <stdexcept>
+
+// The voice libraries come without headers.
+extern "C" {
+cst_voice* register_cmu_us_rms(const char* directory);
+cst_voice* register_cmu_us_awb(const char* directory);
+}
+
+namespace talvora::pack {
+
+namespace {
+
+struct DeleteUtterance {
+  void operator()(cst_utterance* utterance) const { delete_utterance(utterance); }
+};
+
+/// The sentence in the characters that flite knows.
+std::string readable(std::string_view sentence) {
+  constexpr char apostrophe = chr(0x92);
+  std::string text(sentence);
+  for (char& character : text) {
+    if (character == apostrophe) character = '\'';
+    if (asc(character) < ' ' || asc(character) > '~') character = ' ';
+  }
+  return text;
+}
+
+} // namespace
+
+Voice::Voice(Speaker speaker, float stretch) {
+  flite_init();
+  voice_ = speaker == Speaker::Rms ? register_cmu_us_rms(nullptr) : register_cmu_us_awb(nullptr);
+  if (voice_ == nullptr) throw std::runtime_error("flite gives no voice for the recordings");
+  flite_feat_set_float(voice_->features, "duration_stretch", stretch);
+}
+
+Samples Voice::speak(std::string_view sentence) const {
+  const std::unique_ptr<cst_utterance, DeleteUtterance> spoken(
+      flite_synth_text(readable(sentence).c_str(), voice_));
+  const cst_wave* wave = spoken ? utt_wave(spoken.get()) : nullptr;
+  if (wave == nullptr || wave->sample_rate != SamplesPerSecond || wave->num_channels != 1)
+    throw std::runtime_error("flite cannot speak: " + std::string(sentence));
+  return {wave->samples, wave->samples + wave->num_samples};
+}
+
+std::string synthesiserName() {
+  return FLITE_PROJECT_PREFIX "-" FLITE_PROJECT_VERSION;
+}
+
+} // namespace talvora::pack

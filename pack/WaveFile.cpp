@@ -1,0 +1,76 @@
+// The wave file is written into memory, so that it reaches the disk as every file of a pack does.
+#include "pack/WaveFile.h"
+
+#include <sndfile.hh>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace talvora::pack {
+
+namespace {
+
+/// A file in memory as libsndfile asks for one.
+class MemoryFile {
+ public:
+  static SF_VIRTUAL_IO operations() {
+    SF_VIRTUAL_IO calls{};
+    calls.get_filelen = [](void* file) { return self(file).length(); };
+    calls.seek = [](sf_count_t offset, int whence, void* file) {
+      return self(file).seek(offset, whence);
+    };
+    calls.read = [](void* to, sf_count_t count, void* file) { return self(file).read(to, count); };
+    calls.write = [](const void* from, sf_count_t count, void* file) {
+      return self(file).write(from, count);
+    };
+    calls.tell = [](void* file) { return self(file).at_; };
+    return calls;
+  }
+
+  [[nodiscard]] std::string takeBytes() { return std::move(bytes_); }
+
+ private:
+  static MemoryFile& self(void* file) { return *static_cast<MemoryFile*>(file); }
+
+  [[nodiscard]] sf_count_t length() const { return static_cast<sf_count_t>(bytes_.size()); }
+
+  sf_count_t seek(sf_count_t offset, int whence) {
+    const sf_count_t origin = whence == SEEK_SET ? 0 : whence == SEEK_CUR ? at_ : length();
+    at_ = std::max<sf_count_t>(origin + offset, 0);
+    return at_;
+  }
+
+  sf_count_t read(void* to, sf_count_t count) {
+    const sf_count_t there = std::clamp<sf_count_t>(length() - at_, 0, count);
+    std::copy_n(bytes_.begin() + at_, there, static_cast<char*>(to));
+    at_ += there;
+    return there;
+  }
+
+  sf_count_t write(const void* from, sf_count_t count) {
+    if (at_ + count > length()) bytes_.resize(static_cast<std::size_t>(at_ + count));
+    std::copy_n(static_cast<const char*>(from), count, bytes_.begin() + at_);
+    at_ += count;
+    return count;
+  }
+
+  std::string bytes_;
+  sf_count_t at_ = 0;
+};
+
+} // namespace
+
+std::string waveFileOf(const Samples& samples, int samplesPerSecond) {
+  MemoryFile memory;
+  {
+    SF_VIRTUAL_IO operations = MemoryFile::operations();
+    SndfileHandle wave(operations, &memory, SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1,
+                       samplesPerSecond);
+    const auto count = static_cast<sf_count_t>(samples.size());
+    if (!wave || wave.write(samples.data(), count) != count)
+      throw std::runtime_error(std::string("no wave file can be made: ") + wave.strError());
+  }
+  return memory.takeBytes();
+}
+
+} // namespace talvora::pack

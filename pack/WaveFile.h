@@ -1,0 +1,16 @@
+// Sound as a wave file.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace talvora::pack {
+
+/// Samples of 16 bits, one channel.
+using Samples = std::vector<std::int16_t>;
+
+/// The bytes of a wave file. Throws std::runtime_error when it cannot be made.
+[[nodiscard]] std::string waveFileOf(const Samples& samples, int samplesPerSecond);
+
+} // namespace talvora::pack

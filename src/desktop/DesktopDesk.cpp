@@ -1,0 +1,72 @@
+#include "desktop/DesktopDesk.h"
+
+#include "text/GlyphMap.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QProcess>
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvora {
+
+namespace {
+
+constexpr int VirtualHeight = 768;
+constexpr int NarrowestScreen = 1024;
+constexpr int WidestScreen = 1366;
+
+QString shown(std::string_view bytes, Encoding encoding) {
+  return QString::fromStdU16String(toUnicode(bytes, encoding));
+}
+
+} // namespace
+
+QSize virtualScreenFor(QSize realScreen) {
+  if (realScreen.height() < VirtualHeight) return realScreen;
+  const double shape = static_cast<double>(realScreen.width()) / realScreen.height();
+  const int width = static_cast<int>(std::lround(VirtualHeight * shape));
+  return {std::clamp(width, NarrowestScreen, WidestScreen), VirtualHeight};
+}
+
+void DesktopClipboard::clear() {
+  QClipboard* const clipboard = QGuiApplication::clipboard();
+  // Asking the window system for nothing costs a round trip with every key.
+  if (clipboard->ownsClipboard()) clipboard->clear();
+}
+
+void DesktopInstallation::run(const std::string& program) {
+  QProcess::startDetached(QString::fromStdString(program), {});
+}
+
+BoxAnswer DesktopBoxes::ask(std::string_view text, std::string_view title, BoxAnswer byDefault) {
+  QMessageBox box(QMessageBox::Question, shown(title, Encoding::Windows1252),
+                  shown(text, Encoding::X1), QMessageBox::Yes | QMessageBox::No, owner);
+  box.setDefaultButton(byDefault == BoxAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
+  box.setEscapeButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+void DesktopBoxes::tell(std::string_view text) {
+  QMessageBox box(QMessageBox::Information, QString(), shown(text, Encoding::X1), QMessageBox::Ok,
+                  owner);
+  box.exec();
+}
+
+void DesktopNarrator::messageShown(const std::string& text, int) {
+  if (!QAccessible::isActive() || window == nullptr) return;
+  window->setAccessibleDescription(shown(text, Encoding::X1));
+  QAccessibleEvent event(window, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
+}
+
+void showFailure(const std::string& message, QWidget* owner) {
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Talvora"),
+                  QString::fromStdString(message), QMessageBox::Ok, owner);
+  box.exec();
+}
+
+} // namespace talvora

@@ -1,0 +1,70 @@
+// The desk around the program: screen, clipboard, what is installed, boxes, and a screen reader.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "platform/Desk.h"
+
+#include <QSize>
+#include <QWidget>
+
+#include <functional>
+
+namespace talvora {
+
+/// The size of the virtual screen, in pixels, for a real screen: 768 high and as wide as the real
+/// screen's shape says, between 1024 and 1366; a lower real screen is taken as it is.
+[[nodiscard]] QSize virtualScreenFor(QSize realScreen);
+
+class DesktopScreen final : public Screen {
+ public:
+  explicit DesktopScreen(QSize size) : size_(size) {}
+
+  [[nodiscard]] int pixelWidth() const override { return size_.width(); }
+  [[nodiscard]] int pixelHeight() const override { return size_.height(); }
+  void Refresh() override { refresh(); }
+
+  /// Paints at once what has changed; set by the window.
+  std::function<void()> refresh = [] {};
+
+ private:
+  QSize size_;
+};
+
+class DesktopClipboard final : public Clipboard {
+ public:
+  void clear() override;
+};
+
+/// Fonts and the speech engine are built in, so that there is nothing to install.
+class DesktopInstallation final : public Installation {
+ public:
+  void installFonts() override {}
+  [[nodiscard]] bool speechEngineInstalled() const override { return true; }
+  [[nodiscard]] bool englishVoiceInstalled() const override { return true; }
+  void run(const std::string& program) override;
+};
+
+class DesktopBoxes final : public Boxes {
+ public:
+  BoxAnswer ask(std::string_view text, std::string_view title, BoxAnswer byDefault) override;
+  void tell(std::string_view text) override;
+
+  /// What a box stands over; set by the window.
+  QWidget* owner = nullptr;
+};
+
+class DesktopNarrator final : public Narrator {
+ public:
+  void messageShown(const std::string& text, int ms) override;
+  void messageTakenDown() override {}
+  void frameShown(int, int) override {}
+  void curtainOpened(const std::string&) override {}
+
+  /// The window that a screen reader is told about; set by the window.
+  QWidget* window = nullptr;
+};
+
+/// A message box with a text of the program's own bytes, on top of `owner`.
+void showFailure(const std::string& message, QWidget* owner);
+
+} // namespace talvora

@@ -1,0 +1,61 @@
+// Keys, pointer and the clicks and strokes that the program sends itself, on the desktop.
+#pragma once
+
+#include "desktop/InputGate.h"
+#include "desktop/KeyTable.h"
+#include "platform/Input.h"
+
+#include <QPoint>
+
+#include <deque>
+#include <functional>
+#include <variant>
+
+namespace talvora {
+
+class DesktopInput final : public Input {
+ public:
+  DesktopInput(KeyTable& keys, InputGate& gate) : keys_(keys), gate_(gate) {}
+
+  bool GetAsyncKeyState(int keyCode) override { return keys_.takePressed(keyCode); }
+  void SetCursorPos(PixelPoint point) override;
+  [[nodiscard]] PixelPoint cursorPos() const override;
+  void sendClick(MouseButton button) override;
+  void sendKey(int keyCode, KeyMotion motion) override;
+
+  // -- Set by the window, which knows where the virtual screen lies.
+
+  /// Places on the virtual screen and on the real one; empty until the window stands.
+  std::function<QPoint(PixelPoint)> toGlobal;
+  std::function<PixelPoint(QPoint)> fromGlobal;
+  /// What a sent click, half a sent key stroke and a move to a place do to the program.
+  std::function<void(MouseButton button, PixelPoint at)> click;
+  std::function<void(int keyCode, KeyMotion motion)> stroke;
+  std::function<void(PixelPoint at)> moveTo;
+
+  /// Delivers what was sent, unless the program sleeps.
+  void deliverSent();
+
+ private:
+  struct Click {
+    MouseButton button;
+    PixelPoint at;
+  };
+  struct Stroke {
+    int keyCode;
+    KeyMotion motion;
+  };
+  struct Move {
+    PixelPoint at;
+  };
+  using Sent = std::variant<Click, Stroke, Move>;
+
+  void send(Sent sent);
+
+  KeyTable& keys_;
+  InputGate& gate_;
+  PixelPoint pointer_; ///< where the platform does not let the pointer be moved
+  std::deque<Sent> sent_;
+};
+
+} // namespace talvora

@@ -1,0 +1,44 @@
+// The desktop as the program's machine: one of each piece.
+#pragma once
+
+#include "desktop/DesktopDesk.h"
+#include "desktop/DesktopInput.h"
+#include "desktop/DesktopTime.h"
+#include "desktop/InputGate.h"
+#include "desktop/KeyTable.h"
+#include "desktop/Sound.h"
+#include "desktop/TextShaper.h"
+#include "platform/Platform.h"
+
+#include <cstdint>
+
+namespace talvora {
+
+class DesktopMachine {
+ public:
+  DesktopMachine(QSize virtualScreen, std::uint64_t seed);
+  DesktopMachine(const DesktopMachine&) = delete;
+  DesktopMachine& operator=(const DesktopMachine&) = delete;
+  ~DesktopMachine();
+
+  // In the order in which they build on each other.
+  KeyTable keys;
+  InputGate gate;
+  DesktopClock clock;
+  DesktopEventLoop events;
+  DesktopInput input;
+  Sound sound;
+  QtTextMetrics metrics;
+  QtLineLayout layout;
+  DesktopBoxes boxes;
+  DesktopScreen screen;
+  DesktopClipboard clipboard;
+  DesktopInstallation installation;
+  DesktopNarrator narrator;
+  Random random;
+
+  /// What a program is given; it lives as long as the machine.
+  Platform platform;
+};
+
+} // namespace talvora

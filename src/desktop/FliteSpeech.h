@@ -1,0 +1,57 @@
+// The speech engine of the desktop: flite, which speaks on a thread of its own.
+#pragma once
+
+#include "desktop/PcmPlayer.h"
+#include "platform/Speech.h"
+
+#include <condition_variable>
+#include <cstdint>
+#include <deque>
+#include <mutex>
+#include <span>
+#include <string>
+#include <thread>
+
+namespace talvora {
+
+/// flite keeps its voices for the whole process: one engine at a time.
+class FliteSpeech final : public SpeechEngine {
+ public:
+  explicit FliteSpeech(PcmPlayer::MakeDevice makeDevice);
+  FliteSpeech(const FliteSpeech&) = delete;
+  FliteSpeech& operator=(const FliteSpeech&) = delete;
+  ~FliteSpeech() override;
+
+  void Speak(std::string_view text) override;
+  void StopSpeaking() override;
+  [[nodiscard]] bool IsSpeaking() const override;
+  void Speed(int wordsPerMinute) override;
+  bool Select(int voice) override;
+
+ private:
+  /// A text with the voice and the speed that were in use when it came.
+  struct Utterance {
+    std::string text;
+    int voice = 1;
+    int wordsPerMinute = 0;
+  };
+  /// What flite's callback is given.
+  struct Stream;
+
+  void run(const std::stop_token& ending);
+  void synthesise(const Utterance& utterance, std::uint64_t stops);
+  /// Plays what belongs to the text that was begun after so many stops; false when that is over.
+  bool playPart(std::span<const std::int16_t> samples, int rate, std::uint64_t stops);
+
+  PcmPlayer player_;
+  mutable std::mutex mutex_;
+  std::condition_variable_any changed_;
+  std::deque<Utterance> queue_;
+  bool synthesising_ = false;
+  std::uint64_t stops_ = 0;
+  int voice_ = 1;
+  int wordsPerMinute_;
+  std::jthread thread_; // The last member: it ends before what it uses.
+};
+
+} // namespace talvora

@@ -1,0 +1,41 @@
+// The mouse on the form: which control a press, a move or a turn of the wheel belongs to.
+#pragma once
+
+#include "desktop/EventBridge.h"
+#include "surface/Form.h"
+
+#include <QPointF>
+
+class QMouseEvent;
+class QWheelEvent;
+
+namespace talvora {
+
+class FormMouse {
+ public:
+  FormMouse(Form& form, EventBridge& bridge) : form_(form), bridge_(bridge) {}
+
+  void setScale(double pixelsPerTwip) noexcept { scale_ = pixelsPerTwip; }
+
+  void press(const QMouseEvent& event);
+  /// The control that took the press gets the release; a button is clicked when it is still under
+  /// the pointer.
+  void release(const QMouseEvent& event);
+  void doubleClick(const QMouseEvent& event);
+  void move(const QMouseEvent& event);
+  void wheel(const QWheelEvent& event);
+
+  /// The control under the pointer, or null.
+  [[nodiscard]] Control* hovered() const { return form_.controlAt(pointer_); }
+
+ private:
+  [[nodiscard]] SurfacePoint pointOf(QPointF pixels) const;
+
+  Form& form_;
+  EventBridge& bridge_;
+  double scale_ = 1;
+  SurfacePoint pointer_; ///< in twips of the form
+  Control* pressed_ = nullptr;
+};
+
+} // namespace talvora

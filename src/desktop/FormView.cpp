@@ -1,0 +1,183 @@
+#include "desktop/FormView.h"
+
+#include "desktop/Accessibility.h"
+#include "desktop/MenuButtonView.h"
+#include "desktop/Palette.h"
+#include "desktop/PlainViews.h"
+#include "desktop/SurfaceView.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace talvora {
+
+FormView::FormView(Form& form, EventBridge& bridge, QtLineLayout& layout, QWidget* parent)
+    : QWidget(parent), form_(form), layout_(layout), mouse_(form, bridge) {
+  setFocusPolicy(Qt::NoFocus);
+  setMouseTracking(true);
+  setAutoFillBackground(true);
+  setPalette(QPalette(QColor(palette::Letterbox)));
+  installAccessibility();
+  form_.observe(this);
+}
+
+FormView::~FormView() {
+  form_.observe(nullptr);
+}
+
+void FormView::setScale(double pixelsPerTwip) {
+  scale_ = pixelsPerTwip;
+  mouse_.setScale(pixelsPerTwip);
+  buttonArt_.clear();
+  for (const auto& [control, view] : views_)
+    view->place(scale_);
+  settleSoon();
+}
+
+// -- What changes.
+
+void FormView::controlChanged(Control& control, ControlChange change) {
+  if (change == ControlChange::Place) {
+    moved_.insert(&control);
+  } else {
+    changed_.insert(&control);
+  }
+  settleSoon();
+}
+
+void FormView::focusChanged() {
+  if (focus_ != nullptr) changed_.insert(focus_);
+  focus_ = form_.ActiveControl();
+  if (focus_ != nullptr) changed_.insert(focus_);
+  focusMoved_ = true;
+  settleSoon();
+  if (onFocusChanged) onFocusChanged();
+}
+
+void FormView::captionChanged() {
+  if (onCaptionChanged) onCaptionChanged();
+}
+
+// -- Bringing it to the screen.
+
+void FormView::settleSoon() {
+  if (std::exchange(settling_, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { settle(); }, Qt::QueuedConnection);
+}
+
+void FormView::repaintNow() {
+  settle();
+  QEvent paintWhatIsMarked(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(window(), &paintWhatIsMarked);
+}
+
+void FormView::settle() {
+  settling_ = false;
+  if (!form_.Visible() || scale_ <= 0) return;
+  if (!std::exchange(formShown_, true)) showForm();
+  for (Control* control : std::exchange(moved_, {}))
+    settlePlace(*control);
+  for (const Control* control : std::exchange(changed_, {})) {
+    if (ControlView* view = viewOf(*control); view != nullptr && view->isVisibleTo(this)) {
+      view->refresh();
+    }
+  }
+  if (std::exchange(focusMoved_, false) && focus_ != nullptr) {
+    if (ControlView* const view = viewOf(*focus_)) tellFocus(*view);
+  }
+  updateCursor();
+}
+
+void FormView::showForm() {
+  moved_.insert(form_.controls().begin(), form_.controls().end());
+}
+
+void FormView::settlePlace(Control& control) {
+  ControlView* view = viewOf(control);
+  if (view == nullptr && control.Visible()) view = &makeView(control);
+  if (view == nullptr) return;
+  view->place(scale_);
+  if (view->isVisibleTo(this) == control.Visible()) return;
+  view->setVisible(control.Visible());
+  if (!control.Visible()) return;
+  // Qt itself would mark a widget that appears only when events run.
+  view->update();
+  view->refresh();
+}
+
+ControlView* FormView::viewOf(const Control& control) const {
+  const auto found = views_.find(&control);
+  return found == views_.end() ? nullptr : found->second;
+}
+
+ControlView& FormView::makeView(Control& control) {
+  ControlView* view = nullptr;
+  // The widgets belong to this one.
+  if (auto* surface = dynamic_cast<Surface*>(&control)) {
+    view = new SurfaceView(*surface, layout_, form_, this);
+  } else if (auto* button = dynamic_cast<Button*>(&control)) {
+    view = new MenuButtonView(*button, buttonArt_, form_, this);
+  } else if (auto* label = dynamic_cast<Label*>(&control)) {
+    view = new LabelView(*label, this);
+  } else if (auto* panel = dynamic_cast<Panel*>(&control)) {
+    view = new PanelView(*panel, this);
+  } else if (auto* frame = dynamic_cast<Frame*>(&control)) {
+    view = new FrameView(*frame, this);
+  } else if (auto* image = dynamic_cast<Image*>(&control)) {
+    view = new ImageView(*image, this);
+  } else {
+    // Nothing is to be seen of any other control.
+    view = new ControlView(control, this);
+  }
+  if (ControlView* const front = nextInFront(control)) view->stackUnder(front);
+  views_.emplace(&control, view);
+  return *view;
+}
+
+ControlView* FormView::nextInFront(const Control& control) const {
+  const auto& order = form_.controls();
+  auto place = std::find(order.begin(), order.end(), &control);
+  while (place != order.end() && ++place != order.end()) {
+    if (ControlView* const view = viewOf(**place)) return view;
+  }
+  return nullptr;
+}
+
+// -- The mouse.
+
+void FormView::updateCursor() {
+  const Control* const under = mouse_.hovered();
+  const auto* surface = dynamic_cast<const Surface*>(under);
+  const Qt::CursorShape shape = dynamic_cast<const Button*>(under) != nullptr
+                                    ? Qt::PointingHandCursor
+                                : surface != nullptr && !surface->Locked() ? Qt::IBeamCursor
+                                                                           : Qt::ArrowCursor;
+  if (cursor().shape() != shape) setCursor(shape);
+}
+
+void FormView::mousePressEvent(QMouseEvent* event) {
+  mouse_.press(*event);
+}
+
+void FormView::mouseReleaseEvent(QMouseEvent* event) {
+  mouse_.release(*event);
+}
+
+void FormView::mouseDoubleClickEvent(QMouseEvent* event) {
+  mouse_.doubleClick(*event);
+}
+
+void FormView::mouseMoveEvent(QMouseEvent* event) {
+  mouse_.move(*event);
+  updateCursor();
+}
+
+void FormView::wheelEvent(QWheelEvent* event) {
+  mouse_.wheel(*event);
+}
+
+} // namespace talvora

@@ -1,0 +1,96 @@
+#include "desktop/PlainViews.h"
+
+#include "desktop/BackgroundArt.h"
+#include "desktop/Fonts.h"
+#include "desktop/Palette.h"
+#include "desktop/TextShaper.h"
+
+#include <QFontMetricsF>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+constexpr int ShadowReach = 150; // twips
+constexpr int CardRadius = 120;  // twips
+constexpr int ShadowSteps = 7;
+constexpr int ShadowOpacity = 9; // of one step, from 0 to 255
+
+} // namespace
+
+// -- The card.
+
+int FrameView::overhang() const {
+  return qRound(ShadowReach * pixelsPerTwip());
+}
+
+void FrameView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const double radius = CardRadius * pixelsPerTwip();
+  const QRectF card = body();
+  const QRectF core = card.adjusted(radius, radius, -radius, -radius);
+  const QColor back = colourOf(frame_.BackColor());
+  // The middle of the card, where surfaces change, needs no round corners and no shadow.
+  if (core.contains(event->rect())) {
+    painter.fillRect(event->rect(), back);
+    return;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  QColor shadow(palette::Shadow);
+  shadow.setAlpha(ShadowOpacity);
+  painter.setBrush(shadow);
+  for (int step = ShadowSteps; step > 0; --step) {
+    const double spread = overhang() * 0.7 * step / ShadowSteps;
+    const double drop = overhang() * 0.25;
+    const QRectF box = card.adjusted(-spread, -spread + drop, spread, spread + drop);
+    painter.drawRoundedRect(box, radius + spread, radius + spread);
+  }
+  painter.setBrush(back);
+  painter.drawRoundedRect(card, radius, radius);
+}
+
+// -- The label.
+
+void LabelView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.fillRect(event->rect(), colourOf(label_.BackColor()));
+  const QFont font = fontFor(label_.Font());
+  const QFontMetricsF metrics(font);
+  const QString text = unitsOf(label_.Caption(), label_.Font().name);
+  const double textWidth = std::max(1.0, metrics.horizontalAdvance(text));
+  const double scale =
+      std::min({pixelsPerTwip(), width() / textWidth, height() / metrics.height()});
+  painter.setFont(font);
+  painter.setPen(colourOf(label_.ForeColor()));
+  painter.translate(width() / 2.0, height() / 2.0);
+  painter.scale(scale, scale);
+  painter.drawText(QPointF(-textWidth / 2, metrics.ascent() - metrics.height() / 2), text);
+}
+
+// -- The curtain.
+
+void PanelView::paintEvent(QPaintEvent* event) {
+  QColor colour = colourOf(panel_.BackColor());
+  colour.setAlpha(std::clamp(panel_.Alpha(), 0, 255));
+  QPainter(this).fillRect(event->rect(), colour);
+}
+
+// -- The background.
+
+void ImageView::paintEvent(QPaintEvent* event) {
+  const double ratio = devicePixelRatioF();
+  if (picture_.size() != size() * ratio) {
+    picture_ = drawLandscape(size() * ratio);
+    picture_.setDevicePixelRatio(ratio);
+  }
+  QPainter painter(this);
+  painter.setClipRegion(event->region());
+  painter.drawPixmap(0, 0, picture_);
+}
+
+} // namespace talvora

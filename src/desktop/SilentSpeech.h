@@ -1,0 +1,26 @@
+// Speech without a voice: takes the time that speaking would take.
+#pragma once
+
+#include "platform/Speech.h"
+
+#include <QElapsedTimer>
+
+namespace talvora {
+
+class SilentSpeech final : public SpeechEngine {
+ public:
+  SilentSpeech() { clock_.start(); }
+
+  void Speak(std::string_view text) override;
+  void StopSpeaking() override { silentFrom_ = 0; }
+  [[nodiscard]] bool IsSpeaking() const override { return clock_.elapsed() < silentFrom_; }
+  void Speed(int wordsPerMinute) override;
+  bool Select(int voice) override { return voice == 1; }
+
+ private:
+  QElapsedTimer clock_;
+  qint64 silentFrom_ = 0; ///< ms of the clock
+  int wordsPerMinute_ = 175;
+};
+
+} // namespace talvora

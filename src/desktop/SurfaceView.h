@@ -1,0 +1,80 @@
+// The view of a surface: paints the paragraphs in view, the selection, the caret and a slim mark of
+// how far the text is scrolled.
+#pragma once
+
+#include "desktop/Accessibility.h"
+#include "desktop/ControlView.h"
+#include "desktop/TextShaper.h"
+#include "surface/Form.h"
+#include "surface/Surface.h"
+
+#include <QRect>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace talvora {
+
+class SurfaceView final : public ControlView {
+ public:
+  SurfaceView(Surface& surface, QtLineLayout& layout, const Form& form, QWidget* parent);
+
+  [[nodiscard]] Surface& surface() const noexcept { return surface_; }
+  [[nodiscard]] bool surfaceHasFocus() const noexcept { return form_.hasFocus(surface_); }
+  [[nodiscard]] double twipsToPixels() const noexcept { return pixelsPerTwip(); }
+  /// A caret's rectangle in pixels of the widget; empty when it is out of view.
+  [[nodiscard]] QRect caretRect(int caret) const;
+
+  /// Marks the paragraphs that look different from what was marked last.
+  void refresh() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  /// What one paragraph in view looks like.
+  struct Piece {
+    std::uint64_t serial = 0;
+    int top = 0;    ///< twips from the surface's top
+    int height = 0; ///< twips
+    int selectedFrom = 0;
+    int selectedTo = 0;
+    int caret = -1; ///< offset in the paragraph; -1 when the caret is not painted in it
+
+    friend bool operator==(const Piece&, const Piece&) = default;
+  };
+  struct Picture {
+    Colour back = 0;
+    QRect scrollMark; ///< pixels; empty when all of the text is in view
+    std::vector<Piece> pieces;
+
+    friend bool operator==(const Picture&, const Picture&) = default;
+  };
+
+  /// Calls `use(paragraph number, shaped paragraph, top in twips)` for each paragraph in view.
+  template <class Use>
+  void eachInView(Use use) const;
+  [[nodiscard]] const ShapedParagraph& shaped(int paragraph) const;
+  [[nodiscard]] Picture picture() const;
+  [[nodiscard]] Piece pieceOf(int paragraph, const ShapedParagraph& shaped, int top) const;
+  [[nodiscard]] QRect scrollMark(const std::vector<Piece>& pieces) const;
+  void updatePiece(const Piece& piece);
+  [[nodiscard]] QRect rectOf(const Piece& piece) const;
+
+  void paintBack(QPainter& painter, const QRect& dirty) const;
+  void paintPiece(QPainter& painter, const ShapedParagraph& shaped, const Piece& piece,
+                  const QRectF& dirty) const;
+  void paintCaret(QPainter& painter, const CaretPlace& place, int top) const;
+  /// Plates and the hint bar stand free on the screen and have round corners.
+  [[nodiscard]] bool isRounded() const;
+
+  Surface& surface_;
+  QtLineLayout& layout_;
+  const Form& form_;
+  /// What was marked for painting last; empty when everything is to be marked the next time.
+  std::optional<Picture> marked_;
+  TextTeller teller_;
+};
+
+} // namespace talvora

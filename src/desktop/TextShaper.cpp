@@ -1,0 +1,292 @@
+#include "desktop/TextShaper.h"
+
+#include "desktop/Fonts.h"
+#include "desktop/Palette.h"
+#include "text/GlyphMap.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace talvora {
+
+namespace {
+
+constexpr int Margin = 120;           ///< twips at either edge of a surface
+constexpr int BulletIndent = 360;     ///< twips from the bullet's place to the text
+constexpr double BulletRadius = 0.13; ///< in heights of a line
+constexpr int TabCharacters = 4;
+constexpr std::size_t MostParagraphs = 1000;
+constexpr char16_t NoWidth = u'\u200B';    ///< a line may break here
+constexpr char16_t JoinsWords = u'\u2060'; ///< nothing to see, and no line breaks here
+
+/// In the VNI rule two bytes may show one letter.
+std::u16string vniUnits(std::string_view bytes) {
+  std::u16string units;
+  for (std::size_t at = 0; at < bytes.size();) {
+    std::u16string letter = toUnicode(bytes.substr(at, 2), Encoding::Vni);
+    const bool pair = letter.size() == 1 && at + 1 < bytes.size();
+    units += letter[0];
+    if (pair) units += JoinsWords;
+    at += pair ? 2 : 1;
+  }
+  return units;
+}
+
+QTextLayout::FormatRange formatOf(int from, int to, const CharStyle& style) {
+  QTextLayout::FormatRange range;
+  range.start = from;
+  range.length = to - from;
+  range.format.setFont(fontFor(style));
+  range.format.setForeground(colourOf(style.color));
+  return range;
+}
+
+double tabDistance(const FontSpec& font) {
+  return std::max(1.0, TabCharacters * QFontMetricsF(fontFor(font)).averageCharWidth());
+}
+
+Qt::Alignment alignmentOf(Alignment alignment) {
+  switch (alignment) {
+  case Alignment::Right:
+    return Qt::AlignRight;
+  case Alignment::Centred:
+    return Qt::AlignHCenter;
+  case Alignment::Left:
+    break;
+  }
+  return Qt::AlignLeft;
+}
+
+template <class Value>
+void append(std::string& key, const Value& value) {
+  char bytes[sizeof(Value)];
+  std::memcpy(bytes, &value, sizeof(Value));
+  key.append(bytes, sizeof(Value));
+}
+
+void append(std::string& key, const FontSpec& font) {
+  key += font.name;
+  key += '\0';
+  append(key, font.size);
+  append(key, font.bold);
+}
+
+/// All that a paragraph's look depends on.
+std::string keyOf(const ParagraphView& paragraph) {
+  std::string key;
+  key.reserve(64 + paragraph.text.size() + paragraph.runs.size() * 24);
+  append(key, paragraph.width);
+  append(key, paragraph.style.align);
+  append(key, paragraph.style.indent);
+  append(key, paragraph.style.bullet);
+  append(key, paragraph.defaultFont);
+  append(key, paragraph.runs.size());
+  for (const StyleRun& run : paragraph.runs) {
+    append(key, run.from);
+    append(key, run.style->font);
+    append(key, run.style->italic);
+    append(key, run.style->underline);
+    append(key, run.style->color);
+  }
+  key += paragraph.text;
+  return key;
+}
+
+} // namespace
+
+QString unitsOf(std::string_view bytes, std::string_view fontName) {
+  const Encoding encoding = encodingOf(fontName);
+  std::u16string units = encoding == Encoding::Vni ? vniUnits(bytes) : toUnicode(bytes, encoding);
+  for (char16_t& unit : units) {
+    if (unit < u' ' && unit != u'\t') unit = NoWidth;
+  }
+  return QString::fromStdU16String(units);
+}
+
+// -- A paragraph.
+
+ShapedParagraph::ShapedParagraph(const ParagraphView& paragraph, std::uint64_t serial)
+    : serial_(serial), length_(static_cast<int>(paragraph.text.size())),
+      bullet_(paragraph.style.bullet) {
+  setText(paragraph);
+  breakLines(paragraph);
+}
+
+void ShapedParagraph::setText(const ParagraphView& paragraph) {
+  QString text;
+  QList<QTextLayout::FormatRange> formats;
+  for (std::size_t run = 0; run < paragraph.runs.size(); ++run) {
+    const int from = paragraph.runs[run].from;
+    const int to = run + 1 < paragraph.runs.size() ? paragraph.runs[run + 1].from : length_;
+    const CharStyle& style = *paragraph.runs[run].style;
+    const auto bytes = paragraph.text.substr(static_cast<std::size_t>(from),
+                                             static_cast<std::size_t>(std::max(0, to - from)));
+    text += unitsOf(bytes, style.font.name);
+    formats.append(formatOf(from, to, style));
+  }
+  layout_.setText(text);
+  layout_.setFont(fontFor(*paragraph.runs.front().style));
+  layout_.setFormats(formats);
+  layout_.setCacheEnabled(true);
+}
+
+void ShapedParagraph::breakLines(const ParagraphView& paragraph) {
+  const double tab = tabDistance(paragraph.defaultFont);
+  QTextOption option(alignmentOf(paragraph.style.align));
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setTextDirection(Qt::LeftToRight);
+  option.setTabStopDistance(tab);
+  layout_.setTextOption(option);
+  placeLines(paragraph);
+  if (widenTabs(paragraph.text, tab / TabCharacters)) placeLines(paragraph);
+}
+
+void ShapedParagraph::placeLines(const ParagraphView& paragraph) {
+  const double start = Margin + paragraph.style.indent;
+  const double left = start + (bullet_ ? BulletIndent : 0);
+  const double room = std::max(1.0, paragraph.width - Margin - left);
+  bulletX_ = start + BulletIndent / 2.0;
+  shape_ = {};
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(room);
+    line.setPosition({left, static_cast<double>(shape_.height)});
+    const int height = static_cast<int>(std::ceil(line.height()));
+    shape_.lines.push_back({line.textStart(), shape_.height, height});
+    shape_.height += height;
+  }
+  layout_.endLayout();
+}
+
+bool ShapedParagraph::widenTabs(std::string_view text, double least) {
+  QList<QTextLayout::FormatRange> formats = layout_.formats();
+  const auto before = formats.size();
+  for (auto at = text.find('\t', 1); at < text.size(); at = text.find('\t', at + 1)) {
+    const int tab = static_cast<int>(at);
+    const QTextLine line = layout_.lineForTextPosition(tab);
+    if (line.cursorToX(tab + 1) - line.cursorToX(tab) >= least) continue;
+    // Room behind the character ahead of it pushes the tab past its stop, on to the next one.
+    QTextLayout::FormatRange range;
+    range.start = tab - 1;
+    range.length = 1;
+    range.format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+    range.format.setFontLetterSpacing(least);
+    formats.append(range);
+  }
+  if (formats.size() == before) return false;
+  layout_.setFormats(formats);
+  return true;
+}
+
+std::size_t ShapedParagraph::lineOf(int offset) const {
+  std::size_t line = 0;
+  while (line + 1 < shape_.lines.size() && shape_.lines[line + 1].from <= offset)
+    ++line;
+  return line;
+}
+
+CaretPlace ShapedParagraph::placeOf(int offset) const {
+  const int inside = std::clamp(offset, 0, length_);
+  const std::size_t number = lineOf(inside);
+  const LineShape& line = shape_.lines[number];
+  const double x = layout_.lineAt(static_cast<int>(number)).cursorToX(inside);
+  return {static_cast<int>(std::lround(x)), line.top, line.height};
+}
+
+int ShapedParagraph::offsetAt(int x, int y) const {
+  std::size_t number = 0;
+  while (number + 1 < shape_.lines.size() && shape_.lines[number + 1].top <= y)
+    ++number;
+  const bool lastLine = number + 1 == shape_.lines.size();
+  // The caret behind a broken line's last character stands on the next line already.
+  const int from = shape_.lines[number].from;
+  const int last = lastLine ? length_ : std::max(from, shape_.lines[number + 1].from - 1);
+  return std::clamp(layout_.lineAt(static_cast<int>(number)).xToCursor(x), from, last);
+}
+
+std::vector<QRectF> ShapedParagraph::rectsOf(int from, int to) const {
+  std::vector<QRectF> rects;
+  for (std::size_t number = 0; number < shape_.lines.size(); ++number) {
+    const LineShape& shape = shape_.lines[number];
+    const QTextLine line = layout_.lineAt(static_cast<int>(number));
+    const int first = std::max(from, shape.from);
+    const int last = std::min(to, shape.from + line.textLength());
+    if (first >= last) continue;
+    const double left = line.cursorToX(first);
+    const double right = line.cursorToX(last);
+    rects.emplace_back(left, shape.top, right - left, shape.height);
+  }
+  return rects;
+}
+
+void ShapedParagraph::paint(QPainter& painter, const QRectF& clip) const {
+  if (bullet_) paintBullet(painter);
+  layout_.draw(&painter, {0, 0}, {}, clip);
+}
+
+void ShapedParagraph::paintBullet(QPainter& painter) const {
+  const LineShape& line = shape_.lines.front();
+  const double radius = line.height * BulletRadius;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(layout_.formats().front().format.foreground());
+  painter.drawEllipse(QPointF(bulletX_, line.top + line.height * 0.55), radius, radius);
+  painter.restore();
+}
+
+// -- Metrics.
+
+int QtTextMetrics::TextWidth(std::string_view text, const FontSpec& font) const {
+  const double width = QFontMetricsF(fontFor(font)).horizontalAdvance(unitsOf(text, font.name));
+  return static_cast<int>(std::ceil(width));
+}
+
+int QtTextMetrics::TextHeight(std::string_view, const FontSpec& font) const {
+  return static_cast<int>(std::ceil(QFontMetricsF(fontFor(font)).height()));
+}
+
+// -- Layout.
+
+ParagraphShape QtLineLayout::layOut(const ParagraphView& paragraph) const {
+  return shaped(paragraph).shape();
+}
+
+CaretPlace QtLineLayout::placeOf(const ParagraphView& paragraph, int offset) const {
+  return shaped(paragraph).placeOf(offset);
+}
+
+int QtLineLayout::offsetAt(const ParagraphView& paragraph, int x, int y) const {
+  return shaped(paragraph).offsetAt(x, y);
+}
+
+const ShapedParagraph& QtLineLayout::shaped(const ParagraphView& paragraph) const {
+  std::string key = keyOf(paragraph);
+  if (const auto found = places_.find(key); found != places_.end()) {
+    entries_.splice(entries_.begin(), entries_, found->second);
+    return entries_.front().paragraph;
+  }
+  if (entries_.size() == MostParagraphs) {
+    places_.erase(entries_.back().key);
+    entries_.pop_back();
+  }
+  entries_.emplace_front(std::move(key), paragraph, ++lastSerial_);
+  places_.emplace(entries_.front().key, entries_.begin());
+  return entries_.front().paragraph;
+}
+
+const ShapedParagraph& QtLineLayout::shaped(const ParagraphContent& content, const FontSpec& font,
+                                            int width) const {
+  std::vector<StyleRun> runs;
+  runs.reserve(content.styles.size());
+  for (std::size_t run = 0; run < content.styles.size(); ++run) {
+    runs.push_back({content.runStarts[run], &content.styles[run]});
+  }
+  return shaped(ParagraphView{content.text, runs, content.style, font, width});
+}
+
+} // namespace talvora

@@ -1,0 +1,94 @@
+// Text set by Qt, in twips: metrics, line layout, and the laid-out paragraphs that a view paints.
+// Layout and view look at the same paragraphs, so what is clicked is what is seen.
+#pragma once
+
+#include "platform/LineLayout.h"
+#include "platform/TextMetrics.h"
+#include "surface/StyledText.h"
+
+#include <QRectF>
+#include <QString>
+#include <QTextLayout>
+
+#include <cstdint>
+#include <list>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+class QPainter;
+
+namespace talvora {
+
+/// The letters that bytes show in a font, exactly one UTF-16 unit a byte: what a byte adds to the
+/// letter of another one, or does not show at all, becomes a unit without width.
+[[nodiscard]] QString unitsOf(std::string_view bytes, std::string_view fontName);
+
+/// One paragraph broken into lines. Offsets are bytes of the paragraph; places are twips from the
+/// surface's left edge and the paragraph's top edge.
+class ShapedParagraph {
+ public:
+  ShapedParagraph(const ParagraphView& paragraph, std::uint64_t serial);
+
+  /// Differs between any two paragraphs that were ever shaped.
+  [[nodiscard]] std::uint64_t serial() const noexcept { return serial_; }
+  [[nodiscard]] const ParagraphShape& shape() const noexcept { return shape_; }
+  [[nodiscard]] CaretPlace placeOf(int offset) const;
+  [[nodiscard]] int offsetAt(int x, int y) const;
+  /// What the characters between two offsets cover, a rectangle a line.
+  [[nodiscard]] std::vector<QRectF> rectsOf(int from, int to) const;
+  /// Paints the lines that reach into `clip`; the painter's origin is the paragraph's.
+  void paint(QPainter& painter, const QRectF& clip) const;
+
+ private:
+  [[nodiscard]] std::size_t lineOf(int offset) const;
+  void setText(const ParagraphView& paragraph);
+  void breakLines(const ParagraphView& paragraph);
+  void placeLines(const ParagraphView& paragraph);
+  /// Sends each tab that is narrower than `least` on to its next stop; false when there is none.
+  bool widenTabs(std::string_view text, double least);
+  void paintBullet(QPainter& painter) const;
+
+  std::uint64_t serial_;
+  QTextLayout layout_;
+  ParagraphShape shape_;
+  int length_;
+  double bulletX_ = 0; ///< middle of the bullet
+  bool bullet_;
+};
+
+class QtTextMetrics final : public TextMetrics {
+ public:
+  [[nodiscard]] int TextWidth(std::string_view text, const FontSpec& font) const override;
+  [[nodiscard]] int TextHeight(std::string_view text, const FontSpec& font) const override;
+};
+
+/// Keeps the paragraphs that were asked for last.
+class QtLineLayout final : public LineLayout {
+ public:
+  [[nodiscard]] ParagraphShape layOut(const ParagraphView& paragraph) const override;
+  [[nodiscard]] CaretPlace placeOf(const ParagraphView& paragraph, int offset) const override;
+  [[nodiscard]] int offsetAt(const ParagraphView& paragraph, int x, int y) const override;
+
+  /// The paragraph as it is painted; valid until the next call.
+  [[nodiscard]] const ShapedParagraph& shaped(const ParagraphView& paragraph) const;
+  [[nodiscard]] const ShapedParagraph& shaped(const ParagraphContent& content, const FontSpec& font,
+                                              int width) const;
+
+ private:
+  struct Entry {
+    Entry(std::string itsKey, const ParagraphView& view, std::uint64_t serial)
+        : key(std::move(itsKey)), paragraph(view, serial) {}
+
+    std::string key;
+    ShapedParagraph paragraph;
+  };
+
+  mutable std::list<Entry> entries_; ///< the one asked for last is in front
+  mutable std::unordered_map<std::string_view, std::list<Entry>::iterator> places_;
+  mutable std::uint64_t lastSerial_ = 0;
+};
+
+} // namespace talvora

@@ -1,0 +1,208 @@
+#include "desktop/Window.h"
+
+#include "desktop/KeyCodes.h"
+#include "surface/Button.h"
+#include "surface/Surface.h"
+#include "text/GlyphMap.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+const QColor LetterboxColour(0x12, 0x22, 0x2E);
+// How long the start may wait for the window system to show the window.
+constexpr int ExposeMs = 200;
+
+} // namespace
+
+Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
+    : machine_(machine), program_(program), bridge_(bridge) {
+  setWindowTitle(QStringLiteral("Talvora"));
+  setWindowFlag(Qt::FramelessWindowHint);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(Qt::StrongFocus);
+  view_ = new FormView(program.form(), bridge, machine.layout, this); // NOLINT: Qt owns it
+  strip_ = new CaptionStrip(this);                                    // NOLINT: Qt owns it
+  strip_->closeClicked = [this] { askToClose(); };
+  view_->onCaptionChanged = [this] {
+    strip_->setCaption(QString::fromStdU16String(
+        toUnicode(program_.form().Caption(), Encoding::Windows1252)));
+  };
+  view_->onFocusChanged = [this] {
+    const Control* const focus = program_.form().ActiveControl();
+    const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
+    machine_.gate.holdMovesWhileArrowDown(onMenu);
+    if (onMenu) {
+      QMetaObject::invokeMethod(this, [this] { settleHover(); }, Qt::QueuedConnection);
+    }
+  };
+  connectMachine();
+}
+
+void Window::connectMachine() {
+  machine_.screen.refresh = [this] { refresh(); };
+  machine_.gate.opened = [this] {
+    machine_.input.deliverSent();
+    if (closeWanted_) askToClose();
+  };
+  machine_.boxes.owner = this;
+  machine_.narrator.window = this;
+  machine_.events.programRuns = [this] { return program_.running() && !bridge_.failed(); };
+  DesktopInput& input = machine_.input;
+  input.toGlobal = [this](PixelPoint point) {
+    return mapToGlobal((origin_ + QPointF(point.x, point.y) * scale_).toPoint());
+  };
+  input.fromGlobal = [this](QPoint point) {
+    const QPointF local = (QPointF(mapFromGlobal(point)) - origin_) / scale_;
+    return PixelPoint{static_cast<int>(local.x()), static_cast<int>(local.y())};
+  };
+  input.click = [this](MouseButton button, PixelPoint at) {
+    bridge_.deliver([&] { clickAt(button, formPointOf(at)); });
+  };
+  input.moveTo = [this](PixelPoint at) {
+    bridge_.deliver([&] { moveTo(formPointOf(at)); });
+  };
+  input.stroke = [this](int keyCode, KeyMotion motion) {
+    bridge_.deliver([&] {
+      if (motion == KeyMotion::Down) {
+        machine_.keys.press(keyCode);
+        program_.form().pressKey(keyCode, machine_.keys.isDown(key::Shift) ? shift::Shift : 0, 0);
+      } else {
+        machine_.keys.release(keyCode);
+        program_.form().releaseKey(keyCode, 0);
+      }
+    });
+  };
+}
+
+// -- Coming up.
+
+void Window::refresh() {
+  if (!program_.form().Visible()) return;
+  if (!isVisible()) showOnScreen();
+  view_->repaintNow();
+}
+
+void Window::showOnScreen() {
+  // Without a window manager nobody else makes it as large as the screen.
+  setGeometry(screen()->geometry());
+  showFullScreen();
+  arrange();
+  view_->onCaptionChanged();
+  // The background is to be seen while the program loads.
+  QElapsedTimer waited;
+  waited.start();
+  while (windowHandle() != nullptr && !windowHandle()->isExposed() && waited.elapsed() < ExposeMs) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+  }
+}
+
+int Window::captionTwips() const {
+  return machine_.screen.pixelHeight() * TwipsPerPixel - program_.form().Height();
+}
+
+void Window::arrange() {
+  const double virtualWidth = machine_.screen.pixelWidth();
+  const double virtualHeight = machine_.screen.pixelHeight();
+  scale_ = std::min(width() / virtualWidth, height() / virtualHeight);
+  origin_ = {(width() - virtualWidth * scale_) / 2, (height() - virtualHeight * scale_) / 2};
+  const double top = origin_.y() + captionTwips() * pixelsPerTwip();
+  const QRect strip(qRound(origin_.x()), qRound(origin_.y()), qRound(virtualWidth * scale_),
+                    qRound(top) - qRound(origin_.y()));
+  strip_->setGeometry(strip);
+  view_->setGeometry(strip.x(), strip.bottom() + 1, strip.width(),
+                     qRound(origin_.y() + virtualHeight * scale_) - strip.bottom() - 1);
+  view_->setScale(pixelsPerTwip());
+}
+
+void Window::resizeEvent(QResizeEvent*) {
+  if (program_.form().Height() > 0) arrange();
+}
+
+void Window::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), LetterboxColour);
+}
+
+void Window::settleHover() {
+  // The pointer came to a button in one jump, while another one was animated: that animation has
+  // ended by now, and this one's is due.
+  auto* const button = dynamic_cast<Button*>(program_.form().ActiveControl());
+  if (button == nullptr || !program_.running() || program_.hoveredButton() == button->TabIndex()) {
+    return;
+  }
+  const SurfacePoint pointer = formPointOf(machine_.input.cursorPos());
+  if (program_.form().controlAt(pointer) != button || machine_.keys.arrowDown()) return;
+  bridge_.deliver([button] {
+    if (button->MouseMove) button->MouseMove();
+  });
+}
+
+// -- Input.
+
+void Window::keyPressEvent(QKeyEvent* event) {
+  const int code = keyCodeOf(*event);
+  if (code == 0 && characterOf(*event) == 0) return;
+  // A modifier's own stroke carries its bit while it goes down.
+  const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
+  // A stroke that was held back is news to the loops that poll only now.
+  machine_.keys.latch(code);
+  bridge_.deliver([&] {
+    program_.form().pressKey(code, shiftOf(event->modifiers()) | own, characterOf(*event));
+  });
+}
+
+void Window::keyReleaseEvent(QKeyEvent* event) {
+  const int code = keyCodeOf(*event);
+  if (event->isAutoRepeat() || code == 0) return;
+  const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
+  bridge_.deliver(
+      [&] { program_.form().releaseKey(code, shiftOf(event->modifiers()) & ~own); });
+}
+
+SurfacePoint Window::formPointOf(PixelPoint pixel) const {
+  return {pixel.x * TwipsPerPixel, pixel.y * TwipsPerPixel - captionTwips()};
+}
+
+void Window::clickAt(MouseButton button, SurfacePoint point) {
+  Control* const under = program_.form().controlAt(point);
+  if (auto* surface = dynamic_cast<Surface*>(under)) {
+    const SurfacePoint at{point.x - surface->Left(), point.y - surface->Top()};
+    surface->pressMouse(button, shift::None, at);
+    surface->releaseMouse(button, shift::None, at);
+  } else if (auto* menuButton = dynamic_cast<Button*>(under)) {
+    if (button == MouseButton::Left && menuButton->Click) menuButton->Click();
+  }
+}
+
+void Window::moveTo(SurfacePoint point) {
+  Control* const under = program_.form().controlAt(point);
+  if (auto* surface = dynamic_cast<Surface*>(under)) {
+    surface->moveMouse(shift::None, {point.x - surface->Left(), point.y - surface->Top()});
+  } else if (auto* menuButton = dynamic_cast<Button*>(under)) {
+    if (menuButton->MouseMove) menuButton->MouseMove();
+  }
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  askToClose();
+}
+
+void Window::askToClose() {
+  closeWanted_ = machine_.gate.isShut();
+  if (closeWanted_) return;
+  bridge_.deliver([this] { program_.closeWindow(); });
+}
+
+} // namespace talvora

@@ -1,0 +1,55 @@
+// The one window: the virtual screen scaled to the real one, with the caption strip on top of the
+// form, and the keyboard.
+#pragma once
+
+#include "desktop/CaptionStrip.h"
+#include "desktop/DesktopMachine.h"
+#include "desktop/EventBridge.h"
+#include "desktop/FormView.h"
+#include "program/Program.h"
+
+#include <QWidget>
+
+namespace talvora {
+
+class Window final : public QWidget {
+ public:
+  Window(DesktopMachine& machine, Program& program, EventBridge& bridge);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  /// Tab belongs to the form.
+  bool focusNextPrevChild(bool) override { return false; }
+
+ private:
+  void connectMachine();
+  /// Paints at once what has changed; the first time it brings the window up.
+  void refresh();
+  void showOnScreen();
+  void arrange();
+  void askToClose();
+  /// Animates the button that has the focus and the pointer, if it is not animated yet.
+  void settleHover();
+  void clickAt(MouseButton button, SurfacePoint point);
+  void moveTo(SurfacePoint point);
+
+  [[nodiscard]] double pixelsPerTwip() const { return scale_ / 15.0; }
+  [[nodiscard]] SurfacePoint formPointOf(PixelPoint pixel) const;
+  /// Height of the caption strip, in twips.
+  [[nodiscard]] int captionTwips() const;
+
+  DesktopMachine& machine_;
+  Program& program_;
+  EventBridge& bridge_;
+  FormView* view_ = nullptr;      ///< owned by this widget
+  CaptionStrip* strip_ = nullptr; ///< owned by this widget
+  double scale_ = 1;              ///< real pixels to a virtual one
+  QPointF origin_;                ///< of the virtual screen in the window
+  bool closeWanted_ = false;      ///< the window was closed while the program slept
+};
+
+} // namespace talvora

@@ -1,0 +1,147 @@
+// Any bytes as the records of an item, up to the first line feed the question and behind it the
+// answer: every kind of page draws it, answers clicks and keys, and explains itself.
+#include "exercises/Exercises.h"
+#include "exercises/ItemMask.h"
+#include "exercises/ItemRecord.h"
+#include "pack/ItemSource.h"
+#include "platform/scripted/ScriptedMachine.h"
+#include "sound/AmthanhThuc.h"
+#include "text/Bytes.h"
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using namespace talvora;
+
+// Longer records only take longer.
+constexpr std::size_t LongestRecord = 1500;
+
+/// A program's exercises without any stores.
+struct Desk {
+  Desk()
+      : form(machine.screen, machine.metrics), controls(form, machine.layout), stores(state.places),
+        shell(machine.platform, form, controls, state),
+        voice(state.places, machine.wave, shell.messages),
+        speech(state, machine.platform, shell.steering, voice),
+        dictionary(form, controls, state, stores, shell, speech),
+        vietnameseSide(controls, state, stores, shell, speech),
+        lessons(controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice}),
+        exercises(form, controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice},
+                  lessons, machine.random),
+        fillIn(exercises.services), choice(exercises.services), mistake(exercises.services) {
+    shell.setup.measureScreen(1024, 768);
+    shell.setup.placeForm();
+    shell.setup.LapCoChu();
+    shell.setup.parkSurfaces();
+    state.measures.KieuTruot = 5;
+    state.list.TenBaiHoc.fill("A title");
+    exercises.services.run = RunCalls();
+  }
+
+  ScriptedMachine machine;
+  Form form;
+  Controls controls;
+  SharedState state;
+  Stores stores;
+  Shell shell;
+  RecordedVoice voice;
+  Speech speech;
+  Dictionary dictionary;
+  VietnameseSide vietnameseSide;
+  VanPham lessons;
+  Exercises exercises;
+  BT_DienTu fillIn;
+  BT_ChonABCD_ choice;
+  BT_Chonsai mistake;
+};
+
+void click(Desk& desk, Surface& surface, int caret, MouseButton button) {
+  desk.state.word.ChoGiai = button == MouseButton::Right;
+  if (surface.MouseDown) surface.MouseDown(MouseButton::Left, shift::None, {});
+  surface.SelStart(caret);
+  surface.MouseUp(MouseButton::Left, shift::None, {});
+}
+
+void use(Desk& desk, Surface& surface) {
+  surface.Visible(true);
+  const int length = surface.TextLength();
+  // Some places of the page, spread over it.
+  const int stride = length / 12 + 1;
+  for (const MouseButton button : {MouseButton::Left, MouseButton::Right}) {
+    for (int caret = 0; caret < length; caret += stride)
+      click(desk, surface, caret, button);
+  }
+  for (const int keyCode : {key::Left, key::Right, key::Backspace, key::Delete}) {
+    surface.pressKey(keyCode, shift::None, '\0');
+    surface.releaseKey(keyCode, shift::None);
+  }
+  for (const char character : {'7', ' ', '\r'}) {
+    int keyAscii = asc(character);
+    surface.KeyPress(keyAscii);
+  }
+  click(desk, surface, length / 2, MouseButton::Left);
+  surface.moveMouse(shift::None, {0, 0});
+  surface.moveMouse(shift::None, {9000, 9000});
+  surface.Check();
+  surface.Visible(false);
+}
+
+void draw(Desk& desk, std::string question, std::string_view answer) {
+  ItemState& item = desk.exercises.item;
+  item.XoaTrangThai();
+  const ItemHeader header = readHeader(question);
+  question.erase(0, header.length);
+  if (question.starts_with('|')) {
+    item.GoiY = TachGoiY(question);
+    item.SoGoiY = static_cast<int>(item.GoiY.size());
+  }
+  item.listsLessons = header.code == 6;
+  item.LoiGiai = ThayTenBai(markReferences(answer, header.kind), desk.state.list.TenBaiHoc);
+  const std::string body = TachThan(question);
+  desk.state.text.CauHoi = question;
+  item.DapAnDung = keyOf(question);
+  switch (header.code % 3) {
+  case 0:
+    desk.fillIn.VeDienTu(body);
+    use(desk, desk.controls.RDT);
+    break;
+  case 1:
+    item.GoiY = TachPhuongAn(question);
+    desk.choice.VeABCD(body);
+    use(desk, desk.controls.RABCD);
+    break;
+  default:
+    desk.mistake.VeChonSai(body);
+    use(desk, desk.controls.Rsai);
+    break;
+  }
+}
+
+/// What is accepted as a source of items must survive being written and read again.
+void checkSource(std::string_view text) {
+  using namespace talvora::pack;
+  Problems problems;
+  const auto items = parseItems(text, "items", ItemPlace::Bank, BlankHelp::Own, problems);
+  if (!problems.none()) return;
+  const std::string written = writeItems(items, ItemPlace::Bank);
+  const auto again = parseItems(written, "items", ItemPlace::Bank, BlankHelp::Own, problems);
+  if (!problems.none() || writeItems(again, ItemPlace::Bank) != written) std::abort();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text(reinterpret_cast<const char*>(data), size);
+  checkSource(text);
+  static Desk desk;
+  const std::string_view records = text.substr(0, LongestRecord);
+  const std::size_t cut = std::min(records.find('\n'), records.size());
+  draw(desk, std::string(records.substr(0, cut)),
+       records.substr(std::min(cut + 1, records.size())));
+  return 0;
+}

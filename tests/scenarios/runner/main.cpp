@@ -1,0 +1,87 @@
+// Runs one scenario file through talvora-driver, on a fresh copy of a pack.
+
+#include "DriverProcess.h"
+#include "Scenario.h"
+
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace talvora::scenario;
+
+/// A folder of its own for the run, gone with it.
+class RunFolder {
+ public:
+  RunFolder() {
+    std::string pattern = (fs::temp_directory_path() / "talvora-scenario-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the run");
+    path_ = pattern;
+  }
+  RunFolder(const RunFolder&) = delete;
+  RunFolder& operator=(const RunFolder&) = delete;
+  ~RunFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  [[nodiscard]] const fs::path& path() const noexcept { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+void fill(const RunFolder& folder, const fs::path& pack, const Scenario& scenario) {
+  fs::copy(pack, folder.path(), fs::copy_options::recursive);
+  const fs::path marker = folder.path() / "Yes1";
+  if (scenario.firstRun) {
+    fs::remove(marker);
+  } else {
+    std::ofstream(marker).flush();
+  }
+}
+
+void run(const std::string& driver, const fs::path& packs, const fs::path& file) {
+  const RunFolder folder;
+  const Scenario scenario = readScenario(file, folder.path());
+  fill(folder, packs / scenario.pack, scenario);
+  std::vector<std::string> options = {"--dir", folder.path().string()};
+  options.insert(options.end(), scenario.options.begin(), scenario.options.end());
+  DriverProcess process(driver, options);
+  for (const Step& step : scenario.steps) {
+    std::string reply;
+    try {
+      reply = process.ask(step.command.dump());
+    } catch (const std::exception& error) {
+      throw ScenarioFailure(file.string() + ":" + std::to_string(step.line) + ": " + error.what());
+    }
+    checkReply(file, step, reply);
+  }
+  const int code = process.finish();
+  if (code != 0) {
+    throw ScenarioFailure(file.string() + ": the driver ended with " + std::to_string(code));
+  }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (arguments.size() != 3) {
+    std::cerr << "usage: talvora-scenario DRIVER PACKS FILE\n"
+                 "Runs FILE through the program DRIVER, on a copy of a folder below PACKS.\n";
+    return 2;
+  }
+  try {
+    run(arguments[0], arguments[1], arguments[2]);
+  } catch (const std::exception& failure) {
+    std::cerr << failure.what() << '\n';
+    return 1;
+  }
+  return 0;
+}
