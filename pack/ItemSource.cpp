@@ -1,13 +1,13 @@
-// Parsing and writing of exercise items.
+// Parsing of exercise items.
 #include "pack/ItemSource.h"
 
+#include "pack/ItemNotation.h"
 #include "pack/ItemText.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <utility>
 
@@ -15,28 +15,11 @@ namespace talvora::pack {
 
 namespace {
 
-constexpr std::string_view itemOpener = "item: ";
-constexpr std::string_view hintsOpener = "hints: ";
-constexpr std::string_view explainOpener = "explain";
-constexpr std::string_view referenceOpener = "see: ";
-constexpr std::string_view rightOpener = "+ ";
-constexpr std::string_view wrongOpener = "- ";
-constexpr std::string_view translationOpener = "= ";
 constexpr std::size_t optionCount = 4;
 constexpr int fewestPhrases = 2;
 constexpr int mostPhrases = 6;
 constexpr int fewestBlanksBetweenWords = 3;
 constexpr int mostBlanks = 1000;
-
-struct FormName {
-  ItemForm form;
-  std::string_view name;
-};
-
-constexpr std::array<FormName, 4> formNames = {{{ItemForm::Fill, "fill"},
-                                                {ItemForm::Choice, "choice"},
-                                                {ItemForm::Mistake, "mistake"},
-                                                {ItemForm::Order, "order"}}};
 
 /// Reads a file of items line by line.
 class ItemParser {
@@ -351,52 +334,6 @@ class ItemParser {
   bool started_ = false;       ///< its question has begun
 };
 
-std::string writtenLines(const ExplanationLines& lines) {
-  std::string source;
-  for (const ExplanationLine& line : lines) {
-    source += line.refersTo ? std::string(referenceOpener) + utf8Of(line.text.text)
-                            : writeMarkedLine(line.text);
-    source += "\n";
-  }
-  return source;
-}
-
-std::string writtenSentences(const Item& item) {
-  std::string source;
-  std::string_view rest = item.question;
-  for (const std::string& translation : item.translations) {
-    rest.remove_prefix(std::min<std::size_t>(1, rest.size()));
-    const std::size_t end = std::min(rest.find('_'), rest.size());
-    source += utf8Of(trim(rest.substr(0, end))) + "\n";
-    source += std::string(translationOpener) + utf8Of(translation) + "\n";
-    rest.remove_prefix(end);
-  }
-  return source;
-}
-
-std::string writeItem(const Item& item, ItemPlace place) {
-  const auto form = std::find_if(formNames.begin(), formNames.end(),
-                                 [&](const FormName& each) { return each.form == item.form; });
-  std::string source = std::string(itemOpener) + std::string(form->name);
-  if (item.form == ItemForm::Order) return source + "\n\n" + writtenSentences(item);
-  source += ", " + headingName(item.heading, place) + "\n";
-  for (std::size_t at = 0; at < item.hints.size(); ++at)
-    source += (at == 0 ? std::string(hintsOpener) : ", ") + utf8Of(item.hints[at]);
-  if (!item.hints.empty()) source += "\n";
-  const BraceUse use = item.form == ItemForm::Fill ? BraceUse::Answer : BraceUse::Phrase;
-  const int marked = item.form == ItemForm::Mistake ? item.key : 0;
-  source += "\n" + writeItemText(item.question, use, marked) + "\n";
-  if (!item.options.empty()) source += "\n";
-  for (std::size_t at = 0; at < item.options.size(); ++at) {
-    const bool right = static_cast<int>(at) + 1 == item.key;
-    source += std::string(right ? rightOpener : wrongOpener) + utf8Of(item.options[at]) + "\n";
-  }
-  if (!item.general.empty()) source += "\nexplain:\n" + writtenLines(item.general);
-  for (const auto& [number, lines] : item.explanations)
-    source += "\nexplain " + std::to_string(number) + ":\n" + writtenLines(lines);
-  return source;
-}
-
 } // namespace
 
 std::vector<Item> parseItems(std::string_view text, const std::string& file, ItemPlace place,
@@ -405,13 +342,6 @@ std::vector<Item> parseItems(std::string_view text, const std::string& file, Ite
   for (const SourceLine& line : linesOf(text))
     parser.read(line);
   return parser.finish();
-}
-
-std::string writeItems(const std::vector<Item>& items, ItemPlace place) {
-  std::string source;
-  for (const Item& item : items)
-    source += (source.empty() ? "" : "\n") + writeItem(item, place);
-  return source;
 }
 
 } // namespace talvora::pack

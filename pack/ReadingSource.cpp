@@ -130,9 +130,8 @@ std::map<int, std::string> parseHeadings(std::string_view text, const std::strin
     const std::size_t tab = line.text.find('\t');
     const auto slot = slotOf(line.text.substr(0, std::min(tab, line.text.size())), slots);
     if (tab == std::string_view::npos || !slot) {
-      problems.add({file, line.number, 1},
-                   "a line must be a slot from 1 to " + std::to_string(slots) +
-                       ", a tab, a heading");
+      problems.add({file, line.number, 1}, "a line must be a slot from 1 to " +
+                                               std::to_string(slots) + ", a tab, a heading");
       continue;
     }
     const Where where{file, line.number, static_cast<int>(tab) + 2};

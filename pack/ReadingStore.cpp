@@ -113,11 +113,11 @@ ReadingSource decodeReadings(std::string_view positions, std::string_view stream
   for (int slot = 1; slot <= slots; ++slot) {
     const auto record = static_cast<std::size_t>(slot);
     const auto plain = storedUntil(stream, integerAt(positions, record), textEnd);
-    const auto translation =
-        storedUntil(stream, integerAt(positions, record + shift), textEnd);
+    const auto translation = storedUntil(stream, integerAt(positions, record + shift), textEnd);
     auto text = plain && translation ? textFrom(*plain, *translation) : std::nullopt;
     if (!text) {
-      problems.add({slots == ReadingSlots ? "data.av" : "datasp.av"}, "text " + std::to_string(slot) + " cannot be read");
+      problems.add({slots == ReadingSlots ? "data.av" : "datasp.av"},
+                   "text " + std::to_string(slot) + " cannot be read");
     } else if (text->title.starts_with('*')) {
       source.headings.emplace(slot, text->title.substr(1));
     } else if (!text->paragraphs.empty() || text->title != openSlotTitle()) {

@@ -7,6 +7,8 @@
 #include <QAccessibleWidget>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace talvora {
 

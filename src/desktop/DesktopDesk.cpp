@@ -64,8 +64,8 @@ void DesktopNarrator::messageShown(const std::string& text, int) {
 }
 
 void showFailure(const std::string& message, QWidget* owner) {
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Talvora"),
-                  QString::fromStdString(message), QMessageBox::Ok, owner);
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Talvora"), QString::fromStdString(message),
+                  QMessageBox::Ok, owner);
   box.exec();
 }
 

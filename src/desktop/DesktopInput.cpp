@@ -44,7 +44,8 @@ void DesktopInput::sendKey(int keyCode, KeyMotion motion) {
 void DesktopInput::send(Sent sent) {
   sent_.push_back(sent);
   // Queued calls come before input that the window system still holds.
-  QMetaObject::invokeMethod(&gate_, [this] { deliverSent(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      &gate_, [this] { deliverSent(); }, Qt::QueuedConnection);
 }
 
 void DesktopInput::deliverSent() {

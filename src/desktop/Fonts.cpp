@@ -6,7 +6,9 @@
 #include <QStringList>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 
 // The resource's initialiser stands outside every namespace.
 static void initFontResource() {

@@ -34,7 +34,8 @@ bool isInput(QEvent::Type type) {
 void InputGate::open() {
   if (--shut_ > 0) return;
   // From the event loop, since the handler that slept goes on first.
-  QMetaObject::invokeMethod(this, [this] { opened(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { opened(); }, Qt::QueuedConnection);
   letHeldThrough();
 }
 
@@ -57,7 +58,8 @@ void InputGate::letHeldThrough() {
 }
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ApplicationStateChange || event->type() == QEvent::WindowDeactivate) {
+  if (event->type() == QEvent::ApplicationStateChange ||
+      event->type() == QEvent::WindowDeactivate) {
     keys_.releaseAll();
     return false;
   }

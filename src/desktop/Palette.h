@@ -14,11 +14,7 @@ namespace talvora {
 
 namespace palette {
 
-inline constexpr QRgb Card = 0xFFFFFFFF;
-inline constexpr QRgb CardEdge = 0xFFD8DEE2;
 inline constexpr QRgb Shadow = 0xFF1E3440; ///< painted translucent
-inline constexpr QRgb CaptionStrip = 0xFF24424D;
-inline constexpr QRgb CaptionText = 0xFFF3F8F8;
 inline constexpr QRgb Letterbox = 0xFF16282F;
 inline constexpr QRgb FocusRing = 0xFF1F5F8B;
 inline constexpr QRgb Selection = 0xFFD6E8F7; ///< behind text in its own colour

@@ -18,9 +18,7 @@ class SilentWave final : public WavePlayer {
   void Close() override { Stop(); }
   void Play(int from, int to) override { endsAt_ = clock_.elapsed() + std::max(to - from, 0); }
   void Stop() override { endsAt_ = 0; }
-  [[nodiscard]] int Mode() const override {
-    return clock_.elapsed() < endsAt_ ? Playing : Stopped;
-  }
+  [[nodiscard]] int Mode() const override { return clock_.elapsed() < endsAt_ ? Playing : Stopped; }
 
  private:
   QElapsedTimer clock_;

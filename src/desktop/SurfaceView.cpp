@@ -6,7 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace talvora {
 

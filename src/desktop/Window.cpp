@@ -36,15 +36,16 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   strip_ = new CaptionStrip(this);                                    // NOLINT: Qt owns it
   strip_->closeClicked = [this] { askToClose(); };
   view_->onCaptionChanged = [this] {
-    strip_->setCaption(QString::fromStdU16String(
-        toUnicode(program_.form().Caption(), Encoding::Windows1252)));
+    strip_->setCaption(
+        QString::fromStdU16String(toUnicode(program_.form().Caption(), Encoding::Windows1252)));
   };
   view_->onFocusChanged = [this] {
     const Control* const focus = program_.form().ActiveControl();
     const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
     machine_.gate.holdMovesWhileArrowDown(onMenu);
     if (onMenu) {
-      QMetaObject::invokeMethod(this, [this] { settleHover(); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [this] { settleHover(); }, Qt::QueuedConnection);
     }
   };
   connectMachine();
@@ -70,9 +71,7 @@ void Window::connectMachine() {
   input.click = [this](MouseButton button, PixelPoint at) {
     bridge_.deliver([&] { clickAt(button, formPointOf(at)); });
   };
-  input.moveTo = [this](PixelPoint at) {
-    bridge_.deliver([&] { moveTo(formPointOf(at)); });
-  };
+  input.moveTo = [this](PixelPoint at) { bridge_.deliver([&] { moveTo(formPointOf(at)); }); };
   input.stroke = [this](int keyCode, KeyMotion motion) {
     bridge_.deliver([&] {
       if (motion == KeyMotion::Down) {
@@ -166,8 +165,7 @@ void Window::keyReleaseEvent(QKeyEvent* event) {
   const int code = keyCodeOf(*event);
   if (event->isAutoRepeat() || code == 0) return;
   const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
-  bridge_.deliver(
-      [&] { program_.form().releaseKey(code, shiftOf(event->modifiers()) & ~own); });
+  bridge_.deliver([&] { program_.form().releaseKey(code, shiftOf(event->modifiers()) & ~own); });
 }
 
 SurfacePoint Window::formPointOf(PixelPoint pixel) const {

@@ -44,8 +44,7 @@ Options readOptions(const QCoreApplication& application) {
                           ? std::filesystem::path(parser.value(directory).toStdString())
                           : std::filesystem::current_path();
   if (parser.isSet(trace)) {
-    options.trace =
-        std::filesystem::absolute(parser.value(trace).toStdString()).string();
+    options.trace = std::filesystem::absolute(parser.value(trace).toStdString()).string();
   }
   return options;
 }
@@ -72,8 +71,8 @@ int main(int argc, char** argv) {
   }
   talvora::loadFonts();
 
-  talvora::DesktopMachine machine(
-      talvora::virtualScreenFor(realScreenSize()), std::random_device{}());
+  talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
+                                  std::random_device{}());
   talvora::Program program(machine.platform, std::filesystem::current_path().string());
   talvora::EventBridge bridge;
   talvora::Window window(machine, program, bridge);

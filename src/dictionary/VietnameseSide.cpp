@@ -39,8 +39,7 @@ void VietnameseSide::NapTuD(EventLoop& events) {
       if (Chu_.size() % LinesBetweenEvents == 0) events.letEventsRun();
     }
     ViTriNghia_.resize(Chu_.size());
-    const RecordFile positions(
-        MappedFile::open(pathBelow(state_.places.ThuMuc, "\\dataD.vt")));
+    const RecordFile positions(MappedFile::open(pathBelow(state_.places.ThuMuc, "\\dataD.vt")));
     for (std::size_t index = 1; index < Chu_.size(); ++index) {
       ViTriNghia_[index] = positions.integer(static_cast<std::int64_t>(index));
     }

@@ -52,8 +52,8 @@ class VietnameseSide {
   const Stores& stores_;
   Shell& shell_;
   Speech& speech_;
-  std::vector<std::string> Chu_{std::string()};      ///< the words, from 1
-  std::vector<std::int32_t> ViTriNghia_{0};          ///< record of each entry's first byte in file 8
+  std::vector<std::string> Chu_{std::string()}; ///< the words, from 1
+  std::vector<std::int32_t> ViTriNghia_{0};     ///< record of each entry's first byte in file 8
 };
 
 } // namespace talvora

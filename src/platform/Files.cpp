@@ -77,8 +77,7 @@ std::optional<std::string> replaceFile(const std::string& path,
     return text;
   };
   {
-    const OpenHandle handle(
-        ::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
+    const OpenHandle handle(::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
     if (handle.get() < 0) return problem("cannot be written");
     if (!writeAll(handle.get(), content)) return problem("cannot be written");
     if (::fsync(handle.get()) != 0) return problem("cannot be synced");
@@ -127,8 +126,8 @@ void ReadWriteFile::read(std::size_t offset, std::span<unsigned char> into) cons
   std::fill(into.begin(), into.end(), static_cast<unsigned char>(0));
   std::size_t done = 0;
   while (done < into.size()) {
-    const ssize_t got = ::pread(handle_, into.data() + done, into.size() - done,
-                                static_cast<off_t>(offset + done));
+    const ssize_t got =
+        ::pread(handle_, into.data() + done, into.size() - done, static_cast<off_t>(offset + done));
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) fail(path_, "cannot be read");
     if (got == 0) return;

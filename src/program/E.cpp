@@ -30,9 +30,8 @@ SharedState startingIn(std::string directory) {
 
 E::E(Platform& platform, std::string directory)
     : platform_(platform), form_(platform.screen, platform.metrics),
-      controls_(form_, platform.layout),
-      state_(startingIn(std::move(directory))), stores_(state_.places),
-      shell_(platform, form_, controls_, state_),
+      controls_(form_, platform.layout), state_(startingIn(std::move(directory))),
+      stores_(state_.places), shell_(platform, form_, controls_, state_),
       voice_(state_.places, platform.wave, shell_.messages),
       speech_(state_, platform, shell_.steering, voice_),
       dictionary_(form_, controls_, state_, stores_, shell_, speech_),
@@ -96,8 +95,8 @@ void E::registerSearches() {
   });
   procedures_.addOfNumber("KhoangChuCai", [this](int code) {
     const LetterRange range = dictionary_.lookUp().KhoangChuCai(code);
-    return VariableValue(VariableValue::Record{{"TimDau", range.TimDau},
-                                               {"TimCuoi", range.TimCuoi}});
+    return VariableValue(
+        VariableValue::Record{{"TimDau", range.TimDau}, {"TimCuoi", range.TimCuoi}});
   });
   procedures_.addOfText("TimTuD", [this](const std::string& key) {
     const CurrentWord before = state_.word;

@@ -11,7 +11,8 @@ constexpr int LessonsButton = 3;
 
 LaterSections::LaterSections(Controls& controls, SharedState& state, Shell& shell)
     : controls_(controls), state_(state), shell_(shell) {
-  for (Surface* surface : {&controls.RVP1, &controls.RN1}) wire(*surface);
+  for (Surface* surface : {&controls.RVP1, &controls.RN1})
+    wire(*surface);
 }
 
 Surface& LaterSections::surfaceOf(int button) {

@@ -1,11 +1,11 @@
 // Reading a whole text aloud, sentence by sentence, steered by the arrow keys.
 #pragma once
 
+#include "platform/Clock.h"
 #include "reading/SentencePick.h"
 #include "shell/Steering.h"
 #include "sound/AmthanhThuc.h"
 #include "sound/Speech.h"
-#include "platform/Clock.h"
 #include "surface/State.h"
 #include "surface/Surface.h"
 
@@ -30,7 +30,7 @@ class ReadAloud {
   struct Progress {
     int sentence = 0; ///< number of the sentence to read next
     int pageEnd = 0;
-    int caret = 0;     ///< where the reading stood last
+    int caret = 0; ///< where the reading stood last
     int savedCaret = 0;
     int savedSentence = 0;
     int quit = 0;

@@ -178,7 +178,8 @@ void Reading::XayDanhSachBai() {
   if (state_.places.MucMenu == VocabularySection) return;
   state_.list.DanhSachBai.clear();
   state_.list.SoNhom = 0;
-  for (int i = 1; i <= stores_.SoBai; ++i) appendTitle(i);
+  for (int i = 1; i <= stores_.SoBai; ++i)
+    appendTitle(i);
   showList();
 }
 
@@ -247,8 +248,8 @@ void Reading::ChonDongR1(Surface& surface) {
   const std::string& list = state_.list.DanhSachBai;
   if (surface.SelStart() == surface.TextLength()) surface.SelStart(surface.SelStart() - 2);
   const int caret = std::min<int>(surface.SelStart(), static_cast<int>(list.size()));
-  const auto lineEndBefore = caret > 0 ? list.rfind('\r', static_cast<std::size_t>(caret - 1))
-                                       : std::string::npos;
+  const auto lineEndBefore =
+      caret > 0 ? list.rfind('\r', static_cast<std::size_t>(caret - 1)) : std::string::npos;
   // Positions count from 1 and carets from 0: the caret so comes to stand behind the line's first
   // character, which is a tab or the heading's mark.
   const int lineStart =
@@ -310,9 +311,8 @@ void Reading::jumpToNextHeading() {
   if (list.SoNhom == 0) return;
   const auto first = list.ViTriNhom.begin() + 1;
   const auto last = first + list.SoNhom;
-  const auto next = std::find_if(first, last, [caret = controls_.R1.SelStart()](int heading) {
-    return heading > caret;
-  });
+  const auto next = std::find_if(
+      first, last, [caret = controls_.R1.SelStart()](int heading) { return heading > caret; });
   jumpTo(next == last ? *(last - 1) : *next);
 }
 

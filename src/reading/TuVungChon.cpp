@@ -216,17 +216,14 @@ void TuVungChon::XoaTuVung() {
   const Surface& Rchon = controls_.Rchon;
   const int first = rowOf(Rchon.SelStart());
   const int last = rowOf(Rchon.SelStart() + Rchon.SelLength() - 1);
-  const std::string question =
-      first == last ? "Xoa tu vung " + std::to_string(first) + " khong?"
-                    : "Xoa cac tu vung " + std::to_string(first) + " - " + std::to_string(last) +
-                          " khong?";
+  const std::string question = first == last ? "Xoa tu vung " + std::to_string(first) + " khong?"
+                                             : "Xoa cac tu vung " + std::to_string(first) + " - " +
+                                                   std::to_string(last) + " khong?";
   if (shell_.messages.XacNhan(question, "no")) removeRows(first, last);
 }
 
 void TuVungChon::removeRows(int first, int last) {
-  const auto at = [this](int row) {
-    return TuVung_.begin() + std::clamp(row, 0, SoTuVung());
-  };
+  const auto at = [this](int row) { return TuVung_.begin() + std::clamp(row, 0, SoTuVung()); };
   TuVung_.erase(at(first - 1), at(last));
   store();
   if (TuVung_.empty()) {
@@ -242,9 +239,7 @@ void TuVungChon::removeRows(int first, int last) {
 void TuVungChon::wireEvents() {
   Surface& Rchon = controls_.Rchon;
   CurrentWord& word = state_.word;
-  services_.dictionary.popup().VeCauTuVung = [this](const std::string& text) {
-    VeCauTuVung(text);
-  };
+  services_.dictionary.popup().VeCauTuVung = [this](const std::string& text) { VeCauTuVung(text); };
   shell_.focusReturn.onReturnTo(Rchon, [this, &Rchon, &word] {
     Rchon.SelStart(word.ViTriCaret);
     Rchon.SetFocus();
@@ -306,7 +301,8 @@ void TuVungChon::declare(Variables& variables) const {
   variables.add("TuVung", [this, record] {
     // Words count from 1; element 0 is never used.
     VariableValue::Table table{record({})};
-    for (const VocabularyWord& word : TuVung_) table.push_back(record(word));
+    for (const VocabularyWord& word : TuVung_)
+      table.push_back(record(word));
     return VariableValue(std::move(table));
   });
 }

@@ -12,8 +12,8 @@ namespace talvora {
 
 class Curtain {
  public:
-  Curtain(Form& form, Controls& controls, const Measures& measures, Steering& steering, Clock& clock,
-          Narrator& narrator)
+  Curtain(Form& form, Controls& controls, const Measures& measures, Steering& steering,
+          Clock& clock, Narrator& narrator)
       : form_(form), controls_(controls), measures_(measures), steering_(steering), clock_(clock),
         narrator_(narrator) {}
 

@@ -22,6 +22,9 @@ FocusReturn::FocusReturn(Controls& c, const CurrentWord& word) {
   row(c.Rxep, always);
   row(c.RHDBT, always);
   row(c.RDT, always);
+  // Items that nothing is typed into get back what a look-up has taken from them.
+  row(c.RABCD, always);
+  row(c.Rsai, always);
   row(c.Rchon, always);
   list(c.RVP1, c.RVP2);
   row(c.RVP2, always);

@@ -11,8 +11,8 @@ Gestures::Gestures(Controls& c, const Measures& measures, CurrentWord& word, Hin
     : controls_(c), measures_(measures), word_(word), hints_(hints), upward_(upward),
       clipboard_(clipboard) {
   const auto nothing = [](Surface&) {};
-  for (const Surface* surface : {&c.RW2, &c.Rxep, &c.RDOS, &c.RTD, &c.RVP2, &c.RHDBT, &c.RHD,
-                                 &c.Rsai, &c.RABCD, &c.RDT}) {
+  for (const Surface* surface :
+       {&c.RW2, &c.Rxep, &c.RDOS, &c.RTD, &c.RVP2, &c.RHDBT, &c.RHD, &c.Rsai, &c.RABCD, &c.RDT}) {
     closingRows_.push_back({surface, nothing});
   }
   onClose(c.RDOS, [this](Surface& asking) { hints_.AnRDOS(asking); });

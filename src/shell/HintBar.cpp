@@ -19,8 +19,7 @@ constexpr int MostReminders = 3;
 
 HintBar::HintBar(Form& form, Controls& controls, const Places& places, const Measures& measures,
                  Steering& steering)
-    : form_(form), controls_(controls), places_(places), measures_(measures),
-      steering_(steering) {
+    : form_(form), controls_(controls), places_(places), measures_(measures), steering_(steering) {
   controls_.RDOS.MouseMove = [this](int, SurfacePoint) {
     controls_.RDOS.Visible(false);
     if (controls_.R2.Visible()) controls_.R2.SetFocus();

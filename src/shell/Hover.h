@@ -15,8 +15,8 @@ namespace talvora {
 
 class Hover {
  public:
-  Hover(Form& form, Controls& controls, const Places& places, Steering& steering,
-        EventLoop& events, Narrator& narrator)
+  Hover(Form& form, Controls& controls, const Places& places, Steering& steering, EventLoop& events,
+        Narrator& narrator)
       : form_(form), controls_(controls), places_(places), steering_(steering), events_(events),
         narrator_(narrator) {}
 

@@ -47,7 +47,8 @@ void MENU::setCaptions() {
 
 void MENU::DatFontNut() {
   const FontSpec font{"Vni-centur", static_cast<double>(measures_.CoNut), false};
-  for (int number = 1; number <= Controls::ButtonCount; ++number) controls_.but(number).Font(font);
+  for (int number = 1; number <= Controls::ButtonCount; ++number)
+    controls_.but(number).Font(font);
   form_.FontSize(measures_.CoNut + 3);
 }
 
@@ -91,8 +92,8 @@ void MENU::XepNut() {
   steering_.ChuotX2 = controls_.but(1).Left() + controls_.but(1).Width() + NutHo;
   for (int number = RowsPerColumn + 1; number <= Controls::ButtonCount; ++number) {
     DatNut(controls_.but(number), NutCao, NutRong,
-           steering_.ChuotY + (number - RowsPerColumn - 1) * steering_.ChuotBuoc,
-           steering_.ChuotX2, number);
+           steering_.ChuotY + (number - RowsPerColumn - 1) * steering_.ChuotBuoc, steering_.ChuotX2,
+           number);
   }
 }
 
@@ -112,7 +113,8 @@ void MENU::TienTrinhNap() {
 }
 
 void MENU::finishProgress() {
-  while (ticks_ < Controls::ButtonCount) TienTrinhNap();
+  while (ticks_ < Controls::ButtonCount)
+    TienTrinhNap();
 }
 
 void MENU::declare(Variables& variables) const {

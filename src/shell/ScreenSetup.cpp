@@ -62,9 +62,9 @@ void ScreenSetup::adjustSlideStep() {
 
 void ScreenSetup::setTextFont() {
   Controls& c = controls_;
-  for (Surface* surface : {&c.RHD, &c.RVP1, &c.RVP2, &c.R1, &c.R2, &c.RW1, &c.RW2, &c.RN1, &c.RN2,
-                           &c.Rchon, &c.RTD, &c.Rxep, &c.RDOS, &c.RDT, &c.RABCD, &c.Rsai,
-                           &c.RAmthanh}) {
+  for (Surface* surface :
+       {&c.RHD, &c.RVP1, &c.RVP2, &c.R1, &c.R2, &c.RW1, &c.RW2, &c.RN1, &c.RN2, &c.Rchon, &c.RTD,
+        &c.Rxep, &c.RDOS, &c.RDT, &c.RABCD, &c.Rsai, &c.RAmthanh}) {
     surface->FontName("x1");
   }
 }
@@ -114,7 +114,8 @@ void ScreenSetup::setFontSizes() {
   for (Surface* surface : {&c.Rviet, &c.RN1, &c.RN2, &c.RDT, &c.Rsai, &c.RABCD}) {
     surface->FontSize(CoChu);
   }
-  for (Surface* surface : {&c.Rxep, &c.RW2}) surface->FontSize(CoChu + 2);
+  for (Surface* surface : {&c.Rxep, &c.RW2})
+    surface->FontSize(CoChu + 2);
   c.RTD.FontBold(true);
 }
 

@@ -28,7 +28,8 @@ class WordPick {
   void LayCumTu(Surface& surface);
 
  private:
-  /// Steps the caret off a mark or a point at its left; true when the word also reaches to the left.
+  /// Steps the caret off a mark or a point at its left; true when the word also reaches to the
+  /// left.
   bool settleCaret(Surface& surface);
   bool settleCaretBT(Surface& surface);
   /// The character of `CauHoi` at a position, from 1; 0 outside.

@@ -14,8 +14,10 @@ constexpr std::array<char, 256> singles = [] {
 
 constexpr std::array<std::string_view, 256> texts = [] {
   std::array<std::string_view, 256> table{};
-  for (std::size_t code = 0; code < table.size(); ++code) table[code] = {&singles[code], 1};
-  for (const Expansion& each : ExpansionTable) table[each.plain] = each.text;
+  for (std::size_t code = 0; code < table.size(); ++code)
+    table[code] = {&singles[code], 1};
+  for (const Expansion& each : ExpansionTable)
+    table[each.plain] = each.text;
   return table;
 }();
 

@@ -15,12 +15,18 @@ struct StoreFile {
 
 // The read-only files that stay open for the run.
 constexpr StoreFile readOnlyFiles[] = {
-    {file::TextPositions, "\\data.vt"},      {file::Texts, "\\data.av"},
-    {file::Dictionary, "\\data.avt"},        {file::LessonPositions, "\\datavp.vt"},
-    {file::Lessons, "\\datavp.n"},           {file::VietnameseSide, "\\dataD.av"},
-    {file::ItemPositions, "\\data.vbt"},     {file::Items, "\\data.bt"},
-    {file::SpeakingPositions, "\\datasp.vt"}, {file::SpeakingTexts, "\\datasp.av"},
-    {file::AnalysisPositions, "\\dataPt.vt"}, {file::Analyses, "\\dataPt.v"},
+    {file::TextPositions, "\\data.vt"},
+    {file::Texts, "\\data.av"},
+    {file::Dictionary, "\\data.avt"},
+    {file::LessonPositions, "\\datavp.vt"},
+    {file::Lessons, "\\datavp.n"},
+    {file::VietnameseSide, "\\dataD.av"},
+    {file::ItemPositions, "\\data.vbt"},
+    {file::Items, "\\data.bt"},
+    {file::SpeakingPositions, "\\datasp.vt"},
+    {file::SpeakingTexts, "\\datasp.av"},
+    {file::AnalysisPositions, "\\dataPt.vt"},
+    {file::Analyses, "\\dataPt.v"},
 };
 
 std::size_t settingOffset(int record) {

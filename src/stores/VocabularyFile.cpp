@@ -45,7 +45,8 @@ std::vector<VocabularyWord> VocabularyFile::read() {
 std::optional<std::string> VocabularyFile::write(const std::vector<VocabularyWord>& words) {
   std::vector<unsigned char> content;
   content.reserve(words.size() * RecordSize + oddBytes_.size());
-  for (const VocabularyWord& word : words) append(content, word);
+  for (const VocabularyWord& word : words)
+    append(content, word);
   content.insert(content.end(), oddBytes_.begin(), oddBytes_.end());
   return replaceFile(path_, content);
 }

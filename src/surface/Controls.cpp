@@ -22,13 +22,14 @@ Controls::Controls(Form& form, const LineLayout& layout)
 
   form.add(Im1);
   form.add(MM);
-  for (auto& button : but_) form.add(*button);
+  for (auto& button : but_)
+    form.add(*button);
   // From the back to the front: a plate lies behind the surface that it backs, a text lies over the
   // list that it was opened from, and popups lie over everything that they explain.
   for (Control* control : std::initializer_list<Control*>{
-           &Rnen3, &Frame1, &R1, &RVP1, &RN1,   &RW1,   &Rchon, &RAmthanh, &Rcachhoc, &Frame2,
-           &R2,    &RN2,    &RW2, &RDT, &RABCD, &Rsai,  &Rviet, &Rxep,     &Rnen2,    &RHDBT,
-           &Frame3, &RVP2,  &RTD, &Rnen, &RHD,  &RDOS,  &L1,    &FC1,      &FC2}) {
+           &Rnen3,  &Frame1, &R1,  &RVP1, &RN1,   &RW1,  &Rchon, &RAmthanh, &Rcachhoc, &Frame2,
+           &R2,     &RN2,    &RW2, &RDT,  &RABCD, &Rsai, &Rviet, &Rxep,     &Rnen2,    &RHDBT,
+           &Frame3, &RVP2,   &RTD, &Rnen, &RHD,   &RDOS, &L1,    &FC1,      &FC2}) {
     form.add(*control);
   }
 }

@@ -41,8 +41,12 @@ class Form final : public ControlHost {
   void Show();
 
   /// Width and height of a text in the form's font, in twips.
-  [[nodiscard]] int TextWidth(std::string_view text) const { return metrics_.TextWidth(text, font_); }
-  [[nodiscard]] int TextHeight(std::string_view text) const { return metrics_.TextHeight(text, font_); }
+  [[nodiscard]] int TextWidth(std::string_view text) const {
+    return metrics_.TextWidth(text, font_);
+  }
+  [[nodiscard]] int TextHeight(std::string_view text) const {
+    return metrics_.TextHeight(text, font_);
+  }
   /// Paints at once what has changed.
   void Refresh() { screen_.Refresh(); }
 

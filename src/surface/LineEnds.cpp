@@ -41,9 +41,9 @@ void appendLineStarts(std::string_view text, int base, std::vector<int>& starts)
     std::array<int, 1024> found;
     std::size_t count = 0;
     for (; at + sizeof(std::uint64_t) <= inner; at += sizeof(std::uint64_t)) {
-      const std::uint64_t ends = bytesEqual(wordAt(text, at), '\n') |
-                                 (bytesEqual(wordAt(text, at), '\r') &
-                                  ~bytesEqual(wordAt(text, at + 1), '\n'));
+      const std::uint64_t ends =
+          bytesEqual(wordAt(text, at), '\n') |
+          (bytesEqual(wordAt(text, at), '\r') & ~bytesEqual(wordAt(text, at + 1), '\n'));
       std::uint64_t left = ends;
       const auto note = [&] {
         found[count] = base + static_cast<int>(at + 1) + std::countr_zero(left) / 8;
@@ -52,15 +52,18 @@ void appendLineStarts(std::string_view text, int base, std::vector<int>& starts)
       };
       note();
       note();
-      while (left != 0) note();
+      while (left != 0)
+        note();
       if (count > found.size() - sizeof(std::uint64_t) - 2) {
-        starts.insert(starts.end(), found.begin(), found.begin() + static_cast<std::ptrdiff_t>(count));
+        starts.insert(starts.end(), found.begin(),
+                      found.begin() + static_cast<std::ptrdiff_t>(count));
         count = 0;
       }
     }
     starts.insert(starts.end(), found.begin(), found.begin() + static_cast<std::ptrdiff_t>(count));
   }
-  for (; at < inner; ++at) visit(at);
+  for (; at < inner; ++at)
+    visit(at);
 }
 
 std::string_view withoutLineEnd(std::string_view text) noexcept {

@@ -51,7 +51,8 @@ void ParagraphTable::replaced(int from, int to, std::string_view added, const Te
   if (first <= last) erase(first, last + 1);
   starts_.moveBehind(first - 1, static_cast<int>(added.size()) - (to - from));
   int paragraph = first;
-  for (const int place : startsAround(text, from, added)) insert(paragraph++, place, style);
+  for (const int place : startsAround(text, from, added))
+    insert(paragraph++, place, style);
 }
 
 void ParagraphTable::insert(int paragraph, int start, StyleId style) {

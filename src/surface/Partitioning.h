@@ -7,8 +7,8 @@
 
 namespace talvora {
 
-/// Ascending starts of parts, and the length of the whole. Starts behind the last change are kept as
-/// distances from the end, so a text that grows or shrinks there moves none of them.
+/// Ascending starts of parts, and the length of the whole. Starts behind the last change are kept
+/// as distances from the end, so a text that grows or shrinks there moves none of them.
 class Partitioning {
  public:
   /// Number of parts.

@@ -65,7 +65,8 @@ void RunTable::Check() const {
   if ((count() == 0) != (length() == 0)) throw std::logic_error("runs do not cover the text");
   for (int run = 0; run < count(); ++run) {
     if (start(run) == start(run + 1)) throw std::logic_error("a run is empty");
-    if (run > 0 && style(run) == style(run - 1)) throw std::logic_error("neighbouring runs are equal");
+    if (run > 0 && style(run) == style(run - 1))
+      throw std::logic_error("neighbouring runs are equal");
   }
 }
 

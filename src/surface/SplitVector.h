@@ -12,13 +12,16 @@ namespace talvora {
 template <class Value>
 class SplitVector {
  public:
-  [[nodiscard]] int size() const noexcept { return static_cast<int>(ahead_.size() + behind_.size()); }
+  [[nodiscard]] int size() const noexcept {
+    return static_cast<int>(ahead_.size() + behind_.size());
+  }
   /// Number of values ahead of the split.
   [[nodiscard]] int split() const noexcept { return static_cast<int>(ahead_.size()); }
   /// The value of an index, which must be inside.
   [[nodiscard]] Value operator[](int index) const noexcept {
     const auto place = static_cast<std::size_t>(index);
-    return place < ahead_.size() ? ahead_[place] : behind_[ahead_.size() + behind_.size() - 1 - place];
+    return place < ahead_.size() ? ahead_[place]
+                                 : behind_[ahead_.size() + behind_.size() - 1 - place];
   }
 
   /// Takes a whole list; the split is behind its end.

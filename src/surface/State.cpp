@@ -23,17 +23,26 @@ void Places::declare(Variables& variables) const {
 }
 
 void Measures::declare(Variables& variables) const {
-  const std::pair<const char*, const int*> numbers[] = {
-      {"RongMH", &RongMH},       {"CaoMH", &CaoMH},
-      {"CoNut", &CoNut},         {"CoChu", &CoChu},
-      {"PhanTramRong", &PhanTramRong}, {"BuocTruot", &BuocTruot},
-      {"KieuTruot", &KieuTruot}, {"RongBai", &RongBai},
-      {"CaoBai", &CaoBai},       {"LeTraiBai", &LeTraiBai},
-      {"LeTrenBai", &LeTrenBai}, {"RongKhung", &RongKhung},
-      {"CaoKhung", &CaoKhung},   {"LeTraiKhung", &LeTraiKhung},
-      {"LeTrenKhung", &LeTrenKhung},   {"Phan12", &Phan12},
-      {"Phan3", &Phan3},         {"Phan6", &Phan6}};
-  for (const auto& [name, variable] : numbers) variables.add(name, variable);
+  const std::pair<const char*, const int*> numbers[] = {{"RongMH", &RongMH},
+                                                        {"CaoMH", &CaoMH},
+                                                        {"CoNut", &CoNut},
+                                                        {"CoChu", &CoChu},
+                                                        {"PhanTramRong", &PhanTramRong},
+                                                        {"BuocTruot", &BuocTruot},
+                                                        {"KieuTruot", &KieuTruot},
+                                                        {"RongBai", &RongBai},
+                                                        {"CaoBai", &CaoBai},
+                                                        {"LeTraiBai", &LeTraiBai},
+                                                        {"LeTrenBai", &LeTrenBai},
+                                                        {"RongKhung", &RongKhung},
+                                                        {"CaoKhung", &CaoKhung},
+                                                        {"LeTraiKhung", &LeTraiKhung},
+                                                        {"LeTrenKhung", &LeTrenKhung},
+                                                        {"Phan12", &Phan12},
+                                                        {"Phan3", &Phan3},
+                                                        {"Phan6", &Phan6}};
+  for (const auto& [name, variable] : numbers)
+    variables.add(name, variable);
   variables.add("KhoangDem", &KhoangDem);
   variables.add("TieuDeE", &TieuDeE);
   variables.add("MauNenHD", [this] { return VariableValue(static_cast<double>(MauNenHD)); });

@@ -25,27 +25,27 @@ struct Places {
 
 /// Measures fixed once at start-up, in twips unless said otherwise.
 struct Measures {
-  int RongMH = 0;         ///< screen width
-  int CaoMH = 0;          ///< usable screen height
-  int CoNut = 0;          ///< font size of the menu buttons, in points; names the screen class
-  int CoChu = 0;          ///< base font size of the text surfaces, in points
-  int PhanTramRong = 0;   ///< percent of the screen width that the standard text area takes
-  int BuocTruot = 0;      ///< step of a slide in mode 4
-  int KieuTruot = 0;      ///< slide mode, 1 to 5; 5 stands at once
-  std::string KhoangDem;  ///< blanks put in front of the window caption
-  std::string TieuDeE;    ///< the caption with them in front
-  int RongBai = 0;        ///< width of a standard text surface
-  int CaoBai = 0;         ///< height of it
-  int LeTraiBai = 0;      ///< left of it
-  int LeTrenBai = 0;      ///< top of it
-  int RongKhung = 0;      ///< width of the card behind it
-  int CaoKhung = 0;       ///< height taken for panels
-  int LeTraiKhung = 0;    ///< left of the card
-  int LeTrenKhung = 0;    ///< top of the card
-  int Phan12 = 0;         ///< a twelfth of the screen width: tolerance of the pointer
-  int Phan3 = 0;          ///< a third of the screen width: popup width
-  int Phan6 = 0;          ///< a sixth of the screen width: popup height
-  Colour MauNenHD = 0;    ///< back colour of the dictionary popup
+  int RongMH = 0;        ///< screen width
+  int CaoMH = 0;         ///< usable screen height
+  int CoNut = 0;         ///< font size of the menu buttons, in points; names the screen class
+  int CoChu = 0;         ///< base font size of the text surfaces, in points
+  int PhanTramRong = 0;  ///< percent of the screen width that the standard text area takes
+  int BuocTruot = 0;     ///< step of a slide in mode 4
+  int KieuTruot = 0;     ///< slide mode, 1 to 5; 5 stands at once
+  std::string KhoangDem; ///< blanks put in front of the window caption
+  std::string TieuDeE;   ///< the caption with them in front
+  int RongBai = 0;       ///< width of a standard text surface
+  int CaoBai = 0;        ///< height of it
+  int LeTraiBai = 0;     ///< left of it
+  int LeTrenBai = 0;     ///< top of it
+  int RongKhung = 0;     ///< width of the card behind it
+  int CaoKhung = 0;      ///< height taken for panels
+  int LeTraiKhung = 0;   ///< left of the card
+  int LeTrenKhung = 0;   ///< top of the card
+  int Phan12 = 0;        ///< a twelfth of the screen width: tolerance of the pointer
+  int Phan3 = 0;         ///< a third of the screen width: popup width
+  int Phan6 = 0;         ///< a sixth of the screen width: popup height
+  Colour MauNenHD = 0;   ///< back colour of the dictionary popup
 
   /// The large screen class, in which text is bold throughout.
   [[nodiscard]] bool largeScreen() const noexcept { return CoNut == 13; }
@@ -55,19 +55,19 @@ struct Measures {
 
 /// The word or sentence at hand, and the pointer's part in it.
 struct CurrentWord {
-  std::string TuHienTai;    ///< the word or sentence that speech says
-  std::string NghiaHienTai; ///< its entry
-  std::string ThongBaoHD;   ///< translation or message that the popup shows instead of an entry
-  std::string TuDaBam;      ///< the word as it was clicked, before any reduction
-  std::string NghiaD;       ///< Vietnamese-side entry on show; "?" means that nothing was found
-  int ViTriCaret = 0;       ///< saved caret of the surface in use
-  int ViTriCaretR1 = 0;     ///< saved caret of the list behind it
-  SurfacePoint ViTriChuot;  ///< stored pointer, twips on its surface
-  bool ChoGiai = false;     ///< a right click is pending
-  bool CoDupChuot = false;  ///< a double click or Space asks for the sentence, not the word
-  bool GiuSpace = false;    ///< Space is held: the sentence stays however the pointer moves
+  std::string TuHienTai;     ///< the word or sentence that speech says
+  std::string NghiaHienTai;  ///< its entry
+  std::string ThongBaoHD;    ///< translation or message that the popup shows instead of an entry
+  std::string TuDaBam;       ///< the word as it was clicked, before any reduction
+  std::string NghiaD;        ///< Vietnamese-side entry on show; "?" means that nothing was found
+  int ViTriCaret = 0;        ///< saved caret of the surface in use
+  int ViTriCaretR1 = 0;      ///< saved caret of the list behind it
+  SurfacePoint ViTriChuot;   ///< stored pointer, twips on its surface
+  bool ChoGiai = false;      ///< a right click is pending
+  bool CoDupChuot = false;   ///< a double click or Space asks for the sentence, not the word
+  bool GiuSpace = false;     ///< Space is held: the sentence stays however the pointer moves
   bool XoaTuKhiDong = false; ///< the word is cleared when the popup closes
-  bool DaChonRTD = false;   ///< a pick from the look-up list is under way; the focus stays put
+  bool DaChonRTD = false;    ///< a pick from the look-up list is under way; the focus stays put
 
   void declare(Variables& variables) const;
 };

@@ -20,10 +20,12 @@ struct StyleHash {
   [[nodiscard]] std::size_t operator()(const CharStyle& style) const noexcept {
     const std::size_t flags = (style.font.bold ? 1U : 0U) | (style.italic ? 2U : 0U) |
                               (style.underline ? 4U : 0U) | (style.protectedText ? 8U : 0U);
-    return mix(mix(std::hash<std::string>{}(style.font.name), style.font.size), style.color) ^ flags;
+    return mix(mix(std::hash<std::string>{}(style.font.name), style.font.size), style.color) ^
+           flags;
   }
   [[nodiscard]] std::size_t operator()(const ParagraphStyle& style) const noexcept {
-    const std::size_t flags = static_cast<std::size_t>(style.align) << 1U | (style.bullet ? 1U : 0U);
+    const std::size_t flags =
+        static_cast<std::size_t>(style.align) << 1U | (style.bullet ? 1U : 0U);
     return mix(flags, style.indent);
   }
 

@@ -27,7 +27,8 @@ void copy(char* into, std::string_view text) {
 std::string TextBuffer::between(int from, int to) const {
   std::string text;
   text.reserve(static_cast<std::size_t>(to - from));
-  for (const std::string_view piece : pieces(from, to)) text += piece;
+  for (const std::string_view piece : pieces(from, to))
+    text += piece;
   return text;
 }
 

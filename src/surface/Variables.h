@@ -17,9 +17,9 @@ struct VariableValue {
   using Table = std::vector<VariableValue>;
   using Record = std::vector<std::pair<std::string, VariableValue>>;
 
-  VariableValue(bool flag) : value(flag) {}              // NOLINT(google-explicit-constructor)
-  VariableValue(int number) : value(double(number)) {}   // NOLINT(google-explicit-constructor)
-  VariableValue(double number) : value(number) {}        // NOLINT(google-explicit-constructor)
+  VariableValue(bool flag) : value(flag) {}                   // NOLINT(google-explicit-constructor)
+  VariableValue(int number) : value(double(number)) {}        // NOLINT(google-explicit-constructor)
+  VariableValue(double number) : value(number) {}             // NOLINT(google-explicit-constructor)
   VariableValue(std::string text) : value(std::move(text)) {} // NOLINT(google-explicit-constructor)
   VariableValue(Table table) : value(std::move(table)) {}     // NOLINT(google-explicit-constructor)
   VariableValue(Record record) : value(std::move(record)) {}  // NOLINT(google-explicit-constructor)
@@ -42,7 +42,8 @@ class Variables {
   void addTable(std::string name, const Values* values) {
     add(std::move(name), [values] {
       VariableValue::Table table;
-      for (const auto& each : *values) table.emplace_back(static_cast<int>(each));
+      for (const auto& each : *values)
+        table.emplace_back(static_cast<int>(each));
       return VariableValue(std::move(table));
     });
   }

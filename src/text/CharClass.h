@@ -22,7 +22,8 @@ class CharClass {
       const bool range = at + 2 < pattern.size() && pattern[at + 1] == '-';
       const int first = asc(pattern[at]);
       const int last = range ? asc(pattern[at + 2]) : first;
-      for (int code = first; code <= last; ++code) members_[static_cast<std::size_t>(code)] = true;
+      for (int code = first; code <= last; ++code)
+        members_[static_cast<std::size_t>(code)] = true;
       at += range ? 3 : 1;
     }
   }

@@ -9,7 +9,8 @@ namespace talvora {
 /// Small letter of a character: A to Z fold and nothing else does, since the font's own letters
 /// have no case pairs.
 [[nodiscard]] constexpr char lower(char character) {
-  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                              : character;
 }
 [[nodiscard]] std::string lower(std::string_view text);
 

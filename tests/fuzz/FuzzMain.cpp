@@ -1,6 +1,6 @@
-// A small driver for fuzz targets: feeds them the seed files, then mutations of these, in a sequence
-// that a seed number fixes. A failure is whatever the sanitizers or the target itself abort on; the
-// input that led there is left in the file "crash-input".
+// A small driver for fuzz targets: feeds them the seed files, then mutations of these, in a
+// sequence that a seed number fixes. A failure is whatever the sanitizers or the target itself
+// abort on; the input that led there is left in the file "crash-input".
 
 #include <algorithm>
 #include <chrono>
@@ -63,7 +63,8 @@ std::vector<Input> readSeeds(const std::string& folder) {
   std::vector<Input> seeds = {Input{}};
   if (folder.empty() || !std::filesystem::is_directory(folder)) return seeds;
   std::vector<std::filesystem::path> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) paths.push_back(entry);
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    paths.push_back(entry);
   std::sort(paths.begin(), paths.end());
   for (const auto& path : paths) {
     std::ifstream file(path, std::ios::binary);
@@ -78,7 +79,8 @@ class Mutator {
 
   Input mutate(Input input, const Input& other) {
     const int changes = 1 + static_cast<int>(below(8));
-    for (int change = 0; change < changes; ++change) changeOnce(input, other);
+    for (int change = 0; change < changes; ++change)
+      changeOnce(input, other);
     if (input.size() > LargestInput) input.resize(LargestInput);
     return input;
   }
@@ -137,7 +139,8 @@ void runOn(const Input& input) {
 int main(int argc, char** argv) {
   const Options options = readOptions(argc, argv);
   const std::vector<Input> seeds = readSeeds(options.seeds);
-  for (const Input& seed : seeds) runOn(seed);
+  for (const Input& seed : seeds)
+    runOn(seed);
 
   Mutator mutator(options.seed);
   const auto start = std::chrono::steady_clock::now();

@@ -10,14 +10,19 @@ namespace talvora {
 bool ScriptedInput::GetAsyncKeyState(int keyCode) {
   Key& key = keys_[keyCode];
   const bool pressed = std::exchange(key.pressedSinceAsked, false);
-  return key.down || pressed || isHeld(keyCode) || (keyCode == key::Esc && hasGivenUp());
+  forgetPastHolds();
+  if (hasGivenUp()) return keyCode == key::Esc;
+  return key.down || pressed || isHeld(keyCode);
 }
 
-bool ScriptedInput::isHeld(int keyCode) {
-  const std::int64_t now = time_.nowMs();
-  std::erase_if(holds_, [&](const Hold& hold) { return hold.to <= now; });
-  return std::any_of(holds_.begin(), holds_.end(),
-                     [&](const Hold& hold) { return hold.keyCode == keyCode && hold.from <= now; });
+void ScriptedInput::forgetPastHolds() {
+  std::erase_if(holds_, [&](const Hold& hold) { return hold.to <= time_.nowMs(); });
+}
+
+bool ScriptedInput::isHeld(int keyCode) const {
+  return std::any_of(holds_.begin(), holds_.end(), [&](const Hold& hold) {
+    return hold.keyCode == keyCode && hold.from <= time_.nowMs();
+  });
 }
 
 bool ScriptedInput::hasGivenUp() const noexcept {

@@ -54,8 +54,8 @@ class ScriptedInput final : public Input {
 
   /// From `after` milliseconds on from now, for `length` milliseconds, polls find the key down.
   void hold(int keyCode, std::int64_t after, std::int64_t length);
-  /// From a moment of virtual time on, but not before the last hold is over, polls find Esc down,
-  /// so that a loop of the program that waits for the learner always ends.
+  /// From a moment of virtual time on, but not before the last hold is over, polls find Esc down
+  /// and no other key, so that a loop of the program that waits for the learner always ends.
   void giveUpAt(std::int64_t ms) noexcept { giveUpAt_ = ms; }
 
   /// Moves the pointer as a hand would: not logged.
@@ -77,7 +77,8 @@ class ScriptedInput final : public Input {
     std::int64_t to;
   };
 
-  [[nodiscard]] bool isHeld(int keyCode);
+  void forgetPastHolds();
+  [[nodiscard]] bool isHeld(int keyCode) const;
   [[nodiscard]] bool hasGivenUp() const noexcept;
 
   const VirtualTime& time_;

@@ -69,6 +69,16 @@ TEST(ScriptedInput, GivesUpWithEscButNotAheadOfAHold) {
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Left));
 }
 
+TEST(ScriptedInput, GivingUpLetsGoOfEveryOtherKey) {
+  ScriptedMachine machine;
+  machine.input.keyDown(key::Down);
+  machine.input.giveUpAt(100);
+  EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Down));
+  machine.clock.Sleep(100);
+  EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Down));
+  EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Esc));
+}
+
 TEST(ScriptedInput, OnlyTheProgramsOwnMovesAreLogged) {
   ScriptedMachine machine;
   machine.input.placePointer({7, 8});

@@ -117,8 +117,8 @@ TEST_F(Menu, TheButtonUnderThePointerIsAnimatedAndTheOthersRest) {
   for (const LogEntry& entry : run.machine.log.take()) {
     if (entry.what == "picture") frames.push_back(std::get<std::int64_t>(*entry.find("frame")));
   }
-  EXPECT_EQ(frames, (std::vector<std::int64_t>{14, 14, 8, 9, 10, 11, 12, 13, 12, 11,
-                                               10, 9,  8, 14, 7, 6,  5,  4,  3,  2}));
+  EXPECT_EQ(frames, (std::vector<std::int64_t>{14, 14, 8, 9,  10, 11, 12, 13, 12, 11,
+                                               10, 9,  8, 14, 7,  6,  5,  4,  3,  2}));
   EXPECT_EQ(run.controls().but(7).Picture(), 2);
   EXPECT_EQ(run.controls().but(1).Picture(), run.controls().but(16).StoredPicture());
   EXPECT_EQ(run.number("HoverDem"), 0);

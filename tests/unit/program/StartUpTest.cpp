@@ -17,41 +17,57 @@ struct ScreenCase {
   int pixelWidth;
   int pixelHeight;
   std::map<std::string, int> measures;
-  std::array<int, 4> but1; // left, top, width, height
+  std::array<int, 4> but1;  // left, top, width, height
   std::array<int, 2> but18; // left, top
   std::array<int, 4> bar;   // left, top, width, height of the hint bar
 };
 
 const std::vector<ScreenCase>& screenCases() {
   static const std::vector<ScreenCase> cases = {
-      {640, 480,
-       {{"RongMH", 9600}, {"CaoMH", 6984}, {"CoNut", 9}, {"CoChu", 13}, {"PhanTramRong", 75},
-        {"BuocTruot", 150}, {"NutHo", 96}, {"RongBai", 7200}, {"CaoBai", 5587},
-        {"LeTraiBai", 1200}, {"LeTrenBai", 698}, {"RongKhung", 7392}, {"LeTraiKhung", 1104},
-        {"LeTrenKhung", 698}, {"Phan12", 800}, {"Phan3", 3200}, {"Phan6", 1600},
-        {"ChuotX1", 305}, {"ChuotX2", 477}, {"ChuotY", 160}, {"ChuotBuoc", 29}},
-       {2256, 1954, 2496, 279}, {4848, 5306}, {1104, 148, 7392, 480}},
-      {800, 600,
-       {{"RongMH", 12000}, {"CaoMH", 8730}, {"CoNut", 10}, {"CoChu", 15}, {"PhanTramRong", 85},
-        {"BuocTruot", 200}, {"NutHo", 120}, {"RongBai", 10200}, {"CaoBai", 6984},
-        {"LeTraiBai", 900}, {"LeTrenBai", 873}, {"RongKhung", 10440}, {"LeTraiKhung", 780},
-        {"LeTrenKhung", 873}, {"Phan12", 1000}, {"Phan3", 4000}, {"Phan6", 2000},
-        {"ChuotX1", 388}, {"ChuotX2", 605}, {"ChuotY", 190}, {"ChuotBuoc", 36}},
-       {2820, 2444, 3120, 349}, {6060, 6636}, {780, 226, 10440, 560}},
-      {1024, 768,
-       {{"RongMH", 15360}, {"CaoMH", 11174}, {"CoNut", 13}, {"CoChu", 20}, {"PhanTramRong", 76},
-        {"BuocTruot", 300}, {"NutHo", 154}, {"RongBai", 11674}, {"CaoBai", 8939},
-        {"LeTraiBai", 1843}, {"LeTrenBai", 1118}, {"RongKhung", 11981}, {"LeTraiKhung", 1690},
-        {"LeTrenKhung", 1118}, {"Phan12", 1280}, {"Phan3", 5120}, {"Phan6", 2560},
-        {"ChuotX1", 480}, {"ChuotX2", 750}, {"ChuotY", 240}, {"ChuotBuoc", 46}},
-       {3610, 3128, 3993, 447}, {7757, 8488}, {1689, 246, 11981, 760}},
-      {1366, 768,
-       {{"RongMH", 20490}, {"CaoMH", 11174}, {"CoNut", 13}, {"CoChu", 20}, {"PhanTramRong", 76},
-        {"BuocTruot", 300}, {"NutHo", 205}, {"RongBai", 15572}, {"CaoBai", 8939},
-        {"LeTraiBai", 2459}, {"LeTrenBai", 1118}, {"RongKhung", 15982}, {"LeTraiKhung", 2254},
-        {"LeTrenKhung", 1118}, {"Phan12", 1707}, {"Phan3", 6830}, {"Phan6", 3415},
-        {"ChuotX1", 480}, {"ChuotX2", 750}, {"ChuotY", 240}, {"ChuotBuoc", 46}},
-       {4815, 3128, 5328, 447}, {10348, 8488}, {2254, 246, 15982, 760}},
+      {640,
+       480,
+       {{"RongMH", 9600},      {"CaoMH", 6984},      {"CoNut", 9},       {"CoChu", 13},
+        {"PhanTramRong", 75},  {"BuocTruot", 150},   {"NutHo", 96},      {"RongBai", 7200},
+        {"CaoBai", 5587},      {"LeTraiBai", 1200},  {"LeTrenBai", 698}, {"RongKhung", 7392},
+        {"LeTraiKhung", 1104}, {"LeTrenKhung", 698}, {"Phan12", 800},    {"Phan3", 3200},
+        {"Phan6", 1600},       {"ChuotX1", 305},     {"ChuotX2", 477},   {"ChuotY", 160},
+        {"ChuotBuoc", 29}},
+       {2256, 1954, 2496, 279},
+       {4848, 5306},
+       {1104, 148, 7392, 480}},
+      {800,
+       600,
+       {{"RongMH", 12000},    {"CaoMH", 8730},      {"CoNut", 10},      {"CoChu", 15},
+        {"PhanTramRong", 85}, {"BuocTruot", 200},   {"NutHo", 120},     {"RongBai", 10200},
+        {"CaoBai", 6984},     {"LeTraiBai", 900},   {"LeTrenBai", 873}, {"RongKhung", 10440},
+        {"LeTraiKhung", 780}, {"LeTrenKhung", 873}, {"Phan12", 1000},   {"Phan3", 4000},
+        {"Phan6", 2000},      {"ChuotX1", 388},     {"ChuotX2", 605},   {"ChuotY", 190},
+        {"ChuotBuoc", 36}},
+       {2820, 2444, 3120, 349},
+       {6060, 6636},
+       {780, 226, 10440, 560}},
+      {1024,
+       768,
+       {{"RongMH", 15360},     {"CaoMH", 11174},      {"CoNut", 13},       {"CoChu", 20},
+        {"PhanTramRong", 76},  {"BuocTruot", 300},    {"NutHo", 154},      {"RongBai", 11674},
+        {"CaoBai", 8939},      {"LeTraiBai", 1843},   {"LeTrenBai", 1118}, {"RongKhung", 11981},
+        {"LeTraiKhung", 1690}, {"LeTrenKhung", 1118}, {"Phan12", 1280},    {"Phan3", 5120},
+        {"Phan6", 2560},       {"ChuotX1", 480},      {"ChuotX2", 750},    {"ChuotY", 240},
+        {"ChuotBuoc", 46}},
+       {3610, 3128, 3993, 447},
+       {7757, 8488},
+       {1689, 246, 11981, 760}},
+      {1366,
+       768,
+       {{"RongMH", 20490},     {"CaoMH", 11174},      {"CoNut", 13},       {"CoChu", 20},
+        {"PhanTramRong", 76},  {"BuocTruot", 300},    {"NutHo", 205},      {"RongBai", 15572},
+        {"CaoBai", 8939},      {"LeTraiBai", 2459},   {"LeTrenBai", 1118}, {"RongKhung", 15982},
+        {"LeTraiKhung", 2254}, {"LeTrenKhung", 1118}, {"Phan12", 1707},    {"Phan3", 6830},
+        {"Phan6", 3415},       {"ChuotX1", 480},      {"ChuotX2", 750},    {"ChuotY", 240},
+        {"ChuotBuoc", 46}},
+       {4815, 3128, 5328, 447},
+       {10348, 8488},
+       {2254, 246, 15982, 760}},
   };
   return cases;
 }
@@ -69,7 +85,8 @@ TEST_P(Layout, IsExactToTheTwip) {
   const ScreenCase& expected = GetParam();
   ProgramRun run(screenOf(expected.pixelWidth, expected.pixelHeight));
   run.start();
-  for (const auto& [name, value] : expected.measures) EXPECT_EQ(run.number(name), value) << name;
+  for (const auto& [name, value] : expected.measures)
+    EXPECT_EQ(run.number(name), value) << name;
   const Button& first = run.controls().but(1);
   EXPECT_EQ((std::array{first.Left(), first.Top(), first.Width(), first.Height()}), expected.but1);
   const Button& last = run.controls().but(18);
@@ -78,11 +95,10 @@ TEST_P(Layout, IsExactToTheTwip) {
   EXPECT_EQ((std::array{bar.Left(), bar.Top(), bar.Width(), bar.Height()}), expected.bar);
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, Layout, testing::ValuesIn(screenCases()),
-                         [](const auto& each) {
-                           return "At" + std::to_string(each.param.pixelWidth) + "x" +
-                                  std::to_string(each.param.pixelHeight);
-                         });
+INSTANTIATE_TEST_SUITE_P(Screens, Layout, testing::ValuesIn(screenCases()), [](const auto& each) {
+  return "At" + std::to_string(each.param.pixelWidth) + "x" +
+         std::to_string(each.param.pixelHeight);
+});
 
 TEST(StartUp, TellsTheScreenClassesApartAtTheirBounds) {
   const std::vector<std::pair<int, int>> classes = {{799, 9}, {800, 10}, {801, 13}, {2000, 13}};
@@ -123,9 +139,8 @@ TEST(StartUp, ParksTheSurfacesOffTheScreen) {
   for (const Control* control : std::initializer_list<Control*>{&c.R1, &c.R2, &c.RW1, &c.RVP1}) {
     EXPECT_EQ(control->Left(), 15362) << control->Name();
   }
-  for (const Control* control :
-       std::initializer_list<Control*>{&c.R1, &c.R2, &c.RVP2, &c.Rchon, &c.RHD, &c.RTD, &c.RDT,
-                                       &c.Rxep, &c.Rnen}) {
+  for (const Control* control : std::initializer_list<Control*>{
+           &c.R1, &c.R2, &c.RVP2, &c.Rchon, &c.RHD, &c.RTD, &c.RDT, &c.Rxep, &c.Rnen}) {
     EXPECT_EQ(control->Top(), 11474) << control->Name();
   }
   EXPECT_EQ(c.Rnen3.Top(), 11274);

@@ -42,8 +42,8 @@ class OpenText : public testing::Test {
 
 TEST_F(OpenText, ShowsSentenceMarksAsCharacter160) {
   open("Title\r_\tOne here. _Two|there.\r", "_Mot._Hai.");
-  EXPECT_EQ(run.controls().R2.Text(), Mark + "Title\r" + Mark + "\tOne here. " + Mark +
-                                          "Two there.\r" + Mark);
+  EXPECT_EQ(run.controls().R2.Text(),
+            Mark + "Title\r" + Mark + "\tOne here. " + Mark + "Two there.\r" + Mark);
   EXPECT_EQ(run.number("SoCauVanBan"), 4);
   EXPECT_EQ(mark(1), 1);
   EXPECT_EQ(mark(2), 8);
@@ -94,13 +94,14 @@ TEST_F(OpenText, OpensBehindTheCurtain) {
 
 TEST_F(OpenText, TooManySentencesEndTheProgramAndNameTheText) {
   std::string text = "Title\r";
-  for (int sentence = 0; sentence < 201; ++sentence) text += "_x.";
+  for (int sentence = 0; sentence < 201; ++sentence)
+    text += "_x.";
   try {
     open(text, "");
     FAIL() << "no failure";
   } catch (const FatalFailure& failure) {
-    EXPECT_THAT(failure.what(), testing::AllOf(testing::HasSubstr("data.av"),
-                                               testing::HasSubstr("text 1")));
+    EXPECT_THAT(failure.what(),
+                testing::AllOf(testing::HasSubstr("data.av"), testing::HasSubstr("text 1")));
   }
 }
 

@@ -32,15 +32,19 @@ class Gesture : public testing::Test {
 
 TEST_F(Gesture, APopupStaysWithinATwelfthOfTheScreenAndGoesBeyond) {
   const int reach = 1280;
-  for (const SurfacePoint inside : {SurfacePoint{5000 + reach, 4000}, {5000 - reach, 4000},
-                                    {5000, 4000 + reach}, {5000, 4000 - reach}}) {
+  for (const SurfacePoint inside : {SurfacePoint{5000 + reach, 4000},
+                                    {5000 - reach, 4000},
+                                    {5000, 4000 + reach},
+                                    {5000, 4000 - reach}}) {
     takeWord({5000, 4000});
     run.shell.gestures.followPointer(run.controls.R2, inside);
     EXPECT_EQ(run.state.word.TuHienTai, "word");
     EXPECT_EQ(popupsClosed, 0);
   }
-  for (const SurfacePoint outside : {SurfacePoint{5001 + reach, 4000}, {4999 - reach, 4000},
-                                     {5000, 4001 + reach}, {5000, 3999 - reach}}) {
+  for (const SurfacePoint outside : {SurfacePoint{5001 + reach, 4000},
+                                     {4999 - reach, 4000},
+                                     {5000, 4001 + reach},
+                                     {5000, 3999 - reach}}) {
     popupsClosed = 0;
     takeWord({5000, 4000});
     run.shell.gestures.followPointer(run.controls.R2, outside);

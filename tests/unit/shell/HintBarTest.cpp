@@ -21,9 +21,10 @@ TEST_F(Hints, F2ShowsTheHintOfASurfaceAtDoubleHeightAndAtTheTop) {
   EXPECT_TRUE(bar.Visible());
   EXPECT_EQ(bar.Top(), 0);
   EXPECT_EQ(bar.Height(), 2 * height);
-  EXPECT_EQ(bar.Text(),
-            std::string("Enter/ChuÖt Trái=Mß bài ðöc; ChuÖt phåi= Nghe ViÉt; Møi tên Trái/phåi=Tiêu "
-                        "ðÈ\rEsc=thoát; Gõ phím=Tra tÙ (SÛ düng Roll chuÖt)"_bytes));
+  EXPECT_EQ(
+      bar.Text(),
+      std::string("Enter/ChuÖt Trái=Mß bài ðöc; ChuÖt phåi= Nghe ViÉt; Møi tên Trái/phåi=Tiêu "
+                  "ðÈ\rEsc=thoát; Gõ phím=Tra tÙ (SÛ düng Roll chuÖt)"_bytes));
   bar.SelStart(0);
   bar.SelLength(1);
   EXPECT_EQ(bar.SelColor(), 0xFF0000U);

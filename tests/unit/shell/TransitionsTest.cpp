@@ -110,8 +110,7 @@ TEST(CurtainTest, PartsOverTheSurfaceAndParksThePointer) {
                         static_cast<int>(std::get<std::int64_t>(*entry.find("y")))});
     }
   }
-  EXPECT_EQ(points,
-            (std::vector<PixelPoint>{{0, 0}, {512, 55}, {102, 110}, {512, 55}}));
+  EXPECT_EQ(points, (std::vector<PixelPoint>{{0, 0}, {512, 55}, {102, 110}, {512, 55}}));
   EXPECT_EQ(run.machine.log.count("sleep"), 1);
   EXPECT_EQ(run.machine.log.count("synthetic"), 1);
 }

@@ -36,8 +36,8 @@ TEST_F(StoresTest, ReadingPastAnEndOrAheadOfTheStartGives0) {
   folder.write("data.av", "A");
   stores.MoDuLieu();
   const RecordFile& positions = stores.fileOf(file::TextPositions);
-  for (const std::int64_t record : {std::int64_t{-1}, std::int64_t{0}, std::int64_t{2},
-                                    std::int64_t{1} << 60}) {
+  for (const std::int64_t record :
+       {std::int64_t{-1}, std::int64_t{0}, std::int64_t{2}, std::int64_t{1} << 60}) {
     EXPECT_EQ(positions.integer(record), 0);
     EXPECT_EQ(stores.fileOf(file::Texts).byte(record), 0);
   }

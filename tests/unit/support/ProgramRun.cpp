@@ -14,7 +14,8 @@ ProgramRun::ProgramRun(const ScriptedOptions& options)
 void ProgramRun::writeTexts(const std::vector<StoredText>& texts, bool speaking) const {
   const int slots = speaking ? 2025 : 408;
   std::map<int, StoredText> bySlot;
-  for (const StoredText& each : texts) bySlot[each.slot] = each;
+  for (const StoredText& each : texts)
+    bySlot[each.slot] = each;
   std::vector<std::int32_t> positions;
   std::string stream;
   for (int slot = 1; slot <= slots; ++slot) {
@@ -67,8 +68,7 @@ void ProgramRun::click(Surface& surface, int caret, MouseButton button) {
   surface.releaseMouse(button, shift::None, at);
   // A left click that the program sends itself arrives where the pointer is; the right click of
   // the curtain goes aside.
-  for (auto event = machine.input.takeSynthetic(); event;
-       event = machine.input.takeSynthetic()) {
+  for (auto event = machine.input.takeSynthetic(); event; event = machine.input.takeSynthetic()) {
     const auto* sent = std::get_if<SyntheticClick>(&*event);
     if (sent == nullptr || sent->button != MouseButton::Left) continue;
     surface.pressMouse(MouseButton::Left, shift::None, at);

@@ -22,8 +22,8 @@ class ProgramRun {
  public:
   explicit ProgramRun(const ScriptedOptions& options = {});
 
-  /// Writes the stores data.vt and data.av, or the speaking ones, with these texts; other slots have
-  /// the title "slot N".
+  /// Writes the stores data.vt and data.av, or the speaking ones, with these texts; other slots
+  /// have the title "slot N".
   void writeTexts(const std::vector<StoredText>& texts, bool speaking = false) const;
 
   /// Runs the start-up.

@@ -35,7 +35,8 @@ void TestFolder::writeIntegers(std::string_view name,
                                const std::vector<std::int32_t>& values) const {
   std::string bytes;
   for (const std::int32_t value : values) {
-    for (const unsigned char byte : bytesOf(value)) bytes += static_cast<char>(byte);
+    for (const unsigned char byte : bytesOf(value))
+      bytes += static_cast<char>(byte);
   }
   write(name, bytes);
 }
@@ -59,9 +60,9 @@ bool TestFolder::has(std::string_view name) const {
 
 void TestFolder::writeEmptyStores() const {
   for (const char* name :
-       {"data.vt", "data.av", "data.avt", "datavp.vt", "datavp.n", "dataD.av", "data.vbt", "data.bt",
-        "datasp.vt", "datasp.av", "dataPt.vt", "dataPt.v", "data.mtd", "datatu.txt", "data.Muc",
-        "datatuD.txt", "dataD.vt", "dataN.vt", "dataN.av", "DataS"}) {
+       {"data.vt",  "data.av",     "data.avt",  "datavp.vt", "datavp.n", "dataD.av", "data.vbt",
+        "data.bt",  "datasp.vt",   "datasp.av", "dataPt.vt", "dataPt.v", "data.mtd", "datatu.txt",
+        "data.Muc", "datatuD.txt", "dataD.vt",  "dataN.vt",  "dataN.av", "DataS"}) {
     write(name, "");
   }
   write("readme.rtf", "{\\rtf1 guide\\par}");
@@ -70,7 +71,8 @@ void TestFolder::writeEmptyStores() const {
 
 std::string encoded(std::string_view plain) {
   std::string bytes(plain);
-  for (char& byte : bytes) byte = static_cast<char>(GiaiMaByte(static_cast<unsigned char>(byte)));
+  for (char& byte : bytes)
+    byte = static_cast<char>(GiaiMaByte(static_cast<unsigned char>(byte)));
   return bytes;
 }
 

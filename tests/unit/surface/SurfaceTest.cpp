@@ -34,7 +34,8 @@ class SurfaceTest : public testing::Test {
   }
 
   void type(const std::string& text) {
-    for (const char character : text) surface.pressKey(asc(character), 0, character);
+    for (const char character : text)
+      surface.pressKey(asc(character), 0, character);
   }
   void press(int keyCode, int shift = 0) { surface.pressKey(keyCode, shift, 0); }
 
@@ -356,7 +357,8 @@ TEST_F(SurfaceTest, PointsAndCaretsAreInverse) {
 
 TEST_F(SurfaceTest, ACaretIsBroughtIntoViewWithAsLittleScrollingAsPossible) {
   std::string text;
-  for (int line = 0; line < 100; ++line) text += "line\r";
+  for (int line = 0; line < 100; ++line)
+    text += "line\r";
   surface.Text(text);
   surface.SelStart(0);
   EXPECT_EQ(surface.scroll(), (ScrollPlace{0, 0}));
@@ -371,7 +373,8 @@ TEST_F(SurfaceTest, ACaretIsBroughtIntoViewWithAsLittleScrollingAsPossible) {
 
 TEST_F(SurfaceTest, GoingFartherDownFirstLeavesALineNearTheTop) {
   std::string text;
-  for (int line = 0; line < 100; ++line) text += "line\r";
+  for (int line = 0; line < 100; ++line)
+    text += "line\r";
   surface.Text(text);
   surface.SelStart(60 * 5);
   surface.SelStart(50 * 5);
@@ -380,7 +383,8 @@ TEST_F(SurfaceTest, GoingFartherDownFirstLeavesALineNearTheTop) {
 
 TEST_F(SurfaceTest, ScrollingStopsAtTheFirstAndTheLastLine) {
   std::string text;
-  for (int line = 0; line < 20; ++line) text += "line\r";
+  for (int line = 0; line < 20; ++line)
+    text += "line\r";
   surface.Text(text);
   surface.scrollBy(-500);
   EXPECT_EQ(surface.scroll(), (ScrollPlace{0, 0}));
@@ -408,8 +412,8 @@ TEST_F(SurfaceTest, ClicksPlaceTheCaretForTheLeftButtonOnly) {
   surface.doubleClick(0, at);
   EXPECT_EQ(surface.SelText(), "words");
   surface.releaseMouse(MouseButton::Left, 0, at);
-  EXPECT_THAT(events, testing::ElementsAre("down", "up", "click", "down", "up", "click", "double",
-                                           "up"));
+  EXPECT_THAT(events,
+              testing::ElementsAre("down", "up", "click", "down", "up", "click", "double", "up"));
 }
 
 TEST_F(SurfaceTest, ADoubleClickTakesTheBlanksBehindTheWord) {
@@ -462,8 +466,7 @@ TEST_F(SurfaceTest, EachMutatorTellsTheFormOnce) {
   host.changes.clear();
   surface.SelLength(2);
   surface.SelColor(255);
-  EXPECT_THAT(host.changes,
-              testing::ElementsAre(ControlChange::Selection, ControlChange::Look));
+  EXPECT_THAT(host.changes, testing::ElementsAre(ControlChange::Selection, ControlChange::Look));
 }
 
 // A naive twin: a text and a style for each character.

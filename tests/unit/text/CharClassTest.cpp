@@ -35,7 +35,8 @@ TEST(CharClass, SpansARangeBetweenMarks) {
 
 TEST(CharClass, KeepsAHyphenBehindABackslashAndBrackets) {
   constexpr CharClass typed("[a-z,A-Z,'. /\\,()-]");
-  for (const char inside : {'-', '\\', '/', '(', ')', ' '}) EXPECT_TRUE(typed.has(inside));
+  for (const char inside : {'-', '\\', '/', '(', ')', ' '})
+    EXPECT_TRUE(typed.has(inside));
   EXPECT_FALSE(typed.has('0'));
 }
 

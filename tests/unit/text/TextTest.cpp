@@ -1,6 +1,6 @@
+#include "text/Text.h"
 #include "text/Bytes.h"
 #include "text/Rounding.h"
-#include "text/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -11,12 +11,14 @@ TEST(Bytes, LiteralsBecomeWindows1252) {
   EXPECT_EQ("Ÿ"_bytes, "\x9F");
   EXPECT_EQ("š"_bytes, "\x9A");
   EXPECT_EQ("\u2019"_bytes, "\x92");
-  EXPECT_EQ("phÌn này ðang"_bytes, "ph\xCCn n\xE0y \xF0" "ang");
+  EXPECT_EQ("phÌn này ðang"_bytes, "ph\xCCn n\xE0y \xF0"
+                                   "ang");
   EXPECT_EQ(""_bytes, "");
 }
 
 TEST(Bytes, CharactersAndCodesAreInverse) {
-  for (int code = 0; code < 256; ++code) EXPECT_EQ(asc(chr(code)), code);
+  for (int code = 0; code < 256; ++code)
+    EXPECT_EQ(asc(chr(code)), code);
 }
 
 TEST(Text, SmallLettersFoldFromAToZOnly) {

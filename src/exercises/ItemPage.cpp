@@ -1,0 +1,118 @@
+#include "exercises/ItemPage.h"
+
+#include "exercises/ItemMask.h"
+#include "lessons/PageColours.h"
+
+#include <utility>
+
+namespace talvora {
+
+ItemPage::ItemPage(Surface& surface, ItemServices& services)
+    : surface_(surface), services_(services) {
+  surface.MouseMove = [this](int, SurfacePoint at) { moveMouse(at); };
+  surface.MouseDown = [this](MouseButton, int, SurfacePoint) {
+    services_.answer.restore(surface_);
+  };
+  services.shell.gestures.onClose(surface, [this](Surface&) { services_.run.ThoatBT(surface_); });
+}
+
+void ItemPage::begin() {
+  services_.item.KetQuaCau = 0;
+  services_.state.word.ViTriCaret = 0;
+  surface_.Text("");
+  surface_.SelBold(services_.state.measures.largeScreen());
+  surface_.SelIndent(BodyIndent);
+  surface_.SelColor(BodyColour);
+}
+
+void ItemPage::writeFoot() {
+  surface_.SelIndent(0);
+  surface_.SelAlignment(Alignment::Centred);
+  surface_.SelBold(true);
+  services_.item.links = writeLinks(surface_, PageRed);
+}
+
+// -- Keys.
+
+void ItemPage::pressKey(int& keyCode, int shift) {
+  services_.shell.hints.showOnF2(keyCode, surface_);
+  pressCtrl(keyCode, shift);
+  if (keyCode != key::Esc) return;
+  keyCode = 0;
+  pressEsc();
+}
+
+void ItemPage::pressCtrl(int keyCode, int shift) {
+  const int p = position();
+  if (services_.item.maskAt(p) != PlainText) return;
+  const bool headingAnswers = &surface_ != &services_.controls.Rsai;
+  if (headingAnswers || services_.item.pastHeading(p)) {
+    services_.words.showOnCtrl(keyCode, shift, surface_);
+  }
+}
+
+void ItemPage::pressEsc() {
+  const Controls& controls = services_.controls;
+  const bool somethingOver =
+      controls.RDOS.Visible() || controls.RHDBT.Visible() || controls.RHD.Visible();
+  if (!somethingOver) {
+    services_.run.ThoatBT(surface_);
+    return;
+  }
+  closeExtras();
+  services_.shell.hints.AnRDOS(surface_);
+}
+
+void ItemPage::closeExtras() {
+  if (services_.controls.RHD.Visible()) services_.shell.upward.DongNghia();
+  services_.box.DongGiai();
+}
+
+void ItemPage::pressLetter(int keyAscii, int caretToComeBackTo) {
+  services_.controls.RDOS.Visible(false);
+  services_.state.word.ViTriCaret = caretToComeBackTo;
+  services_.words.openListOn(keyAscii);
+}
+
+void ItemPage::releaseKey(int shift) {
+  services_.shell.gestures.keyReleased();
+  CurrentWord& word = services_.state.word;
+  if (services_.controls.RHD.Visible() && !word.DaChonRTD) services_.shell.upward.DongNghia();
+  services_.words.closeWithoutCtrl(shift, surface_);
+  if (surface_.SelLength() == 0) word.ViTriCaret = surface_.SelStart();
+}
+
+// -- Mouse.
+
+void ItemPage::moveMouse(SurfacePoint at) {
+  services_.shell.gestures.pointerMoved(surface_, at);
+  services_.box.RoiChuotBT(surface_, at);
+  services_.shell.gestures.RoiChuot(surface_, at);
+}
+
+ItemPage::Click ItemPage::releaseMouse(MouseButton button, SurfacePoint at) {
+  CurrentWord& word = services_.state.word;
+  const int p = position();
+  services_.shell.gestures.keyReleased();
+  word.ViTriChuot = at;
+  services_.box.DongGiai();
+  services_.words.hidePopup();
+  word.ViTriCaret = surface_.SelStart();
+  if (button == MouseButton::Right) {
+    word.ChoGiai = true;
+    services_.shell.steering.NhapTrai();
+    return Click::Done;
+  }
+  if (std::exchange(word.ChoGiai, false)) return Click::Explain;
+  if (services_.item.links.holdNext(p)) {
+    services_.run.next();
+    return Click::Done;
+  }
+  if (services_.item.links.holdBack(p)) {
+    services_.run.back();
+    return Click::Done;
+  }
+  return Click::Pick;
+}
+
+} // namespace talvora

@@ -1,0 +1,75 @@
+// What the pages of all items share: the look of a fresh page, its foot, Esc and Ctrl, the pointer
+// rule, and the first questions that a click is asked.
+#pragma once
+
+#include "exercises/ExplanationBox.h"
+#include "exercises/ItemState.h"
+#include "exercises/ModelAnswer.h"
+#include "lessons/WordHelp.h"
+#include "shell/Shell.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+
+#include <functional>
+
+namespace talvora {
+
+/// What an item asks of the run that it belongs to.
+struct RunCalls {
+  /// What the links at the foot do.
+  std::function<void()> next = [] {};
+  std::function<void()> back = [] {};
+  /// Leaves the item on a surface.
+  std::function<void(Surface&)> ThoatBT = [](Surface&) {};
+  /// Counts the item if it was answered right.
+  std::function<void()> CongDung = [] {};
+};
+
+/// What the pages of items work with.
+struct ItemServices {
+  Controls& controls;
+  SharedState& state;
+  Shell& shell;
+  WordHelp& words;
+  ItemState& item;
+  ModelAnswer& answer;
+  ExplanationBox& box;
+  RunCalls& run;
+};
+
+class ItemPage {
+ public:
+  ItemPage(Surface& surface, ItemServices& services);
+
+  /// Empties the surface and sets the look of an item's text.
+  void begin();
+  /// Writes the foot at the caret and remembers where its links are.
+  void writeFoot();
+  /// Position, from 1, of the character behind the caret.
+  [[nodiscard]] int position() const { return surface_.SelStart() + 1; }
+
+  /// F2, Esc and Ctrl, which every item has. Esc is swallowed.
+  void pressKey(int& keyCode, int shift);
+  /// Closes what stands over the item; with nothing there the item is left.
+  void pressEsc();
+  /// Hides the popup and the explanation and stops speech, as a key does.
+  void closeExtras();
+  /// A letter opens the look-up list, to come back to a caret.
+  void pressLetter(int keyAscii, int caretToComeBackTo);
+  void releaseKey(int shift);
+
+  /// What is left to do for a click once the shared questions are asked.
+  enum class Click { Done, Explain, Pick };
+  Click releaseMouse(MouseButton button, SurfacePoint at);
+  /// The word under the pointer is looked up and spoken.
+  void lookUp() { services_.words.lookUpAtCaret(surface_); }
+
+ private:
+  void pressCtrl(int keyCode, int shift);
+  void moveMouse(SurfacePoint at);
+
+  Surface& surface_;
+  ItemServices& services_;
+};
+
+} // namespace talvora

@@ -1,0 +1,70 @@
+#include "exercises/ItemStore.h"
+
+#include "platform/Files.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+/// A 2-byte record, little-endian; 0 past the end.
+std::int16_t countAt(std::span<const unsigned char> bytes, std::size_t record) {
+  const std::size_t offset = (record - 1) * 2;
+  if (offset + 2 > bytes.size()) return 0;
+  return static_cast<std::int16_t>(bytes[offset] | bytes[offset + 1] << 8);
+}
+
+} // namespace
+
+void ItemStore::DocSoCau(EventLoop& events) {
+  if (TongCau_ > 0) return;
+  const auto counts = MappedFile::open(pathBelow(places_.ThuMuc, "\\data.Muc"));
+  for (std::size_t section = 1; section <= Sections; ++section) {
+    events.letEventsRun();
+    SoCau_[section] = countAt(counts->bytes(), section);
+  }
+  TongCau_ = itemsBefore(Sections + 1);
+}
+
+int ItemStore::countOf(int section) const noexcept {
+  if (section < 1 || section > Sections) return 0;
+  return std::max<int>(SoCau_[static_cast<std::size_t>(section)], 0);
+}
+
+int ItemStore::itemsOf(int section) const noexcept {
+  return std::max(countOf(section), 1);
+}
+
+int ItemStore::itemsBefore(int section) const noexcept {
+  int items = 0;
+  for (int each = 1; each < section; ++each)
+    items += itemsOf(each);
+  return items;
+}
+
+int ItemStore::bankItemsBefore(int bank) const noexcept {
+  int items = 0;
+  for (int each = 1; each < bank; ++each)
+    items += countOf(each);
+  return items;
+}
+
+std::string ItemStore::record(std::int64_t number) const {
+  const std::int64_t position = stores_.fileOf(file::ItemPositions).integer(number);
+  std::string text;
+  PieceReader reader(stores_.fileOf(file::Items), position + 1);
+  while (const auto piece = reader.next()) {
+    if (*piece == "@") break;
+    text += *piece;
+  }
+  return text;
+}
+
+void ItemStore::declare(Variables& variables) const {
+  variables.addTable("SoCau", &SoCau_);
+  variables.add("TongCau", &TongCau_);
+}
+
+} // namespace talvora

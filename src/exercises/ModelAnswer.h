@@ -1,0 +1,44 @@
+// An answer shown in the place of what the learner wrote, and taken back.
+#pragma once
+
+#include "exercises/ItemState.h"
+#include "surface/Controls.h"
+#include "surface/Surface.h"
+
+namespace talvora {
+
+/// Gives a surface back the caret that it had, when it goes out of scope.
+class KeepCaret {
+ public:
+  explicit KeepCaret(Surface& surface) : surface_(surface), caret_(surface.SelStart()) {}
+  KeepCaret(const KeepCaret&) = delete;
+  KeepCaret& operator=(const KeepCaret&) = delete;
+  ~KeepCaret() { surface_.SelStart(caret_); }
+
+ private:
+  Surface& surface_;
+  int caret_;
+};
+
+class ModelAnswer {
+ public:
+  ModelAnswer(Controls& controls, ItemState& item) : controls_(controls), item_(item) {}
+
+  /// Shows the model answer of the blank at position p, from 1, in bold.
+  void HienDapAn(int p, Colour colour, Surface& surface);
+  /// Ends the display: a fill-in keeps the model answer in its blank, elsewhere the old text comes
+  /// back.
+  void KhoiPhucChu(Surface& surface);
+  /// Selects a stretch of a surface, remembers what stands there and shows it bold.
+  void emphasise(Surface& surface, int caret, int length, Colour colour);
+  /// Takes the bold of a clicked phrase back.
+  void RoChonSai();
+  /// Ends whatever is shown on an item's surface.
+  void restore(Surface& surface);
+
+ private:
+  Controls& controls_;
+  ItemState& item_;
+};
+
+} // namespace talvora

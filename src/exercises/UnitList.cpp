@@ -1,0 +1,148 @@
+#include "exercises/UnitList.h"
+
+#include "lessons/PageColours.h"
+#include "text/Bytes.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr int ListeningSection = 4;
+constexpr int ListeningCaret = 10;
+// The instruction of the listening template, which the labels follow.
+constexpr int LabelsFrom = 40;
+constexpr int LabelsLength = 17;
+
+} // namespace
+
+UnitList::UnitList(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+                   Scoring& scoring)
+    : controls_(controls), state_(state), stores_(stores), shell_(shell), scoring_(scoring) {
+  wireEvents();
+}
+
+void UnitList::wireEvents() {
+  Surface& RN1 = controls_.RN1;
+  RN1.KeyDown = [this](int& KeyCode, int) {
+    if (KeyCode == key::Up || KeyCode == key::Down) shell_.steering.ChonDong();
+  };
+  RN1.KeyUp = [this](int&, int) { shell_.gestures.keyReleased(); };
+  RN1.KeyPress = [this, &RN1](int& KeyAscii) {
+    const int pressed = std::exchange(KeyAscii, 0);
+    if (pressed == key::Enter) GoiRN2();
+    if (pressed != key::Esc || shell_.gestures.DongPhu(RN1)) return;
+    if (controls_.RN2.Visible()) {
+      ThoatRN2();
+    } else {
+      ThoatNghe();
+    }
+  };
+  RN1.MouseUp = [this](MouseButton button, int, SurfacePoint) {
+    if (button == MouseButton::Left) GoiRN2();
+  };
+}
+
+// -- The list.
+
+void UnitList::HienBT(int SoCauBT) {
+  Surface& Rchon = controls_.Rchon;
+  Rchon.LoadFile(pathBelow(state_.places.ThuMuc, "\\dataABCD.rtf"));
+  Rchon.SelStart(0);
+  Rchon.SelLength(Rchon.TextLength());
+  Rchon.SelBold(true);
+  Rchon.SelFontSize(controls_.RN2.Font().size);
+  Rchon.SelStart(LabelsFrom);
+  Rchon.SelLength(LabelsLength);
+  Rchon.SelColor(PageBlue);
+  if (state_.places.MucMenu == ListeningSection) {
+    LietKeUnit();
+    setUpListening();
+  } else {
+    LietKeBai(SoCauBT / ItemsPerUnit);
+  }
+}
+
+void UnitList::LietKeBai(int units) {
+  writeList(units, "Bài TÏp "_bytes);
+}
+
+void UnitList::LietKeUnit() {
+  writeList(ListeningUnits, "Unit ");
+}
+
+void UnitList::writeList(int units, std::string_view word) {
+  CurrentList& list = state_.list;
+  std::string& text = list.DanhSachBai;
+  text.clear();
+  const int most = std::min(units, static_cast<int>(CurrentList::MaxLines));
+  for (int unit = 1; unit <= most; ++unit) {
+    text += '\t';
+    text += word;
+    text += Str(unit) + '\r';
+    list.BangViTri[static_cast<std::size_t>(unit)] = static_cast<std::int32_t>(text.size());
+  }
+  Surface& RN1 = controls_.RN1;
+  RN1.Text("");
+  RN1.SelBold(state_.measures.largeScreen());
+  RN1.SelColor(BodyColour);
+  RN1.SelBullet(true);
+  RN1.SelIndent(BodyIndent);
+  RN1.SelText(text);
+  RN1.SelStart(0);
+}
+
+void UnitList::open() {
+  state_.word.DaChonRTD = false;
+  controls_.Frame1.BackColor(PageWhite);
+  shell_.transitions.MoRan(controls_.RN1, controls_.Frame1);
+  DocViTriList();
+  shell_.steering.ChonDong();
+}
+
+int UnitList::caretRecord() const {
+  const int section = state_.places.MucMenu;
+  return section == ListeningSection ? ListeningCaret : section + 1;
+}
+
+void UnitList::DocViTriList() {
+  controls_.RN1.SelStart(stores_.readSetting(caretRecord()));
+}
+
+void UnitList::GhiViTriList() {
+  stores_.writeSetting(caretRecord(), controls_.RN1.SelStart());
+}
+
+// -- Opening and leaving.
+
+void UnitList::GoiRN2() {
+  Surface& RN1 = controls_.RN1;
+  if (RN1.TextLength() == 0) return;
+  GhiViTriList();
+  scoring_.ChuPhu();
+  scoring_.SoDung = 0;
+  int& SoBaiChon = state_.list.SoBaiChon;
+  SoBaiChon = RN1.GetLineFromChar(RN1.SelStart()) + 1;
+  const int section = state_.places.MucMenu;
+  if (isBankSection(section)) BatDauBai();
+  if (section == ListeningSection) MoBaiNghe(SoBaiChon);
+  shell_.gestures.remindOnFirstOpening(section, controls_.RN2);
+}
+
+void UnitList::ThoatNghe() {
+  constexpr int ListeningButton = 4;
+  scoring_.ChuPhu();
+  controls_.R1.Visible(false);
+  controls_.R1.Top(state_.measures.CaoMH);
+  shell_.transitions.DongRan(controls_.RN1, controls_.Frame1);
+  state_.word.ChoGiai = false;
+  state_.word.DaChonRTD = false;
+  // The banks go back to the listening button too; that is meant.
+  focusButton(ListeningButton);
+  closeListening();
+}
+
+} // namespace talvora

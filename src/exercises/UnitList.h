@@ -1,0 +1,61 @@
+// The list of units on `RN1`, which the exercise banks and the listening section share.
+#pragma once
+
+#include "exercises/Scoring.h"
+#include "shell/Shell.h"
+#include "stores/Stores.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+
+#include <functional>
+#include <string>
+
+namespace talvora {
+
+class UnitList {
+ public:
+  static constexpr int ItemsPerUnit = 25;
+  static constexpr int ListeningUnits = 9;
+
+  UnitList(Controls& controls, SharedState& state, Stores& stores, Shell& shell, Scoring& scoring);
+
+  /// Loads the template of listening items and fills the list: in section 4 with the listening
+  /// units, otherwise with the units of a bank of so many items.
+  void HienBT(int SoCauBT);
+  /// Slides the list in and goes to the line that was left last.
+  void open();
+  /// The caret of the list, kept in data.Kcu for each section.
+  void DocViTriList();
+  void GhiViTriList();
+  /// Opens the unit at the caret; an empty list opens nothing.
+  void GoiRN2();
+  /// Leaves the list, in whichever section it was open.
+  void ThoatNghe();
+
+  /// Starts a unit of the bank that is open; set by the run.
+  std::function<void()> BatDauBai = [] {};
+  /// Sets the listening list up, opens a listening unit, leaves a listening text and closes what
+  /// the listening section holds open; set by the program.
+  std::function<void()> setUpListening = [] {};
+  std::function<void(int unit)> MoBaiNghe = [](int) {};
+  std::function<void()> ThoatRN2 = [] {};
+  std::function<void()> closeListening = [] {};
+  /// Gives the focus to a menu button; set by the program.
+  std::function<void(int number)> focusButton = [](int) {};
+
+ private:
+  void wireEvents();
+  void LietKeBai(int units);
+  void LietKeUnit();
+  /// Writes lines that begin with a word and end with their number.
+  void writeList(int units, std::string_view word);
+  [[nodiscard]] int caretRecord() const;
+
+  Controls& controls_;
+  SharedState& state_;
+  Stores& stores_;
+  Shell& shell_;
+  Scoring& scoring_;
+};
+
+} // namespace talvora

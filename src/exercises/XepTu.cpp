@@ -1,0 +1,399 @@
+#include "exercises/XepTu.h"
+
+#include "exercises/WordOrder.h"
+#include "text/Bytes.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour BodyColour = 0x750000;
+constexpr Colour HeadingColour = 0x393971;
+constexpr Colour Blue = 0xFF0000;
+constexpr Colour Red = 255;
+constexpr double BodyIndent = 285.1654;
+constexpr int MostTries = 20;
+constexpr int FewestBlanks = 3;
+
+int blanksIn(std::string_view text) {
+  return static_cast<int>(std::count(text.begin(), text.end(), ' '));
+}
+
+} // namespace
+
+XepTu::XepTu(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+             PageServices services, Random& random)
+    : controls_(controls), state_(state), shell_(shell), services_(services),
+      words_(controls, state, shell, services), random_(random),
+      text_(stores, state.text, state.word) {
+  wireEvents();
+}
+
+void XepTu::wireEvents() {
+  Surface& Rxep = controls_.Rxep;
+  Rxep.KeyDown = [this, &Rxep](int& KeyCode, int Shift) {
+    shell_.hints.showOnF2(KeyCode, Rxep);
+    words_.showOnCtrl(KeyCode, Shift, Rxep);
+  };
+  Rxep.KeyPress = [this](int& KeyAscii) { pressCharacter(KeyAscii); };
+  Rxep.KeyUp = [this](int& KeyCode, int Shift) { releaseKey(KeyCode, Shift); };
+  Rxep.MouseMove = [this, &Rxep](int, SurfacePoint at) { shell_.gestures.followPointer(Rxep, at); };
+  Rxep.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
+  Rxep.DblClick = [this] { state_.word.CoDupChuot = true; };
+  shell_.gestures.onClose(Rxep, [this](Surface&) { ThoatXep(); });
+}
+
+// -- Opening and leaving.
+
+void XepTu::VaoXepTu(std::string_view LoiGiai) {
+  origin_ = Origin::Item;
+  XepChay = true;
+  CurrentText& text = state_.text;
+  text.CauHoi = "_" + text.CauHoi + "_end.";
+  text_.TachCau("data.bt: a word ordering item");
+  text.DichCau.assign(1, std::string());
+  for (const char character : std::string(LoiGiai) + "_end.") {
+    if (character == '_') {
+      text.DichCau.emplace_back();
+    } else {
+      text.DichCau.back() += character;
+    }
+  }
+  ChiSoCau = text.SoCauVanBan;
+  VeXepTu(controls_.Rxep);
+  ++sentencesOpened_;
+}
+
+void XepTu::openFromText() {
+  origin_ = controls_.RVP2.Visible() ? Origin::Lesson : Origin::Text;
+  XepChay = true;
+  GoiRxep();
+  shell_.hints.HuongDan(controls_.Rxep);
+}
+
+void XepTu::GoiRxep() {
+  ChiSoCau = state_.text.SoCauVanBan;
+  BuocXep = 0;
+  VeXepTu(controls_.Rxep);
+  shell_.transitions.MoRan(controls_.Rxep, controls_.Frame3);
+}
+
+void XepTu::ThoatXep() {
+  Surface& Rxep = controls_.Rxep;
+  if (origin_ == Origin::Item && run.BaiTuChon()) {
+    leaveSelfMadeTest();
+    return;
+  }
+  state_.word.TuHienTai.clear();
+  services_.speech.DungDoc();
+  if (origin_ == Origin::Item) {
+    controls_.Frame3.Visible(false);
+    run.ThoatBT(Rxep);
+    return;
+  }
+  shell_.transitions.DongRan(Rxep, controls_.Frame3);
+  (origin_ == Origin::Text ? controls_.R2 : controls_.RVP2).SetFocus();
+}
+
+void XepTu::leaveSelfMadeTest() {
+  Surface& Rxep = controls_.Rxep;
+  Surface& Rnen3 = controls_.Rnen3;
+  if (state_.measures.KieuTruot == 5) {
+    // Without a slide the plate covers the page until the next item stands on it.
+    Rnen3.BackColor(Rxep.BackColor());
+    Rnen3.Left(Rxep.Left());
+    Rnen3.Top(Rxep.Top());
+    Rnen3.Width(Rxep.Width());
+    Rnen3.Height(Rxep.Height());
+  }
+  controls_.Frame3.Visible(false);
+  shell_.transitions.DongRan(Rxep, controls_.Frame2);
+  run.clearChuCu();
+  if (run.SoCauChay() > 0 && sentencesOpened_ < 2) {
+    run.CauKeTiep();
+    return;
+  }
+  run.BoChonBai();
+  sentencesOpened_ = 0;
+  Rnen3.Visible(false);
+}
+
+// -- Choosing a sentence.
+
+void XepTu::advance() {
+  ChiSoCau = ChiSoCau >= state_.text.SoCauVanBan - 1 ? 1 : ChiSoCau + 1;
+}
+
+std::string XepTu::sentenceText(int k) const {
+  const std::string& text = state_.text.CauHoi;
+  const int from = std::max(text_.markOf(k), 1);
+  const int to = std::min(text_.markOf(k + 1), static_cast<int>(text.size()));
+  std::string sentence;
+  for (int position = from; position <= to; ++position) {
+    const char character = text[static_cast<std::size_t>(position - 1)];
+    if (character != '\t' && character != '\r' && character != SentenceMark) sentence += character;
+  }
+  return std::string(trim(sentence));
+}
+
+std::string XepTu::translationOf(int k) const {
+  const auto& list = state_.text.DichCau;
+  const auto element = static_cast<std::size_t>(k - 1);
+  return element < list.size() ? std::string(trim(list[element])) : std::string();
+}
+
+void XepTu::findSentence() {
+  for (int tries = 0; tries < MostTries; ++tries) {
+    advance();
+    if (BuocXep == 1) advance();
+    CauTiengAnh_ = sentenceText(ChiSoCau);
+    if (blanksIn(CauTiengAnh_) >= FewestBlanks) break;
+  }
+  SoTu_ = blanksIn(CauTiengAnh_) + 1;
+  CauTiengViet_ = translationOf(ChiSoCau);
+}
+
+// -- Drawing.
+
+void XepTu::draw(Surface& surface, Foot foot) {
+  state_.word.ChoGiai = false;
+  state_.word.TuHienTai.clear();
+  ChoCau_ = true;
+  DaXong_ = false;
+  surface.Text("");
+  findSentence();
+  writeTask(surface);
+  writeLine(surface);
+  writeFoot(surface, foot);
+}
+
+void XepTu::writeTask(Surface& surface) {
+  surface.SelColor(BodyColour);
+  surface.SelAlignment(Alignment::Centred);
+  surface.SelBold(state_.measures.largeScreen());
+  surface.SelText("XÉp ðúng các tÙ trong câu TiÉng Anh."_bytes);
+  surface.SelText("\r\r");
+  surface.SelColor(HeadingColour);
+  surface.SelAlignment(Alignment::Left);
+  surface.SelIndent(BodyIndent);
+  surface.SelText(CauTiengViet_ + "\r\r");
+  DauDong = surface.SelStart();
+}
+
+void XepTu::writeLine(Surface& surface) {
+  CuoiDong_ = DauDong;
+  if (!XepChay) return;
+  DongXep_ = shuffledLine(CauTiengAnh_, random_);
+  DongCu_ = DongXep_;
+  DongMau_ = lineOf(CauTiengAnh_);
+  surface.SelColor(BodyColour);
+  surface.SelAlignment(Alignment::Left);
+  surface.SelIndent(BodyIndent);
+  surface.SelText(DongXep_ + "\r");
+  CuoiDong_ = surface.SelStart();
+  ToXep(surface);
+}
+
+void XepTu::writeFoot(Surface& surface, Foot foot) {
+  const int caret = surface.SelStart();
+  surface.SelStart(surface.TextLength());
+  surface.SelText("\r\r\r");
+  if (foot == Foot::Links) {
+    links = ThemBackNext(surface);
+  } else {
+    surface.SelAlignment(Alignment::Centred);
+    surface.SelBold(true);
+    links = writeLinks(surface, Red);
+  }
+  surface.SelStart(caret);
+}
+
+void XepTu::ToXep(Surface& surface) {
+  BienDung_ = rightBeginning(DongMau_, DongXep_);
+  surface.SelStart(DauDong);
+  surface.SelLength(BienDung_);
+  surface.SelColor(Blue);
+  surface.SelStart(DauDong + BienDung_);
+  surface.SelLength(static_cast<int>(DongXep_.size()) - BienDung_);
+  surface.SelColor(BodyColour);
+  surface.SelStart(DauDong + BienDung_);
+}
+
+// -- Moving words.
+
+bool XepTu::selectsInLine(const Surface& surface) const {
+  return surface.SelStart() >= DauDong &&
+         surface.SelStart() + surface.SelLength() <= DauDong + lineLength();
+}
+
+void XepTu::DatTu(Surface& surface) {
+  surface.SelLength(surface.SelLength() + 1);
+  if (!selectsInLine(surface)) {
+    BoDat(surface);
+    return;
+  }
+  const int s = surface.SelLength();
+  int w = surface.SelStart();
+  const int b = DauDong + BienDung_;
+  std::string& word = state_.word.TuHienTai;
+  surface.SelStart(b);
+  if (!word.empty()) {
+    if (b < w) w += s;
+    surface.SelText(std::exchange(word, std::string()) + " ");
+    surface.SelStart(w);
+    surface.SelLength(s);
+    surface.SelText("");
+    DongXep_ = surface.TextBetween(DauDong, DauDong + lineLength());
+  }
+  if (rightBeginning(DongMau_, DongXep_) > BienDung_) {
+    DongCu_ = DongXep_;
+    ToXep(surface);
+  } else {
+    BoDat(surface);
+  }
+}
+
+void XepTu::BoDat(Surface& surface) {
+  surface.SelStart(DauDong);
+  surface.SelLength(lineLength());
+  surface.SelText(DongCu_);
+  DongXep_ = DongCu_;
+  state_.word.TuHienTai.clear();
+  ToXep(surface);
+}
+
+// -- The answer and the next sentence.
+
+void XepTu::DapAnXep(Surface& surface) {
+  const bool open = BienDung_ < static_cast<int>(DongXep_.size());
+  surface.SelStart(surface.TextLength());
+  if (open && XepChay) {
+    surface.SelColor(Red);
+    surface.SelText('!');
+  }
+  surface.SelColor(BodyColour);
+  surface.SelText("\r\r" + CauTiengAnh_);
+  DaXong_ = true;
+  sentencesOpened_ = 0;
+}
+
+void XepTu::pressEnter(Surface& surface) {
+  if (!DaXong_) {
+    DapAnXep(surface);
+    return;
+  }
+  if (ChoCau_) VeXepTu(surface);
+  ChoCau_ = true;
+}
+
+void XepTu::CauXepMoi(Surface& surface) {
+  ChoCau_ = false;
+  DapAnXep(surface);
+  VeXepTu(surface);
+}
+
+// -- Keys.
+
+void XepTu::pressCharacter(int& keyAscii) {
+  const int pressed = keyAscii;
+  if (pressed != key::Space) keyAscii = 0;
+  Surface& Rxep = controls_.Rxep;
+  if (pressed == key::Enter) {
+    pressEnter(Rxep);
+  } else if (pressed == key::Esc) {
+    shell_.gestures.DongPhu(Rxep);
+  } else {
+    words_.openListOn(pressed);
+  }
+}
+
+void XepTu::releaseKey(int keyCode, int shift) {
+  words_.releaseKey(shift, controls_.Rxep);
+  if (keyCode != key::F6) return;
+  XepChay = !XepChay;
+  GoiRxep();
+}
+
+// -- Mouse.
+
+void XepTu::takeClick(const Surface& surface, SurfacePoint at) {
+  CurrentWord& word = state_.word;
+  word.ViTriChuot = at;
+  word.ViTriCaret = surface.SelStart();
+  if (!controls_.RHD.Visible()) return;
+  words_.hidePopup();
+  // A word that was only looked up must not stand in the way of the one to be moved.
+  word.TuHienTai.clear();
+}
+
+void XepTu::releaseMouse(MouseButton button, SurfacePoint at) {
+  takeClick(controls_.Rxep, at);
+  if (button == MouseButton::Right) {
+    state_.word.ChoGiai = true;
+    shell_.steering.NhapTrai();
+  } else {
+    releaseLeft();
+  }
+}
+
+void XepTu::releaseLeft() {
+  Surface& Rxep = controls_.Rxep;
+  const int p = Rxep.SelStart() + 1;
+  const bool onRed = Rxep.SelColor() == Red;
+  if (onRed && links.holdNext(p)) {
+    BuocXep = 0;
+    CauXepMoi(Rxep);
+  } else if (onRed && links.holdBack(p)) {
+    ++BuocXep;
+    ChiSoCau = (ChiSoCau > 1 ? ChiSoCau : state_.text.SoCauVanBan) - 1;
+    CauXepMoi(Rxep);
+  } else if (state_.word.ChoGiai) {
+    releaseArmed(Rxep);
+  } else if (p > DauDong) {
+    words_.lookUpAtCaret(Rxep);
+  }
+}
+
+void XepTu::releaseArmed(Surface& surface) {
+  CurrentWord& word = state_.word;
+  word.ChoGiai = false;
+  if (!XepChay || !ChoCau_) return;
+  if (word.TuHienTai.empty()) {
+    if (word.CoDupChuot) {
+      BoDat(surface);
+    } else if (DaXong_) {
+      VeXepTu(surface);
+    } else if (surface.SelStart() + 1 > DauDong + BienDung_) {
+      shell_.wordPick.ChonTuBT(surface);
+      DatTu(surface);
+    }
+  }
+  if (word.CoDupChuot) {
+    word.CoDupChuot = false;
+    surface.SelLength(0);
+    word.TuHienTai.clear();
+  }
+}
+
+void XepTu::declare(Variables& variables) const {
+  variables.add("XepChay", &XepChay);
+  variables.add("ChiSoCau", &ChiSoCau);
+  variables.add("BuocXep", &BuocXep);
+  variables.add("CauTiengAnh", &CauTiengAnh_);
+  variables.add("CauTiengViet", &CauTiengViet_);
+  variables.add("SoTu", &SoTu_);
+  variables.add("DongXep", &DongXep_);
+  variables.add("DongCu", &DongCu_);
+  variables.add("DongMau", &DongMau_);
+  variables.add("DauDong", &DauDong);
+  variables.add("CuoiDong", &CuoiDong_);
+  variables.add("BienDung", &BienDung_);
+  variables.add("DaXong", &DaXong_);
+  variables.add("ChoCau", &ChoCau_);
+}
+
+} // namespace talvora

@@ -1,0 +1,141 @@
+#include "lessons/LessonPage.h"
+
+#include "lessons/LessonMarkup.h"
+#include "lessons/PageColours.h"
+
+#include <utility>
+
+namespace talvora {
+
+LessonPage::LessonPage(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+                       PageServices services)
+    : controls_(controls), state_(state), stores_(stores), shell_(shell),
+      words_(controls, state, shell, services) {
+  wireEvents();
+}
+
+void LessonPage::wireEvents() {
+  Surface& RVP2 = controls_.RVP2;
+  RVP2.KeyDown = [this](int& KeyCode, int Shift) { pressKey(KeyCode, Shift); };
+  RVP2.KeyPress = [this](int& KeyAscii) { pressCharacter(KeyAscii); };
+  RVP2.KeyUp = [this, &RVP2](int&, int Shift) {
+    shell_.gestures.keyReleased();
+    if (!state_.word.DaChonRTD) words_.hidePopup();
+    words_.closeWithoutCtrl(Shift, RVP2);
+  };
+  RVP2.MouseMove = [this, &RVP2](int, SurfacePoint at) { shell_.gestures.followPointer(RVP2, at); };
+  RVP2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
+  RVP2.DblClick = [this] { state_.word.CoDupChuot = true; };
+  RVP2.SelChange = [this, &RVP2] {
+    if (RVP2.SelLength() == 0) state_.word.TuHienTai.clear();
+  };
+}
+
+// -- Keys and mouse.
+
+void LessonPage::pressKey(int keyCode, int shift) {
+  Surface& RVP2 = controls_.RVP2;
+  // A pick from the look-up list holds the popup only until the next key.
+  state_.word.DaChonRTD = false;
+  words_.hidePopup();
+  shell_.hints.showOnF2(keyCode, RVP2);
+  words_.showOnCtrl(keyCode, shift, RVP2);
+}
+
+void LessonPage::pressCharacter(int& keyAscii) {
+  const int pressed = std::exchange(keyAscii, 0);
+  state_.word.ViTriCaret = controls_.RVP2.SelStart();
+  if (pressed == key::Esc) {
+    // A lesson over an exercise is an extra, which the shared table closes.
+    if (!shell_.gestures.DongPhu(controls_.RVP2)) leave();
+    return;
+  }
+  words_.openListOn(pressed);
+}
+
+void LessonPage::releaseMouse(MouseButton button, SurfacePoint at) {
+  CurrentWord& word = state_.word;
+  shell_.gestures.keyReleased();
+  if (button == MouseButton::Right) {
+    if (!word.TuHienTai.empty()) words_.speak();
+    return;
+  }
+  word.ViTriChuot = at;
+  word.ViTriCaret = controls_.RVP2.SelStart();
+  words_.hidePopup();
+  if (std::exchange(word.CoDupChuot, false)) {
+    shell_.wordPick.LayTuChon(controls_.RVP2);
+  } else {
+    words_.lookUpAtCaret(controls_.RVP2);
+  }
+}
+
+// -- The page.
+
+void LessonPage::DocViTriVP() {
+  const RecordFile& positions = stores_.fileOf(file::LessonPositions);
+  for (std::size_t n = 1; n <= CurrentList::LessonCount; ++n) {
+    ViTriVP[n] = positions.integer(static_cast<std::int64_t>(n));
+  }
+}
+
+void LessonPage::MoBaiVP(int n) {
+  if (n < 1 || n > static_cast<int>(CurrentList::LessonCount)) return;
+  ViTriVan = ViTriVP[static_cast<std::size_t>(n)];
+  std::string& CauHoi = state_.text.CauHoi;
+  CauHoi = "_";
+  PieceReader reader(stores_.fileOf(file::Lessons), std::int64_t{ViTriVan} + 1);
+  while (const auto piece = reader.next()) {
+    if (*piece == "@") break;
+    CauHoi += *piece;
+  }
+  Surface& RVP2 = controls_.RVP2;
+  RVP2.FontName("x1");
+  RVP2.FontSize(state_.measures.CoChu);
+  RVP2.Text("");
+  RVP2.SelIndent(BodyIndent);
+  RVP2.SelBold(state_.measures.largeScreen());
+  HienBaiVP(CauHoi);
+}
+
+void LessonPage::HienBaiVP(std::string_view text) {
+  Surface& RVP2 = controls_.RVP2;
+  for (const ColouredPiece& piece : layOutLesson(text)) {
+    RVP2.SelColor(piece.color);
+    RVP2.SelText(piece.text);
+  }
+  deleteFirst();
+  const bool hasItems = text.size() > 1 && text[1] == '.';
+  if (hasItems) deleteFirst();
+  styleTitle();
+  RVP2.SelStart(RVP2.TextLength());
+  RVP2.SelText('\r');
+  RVP2.SelStart(0);
+}
+
+void LessonPage::deleteFirst() {
+  Surface& RVP2 = controls_.RVP2;
+  RVP2.SelStart(0);
+  RVP2.SelLength(1);
+  RVP2.SelText("");
+  RVP2.SelStart(0);
+}
+
+void LessonPage::styleTitle() {
+  Surface& RVP2 = controls_.RVP2;
+  // Without a line end the whole page is the title.
+  RVP2.SelStart(0);
+  RVP2.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
+  RVP2.SelLength(RVP2.SelLength() + 1);
+  RVP2.SelAlignment(Alignment::Centred);
+  RVP2.SelBold(true);
+  RVP2.SelFontSize(state_.measures.CoChu + 3);
+  RVP2.SelColor(TitleColour);
+}
+
+void LessonPage::declare(Variables& variables) const {
+  variables.addTable("ViTriVP", &ViTriVP);
+  variables.add("ViTriVan", &ViTriVan);
+}
+
+} // namespace talvora

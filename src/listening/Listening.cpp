@@ -1,0 +1,233 @@
+#include "listening/Listening.h"
+
+#include "text/Bytes.h"
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour Red = 255;
+constexpr int Section = 4;
+constexpr int EmptyUnitMessageMs = 2000;
+
+} // namespace
+
+Listening::Listening(Form& form, Controls& controls, SharedState& state, Stores& stores,
+                     Shell& shell, PageServices services, Random& random, UnitList& units,
+                     Scoring& scoring, ItemState& item)
+    : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
+      services_(services), words_(controls, state, shell, services), units_(units),
+      scoring_(scoring), item_(item), items_(state.places),
+      page_(controls.RN2, controls.Rchon, state.measures, random), order_(random) {
+  wireEvents();
+  wireList();
+}
+
+void Listening::wireList() {
+  units_.setUpListening = [this] { LapBangNghe(); };
+  units_.MoBaiNghe = [this](int) { MoBaiNghe(); };
+  units_.ThoatRN2 = [this] { ThoatRN2(); };
+  units_.closeListening = [this] { items_.close(); };
+}
+
+void Listening::wireEvents() {
+  Surface& RN2 = controls_.RN2;
+  RN2.KeyDown = [this, &RN2](int& KeyCode, int Shift) {
+    shell_.hints.showOnF2(KeyCode, RN2);
+    words_.showOnCtrl(KeyCode, Shift, RN2);
+  };
+  RN2.KeyPress = [this](int& KeyAscii) { pressCharacter(KeyAscii); };
+  // The surface named here is another drill's; that is meant.
+  RN2.KeyUp = [this](int&, int Shift) { words_.releaseKey(Shift, controls_.Rxep); };
+  RN2.MouseDown = [this](MouseButton button, int, SurfacePoint) {
+    if (button != MouseButton::Right) return;
+    words_.hidePopup();
+    NgheLai();
+  };
+  RN2.MouseMove = [this, &RN2](int, SurfacePoint at) { shell_.gestures.followPointer(RN2, at); };
+  RN2.MouseUp = [this](MouseButton button, int, SurfacePoint at) {
+    if (button == MouseButton::Left) releaseLeft(at);
+  };
+  RN2.DblClick = [this] { state_.word.CoDupChuot = true; };
+}
+
+// -- The section.
+
+void Listening::openSection() {
+  state_.places.MucMenu = Section;
+  stores_.ChonKho(file::TextPositions);
+  state_.word.NghiaHienTai.clear();
+  state_.word.ViTriCaret = 0;
+  state_.word.CoDupChuot = false;
+  state_.word.TuHienTai.clear();
+  units_.HienBT(0);
+  units_.open();
+}
+
+void Listening::LapBangNghe() {
+  state_.places.waitkd = true;
+  items_.LapBangNghe();
+  state_.places.waitkd = false;
+}
+
+// -- A unit.
+
+void Listening::MoBaiNghe() {
+  listCaret_ = controls_.RN1.SelStart();
+  UnitNghe_ = state_.list.SoBaiChon;
+  countItems();
+  if (order_.SoCauUnit == 0) {
+    shell_.messages.ThongBao("Bài này chŸa có câu ðÇ nghe."_bytes, EmptyUnitMessageMs);
+    controls_.RN1.SetFocus();
+    shell_.steering.ChonDong();
+    return;
+  }
+  services_.voice.MoAm(UnitNghe_);
+  CauNgheTiep();
+  controls_.RN2.SetFocus();
+}
+
+void Listening::countItems() {
+  int items = 0;
+  GocUnit_ = 0;
+  for (int i = 1; i <= ListeningItems::Count; ++i) {
+    const int unit = items_.item(i).Unit;
+    if (unit == UnitNghe_) {
+      // The base of the first unit is so counted from 1, that of the others from the record ahead:
+      // they begin with the last item of the unit before them.
+      if (GocUnit_ == 0) GocUnit_ = i - 1;
+      ++items;
+    }
+    if (unit > UnitNghe_) break;
+  }
+  order_.start(items);
+}
+
+void Listening::CauNgheTiep() {
+  order_.step();
+  const ListeningItem item = items_.item(order_.SoRut + GocUnit_ - 1);
+  ViTriDoc_ = item.ViTri;
+  DoanHien_ = item.Doan;
+  DocCauNghe();
+}
+
+void Listening::DocCauNghe() {
+  state_.places.waitkd = true;
+  const ListeningTexts texts = items_.textsAt(ViTriDoc_);
+  if (!services_.voice.AmThanhThuc) state_.word.TuHienTai = texts.sentence;
+  item_.KetQuaCau = 0;
+  page_.paint(texts);
+  shell_.transitions.MoRan(controls_.RN2, controls_.Frame2);
+  form_.Refresh();
+  state_.places.waitkd = false;
+  NgheLai();
+}
+
+void Listening::NgheLai() {
+  if (services_.voice.AmThanhThuc) {
+    services_.voice.PhatCau(DoanHien_);
+  } else {
+    services_.speech.DocTu();
+  }
+}
+
+void Listening::stopSound() {
+  services_.speech.DungDoc();
+}
+
+void Listening::QuaCau() {
+  closePage();
+  if (order_.goesOn()) {
+    CauNgheTiep();
+    return;
+  }
+  shell_.steering.ChonDong();
+  if (scoring_.SoDung > 0) scoring_.BaoDiem(order_.SoCauUnit);
+}
+
+void Listening::closePage() {
+  state_.word.NghiaHienTai.clear();
+  stopSound();
+  shell_.transitions.DongRan(controls_.RN2, controls_.Frame2);
+  controls_.RN1.SelStart(listCaret_);
+  controls_.RN1.SetFocus();
+}
+
+void Listening::ThoatRN2() {
+  closePage();
+  shell_.steering.ChonDong();
+}
+
+// -- Keys.
+
+void Listening::pressCharacter(int& keyAscii) {
+  const int pressed = keyAscii;
+  keyAscii = 0;
+  if (pressed == key::Esc) {
+    if (shell_.gestures.DongPhu(controls_.RN2)) return;
+    if (scoring_.SoDung > 0) scoring_.BaoDiem(order_.SoCauUnit);
+    ThoatRN2();
+  } else {
+    words_.openListOn(pressed);
+  }
+}
+
+// -- Mouse.
+
+void Listening::releaseLeft(SurfacePoint at) {
+  Surface& RN2 = controls_.RN2;
+  CurrentWord& word = state_.word;
+  word.ViTriChuot = at;
+  word.ViTriCaret = RN2.SelStart();
+  const int p = word.ViTriCaret + 1;
+  if (!word.CoDupChuot && p > page_.links.CuoiNext && !page_.isOpen()) {
+    words_.lookUpAtCaret(RN2);
+    return;
+  }
+  const bool onRed = RN2.SelColor() == Red;
+  judge(word.ViTriCaret);
+  if (onRed && followLink(p)) return;
+  word.CoDupChuot = false;
+  shell_.hints.AnRDOS(RN2);
+}
+
+void Listening::judge(int caret) {
+  if (!page_.isOpen()) return;
+  if (page_.isRight(caret)) {
+    stopSound();
+    page_.HienCauNghe();
+    if (item_.KetQuaCau != 0) return;
+    item_.KetQuaCau = 1;
+    ++scoring_.SoDung;
+  } else if (caret > 0) {
+    page_.XamDong(caret);
+    item_.KetQuaCau = -1;
+  }
+}
+
+bool Listening::followLink(int p) {
+  if (page_.links.holdNext(p)) {
+    order_.CoLui = false;
+    QuaCau();
+  } else if (page_.links.holdBack(p)) {
+    order_.TimBuoc();
+    if (order_.BuocTruoc > 0) {
+      order_.CoLui = true;
+      QuaCau();
+      return true;
+    }
+  }
+  return false;
+}
+
+void Listening::declare(Variables& variables) const {
+  items_.declare(variables);
+  page_.declare(variables);
+  order_.declare(variables);
+  variables.add("UnitNghe", &UnitNghe_);
+  variables.add("GocUnit", &GocUnit_);
+  variables.add("ViTriDoc", &ViTriDoc_);
+  variables.add("DoanHien", &DoanHien_);
+}
+
+} // namespace talvora

@@ -1,0 +1,110 @@
+#include "listening/ListeningPage.h"
+
+#include "text/Text.h"
+
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour BodyColour = 0x750000;
+constexpr Colour HeadingColour = 0x393971;
+constexpr Colour GreyedColour = 0x80000003;
+constexpr int OptionCount = 4;
+constexpr int ShuffleTries = 10;
+/// Carets of the template: the instruction, and behind the last label plus one label's length.
+constexpr int InstructionStart = 2;
+constexpr int InstructionLength = 36;
+constexpr int LabelsEnd = 59;
+constexpr int LabelLength = 4;
+
+} // namespace
+
+void ListeningPage::paint(const ListeningTexts& texts) {
+  CauNghe1 = texts.sentence;
+  LuaChon_ = texts.options;
+  shuffle(texts.options[0]);
+  RN2_.TextRTF(Rchon_.TextRTF());
+  RN2_.SelStart(InstructionStart);
+  RN2_.SelLength(InstructionLength);
+  RN2_.SelColor(HeadingColour);
+  RN2_.SelItalic(true);
+  writeOptions();
+  mask_ = OptionMask(LuaChon_, DapAnNghe_, RN2_.TextLength());
+  links = ThemBackNext(RN2_);
+  RN2_.SelStart(RN2_.TextLength());
+  RN2_.SelText('\r');
+}
+
+void ListeningPage::shuffle(const std::string& right) {
+  const auto draw = [this] {
+    random_.seedFromClock();
+    return static_cast<std::size_t>(random_.upTo(OptionCount) - 1);
+  };
+  for (int tries = 0; tries < ShuffleTries; ++tries) {
+    const std::size_t a = draw();
+    const std::size_t b = draw();
+    if (a != b) std::swap(LuaChon_[a], LuaChon_[b]);
+  }
+  for (int slot = 1; slot <= OptionCount; ++slot) {
+    if (LuaChon_[static_cast<std::size_t>(slot - 1)] == right) DapAnNghe_ = slot;
+  }
+}
+
+void ListeningPage::writeOptions() {
+  // Written from the last to the first, so that the template's carets stay valid.
+  for (int i = OptionCount; i >= 1; --i) {
+    std::string& option = LuaChon_[static_cast<std::size_t>(i - 1)];
+    if (option.starts_with('-')) option.erase(0, 1);
+    option = std::string(trim(option));
+    if (i != OptionCount) option += '\r';
+    RN2_.SelStart(LabelsEnd - LabelLength * (OptionCount + 1 - i));
+    RN2_.SelBold(measures_.largeScreen());
+    RN2_.SelColor(BodyColour);
+    RN2_.SelText(option);
+  }
+}
+
+bool ListeningPage::isRight(int caret) const noexcept {
+  return caret >= mask_.right().from && caret <= mask_.right().to;
+}
+
+void ListeningPage::XamDong(int caret) {
+  const auto wrong = mask_.takeWrong(caret);
+  if (!wrong) return;
+  RN2_.SelStart(wrong->from);
+  RN2_.SelLength(wrong->to - wrong->from + 1);
+  RN2_.SelColor(GreyedColour);
+  RN2_.SelLength(0);
+  RN2_.SelStart(caret);
+}
+
+void ListeningPage::XamDapAnSai() {
+  for (int caret = 1; caret <= mask_.lastCaret(); ++caret)
+    XamDong(caret);
+}
+
+void ListeningPage::HienCauNghe() {
+  XamDapAnSai();
+  RN2_.SelStart(RN2_.TextLength());
+  RN2_.SelColor(BodyColour);
+  RN2_.SelAlignment(Alignment::Centred);
+  RN2_.SelBold(measures_.largeScreen());
+  RN2_.SelText("\r " + std::exchange(CauNghe1, std::string()) + "\r");
+}
+
+void ListeningPage::declare(Variables& variables) const {
+  variables.add("CauNghe1", &CauNghe1);
+  variables.add("LuaChon", [this] {
+    VariableValue::Table table(1, VariableValue(std::string()));
+    table.insert(table.end(), LuaChon_.begin(), LuaChon_.end());
+    return VariableValue(std::move(table));
+  });
+  variables.add("DapAnNghe", &DapAnNghe_);
+  variables.add("DauDung", [this] { return VariableValue(mask_.right().from); });
+  variables.add("CuoiDung", [this] { return VariableValue(mask_.right().to); });
+  variables.add("MatNaNghe", [this] { return VariableValue(mask_.MatNaNghe()); });
+}
+
+} // namespace talvora

@@ -1,0 +1,86 @@
+#include "writing/PTCau.h"
+
+#include <algorithm>
+
+namespace talvora {
+
+namespace {
+
+constexpr Colour Blue = 0xFF0000;
+
+} // namespace
+
+void PTCau::NapPhanTich(int n) {
+  shell_.messages.ThongBao("Loading Data...", 0);
+  PhanTich_ = readAnalysis(n);
+  if (PhanTich_.size() > 1) calls.ThayTenBai(PhanTich_);
+  auto stretches = LapOTuPT(state_.text.VanBanGoc, ViTriTieuDe());
+  const auto texts = GanGiaiPT(PhanTich_);
+  for (std::size_t k = 0; k < std::min(stretches.size(), texts.size()); ++k) {
+    stretches[k].Chu = texts[k];
+  }
+  item_.OTrong.clear();
+  for (const AnalysedStretch& stretch : stretches) {
+    item_.OTrong.add(stretch.Dau, stretch.Cuoi, stretch.Chu);
+  }
+  // No answers are shown in an analysed text.
+  item_.ODaLam.clear();
+  shell_.messages.TatThongBao();
+}
+
+std::string PTCau::readAnalysis(int n) const {
+  const std::int64_t start = stores_.fileOf(file::AnalysisPositions).integer(n);
+  PieceReader reader(stores_.fileOf(file::Analyses), start + 1);
+  std::string text;
+  while (const auto piece = reader.next()) {
+    if (*piece == "@") break;
+    const bool lineStart = text.empty() || text.back() == '\r';
+    if (*piece == "?" && lineStart) {
+      text += '`';
+    } else {
+      text += *piece;
+    }
+  }
+  return text;
+}
+
+int PTCau::ViTriTieuDe() const {
+  const std::string& text = state_.text.CauHoi;
+  return static_cast<int>(std::min(text.find('\r'), text.size())) + 2;
+}
+
+void PTCau::GiaiTuPT(Surface& surface) {
+  surface.SelLength(0);
+  if (surface.SelStart() <= ViTriTieuDe()) return;
+  const int p = surface.SelStart() + 1;
+  const std::string& marked = state_.text.VanBanGoc;
+  if (p > static_cast<int>(marked.size())) return;
+  const char c = marked[static_cast<std::size_t>(p - 1)];
+  if (c == '\t' || c == '\r' || c == ' ') return;
+  // The panel takes a stretch's own explanation only for what has been judged.
+  item_.DaCham = true;
+  ChonTuPT(surface);
+  calls.GiaiThich(p, surface);
+}
+
+void PTCau::ChonTuPT(Surface& surface) {
+  const int caret = surface.SelStart();
+  const WordMark mark = markAt(state_.text.VanBanGoc, caret + 1);
+  if (mark.SelLength == 0) return;
+  surface.SelStart(mark.SelStart);
+  surface.SelLength(mark.SelLength);
+  const std::string word = surface.SelText();
+  if (word.empty()) return;
+  item_.MauCu = surface.SelColor();
+  item_.ChuCu = word;
+  item_.ViTriChuCu = mark.SelStart;
+  surface.SelColor(Blue);
+  surface.SelLength(0);
+  surface.SelStart(caret);
+}
+
+void PTCau::declare(Variables& variables) const {
+  variables.add("PhanTich", &PhanTich_);
+}
+
+} // namespace talvora

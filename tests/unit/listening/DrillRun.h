@@ -1,0 +1,143 @@
+// What the drills stand on, on a scripted machine: shell, stores, dictionary and speech.
+#pragma once
+
+#include "dictionary/Dictionary.h"
+#include "dictionary/VietnameseSide.h"
+#include "platform/scripted/ScriptedMachine.h"
+#include "reading/ReadingPage.h"
+#include "shell/Shell.h"
+#include "stores/Stores.h"
+#include "support/ShellRun.h"
+#include "support/TestFolder.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace talvora::test {
+
+struct DrillRun {
+  DrillRun()
+      : base(), stores(base.state.places),
+        voice(base.state.places, base.machine.wave, base.shell.messages),
+        speech(base.state, base.machine.platform, base.shell.steering, voice),
+        dictionary(base.form, base.controls, base.state, stores, base.shell, speech),
+        vietnameseSide(base.controls, base.state, stores, base.shell, speech), services{
+                                                                                   dictionary,
+                                                                                   vietnameseSide,
+                                                                                   speech, voice} {
+    base.state.places.ThuMuc = folder.path();
+    folder.writeEmptyStores();
+    folder.write("data.Kcu", "");
+    speech.AmThanhBat = 1;
+  }
+
+  /// Opens the stores that the test has written, with the reading texts chosen.
+  void open(int section = 1, int store = file::TextPositions) {
+    stores.MoDuLieu();
+    base.state.places.MucMenu = section;
+    stores.ChonKho(store);
+    stores.NapViTriBai();
+  }
+
+  /// Writes texts in stored form, by their slots, each with its translation.
+  void writeTexts(const std::map<int, std::pair<std::string, std::string>>& texts,
+                  bool speaking = false) const {
+    const int slots = speaking ? Stores::SpeakingTexts : Stores::ReadingTexts;
+    std::vector<std::int32_t> positions;
+    std::string stream;
+    const auto write = [&](bool translation) {
+      for (int slot = 1; slot <= slots; ++slot) {
+        positions.push_back(static_cast<std::int32_t>(stream.size()));
+        const auto found = texts.find(slot);
+        if (found != texts.end())
+          stream += translation ? found->second.second : found->second.first;
+        stream += '@';
+      }
+    };
+    write(false);
+    write(true);
+    positions.push_back(static_cast<std::int32_t>(stream.size()));
+    folder.writeIntegers(speaking ? "datasp.vt" : "data.vt", positions);
+    folder.writeStream(speaking ? "datasp.av" : "data.av", stream);
+  }
+
+  /// A key stroke to whatever has the focus.
+  void key(int keyCode, int shift = 0) {
+    const bool hasCharacter = keyCode == key::Esc || keyCode == key::Enter ||
+                              keyCode == key::Backspace || keyCode == key::Space;
+    base.form.pressKey(keyCode, shift, hasCharacter ? static_cast<char>(keyCode) : '\0');
+    base.form.releaseKey(keyCode, shift);
+    forgetSynthetic();
+  }
+  void type(char character) {
+    const int code = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
+    base.form.pressKey(code, shift::None, character);
+    base.form.releaseKey(code, shift::None);
+    forgetSynthetic();
+  }
+  void type(std::string_view text) {
+    for (const char character : text)
+      type(character);
+  }
+
+  /// A whole click at a caret, and the clicks with which the program answers.
+  void click(Surface& surface, int caret, MouseButton button = MouseButton::Left) {
+    const SurfacePoint at = surface.pointOf(caret);
+    surface.moveMouse(shift::None, at);
+    surface.pressMouse(button, shift::None, at);
+    if (button == MouseButton::Left) surface.SelStart(caret);
+    surface.releaseMouse(button, shift::None, at);
+    while (const auto event = base.machine.input.takeSynthetic()) {
+      if (!std::holds_alternative<SyntheticClick>(*event)) continue;
+      surface.pressMouse(MouseButton::Left, shift::None, at);
+      surface.SelStart(caret);
+      surface.releaseMouse(MouseButton::Left, shift::None, at);
+    }
+  }
+  void rightClick(Surface& surface, int caret) { click(surface, caret, MouseButton::Right); }
+  void forgetSynthetic() {
+    while (base.machine.input.takeSynthetic()) {
+    }
+  }
+
+  [[nodiscard]] std::string focus() const {
+    const Control* control = base.form.ActiveControl();
+    return control == nullptr ? std::string() : control->Name();
+  }
+  [[nodiscard]] Controls& controls() { return base.controls; }
+  [[nodiscard]] SharedState& state() { return base.state; }
+  /// What was spoken since the log was last taken.
+  [[nodiscard]] std::vector<std::string> spoken() { return texts("speak", "text"); }
+  [[nodiscard]] std::vector<std::string> messages() { return texts("message", "text"); }
+
+  TestFolder folder;
+  ShellRun base;
+  Stores stores;
+  RecordedVoice voice;
+  Speech speech;
+  Dictionary dictionary;
+  VietnameseSide vietnameseSide;
+  PageServices services;
+
+ private:
+  std::vector<std::string> texts(std::string_view what, std::string_view field) {
+    std::vector<std::string> found;
+    for (const LogEntry& entry : base.machine.log.take()) {
+      if (entry.what == what) found.push_back(std::get<std::string>(*entry.find(field)));
+    }
+    return found;
+  }
+};
+
+/// The value of a module's variable.
+template <class Value, class Module>
+[[nodiscard]] Value valueOf(const Module& module, const std::string& name) {
+  Variables variables;
+  module.declare(variables);
+  return std::get<Value>((*variables.find(name))().value);
+}
+
+} // namespace talvora::test
