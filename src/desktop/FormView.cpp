@@ -10,9 +10,20 @@
 #include <QEvent>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace talvora {
+
+namespace {
+
+/// A view whose owner is its parent widget, the last argument.
+template <class View, class... Arguments>
+ControlView* makeChild(Arguments&&... arguments) {
+  return std::make_unique<View>(std::forward<Arguments>(arguments)...).release();
+}
+
+} // namespace
 
 FormView::FormView(Form& form, EventBridge& bridge, QtLineLayout& layout, QWidget* parent)
     : QWidget(parent), form_(form), layout_(layout), mouse_(form, bridge) {
@@ -116,22 +127,21 @@ ControlView* FormView::viewOf(const Control& control) const {
 
 ControlView& FormView::makeView(Control& control) {
   ControlView* view = nullptr;
-  // The widgets belong to this one.
   if (auto* surface = dynamic_cast<Surface*>(&control)) {
-    view = new SurfaceView(*surface, layout_, form_, this);
+    view = makeChild<SurfaceView>(*surface, layout_, form_, this);
   } else if (auto* button = dynamic_cast<Button*>(&control)) {
-    view = new MenuButtonView(*button, buttonArt_, form_, this);
+    view = makeChild<MenuButtonView>(*button, buttonArt_, form_, this);
   } else if (auto* label = dynamic_cast<Label*>(&control)) {
-    view = new LabelView(*label, this);
+    view = makeChild<LabelView>(*label, this);
   } else if (auto* panel = dynamic_cast<Panel*>(&control)) {
-    view = new PanelView(*panel, this);
+    view = makeChild<PanelView>(*panel, this);
   } else if (auto* frame = dynamic_cast<Frame*>(&control)) {
-    view = new FrameView(*frame, this);
+    view = makeChild<FrameView>(*frame, this);
   } else if (auto* image = dynamic_cast<Image*>(&control)) {
-    view = new ImageView(*image, this);
+    view = makeChild<ImageView>(*image, this);
   } else {
     // Nothing is to be seen of any other control.
-    view = new ControlView(control, this);
+    view = makeChild<ControlView>(control, this);
   }
   if (ControlView* const front = nextInFront(control)) view->stackUnder(front);
   views_.emplace(&control, view);
