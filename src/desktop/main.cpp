@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
 
   bridge.afterEvent = [&] {
     if (trace) trace->note();
-    if (!program.running()) QApplication::quit();
+    if (!program.running()) QApplication::exit(0);
   };
   bridge.onFailure = [&](const std::string& message) {
     std::cerr << message << std::endl;

@@ -237,7 +237,7 @@ read_a_text() {
   press Escape
   settle 04-list-again
   expect_change 03-text 04-list-again 30
-  expect_same 03-line 04-list-again 20
+  expect_same 03-line 04-list-again 80
   expect_note "focus=R1 "
   passed "Esc leads from the text to the list"
   press Escape
