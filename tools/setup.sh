@@ -1,6 +1,9 @@
 # Shared by ./run and ./check: installs the packages that are missing and builds a preset.
 # To be sourced from the repository's top folder.
 
+# Clones of the repository share what was compiled once.
+export CCACHE_BASEDIR=$PWD
+
 say() { printf '\n== %s\n' "$*"; }
 
 as_root() {
