@@ -85,7 +85,8 @@ class Filler {
     const std::string behind = ownText(" của bảng chữ cái tiếng Anh");
     for (char letter = 'a'; letter <= 'z'; ++letter) {
       Word word{std::string(1, letter), WordKind::Letter, {}, {}, {}};
-      word.note = before + std::to_string(letter - 'a' + 1) + behind;
+      word.note = before;
+      word.note += std::to_string(letter - 'a' + 1) + behind;
       list_.add(std::move(word));
     }
   }
@@ -200,7 +201,7 @@ class Filler {
     std::vector<Candidate> candidates;
     for (std::size_t base = 0; base < list_.size(); ++base) {
       const Word& word = list_.at(base);
-      if (isSingleWord(word.head) || hasCapital(word.head) || !word.senses.size() ||
+      if (isSingleWord(word.head) || hasCapital(word.head) || word.senses.empty() ||
           !word.classes.has(WordClass::Noun)) {
         continue;
       }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pack/ItemSource.h"
+#include "pack/ItemText.h"
 
 #include <array>
 #include <string_view>
@@ -25,5 +26,17 @@ inline constexpr std::array<FormName, 4> formNames = {{{ItemForm::Fill, "fill"},
                                                        {ItemForm::Choice, "choice"},
                                                        {ItemForm::Mistake, "mistake"},
                                                        {ItemForm::Order, "order"}}};
+
+/// What braces mean in an item of a form.
+[[nodiscard]] constexpr BraceUse braceUseOf(ItemForm form) {
+  switch (form) {
+  case ItemForm::Fill:
+    return BraceUse::Answer;
+  case ItemForm::Mistake:
+    return BraceUse::Candidate;
+  default:
+    return BraceUse::Phrase;
+  }
+}
 
 } // namespace talvora::pack

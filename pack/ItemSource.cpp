@@ -88,6 +88,10 @@ class ItemParser {
     } else {
       item_.form = found->form;
     }
+    if (item_.form == ItemForm::Order && place_ == ItemPlace::Bank) {
+      report(line, "an ordering item belongs among a lesson's items: in a bank it ends the run",
+             itemOpener.size());
+    }
   }
 
   void readHeading(const SourceLine& line, std::string_view name) {
@@ -144,8 +148,7 @@ class ItemParser {
       report(line, "behind the options only explanations may stand");
     } else {
       if (started_) text_.stored.append(emptyLines_ + 1, '\r');
-      const BraceUse use = item_.form == ItemForm::Fill ? BraceUse::Answer : BraceUse::Phrase;
-      parseItemLine(line.text, {file_, line.number, 1}, use, text_, problems_);
+      parseItemLine(line.text, {file_, line.number, 1}, braceUseOf(item_.form), text_, problems_);
     }
   }
 

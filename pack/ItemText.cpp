@@ -129,7 +129,9 @@ class ItemLineParser {
       report(at, "a phrase cannot touch a letter");
     }
     if (at < utf8_.size() && utf8_[at] == '_') report(at, "a gap cannot touch a phrase");
-    const bool merges = at + 1 < utf8_.size() && utf8_[at] == ' ' && isWordCharacter(utf8_[at + 1]);
+    // The program marks one character more than a candidate has, which is so a blank.
+    const bool merges = use_ == BraceUse::Phrase && at + 1 < utf8_.size() && utf8_[at] == ' ' &&
+                        isWordCharacter(utf8_[at + 1]);
     return merges ? at + 1 : at;
   }
 

@@ -9,8 +9,9 @@
 
 namespace talvora::pack {
 
-/// What stands in braces: an answer to be typed, or a phrase to look at.
-enum class BraceUse { Answer, Phrase };
+/// What stands in braces: an answer to be typed, a phrase to look at, or a phrase that may be the
+/// mistake.
+enum class BraceUse { Answer, Phrase, Candidate };
 
 /// A question's text in the store's form, and what was found in its braces.
 struct ItemText {

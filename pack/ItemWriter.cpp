@@ -43,9 +43,8 @@ std::string writeItem(const Item& item, ItemPlace place) {
   for (std::size_t at = 0; at < item.hints.size(); ++at)
     source += (at == 0 ? std::string(hintsOpener) : ", ") + utf8Of(item.hints[at]);
   if (!item.hints.empty()) source += "\n";
-  const BraceUse use = item.form == ItemForm::Fill ? BraceUse::Answer : BraceUse::Phrase;
   const int marked = item.form == ItemForm::Mistake ? item.key : 0;
-  source += "\n" + writeItemText(item.question, use, marked) + "\n";
+  source += "\n" + writeItemText(item.question, braceUseOf(item.form), marked) + "\n";
   if (!item.options.empty()) source += "\n";
   for (std::size_t at = 0; at < item.options.size(); ++at) {
     const bool right = static_cast<int>(at) + 1 == item.key;

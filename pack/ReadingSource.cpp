@@ -163,8 +163,9 @@ ReadingSource readTexts(const std::filesystem::path& folder, int slots, Problems
                           : std::nullopt;
     if (!slot) {
       const std::string first = std::string(digits - 1, '0') + "1";
-      problems.add({file}, "the name must be " + std::string(digits, 'N') +
-                               "-slug.txt with a slot from " + first + " to " + last);
+      problems.add({file}, std::string("the name must be ")
+                               .append(digits, 'N')
+                               .append("-slug.txt with a slot from " + first + " to " + last));
       continue;
     }
     auto text = parseReadingText(readSource(path, problems), file, problems);

@@ -86,6 +86,7 @@ std::vector<MissingWord> missingWords(const WordList& list, const ReadingSource&
     if (!found || !list.hasVietnamese(list.at(*found))) ++counts[word];
   }
   std::vector<MissingWord> missing;
+  missing.reserve(counts.size());
   for (const auto& [word, count] : counts)
     missing.push_back({word, count});
   std::stable_sort(missing.begin(), missing.end(),

@@ -1,7 +1,7 @@
 // Synthesis with flite.
 #include "pack/Voice.h"
 
-#include "text/Bytes.h"
+#include "text/Text.h"
 
 #include <flite/flite.h>
 #include <flite/flite_version.h>
@@ -23,17 +23,6 @@ struct DeleteUtterance {
   void operator()(cst_utterance* utterance) const { delete_utterance(utterance); }
 };
 
-/// The sentence in the characters that flite knows.
-std::string readable(std::string_view sentence) {
-  constexpr char apostrophe = chr(0x92);
-  std::string text(sentence);
-  for (char& character : text) {
-    if (character == apostrophe) character = '\'';
-    if (asc(character) < ' ' || asc(character) > '~') character = ' ';
-  }
-  return text;
-}
-
 } // namespace
 
 Voice::Voice(Speaker speaker, float stretch) {
@@ -45,7 +34,7 @@ Voice::Voice(Speaker speaker, float stretch) {
 
 Samples Voice::speak(std::string_view sentence) const {
   const std::unique_ptr<cst_utterance, DeleteUtterance> spoken(
-      flite_synth_text(readable(sentence).c_str(), voice_));
+      flite_synth_text(plainAscii(sentence).c_str(), voice_));
   const cst_wave* wave = spoken ? utt_wave(spoken.get()) : nullptr;
   if (wave == nullptr || wave->sample_rate != SamplesPerSecond || wave->num_channels != 1)
     throw std::runtime_error("flite cannot speak: " + std::string(sentence));

@@ -70,7 +70,7 @@ std::string spellingIn(std::string_view words, const std::string& small) {
   takeField(words);
   const std::size_t count = numberOf(takeField(words), 16).value_or(0);
   for (std::size_t word = 0; word < count; ++word) {
-    const std::string text = spelled(takeField(words));
+    std::string text = spelled(takeField(words));
     if (lower(text) == small) return text;
     takeField(words);
   }

@@ -65,12 +65,13 @@ TEST(ItemSource, AChoiceIsStoredWithItsOptionsAndKey) {
 
 TEST(ItemSource, AMistakeIsStoredWithItsKey) {
   const Item item = itemOf("item: mistake, mistake\n\n{She} go to {school} {!every day}.\n");
-  EXPECT_EQ(recordsOf(item).first, "212*She_go to*school_ *every day_.\r+\rC\r");
+  EXPECT_EQ(recordsOf(item).first, "212*She_ go to*school_ *every day_.\r+\rC\r");
 }
 
 TEST(ItemSource, AnOrderingItemHasNumberedAlikeSentencesAndTranslations) {
   const Item item = itemOf("item: order\n\nHe is very good.\n= Anh tốt.\nShe is not very good.\n"
-                           "= Cô không tốt.\n");
+                           "= Cô không tốt.\n",
+                           ItemPlace::Lesson);
   EXPECT_EQ(recordsOf(item).first, "300_He is very good. _She is not very good.");
   EXPECT_EQ(recordsOf(item).second, "_" + ownText("Anh tốt.") + "_" + ownText("Cô không tốt."));
 }
@@ -146,11 +147,14 @@ TEST(ItemSource, ProblemsOfMistakesAndSentences) {
   EXPECT_THAT(problemsOf("item: mistake, mistake\n\n{a} b {c}.\n"),
               Contains(HasSubstr("exactly one phrase")));
   EXPECT_THAT(problemsOf("item: mistake, mistake\n\n{!a} b.\n"), Contains(HasSubstr("two to six")));
-  EXPECT_THAT(problemsOf("item: order\n\nToo few words.\n= Ít.\n"),
+  EXPECT_THAT(problemsOf("item: order\n\nToo few words.\n= Ít.\n", ItemPlace::Lesson),
               Contains(HasSubstr("at least four words")));
-  EXPECT_THAT(problemsOf("item: order\n\nHe is very good.\n"),
+  EXPECT_THAT(problemsOf("item: order\n\nHe is very good.\n= Anh tốt.\n", ItemPlace::Bank),
+              Contains(HasSubstr("belongs among a lesson's items")));
+  EXPECT_THAT(problemsOf("item: order\n\nHe is very good.\n", ItemPlace::Lesson),
               Contains(HasSubstr("needs a translation")));
-  EXPECT_THAT(problemsOf("item: order\n\n= Anh.\n"), Contains(HasSubstr("has no sentence")));
+  EXPECT_THAT(problemsOf("item: order\n\n= Anh.\n", ItemPlace::Lesson),
+              Contains(HasSubstr("has no sentence")));
 }
 
 TEST(ItemSource, ProblemsOfExplanations) {

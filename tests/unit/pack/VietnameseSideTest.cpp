@@ -123,7 +123,8 @@ class Search {
 
  private:
   test::DictionaryRun run_{{}};
-  talvora::VietnameseSide side_{run_.controls, run_.state, run_.stores, run_.shell, run_.speech};
+  talvora::VietnameseSide side_{run_.controls, run_.state,  run_.stores,
+                                run_.shell,    run_.speech, run_.dictionary.lookUp()};
 };
 
 TEST(VietnameseSideOfPack, TheProgramFindsEveryEntry) {
