@@ -12,6 +12,21 @@ namespace {
 const QColor StripColour(0x1F, 0x3A, 0x4D);
 const QColor StripText(0xF4, 0xF1, 0xE8);
 const QColor HotClose(0xB3, 0x3A, 0x2E);
+// The program pads its title with blanks to bring it to the middle of the strip.
+constexpr int FewestPadding = 20;
+constexpr double PaddingShare = 0.44;
+
+/// A caption in the two pieces that its padding parts; without padding all is in the first.
+struct CaptionPieces {
+  QString head;
+  QString tail;
+};
+
+CaptionPieces piecesOf(const QString& caption) {
+  const auto padding = caption.indexOf(QString(FewestPadding, QLatin1Char(' ')));
+  if (padding < 0) return {caption, {}};
+  return {caption.left(padding), caption.mid(padding).trimmed()};
+}
 
 } // namespace
 
@@ -46,9 +61,16 @@ void CaptionStrip::paintEvent(QPaintEvent*) {
   font.setPixelSize(qMax(height() * 6 / 10, 1));
   painter.setFont(font);
   painter.setPen(StripText);
+  const CaptionPieces pieces = piecesOf(caption_);
   const int margin = height() / 2;
-  painter.drawText(rect().adjusted(margin, 0, -closeBox().width(), 0),
-                   Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, caption_);
+  const int tailAt = qRound(margin + painter.fontMetrics().horizontalAdvance(pieces.head) +
+                            PaddingShare * width());
+  const auto draw = [&](int left, const QString& text) {
+    painter.drawText(rect().adjusted(left, 0, -closeBox().width(), 0),
+                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
+  };
+  draw(margin, pieces.head);
+  draw(tailAt, pieces.tail);
 
   if (hot_) painter.fillRect(closeBox(), HotClose);
   const QPointF middle = QRectF(closeBox()).center();

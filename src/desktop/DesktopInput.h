@@ -33,6 +33,10 @@ class DesktopInput final : public Input {
   std::function<void(int keyCode, KeyMotion motion)> stroke;
   std::function<void(PixelPoint at)> moveTo;
 
+  /// The learner brought the pointer to a place. Where the platform does not tell where the pointer
+  /// is, the last place counts, whoever chose it.
+  void pointerCame(PixelPoint at) noexcept { pointer_ = at; }
+
   /// Delivers what was sent, unless the program sleeps.
   void deliverSent();
 
@@ -54,7 +58,7 @@ class DesktopInput final : public Input {
 
   KeyTable& keys_;
   InputGate& gate_;
-  PixelPoint pointer_; ///< where the platform does not let the pointer be moved
+  PixelPoint pointer_; ///< counts where the platform does not let the pointer be moved
   std::deque<Sent> sent_;
 };
 

@@ -1,6 +1,6 @@
 #include "desktop/DesktopMachine.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 namespace talvora {
 
@@ -9,10 +9,15 @@ DesktopMachine::DesktopMachine(QSize virtualScreen, std::uint64_t seed)
       screen(virtualScreen),
       random(seed), platform{clock, events, input,     *sound.speech, *sound.wave, metrics, layout,
                              boxes, screen, clipboard, installation,  narrator,    random} {
+  // The one that is installed last looks first. Elsewhere than on X a repetition says what it is.
   QCoreApplication::instance()->installEventFilter(&gate);
+  if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+    QCoreApplication::instance()->installEventFilter(&repeats);
+  }
 }
 
 DesktopMachine::~DesktopMachine() {
+  QCoreApplication::instance()->removeEventFilter(&repeats);
   QCoreApplication::instance()->removeEventFilter(&gate);
 }
 

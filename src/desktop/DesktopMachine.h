@@ -1,6 +1,7 @@
 // The desktop as the program's machine: one of each piece.
 #pragma once
 
+#include "desktop/AutoRepeat.h"
 #include "desktop/DesktopDesk.h"
 #include "desktop/DesktopInput.h"
 #include "desktop/DesktopTime.h"
@@ -24,6 +25,7 @@ class DesktopMachine {
   // In the order in which they build on each other.
   KeyTable keys;
   InputGate gate;
+  AutoRepeat repeats;
   DesktopClock clock;
   DesktopEventLoop events;
   DesktopInput input;

@@ -1,7 +1,9 @@
 #include "desktop/FliteSpeech.h"
 
-#include "text/Bytes.h"
+#include "desktop/SilentSpeech.h"
+#include "text/Text.h"
 
+#include <dlfcn.h>
 #include <flite/flite.h>
 
 #include <algorithm>
@@ -9,40 +11,33 @@
 #include <memory>
 #include <utility>
 
-// The voice libraries come without headers.
-extern "C" {
-cst_voice* register_cmu_us_kal(const char* directory);
-cst_voice* register_cmu_us_awb(const char* directory);
-cst_voice* register_cmu_us_rms(const char* directory);
-cst_voice* register_cmu_us_slt(const char* directory);
-}
-
 namespace talvora {
 
 namespace {
 
-/// The voices by number from 1; the clearest is the last, since that is the one in use.
-constexpr std::array registerVoice = {register_cmu_us_kal, register_cmu_us_awb, register_cmu_us_rms,
-                                      register_cmu_us_slt};
+/// Where a voice comes from.
+struct VoiceSource {
+  const char* library;
+  const char* entry; ///< the function that makes it
+};
+
+/// The voices by number from 1; the clearest is the last, since that is the one in use. A fourth
+/// one would make the settings panel deaf to level 5, with which a learner starts.
+constexpr std::array<VoiceSource, 3> voices = {{
+    {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb"},
+    {"libflite_cmu_us_rms.so.1", "register_cmu_us_rms"},
+    {"libflite_cmu_us_slt.so.1", "register_cmu_us_slt"},
+}};
 constexpr const char* StreamFeature = "streaming_info";
 constexpr const char* StretchFeature = "duration_stretch";
 /// The speed that a voice has of itself, in words a minute.
 constexpr int NaturalSpeed = 175;
 constexpr int SlowestSpeed = 30;
 constexpr int FastestSpeed = 500;
+/// Of the silence in place of a voice.
+constexpr int SilenceRate = 16000;
 /// Samples from one call of the callback to the next: a twentieth of a second.
 constexpr int PartSamples = 800;
-constexpr char Apostrophe = chr(0x92);
-
-/// The text in the characters that flite knows.
-std::string readable(std::string_view text) {
-  std::string result(text);
-  for (char& character : result) {
-    if (character == Apostrophe) character = '\'';
-    if (asc(character) < ' ' || asc(character) > '~') character = ' ';
-  }
-  return result;
-}
 
 struct DeleteUtterance {
   void operator()(cst_utterance* utterance) const { delete_utterance(utterance); }
@@ -62,8 +57,19 @@ struct FliteSpeech::Stream {
   }
 };
 
-FliteSpeech::FliteSpeech(PcmPlayer::MakeDevice makeDevice)
-    : player_(std::move(makeDevice)), wordsPerMinute_(NaturalSpeed),
+cst_voice* loadFliteVoice(int number) {
+  const VoiceSource& source = voices.at(static_cast<std::size_t>(number - 1));
+  // Never unloaded: the voice lives in it.
+  void* const library = ::dlopen(source.library, RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) return nullptr;
+  using Register = cst_voice*(const char* directory);
+  auto* const makeVoice = reinterpret_cast<Register*>(::dlsym(library, source.entry));
+  return makeVoice == nullptr ? nullptr : makeVoice(nullptr);
+}
+
+FliteSpeech::FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice)
+    : player_(std::move(makeDevice)), loadVoice_(std::move(loadVoice)),
+      wordsPerMinute_(NaturalSpeed),
       thread_([this](const std::stop_token& ending) { run(ending); }) {}
 
 FliteSpeech::~FliteSpeech() {
@@ -73,7 +79,7 @@ FliteSpeech::~FliteSpeech() {
 // -- What the program calls.
 
 void FliteSpeech::Speak(std::string_view text) {
-  std::string words = readable(text);
+  std::string words = plainAscii(text);
   if (words.find_first_not_of(' ') == std::string::npos) return;
   const std::lock_guard lock(mutex_);
   queue_.push_back({std::move(words), voice_, wordsPerMinute_});
@@ -99,7 +105,7 @@ void FliteSpeech::Speed(int wordsPerMinute) {
 }
 
 bool FliteSpeech::Select(int voice) {
-  if (voice < 1 || voice > static_cast<int>(registerVoice.size())) return false;
+  if (voice < 1 || voice > static_cast<int>(voices.size())) return false;
   const std::lock_guard lock(mutex_);
   voice_ = voice;
   return true;
@@ -117,30 +123,39 @@ void FliteSpeech::run(const std::stop_token& ending) {
     synthesising_ = true;
     const std::uint64_t stops = stops_;
     lock.unlock();
-    synthesise(utterance, stops);
+    say(utterance, stops);
     lock.lock();
     // Stopped, it was over already, and something else may be on its way.
     if (stops == stops_) synthesising_ = false;
   }
 }
 
-void FliteSpeech::synthesise(const Utterance& utterance, std::uint64_t stops) {
-  cst_voice* const voice = registerVoice.at(static_cast<std::size_t>(utterance.voice - 1))(nullptr);
+void FliteSpeech::say(const Utterance& utterance, std::uint64_t stops) {
+  if (cst_voice* const voice = loadVoice_(utterance.voice)) {
+    synthesise(utterance, *voice, stops);
+    return;
+  }
+  const std::int64_t ms = spokenMs(utterance.text, utterance.wordsPerMinute);
+  const Samples silence(static_cast<std::size_t>(ms * SilenceRate / 1000));
+  playPart(silence, SilenceRate, stops);
+}
+
+void FliteSpeech::synthesise(const Utterance& utterance, cst_voice& voice, std::uint64_t stops) {
   Stream stream{*this, stops};
   cst_audio_streaming_info* const info = new_audio_streaming_info();
   info->asc = Stream::take;
   info->min_buffsize = PartSamples;
   info->userdata = &stream;
-  flite_feat_set(voice->features, StreamFeature, audio_streaming_info_val(info));
-  flite_feat_set_float(voice->features, StretchFeature,
+  flite_feat_set(voice.features, StreamFeature, audio_streaming_info_val(info));
+  flite_feat_set_float(voice.features, StretchFeature,
                        static_cast<float>(NaturalSpeed) /
                            static_cast<float>(utterance.wordsPerMinute));
   {
     const std::unique_ptr<cst_utterance, DeleteUtterance> spoken(
-        flite_synth_text(utterance.text.c_str(), voice));
+        flite_synth_text(utterance.text.c_str(), &voice));
   }
   // The voice outlives the stream and must not keep it.
-  flite_feat_remove(voice->features, StreamFeature);
+  flite_feat_remove(voice.features, StreamFeature);
 }
 
 bool FliteSpeech::playPart(std::span<const std::int16_t> samples, int rate, std::uint64_t stops) {

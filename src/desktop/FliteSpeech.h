@@ -7,17 +7,27 @@
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <span>
 #include <string>
 #include <thread>
 
+struct cst_voice_struct;
+
 namespace talvora {
 
-/// flite keeps its voices for the whole process: one engine at a time.
+/// The flite voice of a number, from 1; null when its library is not installed. A voice takes up
+/// memory, and stays for the whole process.
+[[nodiscard]] cst_voice_struct* loadFliteVoice(int number);
+
+/// flite keeps its voices for the whole process: one engine at a time. A voice is loaded with its
+/// first word; one that is not there keeps the timing silently.
 class FliteSpeech final : public SpeechEngine {
  public:
-  explicit FliteSpeech(PcmPlayer::MakeDevice makeDevice);
+  using LoadVoice = std::function<cst_voice_struct*(int number)>;
+
+  explicit FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice = loadFliteVoice);
   FliteSpeech(const FliteSpeech&) = delete;
   FliteSpeech& operator=(const FliteSpeech&) = delete;
   ~FliteSpeech() override;
@@ -39,11 +49,13 @@ class FliteSpeech final : public SpeechEngine {
   struct Stream;
 
   void run(const std::stop_token& ending);
-  void synthesise(const Utterance& utterance, std::uint64_t stops);
+  void say(const Utterance& utterance, std::uint64_t stops);
+  void synthesise(const Utterance& utterance, cst_voice_struct& voice, std::uint64_t stops);
   /// Plays what belongs to the text that was begun after so many stops; false when that is over.
   bool playPart(std::span<const std::int16_t> samples, int rate, std::uint64_t stops);
 
   PcmPlayer player_;
+  LoadVoice loadVoice_;
   mutable std::mutex mutex_;
   std::condition_variable_any changed_;
   std::deque<Utterance> queue_;

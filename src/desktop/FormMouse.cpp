@@ -36,8 +36,13 @@ SurfacePoint FormMouse::pointOf(QPointF pixels) const {
           static_cast<int>(std::floor(pixels.y() / scale_))};
 }
 
+void FormMouse::take(SurfacePoint point) {
+  pointer_ = point;
+  pointerCame(point);
+}
+
 void FormMouse::press(const QMouseEvent& event) {
-  pointer_ = pointOf(event.position());
+  take(pointOf(event.position()));
   const auto button = buttonOf(event);
   if (!button) return;
   pressed_ = hovered();
@@ -52,7 +57,7 @@ void FormMouse::press(const QMouseEvent& event) {
 }
 
 void FormMouse::release(const QMouseEvent& event) {
-  pointer_ = pointOf(event.position());
+  take(pointOf(event.position()));
   const auto button = buttonOf(event);
   if (!button) return;
   Control* const pressed = std::exchange(pressed_, nullptr);
@@ -73,7 +78,7 @@ void FormMouse::doubleClick(const QMouseEvent& event) {
     press(event);
     return;
   }
-  pointer_ = pointOf(event.position());
+  take(pointOf(event.position()));
   pressed_ = surface;
   bridge_.deliver(
       [&] { surface->doubleClick(shiftOf(event.modifiers()), inside(*surface, pointer_)); });
@@ -82,7 +87,7 @@ void FormMouse::doubleClick(const QMouseEvent& event) {
 void FormMouse::move(const QMouseEvent& event) {
   const SurfacePoint point = pointOf(event.position());
   if (point == pointer_) return;
-  pointer_ = point;
+  take(point);
   const int shift = shiftOf(event.modifiers());
   if (pressed_ != nullptr) {
     auto* const surface = dynamic_cast<Surface*>(pressed_);
@@ -100,7 +105,7 @@ void FormMouse::move(const QMouseEvent& event) {
 }
 
 void FormMouse::wheel(const QWheelEvent& event) {
-  pointer_ = pointOf(event.position());
+  take(pointOf(event.position()));
   auto* const surface = dynamic_cast<Surface*>(hovered());
   const double notches = static_cast<double>(event.angleDelta().y()) / WheelNotch;
   const int twips = static_cast<int>(std::lround(-notches * TwipsPerNotch));

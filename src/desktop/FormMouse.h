@@ -6,6 +6,8 @@
 
 #include <QPointF>
 
+#include <functional>
+
 class QMouseEvent;
 class QWheelEvent;
 
@@ -14,6 +16,9 @@ namespace talvora {
 class FormMouse {
  public:
   FormMouse(Form& form, EventBridge& bridge) : form_(form), bridge_(bridge) {}
+
+  /// Called with the point of the form, in twips, to which the learner brings the pointer.
+  std::function<void(SurfacePoint at)> pointerCame = [](SurfacePoint) {};
 
   void setScale(double pixelsPerTwip) noexcept { scale_ = pixelsPerTwip; }
 
@@ -30,6 +35,7 @@ class FormMouse {
 
  private:
   [[nodiscard]] SurfacePoint pointOf(QPointF pixels) const;
+  void take(SurfacePoint point);
 
   Form& form_;
   EventBridge& bridge_;

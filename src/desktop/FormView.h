@@ -14,6 +14,7 @@
 #include <functional>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace talvora {
 
@@ -27,6 +28,10 @@ class FormView final : public QWidget, public FormObserver {
 
   std::function<void()> onCaptionChanged;
   std::function<void()> onFocusChanged;
+  /// Called with the point to which the learner brings the pointer.
+  void onPointer(std::function<void(SurfacePoint at)> call) {
+    mouse_.pointerCame = std::move(call);
+  }
 
   /// Places every child anew.
   void setScale(double pixelsPerTwip);

@@ -60,16 +60,20 @@ bool PcmPlayer::isPlaying() const {
 }
 
 void PcmPlayer::run(const std::stop_token& ending) {
-  const std::unique_ptr<PcmDevice> device = makeDevice_();
+  std::unique_ptr<PcmDevice> device;
   std::unique_lock lock(mutex_);
   while (!ending.stop_requested()) {
     if (!changed_.wait(lock, ending, [this] { return silencing_ || !chunks_.empty(); })) continue;
     if (std::exchange(silencing_, false)) {
       lock.unlock();
-      device->silence();
+      if (device) device->silence();
       lock.lock();
-    } else {
+    } else if (device) {
       feed(*device, lock, ending);
+    } else {
+      lock.unlock();
+      device = makeDevice_();
+      lock.lock();
     }
   }
 }

@@ -19,7 +19,9 @@ namespace talvora {
 /// Signed 16-bit samples of one channel.
 using Samples = std::vector<std::int16_t>;
 
-/// A sound device as a player sees it. It is made, used and destroyed on the player's thread.
+/// A sound device as a player sees it. It is made with the first sound, so that a program that
+/// stays silent never asks for one, and is made, used and destroyed on the player's thread:
+/// whatever a device or its server does, nobody else waits for it.
 class PcmDevice {
  public:
   virtual ~PcmDevice() = default;

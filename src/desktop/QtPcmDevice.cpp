@@ -1,7 +1,9 @@
 #include "desktop/QtPcmDevice.h"
 
+#include <QAudioDevice>
 #include <QAudioFormat>
 #include <QIODevice>
+#include <QMediaDevices>
 
 #include <algorithm>
 
@@ -12,6 +14,8 @@ namespace {
 constexpr int SampleBytes = 2;
 /// Short, so that the sound follows the clock closely.
 constexpr int BufferMs = 60;
+/// How long a device that has failed is left alone.
+constexpr std::chrono::seconds FailurePause(1);
 
 } // namespace
 
@@ -26,38 +30,40 @@ std::size_t QtPcmDevice::write(std::span<const std::int16_t> samples, int rate) 
 }
 
 bool QtPcmDevice::ready(int rate) {
-  if (failed_) return false;
+  if (Clock::now() < deafUntil_) return false;
   if (sink_ == nullptr || rate != rate_) open(rate);
-  if (input_ == nullptr) input_ = sink_->start();
-  failed_ = hasFailed();
-  if (failed_) {
-    sink_.reset();
-    input_ = nullptr;
-  }
-  return !failed_;
+  if (!hasFailed()) return true;
+  close();
+  deafUntil_ = Clock::now() + FailurePause;
+  return false;
 }
 
 void QtPcmDevice::open(int rate) {
+  close();
+  // A server that went away is dropped here, and one that is back is found again.
+  events_.processEvents();
+  const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+  if (device.isNull()) return;
   QAudioFormat format;
   format.setSampleRate(rate);
   format.setChannelCount(1);
   format.setSampleFormat(QAudioFormat::Int16);
-  input_ = nullptr;
-  sink_ = std::make_unique<QAudioSink>(device_, format);
+  sink_ = std::make_unique<QAudioSink>(device, format);
   sink_->setBufferSize(rate * SampleBytes * BufferMs / 1000);
+  input_ = sink_->start();
   rate_ = rate;
 }
 
-bool QtPcmDevice::hasFailed() const {
-  const QAudio::Error error = sink_->error();
-  // Running dry between two sentences is no failure.
-  return input_ == nullptr || (error != QAudio::NoError && error != QAudio::UnderrunError);
+void QtPcmDevice::close() {
+  sink_.reset();
+  input_ = nullptr;
 }
 
-void QtPcmDevice::silence() {
-  if (sink_ != nullptr) sink_->reset();
-  input_ = nullptr;
-  failed_ = false;
+bool QtPcmDevice::hasFailed() const {
+  if (input_ == nullptr) return true;
+  const QAudio::Error error = sink_->error();
+  // Running dry between two sentences is no failure.
+  return error != QAudio::NoError && error != QAudio::UnderrunError;
 }
 
 } // namespace talvora

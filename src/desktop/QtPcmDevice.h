@@ -3,35 +3,37 @@
 
 #include "desktop/PcmPlayer.h"
 
-#include <QAudioDevice>
 #include <QAudioSink>
 #include <QEventLoop>
 
+#include <chrono>
 #include <memory>
 
 namespace talvora {
 
-/// A device that fails swallows what it is given until it is silenced, and is then tried again.
+/// The default device as it is when a sound begins. A device that is missing or fails swallows what
+/// it is given for a while and is then looked for again.
 class QtPcmDevice final : public PcmDevice {
  public:
-  explicit QtPcmDevice(const QAudioDevice& device) : device_(device) {}
-
   std::size_t write(std::span<const std::int16_t> samples, int rate) override;
-  void silence() override;
+  void silence() override { close(); }
 
  private:
-  /// Makes the sink ready for a rate; false when the device does not serve.
+  using Clock = std::chrono::steady_clock;
+
+  /// Makes the sink ready for a rate; false when no device serves.
   bool ready(int rate);
   void open(int rate);
+  void close();
   [[nodiscard]] bool hasFailed() const;
 
-  // Its existence lets the sink keep timers on a thread that Qt has not started.
+  // Lets the sink keep timers on a thread that Qt has not started, and takes in what the sound
+  // server told since the last sound.
   QEventLoop events_;
-  QAudioDevice device_;
   std::unique_ptr<QAudioSink> sink_;
   QIODevice* input_ = nullptr; ///< where the running sink takes samples; the sink owns it
   int rate_ = 0;
-  bool failed_ = false;
+  Clock::time_point deafUntil_{};
 };
 
 } // namespace talvora

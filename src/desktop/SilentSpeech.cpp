@@ -4,12 +4,15 @@
 
 namespace talvora {
 
-void SilentSpeech::Speak(std::string_view text) {
+std::int64_t spokenMs(std::string_view text, int wordsPerMinute) {
   // A spoken word has about six characters with its blank.
-  constexpr qint64 CharactersPerWord = 6;
-  const qint64 length =
-      static_cast<qint64>(text.size()) * 60000 / (CharactersPerWord * std::max(wordsPerMinute_, 1));
-  silentFrom_ = std::max(silentFrom_, clock_.elapsed()) + length;
+  constexpr std::int64_t CharactersPerWord = 6;
+  return static_cast<std::int64_t>(text.size()) * 60'000 /
+         (CharactersPerWord * std::max(wordsPerMinute, 1));
+}
+
+void SilentSpeech::Speak(std::string_view text) {
+  silentFrom_ = std::max(silentFrom_, clock_.elapsed()) + spokenMs(text, wordsPerMinute_);
 }
 
 void SilentSpeech::Speed(int wordsPerMinute) {

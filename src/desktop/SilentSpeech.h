@@ -5,7 +5,12 @@
 
 #include <QElapsedTimer>
 
+#include <cstdint>
+
 namespace talvora {
+
+/// How many milliseconds a text takes at a speed, about.
+[[nodiscard]] std::int64_t spokenMs(std::string_view text, int wordsPerMinute);
 
 class SilentSpeech final : public SpeechEngine {
  public:

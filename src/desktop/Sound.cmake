@@ -2,28 +2,21 @@
 # not installed is replaced by a silent one.
 find_package(Qt6 REQUIRED COMPONENTS Multimedia)
 find_library(SNDFILE_LIBRARY sndfile)
-find_path(FLITE_INCLUDE_DIR flite/flite.h)
-set(FLITE_LIBRARIES)
-# In the order in which they need each other.
-foreach(part cmu_us_kal cmu_us_awb cmu_us_rms cmu_us_slt usenglish cmulex)
-  find_library(FLITE_${part}_LIBRARY flite_${part})
-  list(APPEND FLITE_LIBRARIES ${FLITE_${part}_LIBRARY})
-endforeach()
-find_library(FLITE_LIBRARY flite)
-list(APPEND FLITE_LIBRARIES ${FLITE_LIBRARY} m)
+find_package(Flite COMPONENTS cmu_us_awb cmu_us_rms cmu_us_slt)
 
 add_library(talvora-desktop-sound STATIC
   ${CMAKE_CURRENT_LIST_DIR}/PcmPlayer.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtPcmDevice.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SilentSpeech.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Sound.cpp
 )
 target_link_libraries(talvora-desktop-sound PUBLIC talvora Qt6::Multimedia)
 
-if(FLITE_INCLUDE_DIR AND NOT "${FLITE_LIBRARIES}" MATCHES "NOTFOUND")
+if(Flite_FOUND)
   target_sources(talvora-desktop-sound PRIVATE ${CMAKE_CURRENT_LIST_DIR}/FliteSpeech.cpp)
   target_compile_definitions(talvora-desktop-sound PUBLIC TALVORA_HAS_FLITE)
-  target_include_directories(talvora-desktop-sound SYSTEM PRIVATE ${FLITE_INCLUDE_DIR})
-  target_link_libraries(talvora-desktop-sound PRIVATE ${FLITE_LIBRARIES})
+  # The voices are loaded with the first word.
+  target_link_libraries(talvora-desktop-sound PRIVATE Flite::Flite ${CMAKE_DL_LIBS})
 else()
   message(STATUS "flite was not found: the program is built without a speaking voice")
 endif()

@@ -14,22 +14,17 @@
 #include "desktop/SilentWave.h"
 #endif
 
-#include <QMediaDevices>
-
 namespace talvora {
 
 namespace {
 
-/// The way to the default device; empty when there is none.
-[[maybe_unused]] PcmPlayer::MakeDevice defaultDevice() {
-  const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-  if (device.isNull()) return {};
-  return [device] { return std::make_unique<QtPcmDevice>(device); };
+[[maybe_unused]] std::unique_ptr<PcmDevice> makeDevice() {
+  return std::make_unique<QtPcmDevice>();
 }
 
 std::unique_ptr<SpeechEngine> makeSpeech() {
 #ifdef TALVORA_HAS_FLITE
-  return std::make_unique<FliteSpeech>(defaultDevice());
+  return std::make_unique<FliteSpeech>(makeDevice);
 #else
   return std::make_unique<SilentSpeech>();
 #endif
@@ -37,7 +32,7 @@ std::unique_ptr<SpeechEngine> makeSpeech() {
 
 std::unique_ptr<WavePlayer> makeWave() {
 #ifdef TALVORA_HAS_SNDFILE
-  return std::make_unique<WaveOutput>(defaultDevice());
+  return std::make_unique<WaveOutput>(makeDevice);
 #else
   return std::make_unique<SilentWave>();
 #endif

@@ -13,8 +13,9 @@ struct Sound {
   std::unique_ptr<WavePlayer> wave;
 };
 
-/// Makes both on the default sound device; without a device they keep their timing silently. What
-/// the program was built without is replaced by a silent one. To be called on the main thread.
+/// Makes both. They look for the default sound device when the first sound comes, and keep their
+/// timing silently where there is none. What the program was built without is replaced by a silent
+/// one.
 [[nodiscard]] Sound makeSound();
 
 } // namespace talvora

@@ -1,13 +1,24 @@
 #include "desktop/StateTrace.h"
 
+#include "text/GlyphMap.h"
 #include "text/Text.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace talvora {
+
+namespace {
+
+// A sentence mark looks like a blank.
+constexpr std::string_view Blanks = " \t\r\n\xA0";
+
+} // namespace
 
 std::string StateTrace::present() {
   const Control* const focus = program_.form().ActiveControl();
   std::string line = "focus=" + (focus == nullptr ? std::string("-") : focus->Name());
-  line += " visible=";
+  line += " visible=,";
   for (const Control* control : program_.form().controls()) {
     const bool counts = dynamic_cast<const Surface*>(control) != nullptr ||
                         dynamic_cast<const Frame*>(control) != nullptr;
@@ -21,9 +32,54 @@ std::string StateTrace::present() {
 
 void StateTrace::note() {
   std::string line = present();
-  if (line == last_) return;
-  file_ << line << '\n' << std::flush;
-  last_ = std::move(line);
+  if (line != last_) {
+    file_ << line << '\n';
+    last_ = std::move(line);
+  }
+  for (const Control* control : program_.form().controls()) {
+    if (const auto* surface = dynamic_cast<const Surface*>(control)) noteWords(*surface);
+  }
+  file_ << std::flush;
+}
+
+void StateTrace::noteWords(const Surface& surface) {
+  if (!surface.Visible()) {
+    shown_.erase(&surface);
+    return;
+  }
+  const Picture now{surface.revision(), surface.scroll(), surface.Left(),
+                    surface.Top(),      surface.Width(),  surface.Height()};
+  const auto [entry, isNew] = shown_.try_emplace(&surface, now);
+  if (!isNew && std::exchange(entry->second, now) == now) return;
+  writeWords(surface);
+}
+
+void StateTrace::writeWords(const Surface& surface) {
+  file_ << "words " << surface.Name();
+  const int first = surface.scroll().paragraph;
+  for (int number = first; number < surface.paragraphCount(); ++number) {
+    const int start = surface.paragraphStart(number);
+    if (surface.pointOf(start).y >= surface.Height()) break;
+    const std::string text =
+        surface.TextBetween(start, std::max(start, surface.paragraphStart(number + 1)));
+    std::size_t from = 0;
+    while ((from = text.find_first_not_of(Blanks, from)) != std::string::npos) {
+      const std::size_t to = std::min(text.find_first_of(Blanks, from), text.size());
+      writeWord(surface, start + static_cast<int>(from), text.substr(from, to - from));
+      from = to;
+    }
+  }
+  file_ << '\n';
+}
+
+void StateTrace::writeWord(const Surface& surface, int from, const std::string& word) {
+  const SurfacePoint middle = surface.pointOf(from + static_cast<int>(word.size()) / 2);
+  if (middle.y < 0 || middle.y >= surface.Height()) return;
+  const PixelPoint at = onScreen({surface.Left() + middle.x, surface.Top() + middle.y});
+  std::string letters;
+  for (const char16_t unit : toUnicode(word, encodingOf(surface.Font().name)))
+    appendUtf8(letters, unit);
+  file_ << ' ' << at.x << ',' << at.y << ',' << letters;
 }
 
 } // namespace talvora

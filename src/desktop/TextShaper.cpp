@@ -16,6 +16,7 @@ namespace talvora {
 namespace {
 
 constexpr int Margin = 120;           ///< twips at either edge of a surface
+constexpr int ScrollMarkRoom = 120;   ///< twips more at the right, which the scroll mark needs
 constexpr int BulletIndent = 360;     ///< twips from the bullet's place to the text
 constexpr double BulletRadius = 0.13; ///< in heights of a line
 constexpr int TabCharacters = 4;
@@ -148,7 +149,9 @@ void ShapedParagraph::breakLines(const ParagraphView& paragraph) {
 void ShapedParagraph::placeLines(const ParagraphView& paragraph) {
   const double start = Margin + paragraph.style.indent;
   const double left = start + (bullet_ ? BulletIndent : 0);
-  const double room = std::max(1.0, paragraph.width - Margin - left);
+  const bool centred = paragraph.style.align == Alignment::Centred;
+  const double right = centred ? Margin : Margin + ScrollMarkRoom;
+  const double room = std::max(1.0, paragraph.width - right - left);
   bulletX_ = start + BulletIndent / 2.0;
   shape_ = {};
   layout_.beginLayout();
@@ -224,7 +227,7 @@ std::vector<QRectF> ShapedParagraph::rectsOf(int from, int to) const {
 }
 
 void ShapedParagraph::paint(QPainter& painter, const QRectF& clip) const {
-  if (bullet_) paintBullet(painter);
+  if (bullet_ && length_ > 0) paintBullet(painter);
   layout_.draw(&painter, {0, 0}, {}, clip);
 }
 

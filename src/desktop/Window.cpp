@@ -39,6 +39,7 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
     strip_->setCaption(
         QString::fromStdU16String(toUnicode(program_.form().Caption(), Encoding::Windows1252)));
   };
+  view_->onPointer([this](SurfacePoint at) { machine_.input.pointerCame(pixelOf(at)); });
   view_->onFocusChanged = [this] {
     const Control* const focus = program_.form().ActiveControl();
     const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
@@ -170,6 +171,10 @@ void Window::keyReleaseEvent(QKeyEvent* event) {
 
 SurfacePoint Window::formPointOf(PixelPoint pixel) const {
   return {pixel.x * TwipsPerPixel, pixel.y * TwipsPerPixel - captionTwips()};
+}
+
+PixelPoint Window::pixelOf(SurfacePoint point) const {
+  return {point.x / TwipsPerPixel, (point.y + captionTwips()) / TwipsPerPixel};
 }
 
 void Window::clickAt(MouseButton button, SurfacePoint point) {

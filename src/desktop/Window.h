@@ -16,6 +16,9 @@ class Window final : public QWidget {
  public:
   Window(DesktopMachine& machine, Program& program, EventBridge& bridge);
 
+  /// The pixel of the virtual screen that shows a point of the form.
+  [[nodiscard]] PixelPoint pixelOf(SurfacePoint point) const;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

@@ -79,6 +79,7 @@ int main(int argc, char** argv) {
   std::unique_ptr<talvora::StateTrace> trace;
   if (!options.trace.empty()) {
     trace = std::make_unique<talvora::StateTrace>(options.trace, program);
+    trace->onScreen = [&](talvora::SurfacePoint point) { return window.pixelOf(point); };
   }
 
   bridge.afterEvent = [&] {

@@ -7,6 +7,7 @@
 #include <sndfile.hh>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <mutex>
@@ -30,6 +31,7 @@ class Heard {
     const std::lock_guard lock(mutex_);
     samples_.insert(samples_.end(), samples.begin(), samples.end());
     rate_ = rate;
+    ++writes_;
   }
   void silence() {
     const std::lock_guard lock(mutex_);
@@ -44,6 +46,11 @@ class Heard {
     const std::lock_guard lock(mutex_);
     return silences_;
   }
+  /// How often a device was given samples, whether it took any or none.
+  [[nodiscard]] int writes() const {
+    const std::lock_guard lock(mutex_);
+    return writes_;
+  }
   [[nodiscard]] int rate() const {
     const std::lock_guard lock(mutex_);
     return rate_;
@@ -53,6 +60,7 @@ class Heard {
   mutable std::mutex mutex_;
   Samples samples_;
   int silences_ = 0;
+  int writes_ = 0;
   int rate_ = 0;
 };
 
@@ -137,6 +145,7 @@ TEST(PcmPlayer, StoppingSilencesTheDeviceAndDropsTheRest) {
   PcmPlayer player(counting(heard, 0));
   player.play(Samples(600 * Rate), Rate);
   EXPECT_TRUE(player.isPlaying());
+  ASSERT_TRUE(comesTrue([&] { return heard.writes() > 0; }));
   player.stop();
   EXPECT_FALSE(player.isPlaying());
   EXPECT_TRUE(comesTrue([&] { return heard.silences() == 1; }));
@@ -153,6 +162,40 @@ TEST(PcmPlayer, WithoutADeviceTheTimingStays) {
   EXPECT_TRUE(comesTrue([&] { return !player.isPlaying(); }));
 }
 
+TEST(PcmPlayer, TheDeviceIsMadeWithTheFirstSound) {
+  Heard heard;
+  std::atomic<int> made = 0;
+  const auto makeDevice = [&] {
+    ++made;
+    return counting(heard)();
+  };
+  {
+    PcmPlayer player(makeDevice);
+    player.stop();
+  }
+  EXPECT_EQ(made, 0);
+  PcmPlayer player(makeDevice);
+  player.play(rising(10), Rate);
+  player.play(rising(10), Rate);
+  EXPECT_TRUE(comesTrue([&] { return heard.count() == 20; }));
+  EXPECT_EQ(made, 1);
+}
+
+TEST(PcmPlayer, WhatWasStoppedWhileTheDeviceWasMadeIsNotHeard) {
+  Heard heard;
+  std::atomic<bool> stopped = false;
+  PcmPlayer player([&] {
+    comesTrue([&] { return stopped.load(); });
+    return counting(heard)();
+  });
+  player.play(Samples(600 * Rate), Rate);
+  player.stop();
+  player.play(rising(10), Rate);
+  stopped = true;
+  EXPECT_TRUE(comesTrue([&] { return heard.count() >= 10; }));
+  EXPECT_EQ(heard.samples(), rising(10));
+}
+
 TEST(PcmPlayer, ItEndsWhileItPlays) {
   Heard heard;
   PcmPlayer player(counting(heard, 0));
@@ -161,7 +204,7 @@ TEST(PcmPlayer, ItEndsWhileItPlays) {
 
 // -- Speech.
 
-constexpr int Clearest = 4;
+constexpr int Clearest = 3;
 
 /// Samples of a text at a speed, once the engine has no more to say.
 std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times = 1) {
@@ -218,6 +261,34 @@ TEST(FliteSpeech, ABlankTextIsNotSpoken) {
   speech.Speak("");
   speech.Speak("  ");
   EXPECT_FALSE(speech.IsSpeaking());
+}
+
+TEST(FliteSpeech, AVoiceIsLoadedWithItsFirstWord) {
+  std::atomic<int> loaded = 0;
+  FliteSpeech speech({}, [&](int voice) {
+    loaded = voice;
+    return nullptr;
+  });
+  EXPECT_TRUE(speech.Select(1));
+  EXPECT_TRUE(speech.Select(Clearest));
+  EXPECT_EQ(loaded, 0);
+  speech.Speak("go");
+  EXPECT_TRUE(comesTrue([&] { return loaded == Clearest; }));
+}
+
+TEST(FliteSpeech, AVoiceThatIsNotThereTakesItsTimeSilently) {
+  Heard heard;
+  {
+    FliteSpeech speech(counting(heard), [](int) { return nullptr; });
+    speech.Speed(230);
+    speech.Speak("a word or two");
+    speech.Speak("and more");
+    EXPECT_TRUE(speech.IsSpeaking());
+    EXPECT_TRUE(comesTrue([&] { return !speech.IsSpeaking(); }));
+  }
+  const Samples samples = heard.samples();
+  EXPECT_GT(samples.size(), std::size_t{Rate / 2});
+  EXPECT_TRUE(std::all_of(samples.begin(), samples.end(), [](auto each) { return each == 0; }));
 }
 
 TEST(FliteSpeech, ItEndsWhileItSpeaks) {
