@@ -11,6 +11,7 @@ namespace talvora {
 
 namespace {
 
+constexpr int ReadingSection = 1;
 constexpr std::string_view WordCharacters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ'-";
 
@@ -73,33 +74,45 @@ void Dictionary::wirePopup() {
   RHD.KeyDown = [this, &RHD](int& KeyCode, int) { shell_.hints.showOnF2(KeyCode, RHD); };
   RHD.KeyPress = [this](int& KeyAscii) { pressPopupCharacter(std::exchange(KeyAscii, 0)); };
   RHD.KeyUp = [this](int&, int) { shell_.gestures.keyReleased(); };
-  RHD.MouseUp = [this](MouseButton button, int, SurfacePoint) {
-    if (button == MouseButton::Left) {
-      lookUpInPopup();
-    } else {
-      popup_.DongNghia();
-    }
+  // A press closes the popup; its text stays to be read, and the release may bring it up again.
+  RHD.MouseDown = [this](MouseButton, int, SurfacePoint) { popup_.DongNghia(); };
+  RHD.MouseUp = [this](MouseButton button, int, SurfacePoint at) {
+    if (button == MouseButton::Left) lookUpInPopup(at);
   };
+  RHD.MouseMove = [this](int, SurfacePoint) { controls_.RHDBT.SetFocus(); };
 }
 
 void Dictionary::pressPopupCharacter(int code) {
   popup_.DongNghia();
-  if (Letters.has(chr(code))) MoDanhSachTu(chr(code));
+  if (Letters.has(chr(code))) {
+    MoDanhSachTu(chr(code));
+  } else if (state_.places.MucMenu == ReadingSection) {
+    letWordGo();
+  }
 }
 
-void Dictionary::lookUpInPopup() {
+void Dictionary::letWordGo() {
+  if (controls_.R2.Visible()) controls_.R2.SelStart(state_.word.ViTriCaret);
+}
+
+void Dictionary::lookUpInPopup(SurfacePoint at) {
   Surface& RHD = controls_.RHD;
+  // The popup is placed as for a click on the page behind it.
+  state_.word.ViTriChuot = {at.x + RHD.Left() - state_.measures.LeTraiBai,
+                            at.y + RHD.Top() - state_.measures.LeTrenBai};
   RHD.SelLength(0);
   RHD.Span(WordCharacters, SpanDirection::Backward, SpanUntil::NotInSet);
   RHD.Span(WordCharacters, SpanDirection::Forward, SpanUntil::NotInSet);
   CurrentWord& word = state_.word;
   word.TuHienTai.clear();
   word.NghiaHienTai.clear();
+  word.ThongBaoHD.clear();
   shell_.wordPick.LayTuChon(RHD);
   TraTu();
 }
 
 void Dictionary::declare(Variables& variables) const {
+  words_.declare(variables);
   lookUp_.declare(variables);
   popup_.declare(variables);
   list_.declare(variables);

@@ -42,8 +42,10 @@ class Dictionary {
  private:
   void wirePopup();
   void pressPopupCharacter(int code);
-  /// Looks up the word that a click in the popup has met.
-  void lookUpInPopup();
+  /// The text behind the popup lets the word go that the popup showed.
+  void letWordGo();
+  /// Looks up the word of the popup that a click has met, at a point of the popup.
+  void lookUpInPopup(SurfacePoint at);
   /// The head word and the entry at hand as one text; the entry is taken.
   [[nodiscard]] std::string takeEntry();
 

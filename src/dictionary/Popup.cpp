@@ -30,12 +30,12 @@ std::string_view firstWords(const std::string& text, std::size_t count) {
 
 WrappedMessage wrapMessage(const std::string& message, double room,
                            const std::function<int(std::string_view)>& widthOf) {
-  const auto words = static_cast<int>(std::count(message.begin(), message.end(), ' ')) + 1;
+  const auto words = static_cast<std::size_t>(std::count(message.begin(), message.end(), ' ')) + 1;
   WrappedMessage wrapped{message, 1};
   // With more lines than words the first line is one word and gets no shorter.
-  while (widthOf(wrapped.firstLine) > room && wrapped.lines <= words) {
+  while (widthOf(wrapped.firstLine) > room && static_cast<std::size_t>(wrapped.lines) <= words) {
     ++wrapped.lines;
-    wrapped.firstLine = firstWords(message, static_cast<std::size_t>(words / wrapped.lines + 1));
+    wrapped.firstLine = firstWords(message, words / static_cast<std::size_t>(wrapped.lines) + 1);
   }
   return wrapped;
 }

@@ -54,7 +54,7 @@ std::string_view VietnameseSide::wordAt(int index) const {
   return place < Chu_.size() ? std::string_view(Chu_[place]) : std::string_view();
 }
 
-int VietnameseSide::find(const std::string& key) const {
+int VietnameseSide::find(const std::string& key) {
   int low = 1;
   int high = EntryCount;
   while (high - low > 1) {
@@ -65,8 +65,14 @@ int VietnameseSide::find(const std::string& key) const {
     const bool before = static_cast<std::size_t>(middle) >= Chu_.size() || key < word;
     (before ? high : low) = middle;
   }
+  return findBetween(low, high, key);
+}
+
+int VietnameseSide::findBetween(int low, int high, const std::string& key) {
   for (int index = low; index <= high; ++index) {
-    if (key == ChuanHoaTu(wordAt(index))) return index;
+    const std::string word = ChuanHoaTu(wordAt(index));
+    if (key <= word) lookUp_.ViTriGan = index;
+    if (key == word) return index;
   }
   return 0;
 }
@@ -158,6 +164,19 @@ void VietnameseSide::showOnCtrl(int keyCode, int shift, Surface& surface) {
 
 void VietnameseSide::closeWithoutCtrl(int shift, Surface& surface) {
   if (shift != shift::Ctrl) DongTuD(surface);
+}
+
+void VietnameseSide::declare(Variables& variables) const {
+  variables.add("TuD", [this] {
+    VariableValue::Table table;
+    for (int index = 0; index < TableSize; ++index) {
+      const auto place = static_cast<std::size_t>(index);
+      const int position = place < ViTriNghia_.size() ? ViTriNghia_[place] : 0;
+      table.push_back(
+          VariableValue::Record{{"Chu", std::string(wordAt(index))}, {"ViTriNghia", position}});
+    }
+    return VariableValue(std::move(table));
+  });
 }
 
 } // namespace talvora

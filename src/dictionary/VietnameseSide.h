@@ -2,6 +2,7 @@
 // word at the caret is looked up here and its entry stands in the hint bar.
 #pragma once
 
+#include "dictionary/LookUp.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
 #include "shell/Shell.h"
@@ -9,6 +10,7 @@
 #include "stores/Stores.h"
 #include "surface/Controls.h"
 #include "surface/State.h"
+#include "surface/Variables.h"
 
 #include <cstdint>
 #include <string>
@@ -22,12 +24,14 @@ class VietnameseSide {
   static constexpr int EntryCount = 12238;
 
   VietnameseSide(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
-                 Speech& speech)
-      : controls_(controls), state_(state), stores_(stores), shell_(shell), speech_(speech) {}
+                 Speech& speech, LookUp& lookUp)
+      : controls_(controls), state_(state), stores_(stores), shell_(shell), speech_(speech),
+        lookUp_(lookUp) {}
 
   /// Loads the list. Errors are ignored and the list is left as far as it came.
   void NapTuD(EventLoop& events);
-  /// Searches a word, in any case of letters, and fills `NghiaD`; "?" means that nothing was found.
+  /// Searches a word, in any case of letters, and fills `NghiaD`; "?" means that nothing was found,
+  /// and `ViTriGan` is then the line ahead of which the word would stand.
   void TimTuD(std::string_view key);
   /// Looks up the word at the caret of a surface and shows its entry.
   void HienTuD(Surface& surface);
@@ -39,10 +43,17 @@ class VietnameseSide {
   /// What a key release does on a surface: without Ctrl the entry goes.
   void closeWithoutCtrl(int shift, Surface& surface);
 
+  void declare(Variables& variables) const;
+
  private:
+  /// Elements of the table, from 0; a few at its end are never used.
+  static constexpr int TableSize = 12241;
+
   [[nodiscard]] std::string_view wordAt(int index) const;
   /// Index of the line that equals the key, or 0.
-  [[nodiscard]] int find(const std::string& key) const;
+  [[nodiscard]] int find(const std::string& key);
+  /// Looks at two neighbours, between which the key lies if it is no line of the list.
+  [[nodiscard]] int findBetween(int low, int high, const std::string& key);
   void readEntry(int index);
   void capitaliseI(const std::string& word);
   void writeEntry();
@@ -52,6 +63,7 @@ class VietnameseSide {
   const Stores& stores_;
   Shell& shell_;
   Speech& speech_;
+  LookUp& lookUp_;
   std::vector<std::string> Chu_{std::string()}; ///< the words, from 1
   std::vector<std::int32_t> ViTriNghia_{0};     ///< record of each entry's first byte in file 8
 };

@@ -30,6 +30,8 @@ void WordList::NapTuDien(const std::string& directory, const std::function<void(
   text_ = file_->text();
   findLines(path);
   findLetters(path, TienTrinhNap);
+  // A look-up reads a few lines of all that the load has gone through.
+  file_->letMemoryGo();
 }
 
 void WordList::NapViTriTu(const std::string& directory, const std::function<void()>& TienTrinhNap) {
@@ -109,6 +111,20 @@ void WordList::examineCarets() {
   while (risingTo_ < WordCount && ViTriDanhSach(risingTo_ + 1) >= ViTriDanhSach(risingTo_)) {
     ++risingTo_;
   }
+  positions_.letMemoryGo();
+}
+
+void WordList::declare(Variables& variables) const {
+  variables.addTable("ChiSoChu", &ChiSoChu);
+  variables.add("Tu", [this] {
+    VariableValue::Table words;
+    for (int i = 0; i <= MostLines; ++i) {
+      words.emplace_back(VariableValue::Record{{"Chu", std::string(Chu(i))},
+                                               {"ViTriNghia", ViTriNghia(i)},
+                                               {"ViTriDanhSach", ViTriDanhSach(i)}});
+    }
+    return VariableValue(std::move(words));
+  });
 }
 
 int WordList::lineAt(int caret) const {

@@ -4,6 +4,7 @@
 
 #include "platform/Files.h"
 #include "stores/Stores.h"
+#include "surface/Variables.h"
 
 #include <array>
 #include <cstddef>
@@ -46,6 +47,8 @@ class WordList {
   void examineCarets();
   /// The first word from 1 whose `ViTriDanhSach` lies behind a caret; `WordCount` if there is none.
   [[nodiscard]] int lineAt(int caret) const;
+
+  void declare(Variables& variables) const;
 
   /// Slot k holds the number of the line on which the section of letter k, from 0, begins; the last
   /// slot holds the number of lines plus 1.

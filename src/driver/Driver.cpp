@@ -11,6 +11,8 @@ namespace talvora {
 namespace {
 
 constexpr int DefaultFrames = 20;
+// Each picture is a log entry that the reply to come must hold.
+constexpr int MostFrames = 100'000;
 
 int shiftFields(const Command& command) {
   return (command.flag("ctrl", false) ? shift::Ctrl : shift::None) |
@@ -175,7 +177,7 @@ Json Driver::move(const Command& command) {
 Json Driver::hover(const Command& command) {
   Button& button = buttonField(command);
   const int frames = command.has("frames") ? command.number("frames") : DefaultFrames;
-  if (frames < 1) command.refuse("frames", "is below 1");
+  if (frames < 1 || frames > MostFrames) command.refuse("frames", "is out of range");
   learner_.hover(button, frames);
   return Json::object();
 }

@@ -17,7 +17,7 @@ constexpr int TwipsPerPixel = 15;
 // A program that answers its own clicks with clicks for ever fails.
 constexpr int MostSynthetic = 1000;
 // A loop that waits for the learner is given up after so much virtual time.
-constexpr std::int64_t PatienceMs = 30 * 60 * 1000;
+constexpr std::int64_t PatienceMs = std::int64_t{30} * 60 * 1000;
 
 int floorDivided(int value, int by) {
   return static_cast<int>(std::floor(static_cast<double>(value) / by));

@@ -55,9 +55,7 @@ void declare(CLI::App& app, Arguments& arguments) {
       ->check(CLI::IsMember({"fixed"}));
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   CLI::App app("Runs Talvora without a window. Reads one JSON command a line on standard input and "
                "writes one JSON reply a line on standard output.");
   Arguments arguments;
@@ -80,4 +78,15 @@ int main(int argc, char** argv) {
   while (std::getline(std::cin, line))
     std::cout << driver.answer(line) << std::endl;
   return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << "talvora-driver: " << error.what() << '\n';
+    return BadOptions;
+  }
 }

@@ -51,7 +51,7 @@ void BT_ChonABCD_::VeABCD(const std::string& stem) {
   colourOptions(stemEnd_);
   hideMarks(stemEnd_);
   item_.MatNa.replace(0, item_.DeMuc.size() + 2, item_.DeMuc.size() + 2, NoAnswer);
-  RABCD_.SelStart(0);
+  page_.goTo(0);
   LapOTrong(item_, services_.state.list.TenBaiHoc);
 }
 
@@ -115,7 +115,7 @@ void BT_ChonABCD_::TimPhuongAn(int p) {
 }
 
 void BT_ChonABCD_::ToPhuongAn(Colour colour) {
-  const KeepCaret keep(RABCD_);
+  const KeepPlace keep(RABCD_);
   RABCD_.SelStart(DauPhuongAn_ - 1);
   RABCD_.SelLength(CuoiPhuongAn_ - DauPhuongAn_);
   if (DungPhuongAn_) RABCD_.SelBold(true);

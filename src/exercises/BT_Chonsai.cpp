@@ -43,7 +43,7 @@ void BT_Chonsai::VeChonSai(const std::string& body) {
   item_.CauHienThi += "<Back>    <Next>";
   drawPhrases();
   const auto firstMark = item_.CauHienThi.find('_');
-  Rsai_.SelStart(firstMark == std::string::npos ? 0 : static_cast<int>(firstMark));
+  page_.goTo(firstMark == std::string::npos ? 0 : static_cast<int>(firstMark) + 1);
   LapOTrong(item_, services_.state.list.TenBaiHoc);
   DanhDauSai();
 }

@@ -29,10 +29,12 @@ std::string withCapitalPronouns(std::string text) {
   return text;
 }
 
-/// Whether an answer is what a key accepts: the key itself or one of the first two of its forms.
+/// Whether an answer is what a key accepts: the key itself, as it is written, or one of the first
+/// two of its forms.
 bool accepts(std::string_view key, std::string_view answer) {
+  if (key == answer) return true;
   const auto first = key.find('\\');
-  if (first == std::string_view::npos) return key == answer;
+  if (first == std::string_view::npos) return false;
   const auto second = key.find('\\', first + 1);
   const auto length = second == std::string_view::npos ? second : second - first - 1;
   return answer == trim(key.substr(0, first)) || answer == trim(key.substr(first + 1, length));
@@ -66,8 +68,7 @@ void BT_DienTu::VeDienTu(const std::string& body) {
   item_.CauHienThi += "<Back>    <Next>";
   drawCells();
   const auto firstCell = item_.CauHienThi.find('_');
-  RDT_.SelStart(firstCell == std::string::npos ? 0 : static_cast<int>(firstCell) + 1);
-  services_.state.word.ViTriCaret = RDT_.SelStart();
+  page_.goTo(firstCell == std::string::npos ? 0 : static_cast<int>(firstCell) + 1);
   LapOTrong(item_, services_.state.list.TenBaiHoc);
 }
 
@@ -118,8 +119,6 @@ void BT_DienTu::pressKey(int& keyCode, int shift) {
     keyCode = 0;
     return;
   }
-  const bool ctrlAlone = pressed == key::Ctrl && shift == shift::Ctrl;
-  if (!ctrlAlone && pressed != key::Esc) page_.closeExtras();
   page_.pressKey(keyCode, shift);
   if (pressed == key::Delete) keyCode = 0;
   if (pressed == key::Backspace) {
@@ -190,7 +189,7 @@ void BT_DienTu::ChamDienTu() {
   item_.OSai.clear();
   item_.ODaLam.clear();
   const std::string typed = RDT_.Text();
-  const KeepCaret keep(RDT_);
+  const KeepPlace keep(RDT_);
   std::string& mask = item_.MatNa;
   for (auto star = mask.find('*'); star != std::string::npos; star = mask.find('*', star)) {
     judgeBlank(static_cast<int>(star) + 1, typed);

@@ -59,9 +59,11 @@ class BlankTable {
     count_ = 0;
   }
 
+  /// The table as it is told to a driver, with an empty element 0.
   [[nodiscard]] VariableValue value() const {
     VariableValue::Table table;
-    for (const BlankEntry& entry : entries_) {
+    for (int number = 0; number <= static_cast<int>(entries_.size()); ++number) {
+      const BlankEntry entry = at(number);
       table.emplace_back(
           VariableValue::Record{{"Dau", entry.Dau}, {"Cuoi", entry.Cuoi}, {"Chu", entry.Chu}});
     }

@@ -39,10 +39,10 @@ ExplanationBox::ExplanationBox(Form& form, Controls& controls, SharedState& stat
 
 void ExplanationBox::wireEvents() {
   Surface& RHDBT = controls_.RHDBT;
+  RHDBT.KeyDown = [this](int&, int) { keyPressed(); };
   RHDBT.KeyPress = [this](int& KeyAscii) {
     const int pressed = std::exchange(KeyAscii, 0);
     DongGiai();
-    keyPressed();
     words_.openListOn(pressed);
   };
   RHDBT.KeyUp = [this, &RHDBT](int&, int Shift) {
@@ -291,11 +291,12 @@ void ExplanationBox::releaseMouse(MouseButton button, SurfacePoint at) {
 
 void ExplanationBox::declare(Variables& variables) const {
   variables.add("LienKet", [this] {
-    VariableValue::Table table;
-    for (const LessonLink& link : LienKet_) {
-      table.emplace_back(
-          VariableValue::Record{{"Dau", link.Dau}, {"Cuoi", link.Cuoi}, {"Bai", link.Bai}});
-    }
+    const auto record = [](const LessonLink& link) {
+      return VariableValue::Record{{"Dau", link.Dau}, {"Cuoi", link.Cuoi}, {"Bai", link.Bai}};
+    };
+    VariableValue::Table table{record({})};
+    for (const LessonLink& link : LienKet_)
+      table.emplace_back(record(link));
     return VariableValue(std::move(table));
   });
   variables.add("SoLienKet", [this] { return VariableValue(static_cast<int>(LienKet_.size())); });

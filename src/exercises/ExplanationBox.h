@@ -18,7 +18,8 @@
 
 namespace talvora {
 
-/// A link of the explanation on show. The first character of its text does not answer to a click.
+/// A link of the explanation on show. A caret ahead of its last character does not answer to a
+/// click.
 struct LessonLink {
   int Dau = 0;  ///< caret ahead of it
   int Cuoi = 0; ///< `Dau` + length - 1
@@ -37,6 +38,8 @@ class ExplanationBox {
   /// Shows an explanation; an empty text stands for the general one. A blank's own explanation is
   /// shown only after judging.
   void HienLoiGiai(const std::string& text, Surface& surface);
+  /// Fits the red plate behind the box, which grows a little.
+  void BongLoiGiai();
   /// Closes the box and stops speech.
   void DongGiai();
   /// The pointer moved on an item's surface: far from the click the box and the shown answer go.
@@ -63,7 +66,6 @@ class ExplanationBox {
   void addLink(const ExplanationText& explanation, ExplanationSpan span);
   void colour(ExplanationSpan span, Colour colour);
   void DoCaoLoiGiai();
-  void BongLoiGiai();
   void DoiLoiGiai();
   /// Number of lines up to the text's end, as the box breaks them.
   [[nodiscard]] int lineCount();

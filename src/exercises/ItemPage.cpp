@@ -32,9 +32,18 @@ void ItemPage::writeFoot() {
   services_.item.links = writeLinks(surface_, PageRed);
 }
 
+void ItemPage::goTo(int caret) {
+  // The way leads over the top, so that the page is scrolled no further than the caret asks for.
+  surface_.SelStart(0);
+  surface_.SelStart(caret);
+  services_.state.word.ViTriCaret = surface_.SelStart();
+}
+
 // -- Keys.
 
 void ItemPage::pressKey(int& keyCode, int shift) {
+  const bool ctrlAlone = keyCode == key::Ctrl && shift == shift::Ctrl;
+  if (!ctrlAlone && keyCode != key::Esc) closeExtras();
   services_.shell.hints.showOnF2(keyCode, surface_);
   pressCtrl(keyCode, shift);
   if (keyCode != key::Esc) return;

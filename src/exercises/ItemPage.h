@@ -45,15 +45,16 @@ class ItemPage {
   void begin();
   /// Writes the foot at the caret and remembers where its links are.
   void writeFoot();
+  /// Goes to a caret when the page is written; as much of the page's top as goes with it is seen.
+  void goTo(int caret);
   /// Position, from 1, of the character behind the caret.
   [[nodiscard]] int position() const { return surface_.SelStart() + 1; }
 
-  /// F2, Esc and Ctrl, which every item has. Esc is swallowed.
+  /// What every item does with a key: but for Esc and Ctrl alone it closes what stands over the
+  /// item; F2, Ctrl and Esc act. Esc is swallowed.
   void pressKey(int& keyCode, int shift);
   /// Closes what stands over the item; with nothing there the item is left.
   void pressEsc();
-  /// Hides the popup and the explanation and stops speech, as a key does.
-  void closeExtras();
   /// A letter opens the look-up list, to come back to a caret.
   void pressLetter(int keyAscii, int caretToComeBackTo);
   void releaseKey(int shift);
@@ -65,6 +66,8 @@ class ItemPage {
   void lookUp() { services_.words.lookUpAtCaret(surface_); }
 
  private:
+  /// Hides the popup and the explanation and stops speech.
+  void closeExtras();
   void pressCtrl(int keyCode, int shift);
   void moveMouse(SurfacePoint at);
 

@@ -1,5 +1,7 @@
 #include "exercises/ItemState.h"
 
+#include <utility>
+
 namespace talvora {
 
 void ItemState::XoaTrangThai() {
@@ -14,8 +16,11 @@ void ItemState::declare(Variables& variables) const {
   variables.add("GiaiChung", &GiaiChung);
   variables.add("MatNa", &MatNa);
   variables.add("CauHienThi", &CauHienThi);
-  variables.add("GoiY",
-                [this] { return VariableValue(VariableValue::Table(GoiY.begin(), GoiY.end())); });
+  variables.add("GoiY", [this] {
+    VariableValue::Table table{VariableValue(std::string())};
+    table.insert(table.end(), GoiY.begin(), GoiY.end());
+    return VariableValue(std::move(table));
+  });
   variables.add("SoGoiY", &SoGoiY);
   variables.add("OTrong", [this] { return OTrong.value(); });
   variables.add("SoOTrong", [this] { return VariableValue(OTrong.count()); });
@@ -28,6 +33,7 @@ void ItemState::declare(Variables& variables) const {
   variables.add("DapAnDung", &DapAnDung);
   variables.add("ChuCu", &ChuCu);
   variables.add("ViTriChuCu", &ViTriChuCu);
+  variables.add("MauCu", [this] { return VariableValue(static_cast<double>(MauCu.value_or(0))); });
   links.declare(variables);
 }
 

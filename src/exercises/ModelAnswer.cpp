@@ -7,7 +7,7 @@ namespace talvora {
 namespace {
 
 void unbold(Surface& surface, const ItemState& item) {
-  const KeepCaret keep(surface);
+  const KeepPlace keep(surface);
   surface.SelStart(item.ViTriChuCu);
   surface.SelLength(static_cast<int>(item.ChuCu.size()));
   surface.SelBold(false);
@@ -18,7 +18,7 @@ void unbold(Surface& surface, const ItemState& item) {
 void ModelAnswer::HienDapAn(int p, Colour colour, Surface& surface) {
   const BlankEntry entry = item_.ODaLam.at(item_.ODaLam.find(p));
   if (entry.Chu.empty()) return;
-  const KeepCaret keep(surface);
+  const KeepPlace keep(surface);
   surface.SelStart(entry.Dau - 1);
   surface.SelLength(static_cast<int>(entry.Chu.size()));
   item_.MauCu = surface.SelColor();
@@ -34,7 +34,7 @@ void ModelAnswer::KhoiPhucChu(Surface& surface) {
     if (controls_.RVP2.Visible() || item_.ChuCu.empty()) return;
     unbold(surface, item_);
   } else if (!item_.ChuCu.empty()) {
-    const KeepCaret keep(surface);
+    const KeepPlace keep(surface);
     surface.SelStart(item_.ViTriChuCu);
     surface.SelLength(static_cast<int>(item_.ChuCu.size()));
     surface.SelColor(item_.MauCu.value_or(PageRed));
@@ -45,7 +45,7 @@ void ModelAnswer::KhoiPhucChu(Surface& surface) {
 }
 
 void ModelAnswer::emphasise(Surface& surface, int caret, int length, Colour colour) {
-  const KeepCaret keep(surface);
+  const KeepPlace keep(surface);
   surface.SelStart(caret);
   surface.SelLength(length);
   item_.ChuCu = surface.SelText();

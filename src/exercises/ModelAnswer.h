@@ -7,17 +7,23 @@
 
 namespace talvora {
 
-/// Gives a surface back the caret that it had, when it goes out of scope.
-class KeepCaret {
+/// Gives a surface back the caret and the scrolling that it had, when it goes out of scope: what is
+/// written and coloured elsewhere does not move the page.
+class KeepPlace {
  public:
-  explicit KeepCaret(Surface& surface) : surface_(surface), caret_(surface.SelStart()) {}
-  KeepCaret(const KeepCaret&) = delete;
-  KeepCaret& operator=(const KeepCaret&) = delete;
-  ~KeepCaret() { surface_.SelStart(caret_); }
+  explicit KeepPlace(Surface& surface)
+      : surface_(surface), caret_(surface.SelStart()), scroll_(surface.scroll()) {}
+  KeepPlace(const KeepPlace&) = delete;
+  KeepPlace& operator=(const KeepPlace&) = delete;
+  ~KeepPlace() {
+    surface_.SelStart(caret_);
+    surface_.scroll(scroll_);
+  }
 
  private:
   Surface& surface_;
   int caret_;
+  ScrollPlace scroll_;
 };
 
 class ModelAnswer {

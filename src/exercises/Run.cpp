@@ -125,7 +125,7 @@ void Run::CauKeTiep() {
     return;
   }
   const int n = DanhSachCau_[static_cast<std::size_t>(ViTriCau_)];
-  item_.XoaTrangThai();
+  XoaTrangThai();
   DocCauHoi(n);
   DocLoiGiai(n);
   PhanTichCau();
@@ -143,6 +143,12 @@ void Run::hideItem() {
                                        &controls_.Rsai, &controls_.RDT, &controls_.Rxep}) {
     control->Visible(false);
   }
+}
+
+void Run::XoaTrangThai() {
+  item_.XoaTrangThai();
+  state_.text.CauHoi.clear();
+  state_.word.ChoGiai = false;
 }
 
 bool Run::step() {
@@ -192,7 +198,7 @@ void Run::ThoatBT(Surface& surface) {
     transitions.DongRan(surface, controls_.Frame1);
     controls_.Frame1.Visible(true);
   }
-  item_.XoaTrangThai();
+  XoaTrangThai();
   if (lessons_.BaiTuChon) {
     controls_.RVP1.SetFocus();
   } else {
@@ -276,9 +282,8 @@ Surface& Run::surfaceOfItem() {
 
 void Run::declare(Variables& variables) const {
   variables.add("DanhSachCau", [this] {
-    const auto first = DanhSachCau_.begin() + 1;
-    VariableValue::Table table(first, first + SoCauChay_);
-    return VariableValue(std::move(table));
+    const auto first = DanhSachCau_.begin();
+    return VariableValue(VariableValue::Table(first, first + SoCauChay_ + 1));
   });
   variables.add("SoCauChay", &SoCauChay_);
   variables.add("ViTriCau", &ViTriCau_);

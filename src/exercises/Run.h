@@ -54,6 +54,8 @@ class Run {
   void TronCau();
   void append(int item);
   void hideItem();
+  /// Makes room for a new item.
+  void XoaTrangThai();
   /// Moves `ViTriCau`; false when the run is over.
   bool step();
   void endRun();

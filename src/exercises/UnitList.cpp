@@ -91,6 +91,7 @@ void UnitList::writeList(int units, std::string_view word) {
   RN1.SelColor(BodyColour);
   RN1.SelBullet(true);
   RN1.SelIndent(BodyIndent);
+  RN1.SelProtected(state_.places.MucMenu == ListeningSection);
   RN1.SelText(text);
   RN1.SelStart(0);
 }

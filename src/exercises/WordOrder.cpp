@@ -14,18 +14,6 @@ constexpr CharClass Kept("[a-zA-Z ']");
 /// A sentence of one word repeated has no other order; trying ends here.
 constexpr int MostRounds = 100;
 
-std::vector<std::string> wordsOf(std::string_view sentence) {
-  std::vector<std::string> words(1);
-  for (const char character : sentence) {
-    if (character == ' ') {
-      words.emplace_back();
-    } else {
-      words.back() += character;
-    }
-  }
-  return words;
-}
-
 void swapAtRandom(std::vector<std::string>& words, Random& random) {
   const int m = static_cast<int>(words.size()) - 1;
   random.seedFromClock();
@@ -46,7 +34,7 @@ std::string lineOf(std::string_view text) {
 }
 
 std::string shuffledLine(std::string_view sentence, Random& random) {
-  std::vector<std::string> words = wordsOf(sentence);
+  std::vector<std::string> words = split(sentence, ' ');
   const auto startsAsBefore = [&] { return sentence.starts_with(words[0] + " " + words[1]); };
   for (int round = 0; words.size() > 1 && round < MostRounds; ++round) {
     swapAtRandom(words, random);

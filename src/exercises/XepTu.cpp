@@ -26,8 +26,8 @@ int blanksIn(std::string_view text) {
 } // namespace
 
 XepTu::XepTu(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
-             PageServices services, Random& random)
-    : controls_(controls), state_(state), shell_(shell), services_(services),
+             PageServices services, Random& random, BackNextLinks& sharedLinks)
+    : links(sharedLinks), controls_(controls), state_(state), shell_(shell), services_(services),
       words_(controls, state, shell, services), random_(random),
       text_(stores, state.text, state.word) {
   wireEvents();
@@ -55,14 +55,7 @@ void XepTu::VaoXepTu(std::string_view LoiGiai) {
   CurrentText& text = state_.text;
   text.CauHoi = "_" + text.CauHoi + "_end.";
   text_.TachCau("data.bt: a word ordering item");
-  text.DichCau.assign(1, std::string());
-  for (const char character : std::string(LoiGiai) + "_end.") {
-    if (character == '_') {
-      text.DichCau.emplace_back();
-    } else {
-      text.DichCau.back() += character;
-    }
-  }
+  text.DichCau = split(std::string(LoiGiai) + "_end.", '_');
   ChiSoCau = text.SoCauVanBan;
   VeXepTu(controls_.Rxep);
   ++sentencesOpened_;
@@ -140,12 +133,6 @@ std::string XepTu::sentenceText(int k) const {
   return std::string(trim(sentence));
 }
 
-std::string XepTu::translationOf(int k) const {
-  const auto& list = state_.text.DichCau;
-  const auto element = static_cast<std::size_t>(k - 1);
-  return element < list.size() ? std::string(trim(list[element])) : std::string();
-}
-
 void XepTu::findSentence() {
   for (int tries = 0; tries < MostTries; ++tries) {
     advance();
@@ -154,7 +141,7 @@ void XepTu::findSentence() {
     if (blanksIn(CauTiengAnh_) >= FewestBlanks) break;
   }
   SoTu_ = blanksIn(CauTiengAnh_) + 1;
-  CauTiengViet_ = translationOf(ChiSoCau);
+  CauTiengViet_ = trim(text_.translationOf(ChiSoCau));
 }
 
 // -- Drawing.
@@ -324,17 +311,20 @@ void XepTu::takeClick(const Surface& surface, SurfacePoint at) {
   CurrentWord& word = state_.word;
   word.ViTriChuot = at;
   word.ViTriCaret = surface.SelStart();
-  if (!controls_.RHD.Visible()) return;
-  words_.hidePopup();
+  if (controls_.RHD.Visible()) words_.hidePopup();
+}
+
+void XepTu::arm() {
   // A word that was only looked up must not stand in the way of the one to be moved.
-  word.TuHienTai.clear();
+  state_.word.TuHienTai.clear();
+  state_.word.ChoGiai = true;
+  shell_.steering.NhapTrai();
 }
 
 void XepTu::releaseMouse(MouseButton button, SurfacePoint at) {
   takeClick(controls_.Rxep, at);
   if (button == MouseButton::Right) {
-    state_.word.ChoGiai = true;
-    shell_.steering.NhapTrai();
+    arm();
   } else {
     releaseLeft();
   }
@@ -354,7 +344,7 @@ void XepTu::releaseLeft() {
   } else if (state_.word.ChoGiai) {
     releaseArmed(Rxep);
   } else if (p > DauDong) {
-    words_.lookUpAtCaret(Rxep);
+    words_.lookUpShownWord(Rxep);
   }
 }
 
@@ -368,7 +358,7 @@ void XepTu::releaseArmed(Surface& surface) {
     } else if (DaXong_) {
       VeXepTu(surface);
     } else if (surface.SelStart() + 1 > DauDong + BienDung_) {
-      shell_.wordPick.ChonTuBT(surface);
+      shell_.wordPick.takeShownWord(surface);
       DatTu(surface);
     }
   }

@@ -36,7 +36,7 @@ struct OrderingRunCalls {
 class XepTu {
  public:
   XepTu(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
-        PageServices services, Random& random);
+        PageServices services, Random& random, BackNextLinks& sharedLinks);
 
   // -- Opening.
 
@@ -66,6 +66,8 @@ class XepTu {
   void CauXepMoi(Surface& surface);
   /// What every release begins with: the click is stored and the popup goes.
   void takeClick(const Surface& surface, SurfacePoint at);
+  /// What a right click does: the left click that it sends moves a word.
+  void arm();
   /// What the left click does that follows a right click.
   void releaseArmed(Surface& surface);
   /// Colours the right beginning of the line.
@@ -83,7 +85,7 @@ class XepTu {
   int ChiSoCau = 0;     ///< number of the current sentence, from 1
   int BuocXep = 0;      ///< how often Back was pressed; 0 after Next and at opening
   int DauDong = 0;      ///< caret where the line begins
-  BackNextLinks links;  ///< the links at the page's foot
+  BackNextLinks& links; ///< the links at the page's foot, as all drills share them
 
  private:
   /// What the drill was opened from.
@@ -100,7 +102,6 @@ class XepTu {
   void advance();
   /// The characters of sentence k without its marks and line ends, trimmed.
   [[nodiscard]] std::string sentenceText(int k) const;
-  [[nodiscard]] std::string translationOf(int k) const;
   void writeTask(Surface& surface);
   void writeLine(Surface& surface);
   void writeFoot(Surface& surface, Foot foot);

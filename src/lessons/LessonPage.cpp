@@ -80,7 +80,7 @@ void LessonPage::DocViTriVP() {
 }
 
 void LessonPage::MoBaiVP(int n) {
-  if (n < 1 || n > static_cast<int>(CurrentList::LessonCount)) return;
+  if (n < 0 || n > static_cast<int>(CurrentList::LessonCount)) return;
   ViTriVan = ViTriVP[static_cast<std::size_t>(n)];
   std::string& CauHoi = state_.text.CauHoi;
   CauHoi = "_";

@@ -24,7 +24,8 @@ class LessonPage {
   void DocViTriVP();
   /// Opens the look-up list for a typed letter.
   void openListOn(int keyAscii) { words_.openListOn(keyAscii); }
-  /// Reads lesson n, from 1, and shows it; there is none outside 1 to 357.
+  /// Reads lesson n, from 1 to 357, and shows it; outside there is none. Before any line of the
+  /// list was chosen n is 0, which stands for the first.
   void MoBaiVP(int n);
 
   void declare(Variables& variables) const;

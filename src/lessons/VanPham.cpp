@@ -238,6 +238,7 @@ void VanPham::jumpToNextHeading() {
   const int last = list.ViTriNhom[static_cast<std::size_t>(list.SoNhom)];
   if (caret >= last - 1) {
     controls_.RVP1.SelStart(caret - 1);
+    state_.word.ViTriCaret = controls_.RVP1.SelStart();
     return;
   }
   const auto first = list.ViTriNhom.begin() + 1;
@@ -296,6 +297,7 @@ void VanPham::pressEsc() {
   } else if (ConBaiChon()) {
     BoChonBai();
   } else {
+    state_.word.ChoGiai = false;
     ExitRVP1();
   }
 }

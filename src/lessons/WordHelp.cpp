@@ -6,8 +6,17 @@
 namespace talvora {
 
 void WordHelp::lookUpAtCaret(Surface& surface) {
-  state_.word.ThongBaoHD.clear();
   shell_.wordPick.ChonTuBT(surface);
+  lookUp();
+}
+
+void WordHelp::lookUpShownWord(Surface& surface) {
+  shell_.wordPick.takeShownWord(surface);
+  lookUp();
+}
+
+void WordHelp::lookUp() {
+  state_.word.ThongBaoHD.clear();
   if (!ChuanHoaTu(state_.word.TuHienTai).empty()) services_.dictionary.TraTu();
 }
 

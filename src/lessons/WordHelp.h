@@ -16,6 +16,8 @@ class WordHelp {
 
   /// Selects the word at the caret of a surface, speaks it and shows its entry.
   void lookUpAtCaret(Surface& surface);
+  /// The same on a page that shows another text than the one that is open.
+  void lookUpShownWord(Surface& surface);
   /// What Ctrl alone does: shows the Vietnamese side of the word at the caret.
   void showOnCtrl(int keyCode, int shift, Surface& surface);
   /// What a key release does: without Ctrl the Vietnamese side goes.
@@ -32,6 +34,8 @@ class WordHelp {
   void stopSpeech() { services_.speech.DungDoc(); }
 
  private:
+  void lookUp();
+
   Controls& controls_;
   SharedState& state_;
   Shell& shell_;

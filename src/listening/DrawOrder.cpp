@@ -66,7 +66,9 @@ void DrawOrder::declare(Variables& variables) const {
   variables.add("BuocHien", &BuocHien);
   variables.add("BuocTruoc", &BuocTruoc);
   variables.add("CoLui", &CoLui);
-  variables.addTable("ThuTuRut", &ThuTuRut_);
+  variables.add("ThuTuRut", [this] {
+    return VariableValue(VariableValue::Table(ThuTuRut_.begin(), ThuTuRut_.end() - 1));
+  });
 }
 
 } // namespace talvora

@@ -38,7 +38,8 @@ class DrawOrder {
   [[nodiscard]] std::int16_t& at(int step) { return ThuTuRut_.at(static_cast<std::size_t>(step)); }
 
   Random& random_;
-  std::array<std::int16_t, MostItems + 2> ThuTuRut_{}; ///< element k: the item drawn at step k
+  /// Element k: the item drawn at step k; one element more than there are steps.
+  std::array<std::int16_t, MostItems + 2> ThuTuRut_{};
 };
 
 } // namespace talvora

@@ -17,8 +17,8 @@ Listening::Listening(Form& form, Controls& controls, SharedState& state, Stores&
                      Scoring& scoring, ItemState& item)
     : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
       services_(services), words_(controls, state, shell, services), units_(units),
-      scoring_(scoring), item_(item), items_(state.places),
-      page_(controls.RN2, controls.Rchon, state.measures, random), order_(random) {
+      scoring_(scoring), item_(item), items_(stores),
+      page_(controls.RN2, controls.Rchon, state.measures, random, item.links), order_(random) {
   wireEvents();
   wireList();
 }
@@ -114,7 +114,8 @@ void Listening::CauNgheTiep() {
 void Listening::DocCauNghe() {
   state_.places.waitkd = true;
   const ListeningTexts texts = items_.textsAt(ViTriDoc_);
-  if (!services_.voice.AmThanhThuc) state_.word.TuHienTai = texts.sentence;
+  heard_ = texts.sentence;
+  if (!services_.voice.AmThanhThuc) state_.word.TuHienTai = heard_;
   item_.KetQuaCau = 0;
   page_.paint(texts);
   shell_.transitions.MoRan(controls_.RN2, controls_.Frame2);
@@ -127,6 +128,8 @@ void Listening::NgheLai() {
   if (services_.voice.AmThanhThuc) {
     services_.voice.PhatCau(DoanHien_);
   } else {
+    // The pointer takes the word at hand away when it leaves.
+    if (state_.word.TuHienTai.empty()) state_.word.TuHienTai = heard_;
     services_.speech.DocTu();
   }
 }

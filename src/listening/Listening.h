@@ -17,6 +17,7 @@
 #include "surface/State.h"
 
 #include <cstdint>
+#include <string>
 
 namespace talvora {
 
@@ -71,6 +72,7 @@ class Listening {
   int GocUnit_ = 0;           ///< base of the unit in the items
   std::int32_t ViTriDoc_ = 0; ///< record where the current item's texts begin
   std::int16_t DoanHien_ = 0; ///< segment of the current item
+  std::string heard_;         ///< sentence of the current item, also once it is shown
   int listCaret_ = 0;         ///< caret of the list, to go back to
 };
 

@@ -5,7 +5,6 @@
 #include "text/Text.h"
 
 #include <string_view>
-#include <vector>
 
 namespace talvora {
 
@@ -15,27 +14,11 @@ constexpr std::string_view PositionsName = "\\dataN.vt";
 constexpr std::string_view StreamName = "\\dataN.av";
 constexpr char FieldEnd = '_';
 
-std::vector<std::string> split(std::string_view text, char separator) {
-  std::vector<std::string> fields(1);
-  for (const char character : text) {
-    if (character == separator) {
-      fields.emplace_back();
-    } else {
-      fields.back() += character;
-    }
-  }
-  return fields;
-}
-
-RecordFile openStore(const Places& places, std::string_view name) {
-  return RecordFile(MappedFile::open(pathBelow(places.ThuMuc, name)));
-}
-
 } // namespace
 
 void ListeningItems::LapBangNghe() {
-  const RecordFile positions = openStore(places_, PositionsName);
-  stream_ = openStore(places_, StreamName);
+  const RecordFile positions = stores_.open(PositionsName);
+  stream_ = stores_.open(StreamName);
   for (int i = 1; i <= Count; ++i) {
     CauNghe_[static_cast<std::size_t>(i)].ViTri = positions.integer(i);
     DocDauNghe(i);

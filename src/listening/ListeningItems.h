@@ -29,7 +29,7 @@ class ListeningItems {
  public:
   static constexpr int Count = 556;
 
-  explicit ListeningItems(const Places& places) : places_(places) {}
+  explicit ListeningItems(Stores& stores) : stores_(stores) {}
 
   /// Opens the store and reads where its items begin.
   /// Throws FatalFailure when a file is missing.
@@ -49,7 +49,7 @@ class ListeningItems {
   /// Reads the head line of item i and moves its record behind it.
   void DocDauNghe(int i);
 
-  const Places& places_;
+  Stores& stores_;
   RecordFile stream_;
   std::array<ListeningItem, Count + 1> CauNghe_{}; ///< from 1
 };

@@ -15,8 +15,10 @@ namespace talvora {
 
 class ListeningPage {
  public:
-  ListeningPage(Surface& RN2, const Surface& Rchon, const Measures& measures, Random& random)
-      : RN2_(RN2), Rchon_(Rchon), measures_(measures), random_(random) {}
+  /// The links of a page go into `sharedLinks`, which all drills share.
+  ListeningPage(Surface& RN2, const Surface& Rchon, const Measures& measures, Random& random,
+                BackNextLinks& sharedLinks)
+      : links(sharedLinks), RN2_(RN2), Rchon_(Rchon), measures_(measures), random_(random) {}
 
   /// Shuffles an item's options and paints the page anew on a copy of the template.
   void paint(const ListeningTexts& texts);
@@ -33,7 +35,7 @@ class ListeningPage {
   void declare(Variables& variables) const;
 
   std::string CauNghe1; ///< the sentence; empty once it is shown
-  BackNextLinks links;  ///< the links at the page's foot
+  BackNextLinks& links; ///< the links at the page's foot
 
  private:
   void shuffle(const std::string& right);

@@ -102,7 +102,7 @@ void NGHE_VIET::BoCucViet() {
   Rviet.Visible(true);
   Rviet.Height(3 * form_.TextHeight("AAAA") + form_.TextWidth(" "));
   Rviet.BackColor(state_.measures.MauNenHD);
-  Rviet.Width(W - W / 25);
+  Rviet.Width(Round(W - W / 25.0));
   Rviet.Top((H - Rviet.Height()) / 2);
   Rviet.Left((W - Rviet.Width()) / 2);
   KhungDo();
@@ -112,7 +112,7 @@ void NGHE_VIET::BoCucViet() {
   controls_.R2.Visible(false);
   Surface& RHDBT = controls_.RHDBT;
   RHDBT.Visible(true);
-  RHDBT.Height(Rviet.Top() - Rviet.Height() / 5);
+  RHDBT.Height(Round(Rviet.Top() - Rviet.Height() / 5.0));
   RHDBT.BackColor(Rviet.BackColor());
   RHDBT.Width(Rviet.Width());
   RHDBT.Top((Rviet.Top() - RHDBT.Height()) / 2);
@@ -181,8 +181,7 @@ void NGHE_VIET::QuaCauViet(int d) {
 
 void NGHE_VIET::takeSentence() {
   const CurrentText& text = state_.text;
-  const auto element = static_cast<std::size_t>(CauViet_ - 1);
-  state_.word.ThongBaoHD = element < text.DichCau.size() ? text.DichCau[element] : std::string();
+  state_.word.ThongBaoHD = text_.translationOf(CauViet_);
   state_.text.CauChon = CauViet_;
   int s = text_.markOf(CauViet_);
   int n = text_.markOf(CauViet_ + 1) - s - 1;
@@ -324,7 +323,7 @@ void NGHE_VIET::releaseMouse(MouseButton button, SurfacePoint at) {
     word.ViTriChuot = at;
     word.ViTriCaret = caret;
     word.NghiaHienTai.clear();
-    words_.lookUpAtCaret(Rviet);
+    words_.lookUpShownWord(Rviet);
     word.TuHienTai = CauMau_;
     word.ThongBaoHD = "XX";
   } else {

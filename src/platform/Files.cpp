@@ -72,7 +72,7 @@ std::optional<std::string> replaceFile(const std::string& path,
                                        std::span<const unsigned char> content) {
   const std::string beside = path + ".new";
   const auto problem = [&](const char* what) {
-    const std::string text = path + ": " + what + ": " + std::strerror(errno);
+    std::string text = path + ": " + what + ": " + std::strerror(errno);
     ::unlink(beside.c_str());
     return text;
   };
@@ -103,6 +103,10 @@ std::shared_ptr<const MappedFile> MappedFile::open(const std::string& path) {
     data = static_cast<const unsigned char*>(mapped);
   }
   return std::shared_ptr<const MappedFile>(new MappedFile(data, size));
+}
+
+void MappedFile::letMemoryGo() const noexcept {
+  if (data_ != nullptr) ::madvise(const_cast<unsigned char*>(data_), size_, MADV_DONTNEED);
 }
 
 MappedFile::~MappedFile() {

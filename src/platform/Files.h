@@ -35,6 +35,8 @@ class MappedFile {
   [[nodiscard]] std::string_view text() const noexcept {
     return {reinterpret_cast<const char*>(data_), size_};
   }
+  /// Gives the memory back that reading has taken up; what is read again comes from the file again.
+  void letMemoryGo() const noexcept;
 
  private:
   MappedFile(const unsigned char* data, std::size_t size) : data_(data), size_(size) {}

@@ -16,9 +16,6 @@ namespace talvora {
 namespace {
 
 constexpr std::string_view DesignCaption = "TALVORA 2.4";
-constexpr int VocabularyButton = 2;
-constexpr int SettingsButton = 8;
-constexpr int GuideButton = 9;
 
 SharedState startingIn(std::string directory) {
   SharedState state;
@@ -35,21 +32,13 @@ E::E(Platform& platform, std::string directory)
       voice_(state_.places, platform.wave, shell_.messages),
       speech_(state_, platform, shell_.steering, voice_),
       dictionary_(form_, controls_, state_, stores_, shell_, speech_),
-      vietnameseSide_(controls_, state_, stores_, shell_, speech_),
-      soundSettings_(controls_, state_, platform, stores_, shell_, speech_),
-      reading_(controls_, state_, stores_, shell_,
-               PageServices{dictionary_, vietnameseSide_, speech_, voice_}, platform.clock),
-      laterSections_(controls_, state_, shell_) {
+      vietnameseSide_(controls_, state_, stores_, shell_, speech_, dictionary_.lookUp()),
+      sections_(platform, form_, controls_, state_, stores_, shell_,
+                PageServices{dictionary_, vietnameseSide_, speech_, voice_}) {
   form_.Caption(std::string(DesignCaption));
   declareAll();
   registerProcedures();
   wireMenu();
-  wireGuide();
-  const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
-  reading_.focusButton = focusButton;
-  reading_.vocabulary().focusButton = [focusButton] { focusButton(VocabularyButton); };
-  soundSettings_.focusButton = focusButton;
-  laterSections_.focusButton = focusButton;
 }
 
 void E::declareAll() {
@@ -59,16 +48,16 @@ void E::declareAll() {
   voice_.declare(variables_);
   speech_.declare(variables_);
   dictionary_.declare(variables_);
-  soundSettings_.declare(variables_);
-  reading_.declare(variables_);
+  vietnameseSide_.declare(variables_);
+  sections_.declare(variables_);
 }
 
 void E::registerProcedures() {
-  procedures_.addOfNumber("GiaiMaByte", [](int byte) {
-    return VariableValue(static_cast<int>(GiaiMaByte(static_cast<unsigned char>(byte))));
+  procedures_.addOfByte("GiaiMaByte", [](unsigned char stored) {
+    return VariableValue(static_cast<int>(GiaiMaByte(stored)));
   });
-  procedures_.addOfNumber("MoRongByte", [](int byte) {
-    return VariableValue(std::string(MoRongByte(static_cast<unsigned char>(byte))));
+  procedures_.addOfByte("MoRongByte", [](unsigned char plain) {
+    return VariableValue(std::string(MoRongByte(plain)));
   });
   procedures_.addOfText("ChuanHoaTu",
                         [](const std::string& s) { return VariableValue(ChuanHoaTu(s)); });
@@ -80,6 +69,9 @@ void E::registerProcedures() {
                         [](const std::string& s) { return VariableValue(SoTrongTen(s)); });
   procedures_.addOfText("CoSoVaChu",
                         [](const std::string& s) { return VariableValue(CoSoVaChu(s)); });
+  procedures_.addOfText("TimBaiHoc", [this](const std::string& title) {
+    return VariableValue(sections_.TimBaiHoc(title));
+  });
   procedures_.addOfText("TonTaiFile",
                         [](const std::string& s) { return VariableValue(TonTaiFile(s)); });
   registerSearches();
@@ -89,7 +81,7 @@ void E::registerProcedures() {
 void E::registerSearches() {
   procedures_.addOfNumber("CauTaiViTri", [this](int v) {
     const std::string message = state_.word.ThongBaoHD;
-    const int sentence = reading_.text().CauTaiViTri(v);
+    const int sentence = sections_.text().CauTaiViTri(v);
     state_.word.ThongBaoHD = message;
     return VariableValue(sentence);
   });
@@ -100,7 +92,9 @@ void E::registerSearches() {
   });
   procedures_.addOfText("TimTuD", [this](const std::string& key) {
     const CurrentWord before = state_.word;
+    const int nearest = dictionary_.lookUp().ViTriGan;
     vietnameseSide_.TimTuD(key);
+    dictionary_.lookUp().ViTriGan = nearest;
     return VariableValue(std::exchange(state_.word, before).NghiaD);
   });
   procedures_.add("TimTu",
@@ -115,7 +109,7 @@ void E::registerSearches() {
 
 VariableValue E::search(const std::string& key, LayNghia layNghia) {
   const CurrentWord before = state_.word;
-  LookUp& lookUp = dictionary_.lookUp();
+  LookUp lookUp = dictionary_.lookUp();
   lookUp.TimTu(key, layNghia);
   const CurrentWord after = std::exchange(state_.word, before);
   return VariableValue::Record{{"TimThay", lookUp.TimThay},
@@ -148,6 +142,7 @@ void E::Main() {
   state_.places.DangBan = true;
   shell_.menu.XepNut();
   vietnameseSide_.NapTuD(platform_.events);
+  sections_.loadExerciseCounts();
   form_.Refresh();
   loadEnglishSide();
   shell_.steering.XepChuot();
@@ -176,76 +171,12 @@ void E::wireMenu() {
     Button& button = controls_.but(number);
     button.GotFocus = [this, number] { shell_.hover.buttonGotFocus(number); };
     button.MouseMove = [this, &button] { shell_.hover.NutSang(button); };
-    button.Click = [this, number] { clickButton(number); };
+    button.Click = [this, number] { sections_.open(number); };
     button.KeyPress = [this, number](int& KeyAscii) {
       if (number <= 3) state_.word.DaChonRTD = false;
       if (KeyAscii == key::Esc) HoiThoat();
     };
   }
-}
-
-void E::clickButton(int number) {
-  constexpr int WritingButton = 6;
-  if (number == WritingButton) {
-    // The closed section answers also while the program is busy; that is meant.
-    shell_.messages.ThongBao("PhÌn này ðang xây dÜng."_bytes, 1000);
-    return;
-  }
-  if (state_.places.DangBan) return;
-  switch (number) {
-  case 1:
-  case 5:
-    openReading(number, file::TextPositions);
-    break;
-  case 7:
-    openReading(number, file::SpeakingPositions);
-    break;
-  case VocabularyButton:
-    state_.places.MucMenu = VocabularyButton;
-    reading_.vocabulary().open();
-    break;
-  case SettingsButton:
-    soundSettings_.open();
-    break;
-  case GuideButton:
-    openGuide();
-    break;
-  default:
-    laterSections_.open(number);
-    break;
-  }
-}
-
-void E::openReading(int section, int store) {
-  state_.places.MucMenu = section;
-  stores_.ChonKho(store);
-  reading_.BatdauBut();
-}
-
-void E::openGuide() {
-  Surface& Rcachhoc = controls_.Rcachhoc;
-  Rcachhoc.FontSize(state_.measures.CoChu);
-  Rcachhoc.TabIndex(Controls::ButtonCount + 1);
-  Rcachhoc.Locked(false);
-  Rcachhoc.FileName(pathBelow(state_.places.ThuMuc, "\\readme.rtf"));
-  shell_.transitions.MoRan(Rcachhoc, controls_.Frame1);
-  shell_.curtain.KeoMan(Rcachhoc);
-}
-
-void E::wireGuide() {
-  Surface& Rcachhoc = controls_.Rcachhoc;
-  Rcachhoc.KeyDown = [&Rcachhoc, this](int& KeyCode, int) {
-    shell_.hints.showOnF2(KeyCode, Rcachhoc);
-    // The guide is not locked, but nothing in it is the learner's to delete.
-    if (KeyCode == key::Delete) KeyCode = 0;
-  };
-  Rcachhoc.KeyPress = [&Rcachhoc, this](int& KeyAscii) {
-    const int pressed = std::exchange(KeyAscii, 0);
-    if (pressed != key::Esc) return;
-    shell_.transitions.DongRan(Rcachhoc, controls_.Frame1);
-    controls_.but(GuideButton).SetFocus();
-  };
-  Rcachhoc.KeyUp = [this](int&, int) { shell_.gestures.keyReleased(); };
 }
 
 // -- The end.

@@ -1,17 +1,15 @@
-// The form and its handlers: owns every module, wires them, starts the program up, sends the menu's
-// clicks to the sections, and ends it.
+// The form and its handlers: owns the shell, the dictionary and the sections, starts the program
+// up, sends the menu's clicks to the sections, and ends it.
 #pragma once
 
 #include "dictionary/Dictionary.h"
 #include "dictionary/VietnameseSide.h"
 #include "platform/Platform.h"
-#include "program/LaterSections.h"
 #include "program/Procedures.h"
 #include "program/Program.h"
-#include "reading/Reading.h"
+#include "program/Sections.h"
 #include "shell/Shell.h"
 #include "sound/AmthanhThuc.h"
-#include "sound/Amthanhcaidat.h"
 #include "sound/Speech.h"
 #include "stores/Stores.h"
 #include "surface/Controls.h"
@@ -54,11 +52,6 @@ class E {
   void registerSearches();
   VariableValue search(const std::string& key, LayNghia layNghia);
   void wireMenu();
-  void clickButton(int number);
-  /// Opens a section that begins with a title list.
-  void openReading(int section, int store);
-  void openGuide();
-  void wireGuide();
   void loadEnglishSide();
   /// Whether a section is open.
   [[nodiscard]] bool frameVisible() const;
@@ -75,9 +68,7 @@ class E {
   Speech speech_;
   Dictionary dictionary_;
   VietnameseSide vietnameseSide_;
-  Amthanhcaidat soundSettings_;
-  Reading reading_;
-  LaterSections laterSections_;
+  Sections sections_;
   Variables variables_;
   Procedures procedures_;
   Ending ending_ = Ending::None;

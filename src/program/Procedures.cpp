@@ -41,6 +41,16 @@ void Procedures::addOfNumber(std::string name, std::function<VariableValue(int)>
       });
 }
 
+void Procedures::addOfByte(std::string name, std::function<VariableValue(unsigned char)> call) {
+  add(std::move(name),
+      [call = std::move(call)](const Arguments& arguments) -> std::optional<VariableValue> {
+        const auto number = numberArgument(arguments, 0);
+        const bool isByte = number && *number >= 0 && *number <= 0xFF;
+        if (!isByte || arguments.size() != 1) return std::nullopt;
+        return call(static_cast<unsigned char>(*number));
+      });
+}
+
 const Procedures::Procedure* Procedures::find(const std::string& name) const {
   const auto found = calls_.find(name);
   return found == calls_.end() ? nullptr : &found->second;

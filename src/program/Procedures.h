@@ -19,6 +19,8 @@ class Procedures {
 
   /// Registers a procedure of one text.
   void addOfText(std::string name, std::function<VariableValue(const std::string&)> call);
+  /// Registers a procedure of one byte; a number outside 0 to 255 does not fit it.
+  void addOfByte(std::string name, std::function<VariableValue(unsigned char)> call);
   /// Registers a procedure of one whole number.
   void addOfNumber(std::string name, std::function<VariableValue(int)> call);
   void add(std::string name, Procedure call) { calls_[std::move(name)] = std::move(call); }

@@ -67,9 +67,13 @@ void ReadAloud::readOne(Progress& progress) {
 }
 
 void ReadAloud::scrollOn(Progress& progress) {
+  // The jumps take the sentence out of the selection; a sentence that is repeated is not marked
+  // again and must still be there to be spoken.
+  const std::string sentence = state_.word.TuHienTai;
   R2_.SelStart(0);
   R2_.SelStart(R2_.TextLength() - 3);
   R2_.SelStart(progress.caret);
+  state_.word.TuHienTai = sentence;
   progress.pageEnd = pageEndFrom(progress.sentence);
 }
 

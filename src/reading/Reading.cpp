@@ -140,11 +140,13 @@ void Reading::GoiR2() {
   state_.word.NghiaHienTai.clear();
   state_.word.ViTriCaret = 0;
   const int number = state_.list.SoBaiChon;
-  if (state_.places.MucMenu == AnalysisSection && number < FirstAnalysedText) return;
+  const bool analysed = state_.places.MucMenu == AnalysisSection;
+  if (analysed && number < FirstAnalysedText) return;
   page_.LaBaiHuongDan = stores_.FileChiSo == file::TextPositions && number == GuideText;
   openVoice();
   text_.DocBai(number);
   page_.showText();
+  if (analysed) NapPhanTich(number - FirstAnalysedText + 1);
   text_.DocDich(number);
   shell_.transitions.MoRan(controls_.R2, controls_.Frame2);
   state_.word.TuHienTai.clear();
@@ -154,6 +156,8 @@ void Reading::GoiR2() {
 }
 
 void Reading::openVoice() {
+  // A recording that another section has left open belongs to no text from here on.
+  services_.voice.AmThanhThuc = false;
   if (stores_.FileChiSo != file::TextPositions || state_.list.SoBaiChon < FirstScript) return;
   services_.voice.MoAm(1 + state_.list.SoBaiChon - FirstScript);
 }

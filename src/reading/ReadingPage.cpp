@@ -31,7 +31,7 @@ void ReadingPage::wireEvents() {
   R2.KeyDown = [this](int& KeyCode, int Shift) { pressKey(KeyCode, Shift); };
   R2.KeyPress = [this](int& KeyAscii) { pressCharacter(KeyAscii); };
   R2.KeyUp = [this](int& KeyCode, int Shift) { releaseKey(KeyCode, Shift); };
-  R2.MouseMove = [this, &R2](int, SurfacePoint at) { shell_.gestures.followPointer(R2, at); };
+  R2.MouseMove = [this](int, SurfacePoint at) { moveMouse(at); };
   R2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   R2.DblClick = [this] {
     shell_.upward.DongNghia();
@@ -71,6 +71,7 @@ void ReadingPage::showText() {
 void ReadingPage::pressKey(int& keyCode, int shift) {
   Surface& R2 = controls_.R2;
   const bool busy = aloud_.DangDocCa;
+  endExplanation(keyCode);
   shell_.hints.showOnF2(keyCode, R2);
   services_.vietnameseSide.showOnCtrl(keyCode, shift, R2);
   if (keyCode == key::Esc) pressEsc();
@@ -116,7 +117,7 @@ void ReadingPage::releaseKey(int keyCode, int shift) {
     services_.vietnameseSide.DongTuD(R2);
     // Closing gives the caret back; where a key has just put it, there it stays.
     if (R2.SelLength() == 0) state_.word.ViTriCaret = R2.SelStart();
-    if (R2.Visible() && !state_.word.DaChonRTD) shell_.upward.DongNghia();
+    if (R2.Visible()) shell_.upward.DongNghia();
   }
   if (keyCode == key::F6 && GoiRxep) GoiRxep();
   if (keyCode == key::F9 && !LaBaiHuongDan) readAloud();
@@ -149,8 +150,15 @@ void ReadingPage::readAloud() {
 
 // -- Mouse.
 
+void ReadingPage::moveMouse(SurfacePoint at) {
+  shell_.gestures.pointerMoved(controls_.R2, at);
+  RoiChuotBT(at);
+  shell_.gestures.RoiChuot(controls_.R2, at);
+}
+
 void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
   CurrentWord& word = state_.word;
+  leaveExplanation();
   if (button == MouseButton::Left) {
     word.ViTriChuot = at;
     word.ViTriCaret = controls_.R2.SelStart();
@@ -161,6 +169,8 @@ void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
     }
     takeWordOrSentence();
   } else if (state_.places.MucMenu == AnalysisSection) {
+    // A word's entry must not stay over the explanation.
+    if (controls_.RHD.Visible()) shell_.upward.DongNghia();
     word.ChoGiai = true;
     shell_.steering.NhapTrai();
   } else if (!LaBaiHuongDan) {
@@ -175,6 +185,8 @@ void ReadingPage::takeWordOrSentence() {
     word.CoDupChuot = false;
   } else {
     word.ThongBaoHD.clear();
+    // The translation of a sentence may still be there, when the pointer has not moved since.
+    word.NghiaHienTai.clear();
     shell_.wordPick.ChonTu(controls_.R2);
   }
   lookUp();

@@ -44,12 +44,19 @@ class ReadingPage {
   std::function<void()> GoiRxep;
   /// Explains the word under a right click in an analysed text; set by the program.
   std::function<void()> GiaiPhanTich;
+  /// Ends the explanation of a word when the text is clicked again; set by the program.
+  std::function<void()> leaveExplanation = [] {};
+  /// Ends the explanation of a word when a key is pressed; set by the program.
+  std::function<void(int keyCode)> endExplanation = [](int) {};
+  /// Tells the explanation of a word where the pointer is; set by the program.
+  std::function<void(SurfacePoint at)> RoiChuotBT = [](SurfacePoint) {};
 
   bool LaBaiHuongDan = false; ///< the text is the program's guide, with its special clicks
   int ViTriTieuDe = 0;        ///< length of the title line plus 2, where the body starts
 
  private:
   void wireEvents();
+  void moveMouse(SurfacePoint at);
   void pressKey(int& keyCode, int shift);
   void pressEsc();
   void releaseKey(int keyCode, int shift);

@@ -110,9 +110,14 @@ int ReadingText::CauTaiViTri(int v) {
       break;
     }
   }
-  const auto element = static_cast<std::size_t>(sentence - 1);
-  word_.ThongBaoHD = element < text_.DichCau.size() ? text_.DichCau[element] : std::string();
+  word_.ThongBaoHD = translationOf(sentence);
   return sentence;
+}
+
+std::string_view ReadingText::translationOf(int k) const noexcept {
+  const auto element = static_cast<std::size_t>(k - 1);
+  return element < text_.DichCau.size() ? std::string_view(text_.DichCau[element])
+                                        : std::string_view();
 }
 
 } // namespace talvora

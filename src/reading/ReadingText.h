@@ -6,6 +6,7 @@
 #include "surface/State.h"
 
 #include <string>
+#include <string_view>
 
 namespace talvora {
 
@@ -30,6 +31,8 @@ class ReadingText {
   void TachCau(const std::string& where);
   /// Position, from 1, of the mark that opens sentence k; 0 outside the table.
   [[nodiscard]] int markOf(int k) const noexcept;
+  /// The translation of sentence k; empty when there is none.
+  [[nodiscard]] std::string_view translationOf(int k) const noexcept;
 
  private:
   void LamSachVanBan();

@@ -39,7 +39,8 @@ TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, S
 // -- The list in memory and on disk.
 
 void TuVungChon::NapTuVung() {
-  TuVung_ = file_.read();
+  // What could not be written stays here until it can.
+  if (!DaDoiTuVung_) TuVung_ = file_.read();
 }
 
 void TuVungChon::LuuTuVung() {
@@ -54,22 +55,22 @@ void TuVungChon::store() {
 
 bool TuVungChon::CoTuVung() {
   const std::string wanted = lower(state_.word.TuHienTai);
-  const auto found = std::find_if(TuVung_.begin(), TuVung_.end(), [&](const VocabularyWord& each) {
-    return lower(trim(each.Tu)) == wanted;
-  });
-  if (found == TuVung_.end()) return false;
-  TuVungDangXem_ = *found;
-  return true;
+  for (VocabularyWord& each : TuVung_) {
+    const std::string word(trim(each.Tu));
+    each.Tu = paddedWord(word);
+    if (lower(word) != wanted) continue;
+    TuVungDangXem_ = each;
+    return true;
+  }
+  return false;
 }
 
 void TuVungChon::ThemTuVung() {
   const std::string& word = state_.word.TuHienTai;
   if (word.empty() || word.size() > VocabularyWord::LongestWord || CoTuVung()) return;
   DaDoiTuVung_ = true;
-  // Looking for the sentence must not turn the word at hand into a sentence.
-  const std::string message = state_.word.ThongBaoHD;
+  // The sentence's translation becomes the message at hand; that is meant.
   const int k = text_.CauTaiViTri(state_.word.ViTriCaret + 1);
-  state_.word.ThongBaoHD = message;
   const std::int32_t place = state_.text.ViTriCauTrongFile.at(static_cast<std::size_t>(k - 1));
   const bool speaking = stores_.FileChiSo == file::SpeakingPositions;
   TuVung_.push_back(
@@ -145,7 +146,11 @@ int TuVungChon::rowOf(int caret) const {
 void TuVungChon::ChonDongChon() {
   Surface& Rchon = controls_.Rchon;
   const int row = rowOf(Rchon.SelStart());
-  if (row > SoTuVung()) return;
+  if (row > SoTuVung()) {
+    state_.word.TuHienTai.clear();
+    TuVungDangXem_ = {};
+    return;
+  }
   TuVungDangXem_ = TuVung_[static_cast<std::size_t>(row - 1)];
   const std::string word(trim(TuVungDangXem_.Tu));
   const std::string& list = state_.text.CauHoi;
@@ -172,11 +177,12 @@ void TuVungChon::TraTuVung() {
 }
 
 void TuVungChon::XemCau() {
-  ChonDongChon();
-  services_.dictionary.popup().XemCauTuVung = true;
-  DocCauTuVung();
-  services_.dictionary.TraTu();
   state_.word.CoDupChuot = false;
+  ChonDongChon();
+  DocCauTuVung();
+  // Without a sentence nothing comes up, and the next popup is a word's again.
+  services_.dictionary.popup().XemCauTuVung = !ChuoiCau_.empty();
+  services_.dictionary.TraTu();
 }
 
 void TuVungChon::DocCauTuVung() {
@@ -185,7 +191,8 @@ void TuVungChon::DocCauTuVung() {
   ChuoiCau_.clear();
   PieceReader reader(stores_.fileOf(stream), std::abs(static_cast<std::int64_t>(place)));
   while (const auto piece = reader.next()) {
-    if (*piece == "`" || *piece == "@" || *piece == "\r" || *piece == "_") break;
+    // One byte can hold two marks.
+    if (piece->front() == '_' || *piece == "`" || *piece == "@" || *piece == "\r") break;
     if (*piece == "\t") continue;
     ChuoiCau_ += *piece == "|" ? " " : *piece;
   }
@@ -258,7 +265,7 @@ void TuVungChon::wireEvents() {
   Rchon.KeyPress = [this](int& KeyAscii) {
     const int pressed = std::exchange(KeyAscii, 0);
     if (pressed == key::Esc) {
-      if (!shell_.gestures.DongPhu(controls_.Rchon)) ExitRChon();
+      if (!controls_.RAmthanh.Visible()) ExitRChon();
     } else if (Letters.has(chr(pressed))) {
       services_.dictionary.MoDanhSachTu(chr(pressed));
     }
@@ -287,6 +294,7 @@ void TuVungChon::releaseMouse(MouseButton button, SurfacePoint at) {
   } else {
     TraTuVung();
   }
+  shell_.gestures.pointerMoved(controls_.Rchon, at);
 }
 
 void TuVungChon::declare(Variables& variables) const {

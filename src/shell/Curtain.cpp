@@ -73,7 +73,7 @@ void Curtain::open(int firstStep) {
   for (int i = 1; i <= 16; ++i) {
     if (!part(i * 5 * firstStep)) break;
   }
-  const int step = controls_.FC1.Width() / 30;
+  const int step = Round(controls_.FC1.Width() / 30.0);
   for (int round = 0; round < rounds; ++round) {
     // A step of nothing moves nothing, however often.
     if (step <= 0 || !part(step)) break;

@@ -5,7 +5,8 @@
 
 namespace talvora {
 
-FocusReturn::FocusReturn(Controls& c, const CurrentWord& word) {
+FocusReturn::FocusReturn(const Form& form, Controls& c, const CurrentWord& word)
+    : form_(form), selectablePages_{&c.RN2, &c.R2} {
   const auto always = [] { return true; };
   const auto row = [&](Surface& surface, std::function<bool()> holds) {
     rows_.push_back({&surface, std::move(holds),
@@ -43,7 +44,17 @@ void FocusReturn::TraLaiBeMat() {
   const auto row = std::find_if(rows_.begin(), rows_.end(), [](const Row& each) {
     return each.surface->Visible() && each.holds();
   });
-  if (row != rows_.end()) row->action();
+  if (row != rows_.end()) {
+    row->action();
+  } else if (form_.ActiveControl() == nullptr) {
+    focusSelectedPage();
+  }
+}
+
+void FocusReturn::focusSelectedPage() {
+  const auto page = std::find_if(selectablePages_.begin(), selectablePages_.end(),
+                                 [](const Surface* each) { return each->Visible(); });
+  if (page != selectablePages_.end()) (*page)->SetFocus();
 }
 
 void FocusReturn::onReturnTo(const Surface& surface, std::function<void()> action) {

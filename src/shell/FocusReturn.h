@@ -3,6 +3,7 @@
 #pragma once
 
 #include "surface/Controls.h"
+#include "surface/Form.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -12,9 +13,10 @@ namespace talvora {
 
 class FocusReturn {
  public:
-  FocusReturn(Controls& controls, const CurrentWord& word);
+  FocusReturn(const Form& form, Controls& controls, const CurrentWord& word);
 
-  /// The first visible surface of the chain whose condition holds gets its caret and the focus.
+  /// The first visible surface of the chain whose condition holds gets its caret and the focus. A
+  /// page whose selection stands gets no caret, and the focus only when nothing else has it.
   void TraLaiBeMat();
 
   /// What a surface of the chain does instead of taking the shared caret.
@@ -28,7 +30,11 @@ class FocusReturn {
   };
 
   void takeCaret(Surface& surface, int caret);
+  void focusSelectedPage();
 
+  const Form& form_;
+  /// The pages that get no caret while they have a selection.
+  std::vector<Surface*> selectablePages_;
   std::vector<Row> rows_;
 };
 

@@ -10,6 +10,10 @@ Gestures::Gestures(Controls& c, const Measures& measures, CurrentWord& word, Hin
                    const UpwardCalls& upward, Clipboard& clipboard)
     : controls_(c), measures_(measures), word_(word), hints_(hints), upward_(upward),
       clipboard_(clipboard) {
+  for (const Surface* surface : {&c.R1, &c.R2, &c.RVP1, &c.RVP2, &c.Rchon, &c.RN2, &c.RHD, &c.RTD,
+                                 &c.RDT, &c.RABCD, &c.Rviet, &c.RW2, &c.Rxep}) {
+    TrangThaiChuot_[surface->Name()] = PointerState::NotMovedOver;
+  }
   const auto nothing = [](Surface&) {};
   for (const Surface* surface :
        {&c.RW2, &c.Rxep, &c.RDOS, &c.RTD, &c.RVP2, &c.RHDBT, &c.RHD, &c.Rsai, &c.RABCD, &c.RDT}) {
@@ -20,7 +24,7 @@ Gestures::Gestures(Controls& c, const Measures& measures, CurrentWord& word, Hin
 }
 
 Gestures::PointerState& Gestures::stateOf(const Surface& surface) {
-  const bool shared = &surface == &controls_.RDT || &surface == &controls_.Rsai;
+  const bool shared = &surface == &controls_.Rsai;
   return TrangThaiChuot_[shared ? controls_.RDT.Name() : surface.Name()];
 }
 
@@ -91,6 +95,8 @@ void Gestures::declare(Variables& variables) const {
     for (const auto& [name, state] : TrangThaiChuot_) {
       states.emplace_back(name, VariableValue(static_cast<int>(state)));
     }
+    const PointerState shared = TrangThaiChuot_.at(controls_.RDT.Name());
+    states.emplace_back(controls_.Rsai.Name(), VariableValue(static_cast<int>(shared)));
     return VariableValue(std::move(states));
   });
 }

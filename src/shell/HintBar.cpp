@@ -43,6 +43,7 @@ void HintBar::DatRDOS() {
   L1.Top(RDOS.Top());
   L1.Left(RDOS.Left());
   L1.Width(RDOS.Width());
+  L1.Height(RDOS.Height());
   L1.ForeColor(0);
   L1.Font({"x1", RDOS.Font().size, false});
   L1.BackColor(RDOS.BackColor());

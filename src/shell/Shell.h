@@ -28,13 +28,14 @@ struct Shell {
         messages(form, controls, state.measures, upward, platform.clock, platform.boxes,
                  platform.narrator),
         gestures(controls, state.measures, state.word, hints, upward, platform.clipboard),
-        focusReturn(controls, state.word), wordPick(state.text, state.word) {}
+        focusReturn(form, controls, state.word), wordPick(state.text, state.word) {}
 
   void declare(Variables& variables) const {
     steering.declare(variables);
     menu.declare(variables);
     hover.declare(variables);
     hints.declare(variables);
+    transitions.declare(variables);
     gestures.declare(variables);
   }
 

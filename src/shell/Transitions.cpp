@@ -121,6 +121,10 @@ void Transitions::DongRan(Surface& surface, Frame& frame) {
   form_.Refresh();
 }
 
+void Transitions::declare(Variables& variables) const {
+  variables.add("TreTruot", [this] { return VariableValue(TreTruot()); });
+}
+
 void Transitions::slideOut(Surface& surface) {
   const int step = closingStep();
   const int W = measures_.RongMH;

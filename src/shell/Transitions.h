@@ -21,6 +21,8 @@ class Transitions {
   /// Takes a surface and its frame off the screen.
   void DongRan(Surface& surface, Frame& frame);
 
+  void declare(Variables& variables) const;
+
  private:
   /// The mode in which a surface stands at its place at once.
   [[nodiscard]] bool standsAtOnce() const noexcept { return measures_.KieuTruot == 5; }

@@ -90,6 +90,12 @@ void WordPick::ChonTuBT(Surface& surface) {
   word_.TuHienTai = lettersOf(surface.SelText());
 }
 
+void WordPick::takeShownWord(Surface& surface) {
+  surface.Span(LeftBoundsBT, SpanDirection::Backward, SpanUntil::InSet);
+  surface.Span(RightBoundsBT, SpanDirection::Forward, SpanUntil::InSet);
+  word_.TuHienTai = lettersOf(surface.SelText());
+}
+
 std::string WordPick::lettersOf(std::string_view text) {
   std::string kept;
   for (const char character : text) {
@@ -107,11 +113,12 @@ void WordPick::LayCumTu(Surface& surface) {
   const std::string selected = lower(surface.SelText());
   const auto blank = selected.find(' ');
   if (blank == std::string::npos) return;
-  word_.TuHienTai = selected.substr(0, blank);
   const int from = surface.SelStart() + static_cast<int>(blank) + 1;
   const int length = surface.SelLength() - static_cast<int>(blank) - 1;
   surface.SelStart(from);
   surface.SelLength(length);
+  // Last, since a surface may clear the word at hand when its selection ends.
+  word_.TuHienTai = selected.substr(0, blank);
 }
 
 } // namespace talvora

@@ -19,6 +19,8 @@ class WordPick {
   /// end of `CauHoi`, the word reaches only to the right; that the surface may show another text
   /// does not matter there.
   void ChonTuBT(Surface& surface);
+  /// The word pick of a page that shows another text than `CauHoi`: by what stands on it alone.
+  void takeShownWord(Surface& surface);
   /// Takes the letters of the selection into `TuHienTai`; with no selection that stays.
   void LayTuChon(const Surface& surface);
   /// The letters, digits, blanks, commas, apostrophes and hyphens of a text, trimmed.

@@ -55,18 +55,23 @@ bool RecordFile::holdsByte(std::int64_t record) const noexcept {
 
 std::optional<std::string_view> PieceReader::next() {
   if (!stream_->holdsByte(next_)) return std::nullopt;
-  return MoRongByte(GiaiMaByte(stream_->byte(next_++)));
+  const std::string_view piece = MoRongByte(GiaiMaByte(stream_->byte(next_++)));
+  stream_->notePiece(piece);
+  return piece;
 }
 
 void Stores::MoDuLieu() {
   closeAll();
   for (const StoreFile& each : readOnlyFiles) {
-    files_[static_cast<std::size_t>(each.number)] =
-        RecordFile(MappedFile::open(pathBelow(places_.ThuMuc, each.name)));
+    files_[static_cast<std::size_t>(each.number)] = open(each.name);
   }
   settings_ = std::make_unique<ReadWriteFile>(pathBelow(places_.ThuMuc, "\\data.Kcu"));
   // The word list is written whole, so that it is only made sure that it is there.
   const ReadWriteFile created(vocabularyPath());
+}
+
+RecordFile Stores::open(std::string_view storedName) {
+  return RecordFile(MappedFile::open(pathBelow(places_.ThuMuc, storedName)), &ChuoiByte);
 }
 
 void Stores::closeAll() {
@@ -112,6 +117,7 @@ void Stores::writeSetting(int record, std::int32_t value) {
 }
 
 void Stores::declare(Variables& variables) const {
+  variables.add("ChuoiByte", [this] { return VariableValue(std::string(ChuoiByte)); });
   variables.add("FileChiSo", &FileChiSo);
   variables.add("FileVanBan", &FileVanBan);
   variables.add("SoBai", &SoBai);

@@ -47,7 +47,10 @@ inline constexpr int AnalysisCaret = 9;
 class RecordFile {
  public:
   RecordFile() = default;
-  explicit RecordFile(std::shared_ptr<const MappedFile> mapped) : mapped_(std::move(mapped)) {}
+  /// `lastPiece` is where readers of the file note what they read last; null when nobody asks.
+  explicit RecordFile(std::shared_ptr<const MappedFile> mapped,
+                      std::string_view* lastPiece = nullptr)
+      : mapped_(std::move(mapped)), lastPiece_(lastPiece) {}
 
   [[nodiscard]] bool isOpen() const noexcept { return mapped_ != nullptr; }
   /// A 4-byte record, signed and little-endian.
@@ -56,9 +59,18 @@ class RecordFile {
   [[nodiscard]] unsigned char byte(std::int64_t record) const noexcept;
   /// True when a 1-byte record of that number exists.
   [[nodiscard]] bool holdsByte(std::int64_t record) const noexcept;
+  /// Tells that a reader has come upon a piece.
+  void notePiece(std::string_view piece) const noexcept {
+    if (lastPiece_ != nullptr) *lastPiece_ = piece;
+  }
+  /// Gives the memory back that reading all of the file has taken up.
+  void letMemoryGo() const noexcept {
+    if (mapped_) mapped_->letMemoryGo();
+  }
 
  private:
   std::shared_ptr<const MappedFile> mapped_;
+  std::string_view* lastPiece_ = nullptr;
 };
 
 /// Reads a stream piece by piece from a record on; each piece is what one stored byte stands for.
@@ -84,11 +96,16 @@ class Stores {
   static constexpr int AnalysedTexts = 14;
 
   explicit Stores(const Places& places) : places_(places) {}
+  Stores(const Stores&) = delete;
+  Stores& operator=(const Stores&) = delete;
 
   /// Closes every open file, then opens all that stay open for the run.
   /// Throws FatalFailure naming a read-only file that is missing; the learner's files are created.
   void MoDuLieu();
   void closeAll();
+  /// Opens a file that does not stay open for the run. Throws FatalFailure naming it when it is
+  /// missing.
+  [[nodiscard]] RecordFile open(std::string_view storedName);
 
   /// Chooses the store whose position table has that file number, 1 or 22, and sets `SoBai` from
   /// the current section.
@@ -111,6 +128,8 @@ class Stores {
 
   void declare(Variables& variables) const;
 
+  /// What the byte stands for that was read last from any stream.
+  std::string_view ChuoiByte;
   int FileChiSo = 0;  ///< file number of the current store's position table
   int FileVanBan = 0; ///< file number of its stream
   int SoBai = 0;      ///< number of texts that the current section shows

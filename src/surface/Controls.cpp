@@ -27,9 +27,9 @@ Controls::Controls(Form& form, const LineLayout& layout)
   // From the back to the front: a plate lies behind the surface that it backs, a text lies over the
   // list that it was opened from, and popups lie over everything that they explain.
   for (Control* control : std::initializer_list<Control*>{
-           &Rnen3,  &Frame1, &R1,  &RVP1, &RN1,   &RW1,  &Rchon, &RAmthanh, &Rcachhoc, &Frame2,
-           &R2,     &RN2,    &RW2, &RDT,  &RABCD, &Rsai, &Rviet, &Rxep,     &Rnen2,    &RHDBT,
-           &Frame3, &RVP2,   &RTD, &Rnen, &RHD,   &RDOS, &L1,    &FC1,      &FC2}) {
+           &Frame1, &R1,   &RVP1, &RN1,   &RW1,  &Rchon, &RAmthanh, &Rcachhoc, &Rnen3,  &Frame2,
+           &R2,     &RN2,  &RDT,  &RABCD, &Rsai, &Rviet, &Rnen2,    &RHDBT,    &Frame3, &Rxep,
+           &RW2,    &RVP2, &RTD,  &Rnen,  &RHD,  &RDOS,  &L1,       &FC1,      &FC2}) {
     form.add(*control);
   }
 }

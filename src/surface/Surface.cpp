@@ -95,6 +95,8 @@ void Surface::LoadFile(const std::string& path) {
       text_.adopt(file);
       resetAll(file->text());
     });
+    // Of a long text only what is in view is read from now on.
+    file->letMemoryGo();
   }
 }
 

@@ -134,6 +134,9 @@ class Surface final : public Control {
     settleScroll();
     return scroll_;
   }
+  /// Scrolls to where the surface was scrolled before; a place outside the text counts as its
+  /// nearest end.
+  void scroll(ScrollPlace place);
   /// Scrolls by a distance in twips, down when positive, not past the first or the last line.
   void scrollBy(int twips);
 
@@ -267,6 +270,8 @@ class Surface final : public Control {
   void moveHorizontally(int keyCode, int shift);
   void moveInLine(int keyCode, int shift);
   void moveToLine(const LinePlace& line, Selecting selecting);
+  /// The line from which a move up or down, or to an end of the line, starts.
+  [[nodiscard]] LinePlace lineOfMove(Selecting selecting) const;
   void moveByLine(int step, Selecting selecting);
   void moveByPage(int direction, Selecting selecting);
   [[nodiscard]] int caretBefore(int caret) const;

@@ -113,7 +113,7 @@ void Surface::moveInLine(int keyCode, int shift) {
     moveCaret(home ? 0 : text_.length(), selecting);
     return;
   }
-  const LinePlace line = lineAt(activeEnd());
+  const LinePlace line = lineOfMove(selecting);
   // The end of a line that goes on stands ahead of the blank that it breaks at.
   const int end = line.goesOn ? std::max(line.from, line.to - 1) : line.to;
   moveCaret(paragraphStart(line.paragraph) + (home ? line.from : end), selecting);
@@ -127,14 +127,21 @@ void Surface::moveToLine(const LinePlace& line, Selecting selecting) {
   if (activeEnd() == caret) columnX_ = x;
 }
 
+// A selected line reaches behind its line end; what moves away from it still starts on it.
+Surface::LinePlace Surface::lineOfMove(Selecting selecting) const {
+  const int caret = activeEnd();
+  const bool behindSelection = selLength_ > 0 && caret > selStart_;
+  return lineAt(behindSelection && selecting == Selecting::No ? caret - 1 : caret);
+}
+
 void Surface::moveByLine(int step, Selecting selecting) {
-  const LinePlace here = lineAt(activeEnd());
+  const LinePlace here = lineOfMove(selecting);
   moveToLine(neighbourLine(here, step).value_or(here), selecting);
 }
 
 // Goes by as many lines as the surface shows, at least by one.
 void Surface::moveByPage(int direction, Selecting selecting) {
-  LinePlace line = lineAt(activeEnd());
+  LinePlace line = lineOfMove(selecting);
   int room = Height();
   for (auto next = neighbourLine(line, direction); next; next = neighbourLine(line, direction)) {
     line = *next;

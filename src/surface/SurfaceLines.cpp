@@ -190,6 +190,14 @@ void Surface::showAsLastLine(const LinePlace& line) const {
   if (index == line.paragraph) scroll_.offset = std::min(scroll_.offset, line.top);
 }
 
+void Surface::scroll(ScrollPlace place) {
+  settleScroll();
+  const ScrollPlace before = scroll_;
+  scroll_.paragraph = std::clamp(place.paragraph, 0, paragraphs_.count() - 1);
+  scroll_.offset = std::clamp(place.offset, 0, heightOf(scroll_.paragraph));
+  if (scroll_ != before) changed(ControlChange::Scroll);
+}
+
 void Surface::scrollBy(int twips) {
   settleScroll();
   const ScrollPlace before = scroll_;

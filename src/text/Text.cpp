@@ -1,5 +1,7 @@
 #include "text/Text.h"
 
+#include "text/Bytes.h"
+
 #include <algorithm>
 
 namespace talvora {
@@ -17,9 +19,31 @@ std::string_view trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::vector<std::string> split(std::string_view text, char separator) {
+  std::vector<std::string> pieces(1);
+  for (const char character : text) {
+    if (character == separator) {
+      pieces.emplace_back();
+    } else {
+      pieces.back() += character;
+    }
+  }
+  return pieces;
+}
+
 std::string Str(long long number) {
   const std::string digits = std::to_string(number);
   return number < 0 ? digits : " " + digits;
+}
+
+std::string plainAscii(std::string_view text) {
+  constexpr char apostrophe = chr(0x92);
+  std::string plain(text);
+  for (char& character : plain) {
+    if (character == apostrophe) character = '\'';
+    if (asc(character) < ' ' || asc(character) > '~') character = ' ';
+  }
+  return plain;
 }
 
 std::string pathBelow(const std::string& directory, std::string_view storedName) {

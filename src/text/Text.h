@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace talvora {
 
@@ -17,8 +18,15 @@ namespace talvora {
 /// The text without the blanks at both ends.
 [[nodiscard]] std::string_view trim(std::string_view text);
 
+/// The pieces of a text between separators: one more than there are separators.
+[[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
+
 /// A number as the system writes it: with a leading blank in place of a plus sign.
 [[nodiscard]] std::string Str(long long number);
+
+/// The text in the characters that a speech engine knows: the typographic apostrophe becomes the
+/// plain one, everything else outside ASCII a blank.
+[[nodiscard]] std::string plainAscii(std::string_view text);
 
 /// A path below a directory. Stored names begin with a backslash, which stands for the platform's
 /// separator: (dir, "\sound\1.wav") gives "dir/sound/1.wav".

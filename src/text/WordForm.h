@@ -8,9 +8,9 @@
 namespace talvora {
 
 /// The normal form of a line of the word list, in which lines are compared: a text of at most one
-/// character is only trimmed; a longer one is lower-cased, loses one leading "'", "-", "(" or "/",
-/// and keeps of its characters those of "[a-z,A-Z,'. àáéèóõêâ]", with one blank for a run of
-/// others.
+/// character is only trimmed; a longer one is lower-cased, loses one leading "'", "(" or "/", and
+/// keeps of its characters those of "[a-z,A-Z,'. àáèéèóõêâ]". Each other one becomes a blank,
+/// unless it stands at the start or behind a blank.
 [[nodiscard]] std::string ChuanHoaTu(std::string_view line);
 
 /// The word after the three suffix rules, in lower case: "ies" gives "y", "ing" gives "e", "ied"

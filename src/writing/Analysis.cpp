@@ -55,7 +55,8 @@ std::vector<std::string> GanGiaiPT(std::string_view PhanTich) {
     if (c == '^') {
       field = 0;
       firstLine = true;
-      if (entries.size() == MostStretches) failOverrun("explanations");
+      // The text behind the mark needs a place too.
+      if (entries.size() + 1 == MostStretches) failOverrun("explanations");
       entries.push_back(std::exchange(entry, std::string()));
       continue;
     }

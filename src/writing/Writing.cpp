@@ -173,8 +173,7 @@ void Writing::pressOnTask(int& keyAscii) {
 void Writing::releaseMouse(MouseButton button, SurfacePoint at) {
   ordering_.takeClick(controls_.RW2, at);
   if (button == MouseButton::Right) {
-    state_.word.ChoGiai = true;
-    shell_.steering.NhapTrai();
+    ordering_.arm();
   } else {
     releaseLeft();
   }
@@ -187,7 +186,7 @@ void Writing::releaseLeft() {
   if (state_.word.ChoGiai) {
     ordering_.releaseArmed(RW2);
   } else if (RW2.SelStart() < ordering_.DauDong) {
-    words_.lookUpAtCaret(RW2);
+    words_.lookUpShownWord(RW2);
   } else if (onRed && ordering_.links.holdNext(p)) {
     ordering_.BuocXep = 0;
     ordering_.CauXepMoi(RW2);

@@ -18,7 +18,7 @@ void readAsAnalysis(std::string_view bytes) {
   try {
     const auto stretches = LapOTuPT(bytes, static_cast<int>(bytes.size() % 7));
     const auto entries = GanGiaiPT(bytes);
-    if (stretches.size() > MostStretches || entries.size() > MostStretches + 1) std::abort();
+    if (stretches.size() > MostStretches || entries.size() > MostStretches) std::abort();
   } catch (const FatalFailure&) {
     return;
   }

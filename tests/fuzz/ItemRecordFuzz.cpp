@@ -29,7 +29,7 @@ struct Desk {
         voice(state.places, machine.wave, shell.messages),
         speech(state, machine.platform, shell.steering, voice),
         dictionary(form, controls, state, stores, shell, speech),
-        vietnameseSide(controls, state, stores, shell, speech),
+        vietnameseSide(controls, state, stores, shell, speech, dictionary.lookUp()),
         lessons(controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice}),
         exercises(form, controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice},
                   lessons, machine.random),

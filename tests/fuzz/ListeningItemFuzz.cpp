@@ -46,7 +46,8 @@ void readAsStore(const Folder& folder, std::string_view bytes) {
   folder.write("dataN.av", bytes.substr(bytes.size() / 2));
   Places places;
   places.ThuMuc = folder.path();
-  ListeningItems items(places);
+  Stores stores(places);
+  ListeningItems items(stores);
   items.LapBangNghe();
   for (int item = 0; item <= ListeningItems::Count + 1; item += 37) {
     const ListeningTexts texts = items.textsAt(items.item(item).ViTri);

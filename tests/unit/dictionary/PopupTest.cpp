@@ -188,6 +188,66 @@ TEST_F(PopupTest, LooksUpAWordThatIsClickedInIt) {
   EXPECT_TRUE(run.shown().starts_with("cat n.")) << run.shown();
 }
 
+TEST_F(PopupTest, ClosesWithThePressAndComesBackWithTheReleaseBesideThePointer) {
+  run.lookUp("long");
+  RHD.Text("a cat's tail");
+  const SurfacePoint at = RHD.pointOf(4);
+  const SurfacePoint onPage{RHD.Left() + at.x - m.LeTraiBai, RHD.Top() + at.y - m.LeTrenBai};
+  RHD.pressMouse(MouseButton::Left, shift::None, at);
+  EXPECT_FALSE(RHD.Visible());
+  EXPECT_EQ(run.form.ActiveControl(), &run.controls.R2);
+  RHD.releaseMouse(MouseButton::Left, shift::None, at);
+  EXPECT_TRUE(RHD.Visible());
+  EXPECT_EQ(run.state.word.ViTriChuot, onPage);
+}
+
+TEST_F(PopupTest, LosesTheColoursOfAMessageWhenAWordOfItIsLookedUp) {
+  CurrentWord& word = run.state.word;
+  word.NghiaHienTai = word.ThongBaoHD = "a cat sat";
+  run.dictionary.TraTu();
+  const SurfacePoint at = RHD.pointOf(3);
+  RHD.pressMouse(MouseButton::Left, shift::None, at);
+  RHD.releaseMouse(MouseButton::Left, shift::None, at);
+  EXPECT_TRUE(run.shown().starts_with("cat n.")) << run.shown();
+  EXPECT_EQ(RHD.BackColor(), m.MauNenHD);
+  EXPECT_EQ(word.ThongBaoHD, "");
+}
+
+TEST_F(PopupTest, StaysClosedBehindAClickOnNoWord) {
+  run.lookUp("cat");
+  RHD.Text("xyzzy plugh");
+  const SurfacePoint at = RHD.pointOf(2);
+  RHD.pressMouse(MouseButton::Left, shift::None, at);
+  RHD.releaseMouse(MouseButton::Left, shift::None, at);
+  EXPECT_FALSE(RHD.Visible());
+  EXPECT_FALSE(run.controls.Rnen.Visible());
+}
+
+TEST_F(PopupTest, GivesTheKeyboardToAnExplanationThatItStandsOver) {
+  run.lookUp("cat");
+  RHD.moveMouse(shift::None, {10, 10});
+  EXPECT_EQ(run.form.ActiveControl(), &run.controls.R2) << "without an explanation it stays";
+  run.controls.RHDBT.Visible(true);
+  RHD.moveMouse(shift::None, {10, 10});
+  EXPECT_EQ(run.form.ActiveControl(), &run.controls.RHDBT);
+}
+
+TEST_F(PopupTest, LetsTheWordGoOnAnotherKeyInTheReadingSectionOnly) {
+  for (const int section : {7, 1}) {
+    run.state.places.MucMenu = section;
+    run.state.word.ViTriCaret = 5;
+    run.controls.R2.SelStart(4);
+    run.controls.R2.SelLength(4);
+    run.lookUp("cat");
+    RHD.SetFocus();
+    run.key(key::Enter, key::Enter);
+    EXPECT_FALSE(RHD.Visible());
+    EXPECT_EQ(run.form.ActiveControl(), &run.controls.R2) << section;
+    EXPECT_EQ(run.controls.R2.SelLength(), section == 1 ? 0 : 4);
+  }
+  EXPECT_EQ(run.controls.R2.SelStart(), 5);
+}
+
 TEST_F(PopupTest, OpensTheLookUpListOnALetter) {
   run.lookUp("cat");
   RHD.SetFocus();

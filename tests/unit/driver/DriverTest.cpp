@@ -15,6 +15,8 @@ class DriverTest : public testing::Test {
   DriverTest() {
     folder.writeEmptyStores();
     folder.write("Yes1", "");
+    folder.write("datatu.txt", "a\r\nb\r\n");
+    folder.writeIntegers("data.mtd", {7, 3});
   }
 
   Json send(const std::string& line) { return Json::parse(driver.answer(line)); }
@@ -88,6 +90,17 @@ TEST_F(DriverTest, WhatCannotBeUnderstoodIsRefusedAndChangesNothing) {
         R"({"do":"get"})",
         R"({"do":"get","names":["Nothing"]})",
         R"({"do":"get","names":[5]})",
+        R"({"do":"hover","button":"but1","frames":2000000000})",
+        R"({"do":"call","name":"GiaiMaByte","args":[256]})",
+        R"({"do":"call","name":"GiaiMaByte","args":[-1]})",
+        R"({"do":"call","name":"GiaiMaByte","args":[1.5]})",
+        R"({"do":"call","name":"GiaiMaByte","args":[1,2]})",
+        R"({"do":"call","name":"GiaiMaByte"})",
+        R"({"do":"call","name":"MoRongByte","args":[256]})",
+        R"({"do":"call","name":"MoRongByte","args":["a"]})",
+        R"({"do":"call","name":"CauTaiViTri","args":[1e300]})",
+        R"({"do":"call","name":"TimTu","args":["bank"]})",
+        R"({"do":"call","name":"TimTu","args":["bank",1]})",
         R"({"do":"call","name":"Nothing","args":[]})",
         R"({"do":"call","name":"SoTrongTen","args":[5]})",
         R"({"do":"call","name":"SoTrongTen","args":"but5"})"}) {
@@ -99,6 +112,93 @@ TEST_F(DriverTest, WhatCannotBeUnderstoodIsRefusedAndChangesNothing) {
                 driver.answer(R"({"do":"surface","name":"Rcachhoc"})"),
             before);
   EXPECT_EQ(send(R"({"do":"log"})")["entries"].size(), 0U);
+}
+
+TEST_F(DriverTest, AProcedureOfAByteTakesNoOtherNumber) {
+  for (const std::string name : {"GiaiMaByte", "MoRongByte"}) {
+    const auto call = [&](const std::string& number) {
+      return send(R"({"do":"call","name":")" + name + R"(","args":[)" + number + "]}");
+    };
+    EXPECT_TRUE(call("0")["ok"].get<bool>()) << name;
+    EXPECT_TRUE(call("255")["ok"].get<bool>()) << name;
+    for (const char* number : {"-1", "256", "1.5", "4294967296", "\"1\""}) {
+      const Json reply = call(number);
+      EXPECT_FALSE(reply["ok"].get<bool>()) << name << ' ' << number;
+      EXPECT_TRUE(reply.contains("error")) << name << ' ' << number;
+    }
+  }
+}
+
+TEST_F(DriverTest, ASearchOfItsOwnLeavesNoTrace) {
+  start();
+  const char* names =
+      R"({"do":"get","names":["TimThay","ViTriGan","TimDau","TimCuoi","TuHienTai","NghiaHienTai"]})";
+  const std::string before = driver.answer(names);
+  EXPECT_EQ(send(R"({"do":"call","name":"TimTu","args":["a",true]})")["result"]["ViTriGan"], 1);
+  EXPECT_EQ(driver.answer(names), before);
+}
+
+TEST_F(DriverTest, EveryVariableOfTheDictionaryAndTheReadingPageIsKnown) {
+  start();
+  for (const std::string name : {"Tu",
+                                 "ChiSoChu",
+                                 "TuHienTai",
+                                 "NghiaHienTai",
+                                 "TuDaBam",
+                                 "TimThay",
+                                 "ViTriGan",
+                                 "TimDau",
+                                 "TimCuoi",
+                                 "ThongBaoHD",
+                                 "ViTriChuot",
+                                 "Phan3",
+                                 "Phan6",
+                                 "Phan12",
+                                 "ViTriCaret",
+                                 "ViTriCaretR1",
+                                 "TuChon",
+                                 "ChuChon",
+                                 "DaChonRTD",
+                                 "DaNapRTD",
+                                 "XemCauTuVung",
+                                 "XoaTuKhiDong",
+                                 "CauHoi",
+                                 "VanBanGoc",
+                                 "ViTriCauVan",
+                                 "SoCauVanBan",
+                                 "ViTriCauTrongFile",
+                                 "DichCau",
+                                 "CauChon",
+                                 "ViTriTieuDe",
+                                 "CoDupChuot",
+                                 "GiuSpace",
+                                 "DangDocCa",
+                                 "ViTriGiuSpace",
+                                 "LaBaiHuongDan",
+                                 "ChoGiai"}) {
+    const Json reply = send(R"({"do":"get","names":[")" + name + R"("]})");
+    EXPECT_TRUE(reply["ok"].get<bool>()) << name;
+  }
+}
+
+TEST_F(DriverTest, TablesAreToldFromTheIndexThatTheyAreDeclaredWith) {
+  start();
+  const auto sizeOf = [&](const std::string& name) {
+    return send(R"({"do":"get","names":[")" + name + R"("]})")["values"][name].size();
+  };
+  EXPECT_EQ(sizeOf("ChiSoChu"), 27U);
+  EXPECT_EQ(sizeOf("ViTriCauVan"), 200U);
+  EXPECT_EQ(sizeOf("ViTriCauTrongFile"), 2000U);
+  EXPECT_EQ(sizeOf("ViTriChuot"), 2U);
+}
+
+TEST_F(DriverTest, TheWordsAreRecordsAndTheFirstIsNotUsed) {
+  start();
+  const Json words = send(R"({"do":"get","names":["Tu"]})")["values"]["Tu"];
+  ASSERT_EQ(words.size(), 385084U);
+  EXPECT_EQ(words[0], Json::parse(R"({"Chu":"","ViTriNghia":0,"ViTriDanhSach":0})"));
+  EXPECT_EQ(words[1], Json::parse(R"({"Chu":"a","ViTriNghia":7,"ViTriDanhSach":3})"));
+  EXPECT_EQ(words[385083], words[0]);
 }
 
 TEST_F(DriverTest, NothingButReadingAndQueueingIsTakenAheadOfTheStart) {

@@ -193,6 +193,13 @@ TEST_F(TwoBlanks, AThirdFormIsWrong) {
   EXPECT_EQ(run.item.OSai.at(1).Chu, "has gone\\gone\\done");
 }
 
+TEST_F(TwoBlanks, AKeyTypedAsItIsWrittenIsRight) {
+  fill(1, "i went");
+  fill(2, "has gone\\gone\\done");
+  run.key(key::Enter);
+  EXPECT_EQ(run.item.KetQuaCau, 1) << "odd, but meant";
+}
+
 TEST_F(TwoBlanks, AnEmptyKeyIsRightOnlyWhenLeftEmpty) {
   fill(1, "i went");
   fill(2, "gone");
@@ -308,6 +315,11 @@ TEST_F(Hinted, EscHidesTheHintAndItsReleaseBringsNoneSoThatTheItemCanBeLeft) {
   EXPECT_TRUE(RDT.Visible());
   run.key(key::Esc);
   EXPECT_FALSE(RDT.Visible());
+}
+
+TEST_F(Hinted, BeforeJudgingARightClickOnABlankExplainsNothing) {
+  run.rightClick(RDT, run.item.OTrong.at(1).Dau);
+  EXPECT_FALSE(run.controls.RHDBT.Visible());
 }
 
 TEST_F(Hinted, JudgingTakesTheHintAway) {

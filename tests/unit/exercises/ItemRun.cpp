@@ -8,6 +8,8 @@ namespace talvora::test {
 
 namespace {
 
+const FixedLayout FixedLines;
+
 SharedState stateIn(const TestFolder& folder) {
   SharedState state;
   state.places.ThuMuc = folder.path();
@@ -21,12 +23,17 @@ std::string record(int value) {
 } // namespace
 
 ItemRun::ItemRun(const ItemStores& contents, const ScriptedOptions& options)
-    : machine(options), form(machine.screen, machine.metrics), controls(form, machine.layout),
-      state(stateIn(folder)), stores(state.places), shell(machine.platform, form, controls, state),
+    : ItemRun(contents, options, FixedLines) {}
+
+ItemRun::ItemRun(const ItemStores& contents, const ScriptedOptions& options,
+                 const LineLayout& layout)
+    : machine(options), screen(machine.screen), form(screen, machine.metrics),
+      controls(form, layout), state(stateIn(folder)), stores(state.places),
+      shell(machine.platform, form, controls, state),
       voice(state.places, machine.wave, shell.messages),
       speech(state, machine.platform, shell.steering, voice),
       dictionary(form, controls, state, stores, shell, speech),
-      vietnameseSide(controls, state, stores, shell, speech),
+      vietnameseSide(controls, state, stores, shell, speech, dictionary.lookUp()),
       lessons(controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice}),
       exercises(form, controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice},
                 lessons, machine.random) {

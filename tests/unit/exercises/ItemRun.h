@@ -8,6 +8,7 @@
 #include "sound/AmthanhThuc.h"
 #include "support/TestFolder.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -28,9 +29,26 @@ struct ItemStores {
   std::vector<StoredItem> items;      ///< from item 1 on; others are empty
 };
 
+/// A screen that tells when the program has itself painted.
+class WatchedScreen final : public Screen {
+ public:
+  explicit WatchedScreen(Screen& screen) : screen_(screen) {}
+
+  [[nodiscard]] int pixelWidth() const override { return screen_.pixelWidth(); }
+  [[nodiscard]] int pixelHeight() const override { return screen_.pixelHeight(); }
+  void Refresh() override { painted(); }
+
+  std::function<void()> painted = [] {};
+
+ private:
+  Screen& screen_;
+};
+
 class ItemRun {
  public:
   explicit ItemRun(const ItemStores& contents, const ScriptedOptions& options = {});
+  /// Breaks lines as another layout says.
+  ItemRun(const ItemStores& contents, const ScriptedOptions& options, const LineLayout& layout);
 
   /// Opens a bank by its number, 1 to 9, as its button does.
   void openBank(int bank);
@@ -51,6 +69,7 @@ class ItemRun {
 
   TestFolder folder;
   ScriptedMachine machine;
+  WatchedScreen screen;
   Form form;
   Controls controls;
   SharedState state;

@@ -65,6 +65,17 @@ TEST_F(FindTheMistake, JustBehindTheWrongPhraseCountsAsRight) {
   EXPECT_EQ(run.item.KetQuaCau, 1);
 }
 
+TEST_F(FindTheMistake, OpensWithTheCaretBehindTheFirstCellOfThePhrase) {
+  EXPECT_EQ(Rsai.SelStart(), at("go to"));
+}
+
+TEST_F(FindTheMistake, AnyKeyClosesTheBox) {
+  run.rightClick(Rsai, at("go to"));
+  run.key(key::Right);
+  EXPECT_FALSE(run.controls.RHDBT.Visible());
+  EXPECT_FALSE(run.controls.Rnen2.Visible());
+}
+
 TEST_F(FindTheMistake, TheHeadingDoesNothing) {
   run.click(Rsai, 3);
   EXPECT_EQ(run.item.KetQuaCau, 0);

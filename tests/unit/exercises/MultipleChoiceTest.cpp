@@ -107,6 +107,22 @@ TEST_F(MultipleChoice, AnOptionWithoutASectionAndTheStemGiveTheGeneralExplanatio
   EXPECT_FALSE(run.controls.RHDBT.Visible());
 }
 
+TEST_F(MultipleChoice, AnyKeyClosesTheBox) {
+  run.rightClick(RABCD, ItemRun::caretOf(RABCD, "(a)") + 1);
+  run.key(key::Down);
+  EXPECT_FALSE(run.controls.RHDBT.Visible());
+}
+
+TEST_F(MultipleChoice, EscClosesTheBoxAndThenLeaves) {
+  run.rightClick(RABCD, ItemRun::caretOf(RABCD, "(a)") + 1);
+  run.key(key::Esc);
+  EXPECT_FALSE(run.controls.RHDBT.Visible());
+  EXPECT_TRUE(RABCD.Visible());
+  run.key(key::Esc);
+  EXPECT_FALSE(RABCD.Visible());
+  EXPECT_EQ(run.focus(), "RN1");
+}
+
 TEST_F(MultipleChoice, NothingCanBeTypedAndEnterDoesNothing) {
   const std::string before = RABCD.Text();
   run.type("7");

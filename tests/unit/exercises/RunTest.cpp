@@ -31,6 +31,8 @@ std::vector<int> itemsOf(const ItemRun& run) {
   for (const auto& each : std::get<VariableValue::Table>(table.value)) {
     items.push_back(static_cast<int>(std::get<double>(each.value)));
   }
+  // Element 0 is not used.
+  items.erase(items.begin());
   return items;
 }
 
@@ -240,6 +242,14 @@ TEST_F(BankRun, EscAfterTwoRightTellsTheScore) {
   run.key(key::Esc);
   EXPECT_EQ(run.form.Caption(), run.state.measures.KhoangDem + "Ban da lam dung  2/25 = 8%");
   EXPECT_EQ(run.focus(), "RN1");
+}
+
+TEST_F(BankRun, LeavingAnItemForgetsIt) {
+  run.state.word.ChoGiai = true;
+  run.key(key::Esc);
+  EXPECT_EQ(run.state.text.CauHoi, "");
+  EXPECT_EQ(run.item.MatNa, "");
+  EXPECT_FALSE(run.state.word.ChoGiai);
 }
 
 TEST_F(BankRun, AnItemThatIsRetriedCountsTwice) {

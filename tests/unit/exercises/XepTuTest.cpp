@@ -62,7 +62,7 @@ class Ordering : public testing::Test {
  protected:
   Ordering()
       : drill(run.controls(), run.state(), run.stores, run.base.shell, run.services,
-              run.base.machine.random),
+              run.base.machine.random, links),
         Rxep(run.controls().Rxep) {
     drill.run.CauKeTiep = [this] { calls.push_back("CauKeTiep"); };
     drill.run.BoChonBai = [this] { calls.push_back("BoChonBai"); };
@@ -109,6 +109,7 @@ class Ordering : public testing::Test {
   int caretOfLink(const std::string& link) { return static_cast<int>(Rxep.Text().find(link)) + 3; }
 
   DrillRun run;
+  BackNextLinks links;
   XepTu drill;
   Surface& Rxep;
   std::vector<std::string> calls;
@@ -172,6 +173,16 @@ TEST_F(Ordering, AWrongWordSpringsBackAndTheBluePartStays) {
   EXPECT_EQ(colourAt(drill.DauDong + 10), 0x750000U);
 }
 
+TEST_F(Ordering, AWordMovesWhereverItIsClickedWhateverTheTextHoldsThere) {
+  // The text has points where the line has letters.
+  openItem("_She sees seven red birds." + std::string(200, '.'), "_X.");
+  for (const int inside : {0, 1, 3}) {
+    drill.VeXepTu(Rxep);
+    run.rightClick(Rxep, caretOf("sees") + inside);
+    EXPECT_TRUE(text("DongXep").starts_with("She sees ")) << inside;
+  }
+}
+
 TEST_F(Ordering, WordsOfTheBluePartStay) {
   openItem("_She sees seven red birds.", "_X.");
   pick("sees");
@@ -226,6 +237,19 @@ TEST_F(Ordering, TheFirstBackShowsTheFollowingSentenceAndTheNextOnesTheSame) {
   run.click(Rxep, caretOfLink("<Next>"));
   EXPECT_EQ(text("CauTiengAnh"), "d x y z.");
   EXPECT_EQ(drill.BuocXep, 0);
+}
+
+TEST_F(Ordering, AWordThatWasLookedUpDoesNotStandInTheWayOfAMove) {
+  openItem("_She sees seven red birds.", "_X.");
+  run.state().word.TuHienTai = "birds";
+  pick("sees");
+  EXPECT_TRUE(text("DongXep").starts_with("She sees "));
+}
+
+TEST_F(Ordering, TheLinksStandWhereTheSharedTableSays) {
+  openItem("_She sees seven red birds.", "_X.");
+  EXPECT_EQ(Rxep.TextBetween(links.DauBack, links.CuoiBack), "<Back>");
+  EXPECT_EQ(Rxep.TextBetween(links.DauNext, links.CuoiNext), "<Next>");
 }
 
 TEST_F(Ordering, ADoubleClickIsDroppedByTheNextRightClick) {

@@ -105,6 +105,22 @@ TEST_F(LessonList, ALineIsSelectedFromItsSecondCharacterOn) {
   EXPECT_EQ(run.state.list.SoBaiChon, 3);
 }
 
+TEST_F(LessonList, UpAndDownGoLineByLine) {
+  for (const int line : {2, 3, 4, 5}) {
+    run.key(key::Down);
+    EXPECT_EQ(run.state.list.SoBaiChon, line);
+  }
+  for (const int line : {4, 3, 2, 1}) {
+    run.key(key::Up);
+    EXPECT_EQ(run.state.list.SoBaiChon, line);
+  }
+  run.key(key::Down);
+  run.key(key::End);
+  EXPECT_EQ(run.state.list.SoBaiChon, 2);
+  run.key(key::Home);
+  EXPECT_EQ(run.state.list.SoBaiChon, 2);
+}
+
 TEST_F(LessonList, ArrowsJumpBetweenHeadings) {
   RVP1.SelStart(0);
   run.key(key::Right);
@@ -187,6 +203,33 @@ TEST_F(LessonList, EnterAndAClickOpenTheLessonAndEscComesBackToItsLine) {
   run.key(key::Enter);
   EXPECT_TRUE(RVP2.Visible());
   EXPECT_EQ(RVP2.Text(), "Past & more\rbody\r");
+}
+
+TEST_F(LessonList, EnterBeforeAnyLineWasChosenOpensTheFirst) {
+  ASSERT_EQ(run.state.list.SoBaiChon, 0);
+  run.key(key::Enter);
+  EXPECT_EQ(RVP2.Text(), "*FIRST GROUP\r\r");
+}
+
+TEST_F(LessonList, BothArrowsStoreTheCaretAlsoBehindTheLastHeading) {
+  RVP1.SelStart(ItemRun::caretOf(RVP1, "slot 9"));
+  const int caret = RVP1.SelStart();
+  run.form.pressKey(key::Right, shift::None, '\0');
+  EXPECT_EQ(run.state.word.ViTriCaret, caret - 1);
+  run.form.pressKey(key::Left, shift::None, '\0');
+  EXPECT_EQ(run.state.word.ViTriCaret, ItemRun::caretOf(RVP1, "*BOTH") + 2);
+}
+
+TEST_F(LessonList, AHeadingThatBeginsWithAPointCanBeMarked) {
+  rightClick("*BOTH");
+  EXPECT_EQ(mark(6), 2);
+}
+
+TEST_F(LessonList, LessonsWithoutItemsOfTheirOwnGiveOneItemEach) {
+  rightClick("Future");
+  rightClick("*BOTH");
+  run.key(key::Enter);
+  EXPECT_EQ(run.exercises.run.SoCauChay(), 2);
 }
 
 TEST_F(LessonList, EnterWithMarksRunsTheItemsOfTheMarkedLessons) {
@@ -288,7 +331,7 @@ TEST_F(LessonOpen, ALessonWithoutALineEndIsAllTitle) {
 
 TEST_F(LessonOpen, ANumberOutsideTheListOpensNothing) {
   const std::string before = RVP2.Text();
-  for (const int number : {0, -1, 358, 100000})
+  for (const int number : {-1, 358, 100000})
     run.lessons.page().MoBaiVP(number);
   EXPECT_EQ(RVP2.Text(), before);
 }

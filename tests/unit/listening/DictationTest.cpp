@@ -1,5 +1,6 @@
 #include "listening/DrillRun.h"
 #include "listening/NGHE_VIET.h"
+#include "text/Rounding.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,9 +13,9 @@ using test::valueOf;
 
 class Dictation : public testing::Test {
  protected:
-  Dictation()
-      : dictation(run.base.form, run.controls(), run.state(), run.stores, run.base.shell,
-                  run.services, run.base.machine.clock),
+  explicit Dictation(const ScriptedOptions& options = {})
+      : run(options), dictation(run.base.form, run.controls(), run.state(), run.stores,
+                                run.base.shell, run.services, run.base.machine.clock),
         Rviet(run.controls().Rviet) {
     dictation.ChonDongR1 = [this] { ++linesChosen; };
     dictation.BongLoiGiai = [this] { run.controls().Rnen2.Visible(true); };
@@ -61,10 +62,28 @@ TEST_F(Dictation, OpensOnTheFirstSentenceBehindTheTitle) {
 TEST_F(Dictation, TheTranslationStandsAboveTheTypingLine) {
   openThree();
   const Surface& RHDBT = run.controls().RHDBT;
-  EXPECT_EQ(Rviet.Width(), run.state().measures.RongMH - run.state().measures.RongMH / 25);
-  EXPECT_EQ(RHDBT.Height(), Rviet.Top() - Rviet.Height() / 5);
+  EXPECT_EQ(Rviet.Width(), Round(run.state().measures.RongMH * 24 / 25.0));
+  EXPECT_EQ(RHDBT.Height(), Round(Rviet.Top() - Rviet.Height() / 5.0));
   EXPECT_EQ(RHDBT.Top(), (Rviet.Top() - RHDBT.Height()) / 2);
   EXPECT_EQ(run.controls().Rnen3.BackColor(), 255U);
+}
+
+class WideDictation : public Dictation {
+ protected:
+  WideDictation() : Dictation(wide()) {}
+
+  static ScriptedOptions wide() {
+    ScriptedOptions options;
+    options.screenWidth = 1366;
+    return options;
+  }
+};
+
+TEST_F(WideDictation, TheTypingLineIsRoundedToTheNearestTwip) {
+  openThree();
+  // 20490 - 819.6
+  ASSERT_EQ(run.state().measures.RongMH, 20490);
+  EXPECT_EQ(Rviet.Width(), 19670);
 }
 
 TEST_F(Dictation, TypedLettersShowInTheSentencesOwnCase) {
@@ -168,6 +187,48 @@ TEST_F(Dictation, BackspaceTakesNothingBack) {
   run.type("the");
   run.key(key::Backspace);
   EXPECT_EQ(Rviet.Text(), "\rThe\r");
+}
+
+TEST_F(Dictation, DeleteTakesNothingAway) {
+  openThree();
+  run.type("the");
+  Rviet.SelStart(1);
+  run.key(key::Delete);
+  EXPECT_EQ(Rviet.Text(), "\rThe\r");
+}
+
+TEST_F(Dictation, EnterIsAWrongKeyLikeAnyOther) {
+  openThree();
+  run.base.machine.log.take();
+  run.key(key::Enter);
+  EXPECT_EQ(Rviet.Text(), "\r\r");
+  EXPECT_EQ(run.spoken(), (std::vector<std::string>{"the cat sat", "the cat sat"}));
+}
+
+TEST_F(Dictation, EscClosesTheHintThenTheTranslationAndThenEnds) {
+  openThree();
+  // The program lets the box close itself; here its place is taken.
+  run.base.shell.gestures.onClose(run.controls().RHDBT,
+                                  [this](Surface&) { run.controls().RHDBT.Visible(false); });
+  run.key(key::Esc);
+  EXPECT_FALSE(run.controls().RDOS.Visible());
+  EXPECT_TRUE(run.controls().RHDBT.Visible());
+  run.key(key::Esc);
+  EXPECT_FALSE(run.controls().RHDBT.Visible());
+  EXPECT_TRUE(Rviet.Visible());
+  run.key(key::Esc);
+  EXPECT_FALSE(Rviet.Visible());
+}
+
+TEST_F(Dictation, AClickLooksUpTheWholeWordWhereverTheTextHasItsLineEnds) {
+  openThree();
+  run.type("the cat s");
+  // At these places the text itself has its title's end, its mark and its tab.
+  for (const int caret : {5, 6, 7, 8}) {
+    run.click(Rviet, caret);
+    EXPECT_EQ(run.state().word.TuDaBam, "cat") << caret;
+    EXPECT_EQ(run.state().word.TuHienTai, "The cat sat");
+  }
 }
 
 TEST_F(Dictation, AClosingPopupGivesTheSentenceBack) {

@@ -19,15 +19,13 @@
 namespace talvora::test {
 
 struct DrillRun {
-  DrillRun()
-      : base(), stores(base.state.places),
+  explicit DrillRun(const ScriptedOptions& options = {})
+      : base(options), stores(base.state.places),
         voice(base.state.places, base.machine.wave, base.shell.messages),
         speech(base.state, base.machine.platform, base.shell.steering, voice),
         dictionary(base.form, base.controls, base.state, stores, base.shell, speech),
-        vietnameseSide(base.controls, base.state, stores, base.shell, speech), services{
-                                                                                   dictionary,
-                                                                                   vietnameseSide,
-                                                                                   speech, voice} {
+        vietnameseSide(base.controls, base.state, stores, base.shell, speech, dictionary.lookUp()),
+        services{dictionary, vietnameseSide, speech, voice} {
     base.state.places.ThuMuc = folder.path();
     folder.writeEmptyStores();
     folder.write("data.Kcu", "");

@@ -1,6 +1,7 @@
 #include "listening/Listening.h"
 #include "listening/DrillRun.h"
 #include "text/Bytes.h"
+#include "text/Text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -110,6 +111,48 @@ TEST_F(Quiz, TheListHasNineUnitsWithTwoBlanks) {
   EXPECT_THAT(run.controls().RN1.Text(), testing::EndsWith("\tUnit  9\r"));
   EXPECT_EQ(run.state().places.MucMenu, 4);
   EXPECT_EQ(run.state().list.BangViTri[1], 9);
+}
+
+TEST_F(Quiz, TheListIsProtected) {
+  open(ThreeUnits);
+  EXPECT_TRUE(run.controls().RN1.SelProtected());
+}
+
+TEST_F(Quiz, TheLinksStandWhereTheSharedTableSays) {
+  open(ThreeUnits);
+  openUnit(1);
+  EXPECT_EQ(RN2.TextBetween(shown.links.DauBack, shown.links.CuoiBack), "<Back>");
+  EXPECT_EQ(RN2.TextBetween(shown.links.DauNext, shown.links.CuoiNext), "<Next>");
+}
+
+TEST_F(Quiz, TwoEqualOptionsLetTheLaterOneCount) {
+  for (int round = 0; round < 20; ++round) {
+    std::vector<std::int32_t> positions(556, 0);
+    run.folder.writeIntegers("dataN.vt", positions);
+    run.folder.writeStream("dataN.av", "1 1\rSay it.\rsame\rsame\rother\rlast@");
+    run.open(4);
+    listening.openSection();
+    openUnit(1);
+    const auto options = valueOf<VariableValue::Table>(listening, "LuaChon");
+    int later = 0;
+    for (int slot = 1; slot <= 4; ++slot) {
+      const auto& option = std::get<std::string>(options[static_cast<std::size_t>(slot)].value);
+      if (option.starts_with("same")) later = slot;
+    }
+    EXPECT_EQ(number("DapAnNghe"), later);
+  }
+}
+
+TEST_F(Quiz, BackOnTheLastStepEndsTheUnit) {
+  // Steps are counted, not items seen; that is meant.
+  open(ThreeUnits);
+  openUnit(1);
+  answerRight();
+  next();
+  next();
+  back();
+  EXPECT_FALSE(RN2.Visible());
+  EXPECT_THAT(run.base.form.Caption(), testing::HasSubstr("1/3 = 33%"));
 }
 
 TEST_F(Quiz, EnterOpensTheUnitAtTheCaretAndClearsTheScore) {
@@ -273,6 +316,18 @@ TEST_F(Quiz, ARightClickOnlyRepeats) {
   EXPECT_EQ(scoring.SoDung, 0);
   EXPECT_EQ(shown.KetQuaCau, 0);
   EXPECT_THAT(run.spoken(), testing::Not(testing::IsEmpty()));
+}
+
+TEST_F(Quiz, ARightClickRepeatsAlsoWhenThePointerHasLeftTheSentence) {
+  open(ThreeUnits);
+  openUnit(1);
+  const std::string heard = run.state().word.TuHienTai;
+  RN2.moveMouse(shift::None, {100, 100});
+  RN2.moveMouse(shift::None, {8000, 5000});
+  ASSERT_EQ(run.state().word.TuHienTai, "");
+  run.base.machine.log.take();
+  RN2.pressMouse(MouseButton::Right, shift::None, {8000, 5000});
+  EXPECT_THAT(run.spoken(), testing::Contains(lower(heard)));
 }
 
 TEST_F(Quiz, BackGoesToTheItemBeforeAndScoresItAfresh) {

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <set>
 
@@ -165,6 +166,61 @@ TEST(StartUp, TheFirstRunSetsUpAndEnds) {
             "thu muc: " +
                 run.folder.path());
   EXPECT_FALSE(run.form().Visible());
+}
+
+TEST(StartUp, TheStartAfterTheFirstRunReachesTheMenu) {
+  ProgramRun run;
+  run.folder.remove("Yes1");
+  run.start();
+  EXPECT_EQ(run.folder.read("Yes1"), "");
+  ScriptedMachine machine;
+  Program second(machine.platform, run.folder.path());
+  second.Main();
+  EXPECT_TRUE(second.running());
+  EXPECT_EQ(machine.log.count("box"), 0);
+  EXPECT_EQ(second.form().ActiveControl(), &second.controls().but(1));
+  EXPECT_EQ(machine.input.cursorPos(), (PixelPoint{480, 240}));
+  EXPECT_NE(second.controls().but(1).Picture(), second.controls().but(2).Picture());
+}
+
+/// An event loop in which a button is clicked whenever events may run.
+class ClickingLoop final : public EventLoop {
+ public:
+  Flow letEventsRun() override {
+    click();
+    return Flow::Interrupt;
+  }
+  Flow letEventsRunUntilNextFrame() override { return Flow::Interrupt; }
+
+  std::function<void()> click = [] {};
+};
+
+TEST(StartUp, WhileItLoadsOnlyTheClosedSectionAnswersAClick) {
+  test::TestFolder folder;
+  folder.writeEmptyStores();
+  folder.write("Yes1", "");
+  for (const int number : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 18}) {
+    ScriptedMachine machine;
+    ClickingLoop loop;
+    Platform platform{machine.clock,        loop,
+                      machine.input,        machine.speech,
+                      machine.wave,         machine.metrics,
+                      machine.layout,       machine.boxes,
+                      machine.screen,       machine.clipboard,
+                      machine.installation, machine.narrator,
+                      machine.random};
+    Program program(platform, folder.path());
+    int clicks = 0;
+    loop.click = [&] {
+      ++clicks;
+      program.controls().but(number).Click();
+    };
+    program.Main();
+    EXPECT_GT(clicks, 0);
+    EXPECT_EQ(machine.log.count("message"), number == 6 ? clicks : 0) << number;
+    EXPECT_FALSE(program.controls().Frame1.Visible()) << number;
+    EXPECT_EQ(program.section(), 0) << number;
+  }
 }
 
 TEST(StartUp, TheFirstRunStartsTheInstallersOfAMissingEngine) {

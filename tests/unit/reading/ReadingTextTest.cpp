@@ -105,6 +105,18 @@ TEST_F(OpenText, TooManySentencesEndTheProgramAndNameTheText) {
   }
 }
 
+TEST_F(OpenText, MoreMarksThanTheFileTableHoldsEndTheProgramToo) {
+  const auto failureOf = [this](int marks) -> std::string {
+    try {
+      open("Title\r" + std::string(static_cast<std::size_t>(marks), '_'), "");
+    } catch (const FatalFailure& failure) {
+      return failure.what();
+    }
+    return "none";
+  };
+  EXPECT_THAT(failureOf(2000), testing::HasSubstr("more than 2000"));
+}
+
 TEST_F(OpenText, ATextWithoutItsEndStopsAtTheFilesEnd) {
   run.writeTexts({{408, "Last\r_\tNo end", ""}});
   // The stream is cut inside the last text.

@@ -131,6 +131,39 @@ TEST_F(TitleList, RightAndLeftJumpBetweenHeadings) {
   EXPECT_EQ(R1.SelStart(), 0);
 }
 
+TEST_F(TitleList, UpAndDownGoByOneLine) {
+  run.clickButton(1);
+  moveTo(0);
+  std::vector<int> lines;
+  for (const int arrow :
+       {key::Down, key::Down, key::Down, key::Down, key::Up, key::Up, key::Up, key::Up, key::Up}) {
+    run.key(arrow);
+    lines.push_back(static_cast<int>(run.number("SoBaiChon")));
+  }
+  EXPECT_EQ(lines, (std::vector{2, 3, 4, 5, 4, 3, 2, 1, 1}));
+}
+
+TEST_F(TitleList, HomeAndEndStayInTheLine) {
+  run.clickButton(1);
+  moveTo(40);
+  for (const int keyCode : {key::Home, key::Home, key::End, key::End}) {
+    run.key(keyCode);
+    EXPECT_EQ(run.number("SoBaiChon"), 4) << keyCode;
+  }
+}
+
+TEST_F(TitleList, PgDownAndPgUpGoByAsMany) {
+  run.clickButton(1);
+  moveTo(0);
+  run.key(key::PgDn);
+  const double page = run.number("SoBaiChon") - 1;
+  EXPECT_GT(page, 1);
+  run.key(key::PgDn);
+  EXPECT_EQ(run.number("SoBaiChon"), 1 + 2 * page);
+  run.key(key::PgUp);
+  EXPECT_EQ(run.number("SoBaiChon"), 1 + page);
+}
+
 TEST_F(TitleList, EscLeadsBackStepByStepAndThePositionIsStored) {
   run.clickButton(1);
   run.controls().RDOS.Visible(false);

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+
 namespace talvora {
 namespace {
 
@@ -109,6 +112,32 @@ TEST_F(Gesture, ALessonIsAnExtraOnlyOverAnExercise) {
   run.controls.Frame3.Visible(true);
   EXPECT_TRUE(run.shell.gestures.DongPhu(run.controls.RVP2));
   EXPECT_EQ(lessonsClosed, 1);
+}
+
+TEST_F(Gesture, EverySurfaceHasAPointerStateFromTheStart) {
+  Variables variables;
+  run.shell.gestures.declare(variables);
+  const auto states = [&] {
+    std::map<std::string, double> found;
+    const VariableValue value = (*variables.find("TrangThaiChuot"))();
+    for (const auto& [name, state] : std::get<VariableValue::Record>(value.value)) {
+      found[name] = std::get<double>(state.value);
+    }
+    return found;
+  };
+  for (const char* name :
+       {"R1", "R2", "RVP1", "RVP2", "Rchon", "RN2", "RHD", "RTD", "RDT", "Rsai"}) {
+    ASSERT_TRUE(states().contains(name)) << name;
+    EXPECT_EQ(states()[name], 0) << name;
+  }
+  run.shell.gestures.pointerMoved(run.controls.R2, {3000, 3000});
+  EXPECT_EQ(states()["R2"], 1);
+  run.shell.gestures.pointerMoved(run.controls.R2, {9000, 3000});
+  EXPECT_EQ(states()["R2"], 2);
+  run.shell.gestures.pointerMoved(run.controls.Rsai, {3000, 3000});
+  EXPECT_EQ(states()["RDT"], 1);
+  EXPECT_EQ(states()["Rsai"], 1);
+  EXPECT_EQ(states()["R1"], 0);
 }
 
 TEST_F(Gesture, AKeyReleaseClearsTheClipboardAndTheEntry) {

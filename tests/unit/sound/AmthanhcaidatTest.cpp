@@ -133,6 +133,15 @@ TEST_F(PanelTest, OpeningPaintsTheSettingsRedAndSpeaksTheTestSentence) {
   EXPECT_EQ(logged<std::int64_t>("speed", "value").back(), 170);
 }
 
+TEST_F(PanelTest, TheSecondTestSentenceCutsTheFirstOff) {
+  open(1, 7);
+  Texts deeds;
+  for (const LogEntry& entry : run.machine.log.entries()) {
+    if (entry.what == "speak" || entry.what == "stopspeaking") deeds.push_back(entry.what);
+  }
+  EXPECT_EQ(deeds, (Texts{"speak", "stopspeaking", "speak"}));
+}
+
 TEST_F(PanelTest, OpeningWithTheSoundOffIsSilent) {
   open(0, 2);
   EXPECT_EQ(onColour(), Black);
@@ -273,6 +282,28 @@ TEST_F(PanelOfThreeVoicesTest, TheCellFiveAboveTheNumberOfVoicesIsLeftAlone) {
   EXPECT_EQ(speech.TocDoDoc, 3);
 }
 
+class PanelOfOneVoiceTest : public PanelTest {
+ protected:
+  PanelOfOneVoiceTest() : PanelTest(1) {}
+};
+
+TEST_F(PanelOfOneVoiceTest, LevelTwoIsLeftAlone) {
+  open(1, 5);
+  clickAt(caretOfLevel(2));
+  EXPECT_EQ(speech.TocDoDoc, 5);
+  EXPECT_EQ(spoken(), Texts{});
+  for (const int level : {1, 3}) {
+    clickAt(caretOfLevel(level));
+    EXPECT_EQ(speech.TocDoDoc, level);
+  }
+}
+
+TEST_F(PanelOfOneVoiceTest, AStoredLevelThatIsLeftAloneIsNotPainted) {
+  open(1, 2);
+  EXPECT_EQ(redLevels(), std::vector<int>{});
+  EXPECT_EQ(spoken(), testSentence);
+}
+
 // -- Leaving.
 
 TEST_F(PanelTest, EscStoresTheSettingsAndGoesBackToTheButton) {
@@ -288,6 +319,13 @@ TEST_F(PanelTest, EscStoresTheSettingsAndGoesBackToTheButton) {
   EXPECT_FALSE(surface().Visible());
   EXPECT_FALSE(run.controls.Frame1.Visible());
   EXPECT_EQ(focused, 8);
+}
+
+TEST_F(PanelTest, AChangeThatIsNotLeftByEscIsNotStored) {
+  open(1, 5);
+  clickAt(caretOfLevel(8));
+  speech.setUp(stores);
+  EXPECT_EQ(speech.TocDoDoc, 5);
 }
 
 TEST_F(PanelTest, AnotherKeyLeavesThePanelOpen) {

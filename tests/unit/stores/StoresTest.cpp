@@ -7,6 +7,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace talvora {
 namespace {
 
@@ -54,6 +57,26 @@ TEST_F(StoresTest, AReaderStopsAtTheEndOfItsFile) {
   EXPECT_EQ(reader.next(), "b");
   EXPECT_EQ(reader.next(), std::nullopt);
   EXPECT_EQ(reader.next(), std::nullopt);
+}
+
+TEST_F(StoresTest, WhatAByteStoodForIsRememberedWhicheverStreamItCameFrom) {
+  folder.writeStream("data.av", "a\xBC");
+  folder.writeStream("dataN.av", "\x10");
+  stores.MoDuLieu();
+  Variables variables;
+  stores.declare(variables);
+  const auto remembered = [&] {
+    return std::get<std::string>((*variables.find("ChuoiByte"))().value);
+  };
+  EXPECT_EQ(remembered(), "");
+  PieceReader texts(stores.fileOf(file::Texts), 1);
+  while (texts.next()) {
+  }
+  EXPECT_EQ(remembered(), "__");
+  const RecordFile ownStore = stores.open("\\dataN.av");
+  PieceReader items(ownStore, 1);
+  EXPECT_TRUE(items.next());
+  EXPECT_EQ(remembered(), " ngh");
 }
 
 TEST_F(StoresTest, AMissingFileIsNamed) {
@@ -151,6 +174,45 @@ TEST(VocabularyFileTest, AListThatCannotBeWrittenIsReportedAndTheOldOneStands) {
   ASSERT_TRUE(problem);
   EXPECT_THAT(*problem, testing::HasSubstr("data.c"));
   EXPECT_EQ(file.read().size(), 1U);
+}
+
+/// Files grow to so many bytes and no further, as on a disk that is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    handler_ = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{bytes, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = SIG_DFL;
+};
+
+TEST(VocabularyFileTest, ADiskThatFillsUpLeavesTheOldList) {
+  TestFolder folder;
+  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4));
+  VocabularyFile file(folder.pathOf("data.c"));
+  const auto old = file.read();
+  for (const rlim_t room : {rlim_t{0}, rlim_t{1}, rlim_t{24}, rlim_t{47}}) {
+    std::optional<std::string> problem;
+    {
+      const FullDisk full(room);
+      problem = file.write({{paddedWord("one"), 1}, {paddedWord("two"), 2}});
+    }
+    ASSERT_TRUE(problem) << room;
+    EXPECT_THAT(*problem, testing::HasSubstr("data.c"));
+    EXPECT_EQ(file.read(), old) << room;
+    EXPECT_FALSE(folder.has("data.c.new")) << room;
+  }
 }
 
 } // namespace

@@ -223,6 +223,29 @@ TEST_F(SurfaceEventsTest, PagesMoveByTheLinesInView) {
   EXPECT_EQ(surface.SelStart(), 2);
 }
 
+TEST_F(SurfaceEventsTest, KeysGoOnFromASelectedLineAndNotFromTheOneBelow) {
+  surface.Text(lines(50));
+  const int lineLength = 5;
+  const auto selectLine = [&](int line) {
+    surface.SelStart(line * lineLength);
+    surface.SelLength(lineLength);
+  };
+  const auto lineAfter = [&](int key) {
+    selectLine(20);
+    press(key);
+    return surface.GetLineFromChar(surface.SelStart());
+  };
+  EXPECT_EQ(lineAfter(key::Down), 21);
+  EXPECT_EQ(lineAfter(key::Up), 19);
+  EXPECT_EQ(lineAfter(key::Home), 20);
+  EXPECT_EQ(lineAfter(key::End), 20);
+  EXPECT_EQ(lineAfter(key::PgDn), 30);
+  EXPECT_EQ(lineAfter(key::PgUp), 10);
+  selectLine(20);
+  press(key::Down, shift::Shift);
+  EXPECT_EQ(surface.SelLength(), 2 * lineLength) << "a selection is extended from its own end";
+}
+
 TEST_F(SurfaceEventsTest, ReplacedKeysAreTypedAsTheHandlerSays) {
   surface.KeyPress = [](int& KeyAscii) { KeyAscii = 'z'; };
   surface.pressKey('A', 0, 'a');

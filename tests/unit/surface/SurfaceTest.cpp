@@ -325,6 +325,23 @@ TEST_F(SurfaceTest, ShiftExtendsTheSelectionFromItsAnchor) {
   EXPECT_EQ(surface.SelLength(), 0);
 }
 
+TEST_F(SurfaceTest, UpAndDownStartFromTheLineThatIsSelected) {
+  surface.Text("one\rtwo\rthree\rfour\r");
+  const auto selectSecondLine = [this] {
+    surface.SelStart(4);
+    surface.SelLength(4);
+  };
+  selectSecondLine();
+  press(key::Down);
+  EXPECT_EQ(surface.GetLineFromChar(surface.SelStart()), 2);
+  selectSecondLine();
+  press(key::Up);
+  EXPECT_EQ(surface.GetLineFromChar(surface.SelStart()), 0);
+  selectSecondLine();
+  press(key::Down, shift::Shift);
+  EXPECT_EQ(surface.SelText(), "two\rthree\r");
+}
+
 TEST_F(SurfaceTest, UpAndDownKeepTheColumnOverShortLines) {
   surface.Text("long line\rx\rlong line");
   surface.SelStart(6);
@@ -392,6 +409,45 @@ TEST_F(SurfaceTest, ScrollingStopsAtTheFirstAndTheLastLine) {
   EXPECT_EQ(surface.scroll(), (ScrollPlace{1, 150}));
   surface.scrollBy(100000);
   EXPECT_EQ(surface.scroll(), (ScrollPlace{11, 0}));
+  surface.Check();
+}
+
+TEST_F(SurfaceTest, FromALineSelectedWholeUpAndDownLeadToItsNeighbours) {
+  surface.Text("one\rtwo\rthree\rfour\r");
+  const auto selectTwo = [this] {
+    surface.SelStart(4);
+    surface.SelLength(4);
+  };
+  selectTwo();
+  press(key::Down);
+  EXPECT_EQ(surface.GetLineFromChar(surface.SelStart()), 2);
+  selectTwo();
+  press(key::Up);
+  EXPECT_EQ(surface.GetLineFromChar(surface.SelStart()), 0);
+  selectTwo();
+  press(key::Home);
+  EXPECT_EQ(surface.SelStart(), 4);
+  selectTwo();
+  press(key::End);
+  EXPECT_EQ(surface.SelStart(), 7);
+  EXPECT_EQ(surface.SelLength(), 0);
+}
+
+TEST_F(SurfaceTest, ScrollsBackToAPlaceThatWasSeenWhereverTheCaretIs) {
+  std::string text;
+  for (int line = 0; line < 200; ++line)
+    text += "line\r";
+  surface.Text(text);
+  surface.scrollBy(450);
+  const ScrollPlace seen = surface.scroll();
+  surface.SelStart(50 * 5);
+  surface.SelStart(150 * 5);
+  surface.scroll(seen);
+  EXPECT_EQ(surface.scroll(), seen);
+  surface.scroll({100000, 100000});
+  EXPECT_EQ(surface.scroll().paragraph, 200);
+  surface.scroll({-1, -1});
+  EXPECT_EQ(surface.scroll(), ScrollPlace{});
   surface.Check();
 }
 

@@ -38,6 +38,12 @@ TEST(Text, NumbersHaveALeadingBlankInPlaceOfAPlusSign) {
   EXPECT_EQ(Str(-7), "-7");
 }
 
+TEST(Text, PlainAsciiKeepsTheApostropheAndBlanksOutWhatIsForeign) {
+  EXPECT_EQ(plainAscii("Don\x92t go, it's ~12!"), "Don't go, it's ~12!");
+  EXPECT_EQ(plainAscii("\x93quoted\x94\ttab\r\x7F"), " quoted  tab  ");
+  EXPECT_EQ(plainAscii(""), "");
+}
+
 TEST(Text, PathsTakeThePlatformsSeparator) {
   EXPECT_EQ(pathBelow("/a\\b", "\\sound\\1.wav"), "/a\\b/sound/1.wav");
 }

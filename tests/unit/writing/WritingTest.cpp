@@ -15,7 +15,7 @@ class WritingPage : public testing::Test {
  protected:
   WritingPage()
       : ordering(run.controls(), run.state(), run.stores, run.base.shell, run.services,
-                 run.base.machine.random),
+                 run.base.machine.random, links),
         writing(run.base.form, run.controls(), run.state(), run.stores, run.base.shell,
                 run.services, ordering),
         RW2(run.controls().RW2) {
@@ -49,6 +49,7 @@ class WritingPage : public testing::Test {
   }
 
   DrillRun run;
+  BackNextLinks links;
   XepTu ordering;
   Writing writing;
   Surface& RW2;

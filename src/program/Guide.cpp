@@ -1,0 +1,46 @@
+#include "program/Guide.h"
+
+#include "text/Text.h"
+
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr int GuideButton = 9;
+
+} // namespace
+
+Guide::Guide(Controls& controls, const SharedState& state, Shell& shell)
+    : controls_(controls), state_(state), shell_(shell) {
+  wireEvents();
+}
+
+void Guide::open() {
+  Surface& Rcachhoc = controls_.Rcachhoc;
+  Rcachhoc.FontSize(state_.measures.CoChu);
+  Rcachhoc.TabIndex(Controls::ButtonCount + 1);
+  Rcachhoc.Locked(false);
+  Rcachhoc.FileName(pathBelow(state_.places.ThuMuc, "\\readme.rtf"));
+  shell_.transitions.MoRan(Rcachhoc, controls_.Frame1);
+  shell_.curtain.KeoMan(Rcachhoc);
+}
+
+void Guide::wireEvents() {
+  Surface& Rcachhoc = controls_.Rcachhoc;
+  Rcachhoc.KeyDown = [&Rcachhoc, this](int& KeyCode, int) {
+    shell_.hints.showOnF2(KeyCode, Rcachhoc);
+    // The guide is not locked, but nothing in it is the learner's to delete.
+    if (KeyCode == key::Delete) KeyCode = 0;
+  };
+  Rcachhoc.KeyPress = [&Rcachhoc, this](int& KeyAscii) {
+    const int pressed = std::exchange(KeyAscii, 0);
+    if (pressed != key::Esc) return;
+    shell_.transitions.DongRan(Rcachhoc, controls_.Frame1);
+    controls_.but(GuideButton).SetFocus();
+  };
+  Rcachhoc.KeyUp = [this](int&, int) { shell_.gestures.keyReleased(); };
+}
+
+} // namespace talvora

@@ -1,0 +1,25 @@
+// The guide: how to study with the program, told by a rich text on `Rcachhoc`.
+#pragma once
+
+#include "shell/Shell.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+
+namespace talvora {
+
+class Guide {
+ public:
+  Guide(Controls& controls, const SharedState& state, Shell& shell);
+
+  /// Shows the guide behind the curtain. Throws FatalFailure when its file is missing.
+  void open();
+
+ private:
+  void wireEvents();
+
+  Controls& controls_;
+  const SharedState& state_;
+  Shell& shell_;
+};
+
+} // namespace talvora

@@ -1,0 +1,174 @@
+#include "program/Sections.h"
+
+#include "exercises/ItemRecord.h"
+#include "text/Bytes.h"
+
+namespace talvora {
+
+namespace {
+
+constexpr int ReadingSection = 1;
+constexpr int VocabularySection = 2;
+constexpr int LessonSection = 3;
+constexpr int ListeningSection = 4;
+constexpr int AnalysisSection = 5;
+constexpr int WritingSection = 6;
+constexpr int SpeakingSection = 7;
+constexpr int SettingsSection = 8;
+constexpr int GuideSection = 9;
+
+} // namespace
+
+Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedState& state,
+                   Stores& stores, Shell& shell, PageServices services)
+    : platform_(platform), controls_(controls), state_(state), stores_(stores), shell_(shell),
+      soundSettings_(controls, state, platform, stores, shell, services.speech),
+      reading_(controls, state, stores, shell, services, platform.clock),
+      lessons_(controls, state, stores, shell, services),
+      exercises_(form, controls, state, stores, shell, services, lessons_, platform.random),
+      ordering_(controls, state, stores, shell, services, platform.random, exercises_.item.links),
+      listening_(form, controls, state, stores, shell, services, platform.random, exercises_.units,
+                 exercises_.scoring, exercises_.item),
+      dictation_(form, controls, state, stores, shell, services, platform.clock),
+      writing_(form, controls, state, stores, shell, services, ordering_),
+      analysis_(state, stores, shell, exercises_.item), guide_(controls, state, shell) {
+  wireFocus();
+  wireOrdering();
+  wireDictation();
+  wireAnalysis();
+}
+
+// -- What the modules ask of each other.
+
+void Sections::wireFocus() {
+  const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
+  soundSettings_.focusButton = focusButton;
+  reading_.focusButton = focusButton;
+  reading_.vocabulary().focusButton = [focusButton] { focusButton(VocabularySection); };
+  lessons_.focusButton = focusButton;
+  exercises_.units.focusButton = focusButton;
+  writing_.focusButton = focusButton;
+}
+
+void Sections::wireOrdering() {
+  Run& run = exercises_.run;
+  run.VaoXepTu = [this](const std::string& LoiGiai) { ordering_.VaoXepTu(LoiGiai); };
+  run.startOrdering = [this] { ordering_.startRun(); };
+  ordering_.run.BaiTuChon = [this] { return lessons_.BaiTuChon; };
+  ordering_.run.SoCauChay = [&run] { return run.SoCauChay(); };
+  ordering_.run.CauKeTiep = [&run] { run.CauKeTiep(); };
+  ordering_.run.ThoatBT = [&run](Surface& surface) { run.ThoatBT(surface); };
+  ordering_.run.clearChuCu = [this] { exercises_.item.ChuCu.clear(); };
+  ordering_.run.BoChonBai = [this] { lessons_.BoChonBai(); };
+  reading_.page().GoiRxep = [this] { ordering_.openFromText(); };
+}
+
+void Sections::wireDictation() {
+  reading_.MoNgheViet = [this] { dictation_.MoNgheViet(); };
+  dictation_.ChonDongR1 = [this] { reading_.ChonDongR1(controls_.R1); };
+  dictation_.BongLoiGiai = [this] { exercises_.box.BongLoiGiai(); };
+}
+
+void Sections::wireAnalysis() {
+  ReadingPage& page = reading_.page();
+  const auto takeMarkBack = [this] {
+    if (!exercises_.item.ChuCu.empty()) exercises_.answer.KhoiPhucChu(controls_.R2);
+  };
+  reading_.NapPhanTich = [this](int n) { analysis_.NapPhanTich(n); };
+  page.GiaiPhanTich = [this] { analysis_.GiaiTuPT(controls_.R2); };
+  page.endExplanation = [this, takeMarkBack](int keyCode) {
+    takeMarkBack();
+    // Esc closes what stands on top, which need not be the box.
+    if (keyCode != key::Esc && controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+  };
+  page.leaveExplanation = [this, takeMarkBack] {
+    takeMarkBack();
+    if (controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+  };
+  page.RoiChuotBT = [this](SurfacePoint at) { exercises_.box.RoiChuotBT(controls_.R2, at); };
+  exercises_.box.keyPressed = [this, takeMarkBack] {
+    if (controls_.R2.Visible()) takeMarkBack();
+  };
+  analysis_.calls.ThayTenBai = [this](std::string& text) {
+    text = ThayTenBai(text, state_.list.TenBaiHoc);
+  };
+  analysis_.calls.GiaiThich = [this](int p, Surface& surface) {
+    exercises_.box.GiaiThich(p, surface);
+  };
+}
+
+void Sections::declare(Variables& variables) const {
+  soundSettings_.declare(variables);
+  reading_.declare(variables);
+  lessons_.declare(variables);
+  exercises_.declare(variables);
+  ordering_.declare(variables);
+  listening_.declare(variables);
+  dictation_.declare(variables);
+  analysis_.declare(variables);
+}
+
+// -- Opening.
+
+void Sections::open(int button) {
+  if (button == WritingSection) {
+    // The closed section answers also while the program is busy; that is meant.
+    shell_.messages.ThongBao("PhÌn này ðang xây dÜng."_bytes, 1000);
+    return;
+  }
+  if (state_.places.DangBan) return;
+  switch (button) {
+  case ReadingSection:
+    openTexts(button, file::TextPositions);
+    break;
+  case VocabularySection:
+    state_.places.MucMenu = button;
+    reading_.vocabulary().open();
+    break;
+  case LessonSection:
+    lessons_.open();
+    break;
+  case ListeningSection:
+    listening_.openSection();
+    break;
+  case AnalysisSection:
+    openAnalysis();
+    break;
+  case SpeakingSection:
+    // The list of another store must not stay.
+    reading_.vocabulary().LuuTuVung();
+    reading_.DaNapDanhSach = false;
+    openTexts(button, file::SpeakingPositions);
+    break;
+  case SettingsSection:
+    soundSettings_.open();
+    break;
+  case GuideSection:
+    guide_.open();
+    break;
+  default:
+    openBank(button);
+    break;
+  }
+}
+
+void Sections::openTexts(int section, int store) {
+  state_.places.MucMenu = section;
+  stores_.ChonKho(store);
+  reading_.BatdauBut();
+}
+
+void Sections::openAnalysis() {
+  state_.places.MucMenu = AnalysisSection;
+  // The explanations name rule lessons by their titles.
+  lessons_.MoVanPham();
+  openTexts(AnalysisSection, file::TextPositions);
+}
+
+void Sections::openBank(int section) {
+  constexpr int FirstBankSection = 10;
+  state_.places.MucMenu = section;
+  exercises_.run.MoMuc(section - FirstBankSection + 1);
+}
+
+} // namespace talvora

@@ -1,0 +1,71 @@
+// The sections behind the menu: owns their modules, wires what they ask of each other, and opens
+// the one whose button was clicked.
+#pragma once
+
+#include "dictionary/Dictionary.h"
+#include "dictionary/VietnameseSide.h"
+#include "exercises/Exercises.h"
+#include "exercises/XepTu.h"
+#include "lessons/VanPham.h"
+#include "listening/Listening.h"
+#include "listening/NGHE_VIET.h"
+#include "platform/Platform.h"
+#include "program/Guide.h"
+#include "reading/Reading.h"
+#include "shell/Shell.h"
+#include "sound/Amthanhcaidat.h"
+#include "stores/Stores.h"
+#include "surface/Controls.h"
+#include "surface/State.h"
+#include "surface/Variables.h"
+#include "writing/PTCau.h"
+#include "writing/Writing.h"
+
+namespace talvora {
+
+class Sections {
+ public:
+  Sections(Platform& platform, Form& form, Controls& controls, SharedState& state, Stores& stores,
+           Shell& shell, PageServices services);
+
+  /// Opens the section of a menu button, 1 to 18. While the program is busy only the closed section
+  /// answers.
+  void open(int button);
+  /// Reads the counts of the exercises, once.
+  void loadExerciseCounts() { exercises_.store.DocSoCau(platform_.events); }
+
+  void declare(Variables& variables) const;
+
+  [[nodiscard]] ReadingText& text() noexcept { return reading_.text(); }
+  [[nodiscard]] int TimBaiHoc(const std::string& title) const {
+    return exercises_.box.TimBaiHoc(title);
+  }
+
+ private:
+  void wireFocus();
+  void wireOrdering();
+  void wireDictation();
+  void wireAnalysis();
+  /// Opens a section that begins with a list of texts.
+  void openTexts(int section, int store);
+  void openAnalysis();
+  void openBank(int section);
+
+  Platform& platform_;
+  Controls& controls_;
+  SharedState& state_;
+  Stores& stores_;
+  Shell& shell_;
+  Amthanhcaidat soundSettings_;
+  Reading reading_;
+  VanPham lessons_;
+  Exercises exercises_;
+  XepTu ordering_;
+  Listening listening_;
+  NGHE_VIET dictation_;
+  Writing writing_;
+  PTCau analysis_;
+  Guide guide_;
+};
+
+} // namespace talvora
