@@ -26,13 +26,14 @@ void replaceFolder(Json& value, const std::string& folder) {
 /// Sets up the run from a first line. A field that has no meaning would be a test that tests
 /// nothing.
 void readSettings(const Json& line, Scenario& scenario) {
-  static const std::set<std::string> known = {"pack", "options", "firstRun", "note"};
+  static const std::set<std::string> known = {"pack", "options", "firstRun", "without", "note"};
   for (const auto& [name, value] : line.items()) {
     if (known.count(name) == 0) throw std::runtime_error("no setting is named \"" + name + "\"");
   }
   scenario.pack = line.value("pack", scenario.pack);
   scenario.options = line.value("options", scenario.options);
   scenario.firstRun = line.value("firstRun", false);
+  scenario.without = line.value("without", scenario.without);
 }
 
 Step readStep(Json line) {
@@ -64,7 +65,10 @@ Scenario readScenario(const std::filesystem::path& file, const std::filesystem::
       Json line = Json::parse(text);
       if (!line.is_object()) throw std::runtime_error("not an object");
       replaceFolder(line, runFolder.string());
-      if (line.contains("do")) {
+      if (line.value("restart", false)) {
+        scenario.steps.emplace_back();
+        scenario.steps.back().restart = true;
+      } else if (line.contains("do")) {
         scenario.steps.push_back(readStep(std::move(line)));
         scenario.steps.back().line = number;
       } else if (number == 1) {

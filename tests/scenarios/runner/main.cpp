@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,11 +39,29 @@ class RunFolder {
 
 void fill(const RunFolder& folder, const fs::path& pack, const Scenario& scenario) {
   fs::copy(pack, folder.path(), fs::copy_options::recursive);
+  for (const std::string& name : scenario.without) {
+    if (!fs::remove(folder.path() / name)) throw ScenarioFailure(name + ": not in the pack");
+  }
   const fs::path marker = folder.path() / "Yes1";
   if (scenario.firstRun) {
     fs::remove(marker);
   } else {
     std::ofstream(marker).flush();
+  }
+}
+
+void finish(DriverProcess& process, const fs::path& file) {
+  const int code = process.finish();
+  if (code != 0) {
+    throw ScenarioFailure(file.string() + ": the driver ended with " + std::to_string(code));
+  }
+}
+
+std::string ask(DriverProcess& process, const Step& step, const fs::path& file) {
+  try {
+    return process.ask(step.command.dump());
+  } catch (const std::exception& error) {
+    throw ScenarioFailure(file.string() + ":" + std::to_string(step.line) + ": " + error.what());
   }
 }
 
@@ -52,20 +71,16 @@ void run(const std::string& driver, const fs::path& packs, const fs::path& file)
   fill(folder, packs / scenario.pack, scenario);
   std::vector<std::string> options = {"--dir", folder.path().string()};
   options.insert(options.end(), scenario.options.begin(), scenario.options.end());
-  DriverProcess process(driver, options);
+  auto process = std::make_unique<DriverProcess>(driver, options);
   for (const Step& step : scenario.steps) {
-    std::string reply;
-    try {
-      reply = process.ask(step.command.dump());
-    } catch (const std::exception& error) {
-      throw ScenarioFailure(file.string() + ":" + std::to_string(step.line) + ": " + error.what());
+    if (step.restart) {
+      finish(*process, file);
+      process = std::make_unique<DriverProcess>(driver, options);
+    } else {
+      checkReply(file, step, ask(*process, step, file));
     }
-    checkReply(file, step, reply);
   }
-  const int code = process.finish();
-  if (code != 0) {
-    throw ScenarioFailure(file.string() + ": the driver ended with " + std::to_string(code));
-  }
+  finish(*process, file);
 }
 
 } // namespace
