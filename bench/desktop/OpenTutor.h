@@ -1,0 +1,85 @@
+// The tutor in its real window, in this process, for benchmarks: events go in as Qt delivers them,
+// and each deed is timed to the end of the painting that it leads to.
+#pragma once
+
+#include "desktop/DesktopMachine.h"
+#include "desktop/EventBridge.h"
+#include "desktop/Window.h"
+#include "program/Program.h"
+
+#include <QEvent>
+#include <QObject>
+#include <QPoint>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace talvora::bench {
+
+/// A pack that a run may write to: links to the files of another one, and the learner's files new.
+class PackCopy {
+ public:
+  explicit PackCopy(const std::filesystem::path& pack);
+  PackCopy(const PackCopy&) = delete;
+  PackCopy& operator=(const PackCopy&) = delete;
+  ~PackCopy();
+
+  [[nodiscard]] std::string path() const { return folder_.string(); }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+/// Sees when a widget of the application has been painted.
+class PaintWatch final : public QObject {
+ public:
+  PaintWatch();
+
+  void forget() noexcept { seen_ = false; }
+  [[nodiscard]] bool seen() const noexcept { return seen_; }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool seen_ = false;
+};
+
+class OpenTutor {
+ public:
+  /// Starts the tutor on a pack and opens a text of its reading list, by its number from 1.
+  OpenTutor(const std::filesystem::path& pack, int text);
+
+  [[nodiscard]] Controls& controls() { return program_.controls(); }
+  /// The caret in the middle of each word of three letters or more that is in view on `R2`.
+  [[nodiscard]] std::vector<int> wordsInView();
+
+  void movePointerTo(Surface& surface, int caret);
+  void click(Surface& surface, int caret);
+  /// Turns the wheel with the pointer over the middle of a surface; below 0 is down.
+  void wheel(Surface& surface, int notches);
+  /// A whole key stroke; 0 is a key without a character.
+  void key(int qtKey, char character = 0, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  /// Lets the window come to rest.
+  void settle();
+  /// Milliseconds from a deed to the end of the painting that follows it; below 0 when it changes
+  /// no picture.
+  double timeToPicture(const std::function<void()>& deed);
+
+ private:
+  void startUp();
+  void openText(int text);
+  [[nodiscard]] QPoint pixelOf(const Surface& surface, SurfacePoint at);
+  void sendMouse(QEvent::Type type, QPoint global, Qt::MouseButton button);
+
+  PackCopy pack_;
+  DesktopMachine machine_;
+  Program program_;
+  EventBridge bridge_;
+  Window window_;
+  PaintWatch paints_;
+};
+
+/// What this process holds in memory, in MB.
+[[nodiscard]] double residentMegabytes();
+
+} // namespace talvora::bench
