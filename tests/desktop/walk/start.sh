@@ -41,7 +41,19 @@ start_compositor() {
   done
   [ -S "$XDG_RUNTIME_DIR/walk" ] || fail "weston does not start: $(tail -n 3 "$work/weston.log")"
   export WAYLAND_DISPLAY=walk
+  timeout 10 xdotool search --sync --onlyvisible --class weston >"$work/weston.window" ||
+    fail "weston shows no window"
+  meet_in_the_corner
+}
+
+# Weston counts in steps from where it believes the pointer to be, and stops it at the edges. A way
+# across the whole screen into a corner makes its pointer and the display's the same.
+meet_in_the_corner() {
   sleep 0.5
+  xdotool mousemove $((screen_width - 1)) $((screen_height - 1))
+  sleep 0.2
+  xdotool mousemove 0 0
+  sleep 0.2
 }
 
 start_program() {
