@@ -3,6 +3,7 @@
 #include "text/GlyphMap.h"
 
 #include <QFontDatabase>
+#include <QResource>
 #include <QStringList>
 #include <QTextLayout>
 
@@ -21,11 +22,13 @@ namespace {
 
 constexpr double TwipsPerPoint = 20;
 
-/// Loads an embedded face and returns its family.
+/// Loads an embedded face and returns its family. The face is read where it lies in the program:
+/// loaded as a file it would be copied twice.
 QString load(const char* file) {
   initFontResource();
-  const int id =
-      QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/") + QLatin1String(file));
+  const QResource face(QStringLiteral(":/fonts/") + QLatin1String(file));
+  const int id = QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(
+      reinterpret_cast<const char*>(face.data()), static_cast<qsizetype>(face.size())));
   return id < 0 ? QString() : QFontDatabase::applicationFontFamilies(id).value(0);
 }
 
