@@ -4,7 +4,7 @@
 //
 //   talvora-bench-Sound PACK_FOLDER [benchmark options]
 #include "desktop/FliteSpeech.h"
-#include "desktop/QtPcmDevice.h"
+#include "desktop/SoundDevice.h"
 #include "desktop/WaveOutput.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
@@ -84,18 +84,18 @@ class HeardDevice final : public PcmDevice {
   explicit HeardDevice(Ear& ear) : ear_(ear) {}
 
   std::size_t write(std::span<const std::int16_t> samples, int rate) override {
-    const std::size_t taken = device_.write(samples, rate);
+    const std::size_t taken = device_->write(samples, rate);
     if (taken > 0) ear_.sound();
     return taken;
   }
   void silence() override {
-    device_.silence();
+    device_->silence();
     ear_.silence();
   }
 
  private:
   Ear& ear_;
-  QtPcmDevice device_;
+  std::unique_ptr<PcmDevice> device_ = openSoundDevice();
 };
 
 PcmPlayer::MakeDevice heardBy(Ear& ear) {

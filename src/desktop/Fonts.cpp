@@ -109,18 +109,17 @@ QFont fontFor(const CharStyle& style) {
 
 void warmFonts() {
   const QString letters = everyLetter();
-  for (const char* name : {"Vni-centur", "x1"}) {
-    for (const bool bold : {false, true}) {
-      for (const bool italic : {false, true}) {
-        CharStyle style;
-        style.font = {name, 13, bold};
-        style.italic = italic;
-        QTextLayout layout(letters, fontFor(style));
-        layout.beginLayout();
-        layout.createLine();
-        layout.endLayout();
-      }
-    }
+  CharStyle plain;
+  plain.font = {"x1", 13, false};
+  CharStyle bold = plain;
+  bold.font.bold = true;
+  CharStyle italic = plain;
+  italic.italic = true;
+  for (const CharStyle& style : {plain, bold, italic}) {
+    QTextLayout layout(letters, fontFor(style));
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
   }
 }
 

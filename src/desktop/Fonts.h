@@ -16,8 +16,8 @@ void loadFonts();
 [[nodiscard]] QFont fontFor(const FontSpec& font);
 [[nodiscard]] QFont fontFor(const CharStyle& style);
 
-/// Loads the other faces and shapes the Vietnamese letters in each, so that no page has to wait for
-/// it later. Takes some tens of milliseconds: for an idle moment.
+/// Loads the three faces of an entry's popup and shapes the Vietnamese letters in each, so that the
+/// first click does not wait for it. Takes some tens of milliseconds: for an idle moment.
 void warmFonts();
 
 } // namespace talvora

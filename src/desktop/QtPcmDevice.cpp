@@ -67,3 +67,7 @@ bool QtPcmDevice::hasFailed() const {
 }
 
 } // namespace talvora
+
+void talvoraMakeSoundDevice(std::unique_ptr<talvora::PcmDevice>& device) {
+  device = std::make_unique<talvora::QtPcmDevice>();
+}

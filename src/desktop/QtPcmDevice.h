@@ -37,3 +37,7 @@ class QtPcmDevice final : public PcmDevice {
 };
 
 } // namespace talvora
+
+/// What the library of the device is loaded for.
+extern "C" [[gnu::visibility("default")]] void
+talvoraMakeSoundDevice(std::unique_ptr<talvora::PcmDevice>& device);

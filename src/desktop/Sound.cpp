@@ -1,7 +1,7 @@
 #include "desktop/Sound.h"
 
 #include "desktop/PcmPlayer.h"
-#include "desktop/QtPcmDevice.h"
+#include "desktop/SoundDevice.h"
 
 #ifdef TALVORA_HAS_FLITE
 #include "desktop/FliteSpeech.h"
@@ -18,13 +18,9 @@ namespace talvora {
 
 namespace {
 
-[[maybe_unused]] std::unique_ptr<PcmDevice> makeDevice() {
-  return std::make_unique<QtPcmDevice>();
-}
-
 std::unique_ptr<SpeechEngine> makeSpeech() {
 #ifdef TALVORA_HAS_FLITE
-  return std::make_unique<FliteSpeech>(makeDevice);
+  return std::make_unique<FliteSpeech>(openSoundDevice);
 #else
   return std::make_unique<SilentSpeech>();
 #endif
@@ -32,7 +28,7 @@ std::unique_ptr<SpeechEngine> makeSpeech() {
 
 std::unique_ptr<WavePlayer> makeWave() {
 #ifdef TALVORA_HAS_SNDFILE
-  return std::make_unique<WaveOutput>(makeDevice);
+  return std::make_unique<WaveOutput>(openSoundDevice);
 #else
   return std::make_unique<SilentWave>();
 #endif
