@@ -87,7 +87,10 @@ QString everyLetter() {
   std::string bytes;
   for (int code = ' '; code < 256; ++code)
     bytes += static_cast<char>(code);
-  return QString::fromStdU16String(toUnicode(bytes, Encoding::X1));
+  QString letters = QString::fromStdU16String(toUnicode(bytes, Encoding::X1));
+  // No face has those; they would be sought in every font of the machine.
+  letters.removeIf([](QChar letter) { return !letter.isPrint(); });
+  return letters;
 }
 
 } // namespace
