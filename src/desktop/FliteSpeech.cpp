@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -34,6 +35,9 @@ constexpr const char* StretchFeature = "duration_stretch";
 constexpr int NaturalSpeed = 175;
 constexpr int SlowestSpeed = 30;
 constexpr int FastestSpeed = 500;
+/// How long a word waits for the picture that comes with it: at work together, each would hold the
+/// other up, and the learner notices it in the picture only.
+constexpr std::chrono::milliseconds PictureFirst(4);
 /// Of the silence in place of a voice.
 constexpr int SilenceRate = 16000;
 /// Samples from one call of the callback to the next: a twentieth of a second.
@@ -118,6 +122,7 @@ void FliteSpeech::run(const std::stop_token& ending) {
   std::unique_lock lock(mutex_);
   while (!ending.stop_requested()) {
     if (!changed_.wait(lock, ending, [this] { return !queue_.empty(); })) continue;
+    if (changed_.wait_for(lock, ending, PictureFirst, [this] { return queue_.empty(); })) continue;
     const Utterance utterance = std::move(queue_.front());
     queue_.pop_front();
     synthesising_ = true;
