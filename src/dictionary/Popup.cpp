@@ -91,6 +91,8 @@ void Popup::VeNghia(const std::string& text) {
   RHD.SelItalic(false);
   RHD.SelColor(Black);
   if (state_.word.ThongBaoHD.empty()) {
+    // A sentence's popup, which is dark, may still be up.
+    RHD.BackColor(state_.measures.MauNenHD);
     VeMucTu(text);
   } else {
     VeThongBao();

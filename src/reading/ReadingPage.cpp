@@ -37,6 +37,8 @@ void ReadingPage::wireEvents() {
     shell_.upward.DongNghia();
     state_.word.CoDupChuot = true;
   };
+  // The release of Space goes to whoever has the keyboard by then.
+  R2.LostFocus = [this] { clearStepFlags(); };
   R2.SelChange = [this, &R2] {
     if (R2.SelLength() == 0) state_.word.TuHienTai.clear();
   };

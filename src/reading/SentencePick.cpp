@@ -46,7 +46,8 @@ void SentencePick::seekPhaiR2(Surface& surface) {
 void SentencePick::seekTraiR2(Surface& surface) {
   int caret = surface.SelStart() - 1;
   if (caret < 0) return;
-  if (caret >= 4 && surface.CharAt(caret) == SentenceMark) caret -= 3;
+  // At a paragraph's first word: past its mark, the line end and the point ahead of them.
+  if (caret >= 4 && surface.CharAt(caret - 1) == SentenceMark) caret -= 3;
   while (caret > 0) {
     const char before = surface.CharAt(caret - 1);
     if (before == ' ' || before == SentenceMark || before == '\t' || before == '\r') break;

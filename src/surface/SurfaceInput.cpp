@@ -10,7 +10,8 @@ namespace talvora {
 
 namespace {
 
-constexpr CharClass WordCharacters("[a-zA-Z0-9'\x80-\xFF]");
+// 160 is a blank that breaks no line, and the mark of a sentence.
+constexpr CharClass WordCharacters("[a-zA-Z0-9'\x80-\x9F\xA1-\xFF]");
 constexpr char Blank = ' ';
 
 /// A character that a key has and that is no text: Esc, Backspace.

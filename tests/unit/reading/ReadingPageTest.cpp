@@ -98,6 +98,7 @@ TEST_F(OpenPage, AClickBehindASentenceShowsTheWordAgain) {
   R2.SelStart(at("bank"));
   R2.releaseMouse(MouseButton::Left, shift::None, point);
   EXPECT_EQ(RHD.Text(), "bank \r - money\r");
+  EXPECT_EQ(RHD.BackColor(), run.number("MauNenHD")) << "an entry cannot be read on dark blue";
 }
 
 // -- Sentences.
@@ -109,6 +110,12 @@ TEST_F(OpenPage, ADoubleClickTakesTheSentence) {
   EXPECT_EQ(RHD.Text(), "Mot cau.");
   EXPECT_FALSE(run.flag("CoDupChuot"));
   EXPECT_THAT(spoken(), testing::Contains("one bank here, now"));
+}
+
+TEST_F(OpenPage, ADoubleClickOnASentencesFirstWordTakesThatSentence) {
+  run.doubleClick(R2, at("Two"));
+  EXPECT_EQ(R2.SelText(), "Two banks there.");
+  EXPECT_EQ(RHD.Text(), "Hai cau.");
 }
 
 TEST_F(OpenPage, ARightClickSaysTheSentenceAgain) {
@@ -136,6 +143,17 @@ TEST_F(OpenPage, SpaceShowsTheSentenceWhileItIsHeld) {
   EXPECT_FALSE(RHD.Visible());
   EXPECT_EQ(R2.SelLength(), 0);
   EXPECT_EQ(R2.SelStart(), caret);
+}
+
+TEST_F(OpenPage, SpaceIsForgottenWhenItsReleaseGoesElsewhere) {
+  R2.SelStart(at("Two"));
+  press(key::Space, ' ');
+  press('A', 'a');
+  release('A');
+  ASSERT_TRUE(RTD.Visible());
+  release(key::Space);
+  EXPECT_FALSE(run.flag("GiuSpace"));
+  EXPECT_FALSE(run.flag("CoDupChuot"));
 }
 
 TEST_F(OpenPage, SpaceOnTheTitleShowsNoTranslation) {
@@ -167,6 +185,8 @@ TEST_F(OpenPage, RightPassesTheMarkOfTheNextSentence) {
   R2.SelStart(at("now"));
   run.key(key::Right);
   EXPECT_EQ(R2.SelStart(), static_cast<int>(R2.Text().find("Two")));
+  run.key(key::Left);
+  EXPECT_EQ(R2.SelStart(), static_cast<int>(R2.Text().find("Two")) - 1) << "ahead of the mark";
   run.key(key::Left);
   EXPECT_EQ(R2.SelStart(), static_cast<int>(R2.Text().find("now")));
 }

@@ -123,18 +123,25 @@ TEST_F(SentencePickTest, GoesLeftToTheStartOfTheWord) {
   EXPECT_EQ(leftOf(16), 13);
   EXPECT_EQ(leftOf(13), 9) << "behind the tab";
   EXPECT_EQ(leftOf(5), 1) << "behind a sentence mark";
-  EXPECT_EQ(leftOf(8), 1) << "the mark, the line end and the letter ahead of it are passed at once";
 }
 
-TEST_F(SentencePickTest, GoesLeftOverASentenceMarkAndWhatEndsTheSentenceAheadOfIt) {
+TEST_F(SentencePickTest, GoesLeftFromAParagraphToTheLastWordOfTheOneAhead) {
+  showText("_One here.\r_\tTwo");
+  EXPECT_EQ(leftOf(13), 5) << "past the mark, the line end and the point";
+}
+
+TEST_F(SentencePickTest, GoesLeftFromASentenceToTheBlankAheadOfIt) {
   showText("_One here. _Two");
-  EXPECT_EQ(leftOf(12), 5);
+  EXPECT_EQ(leftOf(12), 11);
+  EXPECT_EQ(leftOf(11), 5);
 }
 
 TEST_F(SentencePickTest, DoesNotPassASentenceMarkByThreeNearTheStart) {
-  showText("xx _Two");
+  showText("x _\tTwo");
   // Back by one the caret stands at 3, which is below 4.
   EXPECT_EQ(leftOf(4), 3);
+  showText("xx _\tTwo");
+  EXPECT_EQ(leftOf(5), 0);
 }
 
 TEST_F(SentencePickTest, StaysAtTheStart) {

@@ -478,6 +478,13 @@ TEST_F(SurfaceTest, ADoubleClickTakesTheBlanksBehindTheWord) {
   EXPECT_EQ(surface.SelText(), "some  ");
 }
 
+TEST_F(SurfaceTest, ADoubleClickKeepsAHardBlankOutOfTheWord) {
+  surface.Text("some \xA0words");
+  surface.doubleClick(0, surface.pointOf(8));
+  EXPECT_EQ(surface.SelStart(), 6);
+  EXPECT_EQ(surface.SelText(), "words");
+}
+
 TEST_F(SurfaceTest, ADragSelectsFromThePress) {
   surface.Text("some words");
   surface.pressMouse(MouseButton::Left, 0, surface.pointOf(7));
