@@ -21,6 +21,7 @@ class DesktopInput final : public Input {
   void SetCursorPos(PixelPoint point) override;
   [[nodiscard]] PixelPoint cursorPos() const override;
   void sendClick(MouseButton button) override;
+  void sendClickAside(MouseButton) override {} // the window has the keyboard already
   void sendKey(int keyCode, KeyMotion motion) override;
 
   // -- Set by the window, which knows where the virtual screen lies.

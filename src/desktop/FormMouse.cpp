@@ -1,7 +1,6 @@
 #include "desktop/FormMouse.h"
 
 #include "desktop/KeyCodes.h"
-#include "surface/Button.h"
 #include "surface/Surface.h"
 
 #include <QMouseEvent>
@@ -95,7 +94,8 @@ void FormMouse::move(const QMouseEvent& event) {
     bridge_.deliver([&] { surface->dragMouse(shift, inside(*surface, pointer_)); });
     return;
   }
-  Control* const under = hovered();
+  Control* const steered = steeredButton();
+  Control* const under = steered == nullptr ? hovered() : steered;
   if (auto* surface = dynamic_cast<Surface*>(under)) {
     bridge_.deliver([&] { surface->moveMouse(shift, inside(*surface, pointer_)); });
   } else if (auto* menuButton = dynamic_cast<Button*>(under)) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/EventBridge.h"
+#include "surface/Button.h"
 #include "surface/Form.h"
 
 #include <QPointF>
@@ -19,6 +20,9 @@ class FormMouse {
 
   /// Called with the point of the form, in twips, to which the learner brings the pointer.
   std::function<void(SurfacePoint at)> pointerCame = [](SurfacePoint) {};
+
+  /// The button that a moved pointer means, whatever lies under it; null for what lies there.
+  std::function<Button*()> steeredButton = []() -> Button* { return nullptr; };
 
   void setScale(double pixelsPerTwip) noexcept { scale_ = pixelsPerTwip; }
 

@@ -32,6 +32,8 @@ class FormView final : public QWidget, public FormObserver {
   void onPointer(std::function<void(SurfacePoint at)> call) {
     mouse_.pointerCame = std::move(call);
   }
+  /// Sets how to ask for the button that the pointer means, whatever lies under it.
+  void steeredButton(std::function<Button*()> ask) { mouse_.steeredButton = std::move(ask); }
 
   /// Places every child anew.
   void setScale(double pixelsPerTwip);

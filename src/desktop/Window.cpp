@@ -40,6 +40,7 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
         QString::fromStdU16String(toUnicode(program_.form().Caption(), Encoding::Windows1252)));
   };
   view_->onPointer([this](SurfacePoint at) { machine_.input.pointerCame(pixelOf(at)); });
+  view_->steeredButton([this] { return program_.steeredButton(); });
   view_->onFocusChanged = [this] {
     const Control* const focus = program_.form().ActiveControl();
     const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
@@ -142,7 +143,9 @@ void Window::settleHover() {
     return;
   }
   const SurfacePoint pointer = formPointOf(machine_.input.cursorPos());
-  if (program_.form().controlAt(pointer) != button || machine_.keys.arrowDown()) return;
+  const bool under =
+      program_.form().controlAt(pointer) == button || program_.steeredButton() == button;
+  if (!under || machine_.keys.arrowDown()) return;
   bridge_.deliver([button] {
     if (button->MouseMove) button->MouseMove();
   });

@@ -227,7 +227,8 @@ void Learner::deliverSynthetic(const SyntheticKey& stroke) {
 void Learner::deliverPointerMove() {
   if (!machine_.input.takePointerMoved()) return;
   const SurfacePoint formPoint = formPointOf(machine_.input.cursorPos());
-  moveOver(program_.form().controlAt(formPoint), formPoint);
+  Control* const steered = program_.steeredButton();
+  moveOver(steered == nullptr ? program_.form().controlAt(formPoint) : steered, formPoint);
 }
 
 void Learner::moveOver(Control* control, SurfacePoint formPoint) {

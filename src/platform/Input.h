@@ -58,6 +58,8 @@ class Input {
   /// Sends a whole click at the pointer. It arrives as an event, after the handler that sent it
   /// and before any other input.
   virtual void sendClick(MouseButton button) = 0;
+  /// Sends a whole click at the pointer that reaches the window alone, whatever lies there.
+  virtual void sendClickAside(MouseButton button) = 0;
   /// Sends half a key stroke to whatever has the focus; it arrives like `sendClick`.
   virtual void sendKey(int keyCode, KeyMotion motion) = 0;
 };

@@ -45,6 +45,7 @@ class E {
   [[nodiscard]] const Procedures& procedures() const noexcept { return procedures_; }
   [[nodiscard]] const Places& places() const noexcept { return state_.places; }
   [[nodiscard]] int hoveredButton() const noexcept { return shell_.hover.HoverSo; }
+  [[nodiscard]] Button* steeredButton() { return shell_.hover.steeredButton(); }
 
  private:
   void declareAll();

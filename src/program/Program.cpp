@@ -57,6 +57,10 @@ int Program::hoveredButton() const noexcept {
   return parts_->e.hoveredButton();
 }
 
+Button* Program::steeredButton() {
+  return parts_->e.steeredButton();
+}
+
 bool Program::busy() const noexcept {
   return parts_->e.places().DangBan;
 }

@@ -42,6 +42,9 @@ class Program {
   [[nodiscard]] int section() const noexcept;
   /// Number of the menu button that was animated last.
   [[nodiscard]] int hoveredButton() const noexcept;
+  /// The menu button that the pointer means where an arrow key has brought it; null when the
+  /// pointer means what lies under it.
+  [[nodiscard]] Button* steeredButton();
   /// The program is busy: start-up or dictation runs.
   [[nodiscard]] bool busy() const noexcept;
 

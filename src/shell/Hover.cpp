@@ -71,7 +71,22 @@ std::string Hover::activeCaption() const {
 
 void Hover::buttonGotFocus(int number) {
   if (number <= 2) TraHinhNut(number);
-  if (steering_.CoMuiTen()) steering_.pointAtButton(number);
+  if (!steering_.CoMuiTen()) return;
+  steering_.pointAtButton(number);
+  steeredTo_ = number;
+}
+
+void Hover::pointerCame(Button& button) {
+  Button* const steered = steeredButton();
+  NutSang(steered == nullptr ? button : *steered);
+}
+
+Button* Hover::steeredButton() {
+  if (steeredTo_ == 0) return nullptr;
+  Button& button = controls_.but(steeredTo_);
+  if (form_.ActiveControl() == &button && steering_.pointsAtButton(steeredTo_)) return &button;
+  steeredTo_ = 0;
+  return nullptr;
 }
 
 void Hover::KhungNut(Button& button, int frame) {

@@ -1,10 +1,14 @@
 #include "shell/Steering.h"
 
+#include <cstdlib>
+
 namespace talvora {
 
 namespace {
 
 constexpr int RowsPerColumn = 9;
+/// By how many pixels the pointer may miss a place on a screen of another scale.
+constexpr int ScalingError = 1;
 
 } // namespace
 
@@ -21,10 +25,21 @@ void Steering::XepChuot() {
   ChuotBuoc = positions.step;
 }
 
-void Steering::pointAtButton(int number) {
+PixelPoint Steering::placeOfButton(int number) const {
   const bool left = number <= RowsPerColumn;
   const int row = left ? number - 1 : number - RowsPerColumn - 1;
-  pointAt({left ? ChuotX1 : ChuotX2, ChuotY + row * ChuotBuoc});
+  return {left ? ChuotX1 : ChuotX2, ChuotY + row * ChuotBuoc};
+}
+
+void Steering::pointAtButton(int number) {
+  pointAt(placeOfButton(number));
+}
+
+bool Steering::pointsAtButton(int number) const {
+  const PixelPoint place = placeOfButton(number);
+  const PixelPoint pointer = input_.cursorPos();
+  return std::abs(pointer.x - place.x) <= ScalingError &&
+         std::abs(pointer.y - place.y) <= ScalingError;
 }
 
 bool Steering::arrowDown() {

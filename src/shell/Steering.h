@@ -16,6 +16,8 @@ class Steering {
   void XepChuot();
   /// The pointer goes to the menu button of that number.
   void pointAtButton(int number);
+  /// Whether the pointer stands where `pointAtButton` puts it.
+  [[nodiscard]] bool pointsAtButton(int number) const;
   void pointAt(PixelPoint point) { input_.SetCursorPos(point); }
 
   /// True when an arrow key is down; clears the latches then, unless Esc is down too.
@@ -32,7 +34,8 @@ class Steering {
   void ChonDong();
   /// A whole click at the pointer.
   void NhapTrai() { input_.sendClick(MouseButton::Left); }
-  void NhapPhai() { input_.sendClick(MouseButton::Right); }
+  /// Meant for the window: on small screens a surface may lie under the pointer.
+  void NhapPhai() { input_.sendClickAside(MouseButton::Right); }
 
   /// Parks the pointer at a fixed point near the upper edge of the screen.
   void ChuotGoc();
@@ -49,6 +52,8 @@ class Steering {
   int ChuotBuoc = 0; ///< pitch of the rows, likewise
 
  private:
+  [[nodiscard]] PixelPoint placeOfButton(int number) const;
+
   Input& input_;
   const Measures& measures_;
 };

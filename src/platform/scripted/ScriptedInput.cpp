@@ -36,8 +36,12 @@ void ScriptedInput::SetCursorPos(PixelPoint point) {
 }
 
 void ScriptedInput::sendClick(MouseButton button) {
-  log_.add("synthetic", {{"button", logText(button == MouseButton::Left ? "left" : "right")}});
+  sendClickAside(button);
   synthetic_.emplace_back(SyntheticClick{button, pointer_});
+}
+
+void ScriptedInput::sendClickAside(MouseButton button) {
+  log_.add("synthetic", {{"button", logText(button == MouseButton::Left ? "left" : "right")}});
 }
 
 void ScriptedInput::sendKey(int keyCode, KeyMotion motion) {

@@ -41,6 +41,7 @@ class ScriptedInput final : public Input {
   void SetCursorPos(PixelPoint point) override;
   [[nodiscard]] PixelPoint cursorPos() const override { return pointer_; }
   void sendClick(MouseButton button) override;
+  void sendClickAside(MouseButton button) override;
   void sendKey(int keyCode, KeyMotion motion) override;
 
   // -- What a script does.
