@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace talvora {
 
@@ -34,8 +35,13 @@ QSize virtualScreenFor(QSize realScreen) {
 
 void DesktopClipboard::clear() {
   QClipboard* const clipboard = QGuiApplication::clipboard();
-  // Asking the window system for nothing costs a round trip with every key.
-  if (clipboard->ownsClipboard()) clipboard->clear();
+  if (!std::exchange(watching_, true)) {
+    QObject::connect(clipboard, &QClipboard::dataChanged, &watch_,
+                     [this] { mayHoldSomething_ = true; });
+  }
+  if (!mayHoldSomething_) return;
+  clipboard->clear();
+  mayHoldSomething_ = false;
 }
 
 void DesktopInstallation::run(const std::string& program) {

@@ -4,6 +4,7 @@
 #include "platform/Boxes.h"
 #include "platform/Desk.h"
 
+#include <QObject>
 #include <QSize>
 #include <QWidget>
 
@@ -30,9 +31,16 @@ class DesktopScreen final : public Screen {
   QSize size_;
 };
 
+/// Whoever filled it. It is cleared with every key, but the window system is troubled only when
+/// something has come there since.
 class DesktopClipboard final : public Clipboard {
  public:
   void clear() override;
+
+ private:
+  QObject watch_; ///< ends the watch on the clipboard with this object
+  bool watching_ = false;
+  bool mayHoldSomething_ = true;
 };
 
 /// Fonts and the speech engine are built in, so that there is nothing to install.
