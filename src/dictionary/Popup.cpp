@@ -59,7 +59,7 @@ void Popup::place() {
   Surface& RHD = controls_.RHD;
   const Measures& m = state_.measures;
   const SurfacePoint pointer = state_.word.ViTriChuot;
-  const double d = m.Phan12 - m.Phan12 / 3.0;
+  const double d = m.pointerGap();
   RHD.Left(pointer.x < m.RongBai / 2 ? Round(m.LeTraiBai + d + pointer.x)
                                      : Round(d + (pointer.x - m.Phan3)));
   RHD.Top(pointer.y < m.CaoBai / 2 ? Round(m.LeTrenBai + d + pointer.y)

@@ -82,16 +82,16 @@ void ExplanationBox::HienLoiGiai(const std::string& text, Surface& surface) {
   RHDBT.Visible(true);
 }
 
-int ExplanationBox::surroundings() const noexcept {
-  return state_.measures.Phan12 - state_.measures.Phan12 / 3;
+int ExplanationBox::halfGap() const {
+  return Round(state_.measures.pointerGap()) / 2;
 }
 
 void ExplanationBox::ViTriLoiGiai() {
   const Measures& measures = state_.measures;
   const int y = state_.word.ViTriChuot.y;
   const bool upperHalf = y < measures.CaoBai / 2;
-  controls_.RHDBT.Top(upperHalf ? y + surroundings() + measures.LeTrenBai
-                                : y - measures.Phan6 + surroundings() / 2);
+  controls_.RHDBT.Top(upperHalf ? Round(y + measures.pointerGap() + measures.LeTrenBai)
+                                : y - measures.Phan6 + halfGap());
   controls_.RHDBT.Height(measures.Phan6);
 }
 
@@ -102,7 +102,7 @@ void ExplanationBox::DienLoiGiai(const std::string& text, const Surface& surface
   RHDBT.SelItalic(false);
   RHDBT.SelColor(0);
   LienKet_.clear();
-  if (text.empty()) {
+  if (text.empty() || text == item_.GiaiChung) {
     VietGiaiChung(surface);
   } else {
     VietLoiGiai(text);
@@ -198,9 +198,9 @@ void ExplanationBox::DoiLoiGiai() {
   const int y = state_.word.ViTriChuot.y;
   const int height = RHDBT.Height();
   const int bottom = RHDBT.Top() + height;
-  const bool underPointer = y > RHDBT.Top() && (y < bottom || y - bottom > surroundings() / 2);
+  const bool underPointer = y > RHDBT.Top() && (y < bottom || y - bottom > halfGap());
   if (!underPointer) return;
-  RHDBT.Top(std::max(0, y - height + surroundings() / 2));
+  RHDBT.Top(std::max(0, y - height + halfGap()));
   BongLoiGiai();
 }
 

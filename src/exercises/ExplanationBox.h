@@ -69,8 +69,8 @@ class ExplanationBox {
   void DoiLoiGiai();
   /// Number of lines up to the text's end, as the box breaks them.
   [[nodiscard]] int lineCount();
-  /// The height of the pointer's surroundings, twips.
-  [[nodiscard]] int surroundings() const noexcept;
+  /// Half the way that the box keeps from the pointer, twips.
+  [[nodiscard]] int halfGap() const;
   /// Gives the focus to the surface that lies behind the box.
   void focusBehind();
 

@@ -331,7 +331,9 @@ void VanPham::releaseMouse(MouseButton button) {
   if (button == MouseButton::Right) {
     state_.word.ChoGiai = true;
     shell_.steering.NhapTrai();
-  } else if (state_.word.ChoGiai) {
+  } else if (state_.word.ChoGiai || ConBaiChon()) {
+    // A pick from the look-up list clears the flag, and not the marks.
+    state_.word.ChoGiai = true;
     toggleMark();
   } else {
     openClickedLine();

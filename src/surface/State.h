@@ -50,6 +50,9 @@ struct Measures {
   /// The large screen class, in which text is bold throughout.
   [[nodiscard]] bool largeScreen() const noexcept { return CoNut == 13; }
 
+  /// How far a popup stands from the pointer, in twips.
+  [[nodiscard]] double pointerGap() const noexcept { return Phan12 - Phan12 / 3.0; }
+
   void declare(Variables& variables) const;
 };
 

@@ -152,8 +152,15 @@ TEST_F(Explanation, TwelveLinesGetTheirHeightAndThirteenGetTen) {
 
 TEST_F(Explanation, APointerInTheUpperHalfPutsTheBoxBelowIt) {
   explainAt({3000, 1000}, "\rshort");
-  const int a = run.state.measures.Phan12 - run.state.measures.Phan12 / 3;
-  EXPECT_EQ(RHDBT.Top(), 1000 + a + run.state.measures.LeTrenBai);
+  // A twelfth of the screen's width less its third: 1,280 - 426.67.
+  ASSERT_EQ(run.state.measures.Phan12, 1280);
+  EXPECT_EQ(RHDBT.Top(), 1000 + 853 + run.state.measures.LeTrenBai);
+}
+
+TEST_F(Explanation, ABlankThatIsExplainedLikeTheItemGetsItsDarkPanel) {
+  run.exercises.item.GiaiChung = "\rsame";
+  explainAt({3000, 1000}, "\rsame");
+  EXPECT_EQ(RHDBT.BackColor(), 0x750000U);
 }
 
 TEST_F(Explanation, APointerInTheLowerHalfPutsTheBoxAboveIt) {

@@ -154,6 +154,14 @@ TEST_F(LessonList, WhileALessonIsMarkedALeftClickMarksToo) {
   EXPECT_FALSE(RVP2.Visible());
 }
 
+TEST_F(LessonList, ALookUpAmongMarkedLessonsLeavesThemMarked) {
+  rightClick("Present");
+  run.state.word.ChoGiai = false; // as a word picked from the look-up list leaves it
+  run.click(RVP1, ItemRun::caretOf(RVP1, "Future"));
+  EXPECT_EQ(mark(5), 2);
+  EXPECT_FALSE(RVP2.Visible());
+}
+
 TEST_F(LessonList, LessonsAndHeadingsWithoutAPointCannotBeMarked) {
   rightClick("Past");
   rightClick("*SECOND");
