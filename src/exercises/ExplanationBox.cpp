@@ -250,6 +250,7 @@ bool ExplanationBox::MoLienKet(int p) {
   });
   if (link == LienKet_.end() || link->Bai == 0) return false;
   state_.word.TuHienTai.clear();
+  textBehind_ = state_.text.CauHoi;
   lessons_.MoBaiVP(link->Bai);
   shell_.transitions.MoRan(controls_.RVP2, controls_.Frame3);
   return true;
@@ -257,6 +258,8 @@ bool ExplanationBox::MoLienKet(int p) {
 
 void ExplanationBox::DongBaiLienKet() {
   state_.word.NghiaHienTai.clear();
+  // Words are picked and put in order by the text of the page that is seen again.
+  if (textBehind_) state_.text.CauHoi = *std::exchange(textBehind_, std::nullopt);
   // The lesson has kept a caret of its own; the box and the item take theirs back.
   state_.word.ViTriCaret = controls_.RHDBT.Visible() ? controls_.RHDBT.SelStart() : itemCaret_;
   shell_.upward.DongNghia();

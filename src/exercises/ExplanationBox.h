@@ -12,6 +12,7 @@
 #include "surface/State.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -84,6 +85,8 @@ class ExplanationBox {
   LessonPage& lessons_;
   std::vector<LessonLink> LienKet_;
   int itemCaret_ = 0; ///< caret of the surface behind the box
+  std::optional<std::string>
+      textBehind_; ///< of the page behind the box, while a linked lesson is open
 };
 
 } // namespace talvora

@@ -59,7 +59,10 @@ void Sections::wireOrdering() {
   ordering_.run.CauKeTiep = [&run] { run.CauKeTiep(); };
   ordering_.run.ThoatBT = [&run](Surface& surface) { run.ThoatBT(surface); };
   ordering_.run.clearChuCu = [this] { exercises_.item.ChuCu.clear(); };
-  ordering_.run.BoChonBai = [this] { lessons_.BoChonBai(); };
+  ordering_.run.BoChonBai = [this] {
+    lessons_.BoChonBai();
+    exercises_.scoring.ChuPhu();
+  };
   reading_.page().GoiRxep = [this] { ordering_.openFromText(); };
 }
 

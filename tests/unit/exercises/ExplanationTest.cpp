@@ -89,6 +89,7 @@ class Explanation : public testing::Test {
 TEST_F(Explanation, ALinkOpensItsLessonOverTheExerciseAndEscComesBack) {
   openBox();
   EXPECT_THAT(RHDBT.Text(), testing::HasSubstr("NhÍp chuÖt ðÇ xem:\rPresent simple\r"_bytes));
+  const std::string text = run.state.text.CauHoi;
   const int link = ItemRun::caretOf(RHDBT, "Present simple");
   EXPECT_EQ(lookAt(RHDBT, link).color, 0xFF0000U);
   run.click(RHDBT, link + 3);
@@ -101,6 +102,7 @@ TEST_F(Explanation, ALinkOpensItsLessonOverTheExerciseAndEscComesBack) {
   EXPECT_FALSE(run.controls.Frame3.Visible());
   EXPECT_TRUE(RHDBT.Visible());
   EXPECT_EQ(run.focus(), "RHDBT");
+  EXPECT_EQ(run.state.text.CauHoi, text);
   run.key(key::Esc);
   EXPECT_FALSE(RHDBT.Visible());
   EXPECT_TRUE(RDT.Visible());
