@@ -84,9 +84,8 @@ class ExplanationBox {
   ModelAnswer& answer_;
   LessonPage& lessons_;
   std::vector<LessonLink> LienKet_;
-  int itemCaret_ = 0; ///< caret of the surface behind the box
-  std::optional<std::string>
-      textBehind_; ///< of the page behind the box, while a linked lesson is open
+  int itemCaret_ = 0;                     ///< caret of the surface behind the box
+  std::optional<std::string> textBehind_; ///< the page's, while a linked lesson is open
 };
 
 } // namespace talvora
