@@ -57,7 +57,11 @@ class Control {
   [[nodiscard]] int TabIndex() const noexcept { return tabIndex_; }
   void TabIndex(int index) noexcept { tabIndex_ = index; }
 
-  /// Gives the control the keyboard; fails quietly when it is hidden.
+  /// Whether the control can have the keyboard; a plate behind a page cannot.
+  [[nodiscard]] bool TakesKeys() const noexcept { return takesKeys_; }
+  void TakesKeys(bool takes) noexcept { takesKeys_ = takes; }
+
+  /// Gives the control the keyboard; fails quietly when it is hidden or takes no keys.
   void SetFocus() { host_.giveFocus(*this); }
 
   std::function<void()> GotFocus;
@@ -77,6 +81,7 @@ class Control {
   ControlHost& host_;
   bool visible_ = false;
   bool enabled_ = true;
+  bool takesKeys_ = true;
   int left_ = 0;
   int top_ = 0;
   int width_ = 0;

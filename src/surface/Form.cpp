@@ -10,7 +10,7 @@ namespace talvora {
 namespace {
 
 bool takesKeys(const Control& control) {
-  return control.Visible() && control.Enabled();
+  return control.Visible() && control.Enabled() && control.TakesKeys();
 }
 
 bool takesMouse(const Control& control) {
