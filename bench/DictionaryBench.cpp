@@ -4,20 +4,18 @@
 #include "dictionary/WordList.h"
 #include "stores/ByteCode.h"
 #include "stores/Integers.h"
+#include "tests/support/TemporaryFolder.h"
 #include "text/WordForm.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <set>
 #include <string>
 #include <vector>
-
-#include <stdlib.h>
 
 namespace {
 
@@ -29,20 +27,10 @@ constexpr std::string_view MissingBeginning = "zz";
 class Files {
  public:
   Files() {
-    std::string pattern =
-        (std::filesystem::temp_directory_path() / "talvora-bench-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) std::abort();
-    folder_ = pattern;
     makeWords();
     writeFiles();
   }
-  Files(const Files&) = delete;
-  Files& operator=(const Files&) = delete;
-  ~Files() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  [[nodiscard]] std::string path() const { return folder_.string(); }
+  [[nodiscard]] std::string path() const { return folder_.path().string(); }
   [[nodiscard]] const std::vector<std::string>& words() const { return words_; }
 
  private:
@@ -88,10 +76,10 @@ class Files {
     }
   }
   void write(const char* name, const std::string& bytes) const {
-    std::ofstream(folder_ / name, std::ios::binary) << bytes;
+    std::ofstream(folder_.path() / name, std::ios::binary) << bytes;
   }
 
-  std::filesystem::path folder_;
+  test::TemporaryFolder folder_;
   std::vector<std::string> words_;
 };
 

@@ -2,19 +2,16 @@
 // stands in the label of its benchmark; the peers are the plain standard containers.
 #include "platform/scripted/FixedLayout.h"
 #include "surface/Surface.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <string>
 #include <vector>
-
-#include <stdlib.h>
-#include <unistd.h>
 
 namespace {
 
@@ -60,24 +57,11 @@ const std::string& list() {
 /// The list as a file, gone with the run.
 class ListFile {
  public:
-  ListFile() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "talvora-list-XXXXXX").string();
-    const int handle = ::mkstemp(pattern.data());
-    if (handle < 0) std::abort();
-    ::close(handle);
-    path_ = pattern;
-    std::ofstream(path_, std::ios::binary) << list();
-  }
-  ListFile(const ListFile&) = delete;
-  ListFile& operator=(const ListFile&) = delete;
-  ~ListFile() {
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-  }
-  [[nodiscard]] const std::string& path() const { return path_; }
+  ListFile() { std::ofstream(path(), std::ios::binary) << list(); }
+  [[nodiscard]] std::string path() const { return (folder_.path() / "list").string(); }
 
  private:
-  std::string path_;
+  test::TemporaryFolder folder_;
 };
 
 Colour colourOf(int character) {

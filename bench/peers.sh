@@ -32,12 +32,21 @@ has() { command -v "$1" >/dev/null || { echo "missing: $1 (left out)"; return 1;
 microseconds() { echo $(($(date +%s%N) / 1000)); }
 median() { sort -n | awk '{ all[NR] = $1 } END { print all[int((NR + 1) / 2)] }'; }
 
+fail() { echo "$*" >&2; exit 1; }
+
 time_of() { # COMMAND...: milliseconds with three places
   local begin end
   begin=$(microseconds)
-  "$@" >/dev/null 2>&1 || true
+  "$@" >/dev/null 2>&1 || fail "$1 failed, which is no figure: $*"
   end=$(microseconds)
   awk -v us=$((end - begin)) 'BEGIN { printf "%.3f\n", us / 1000 }'
+}
+
+tell_median() { # TEXT COMMAND...
+  local text=$1 times=$work/call.times
+  shift
+  for _ in $(seq "$runs"); do time_of "$@"; done >"$times"
+  echo "$text: $(median <"$times") ms"
 }
 
 # -- One window, inside the virtual display: milliseconds to the window, and kilobytes.
@@ -48,16 +57,16 @@ measure_window() { # PROGRAM
   local process=$!
   window=
   for _ in $(seq 1500); do
-    window=$(xdotool search --onlyvisible --pid "$process" 2>/dev/null | head -n 1) || true
-    [ -z "$window" ] || break
+    # Before there is a window, xdotool finds none and says so with its exit code.
+    if window=$(xdotool search --onlyvisible --pid "$process" 2>/dev/null | head -n 1); then break; fi
+    kill -0 "$process" 2>/dev/null || fail "$1 ended by itself"
     sleep 0.01
   done
   local shown=$((($(microseconds) - begin) / 1000))
   sleep 10
   local kilobytes
-  kilobytes=$(awk '/^VmRSS:/ { print $2 }' "/proc/$process/status" 2>/dev/null || echo 0)
-  kill "$process" 2>/dev/null || true
-  wait "$process" 2>/dev/null || true
+  kilobytes=$(awk '/^VmRSS:/ { print $2 }' "/proc/$process/status") || fail "$1 ended by itself"
+  kill "$process"
   [ -n "$window" ] && echo "$shown $kilobytes" || echo "none $kilobytes"
 }
 if [ -n "$work" ]; then
@@ -78,12 +87,12 @@ measure_sdcv() {
   mapfile -t words <"$work/words"
   local call=(sdcv -n -e --utf8-output --data-dir "$home/.stardict/dic")
   # The first call writes its own index cache where it may.
-  "${call[@]}" "${words[0]}" >/dev/null 2>&1 || true
+  time_of "${call[@]}" "${words[0]}" >/dev/null
   local found
-  found=$("${call[@]}" "${words[@]}" 2>/dev/null | grep -c '^-->words' || true)
+  found=$("${call[@]}" "${words[@]}" 2>/dev/null | grep -c '^-->words') || fail "sdcv finds no word"
   echo "sdcv: $found of 1000 words found"
-  echo "sdcv, 1,000 words: $(for _ in $(seq "$runs"); do time_of "${call[@]}" "${words[@]}"; done | median) ms"
-  echo "sdcv, one word: $(for _ in $(seq "$runs"); do time_of "${call[@]}" "${words[0]}"; done | median) ms"
+  tell_median "sdcv, 1,000 words" "${call[@]}" "${words[@]}"
+  tell_median "sdcv, one word" "${call[@]}" "${words[0]}"
 }
 
 write_settings() {

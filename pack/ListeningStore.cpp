@@ -4,6 +4,7 @@
 #include "pack/Guide.h"
 #include "pack/StreamText.h"
 #include "surface/RichText.h"
+#include "text/Text.h"
 
 #include <charconv>
 #include <optional>
@@ -54,18 +55,6 @@ std::string layOut(int unit, const ListeningQuestion& item) {
   return plain + itemEnd;
 }
 
-std::vector<std::string> linesIn(std::string_view text) {
-  std::vector<std::string> lines(1);
-  for (const char character : text) {
-    if (character == lineEnd) {
-      lines.emplace_back();
-    } else {
-      lines.back() += character;
-    }
-  }
-  return lines;
-}
-
 std::optional<int> wholeNumber(std::string_view digits) {
   int number = 0;
   const auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
@@ -75,7 +64,7 @@ std::optional<int> wholeNumber(std::string_view digits) {
 
 /// A record as it is stored: the unit of its head line, and the item.
 std::optional<HeardItem> itemFrom(std::string_view plain) {
-  const auto lines = linesIn(plain);
+  const auto lines = split(plain, lineEnd);
   if (lines.size() != 6) return std::nullopt;
   const std::size_t blank = lines[0].find(' ');
   if (blank == std::string::npos) return std::nullopt;

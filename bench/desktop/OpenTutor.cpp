@@ -1,7 +1,6 @@
 #include "OpenTutor.h"
 
 #include "desktop/Fonts.h"
-#include "stores/Integers.h"
 #include "text/CharClass.h"
 
 #include <QApplication>
@@ -17,8 +16,6 @@
 #include <iostream>
 #include <string_view>
 #include <thread>
-
-#include <stdlib.h>
 
 namespace talvora::bench {
 
@@ -38,36 +35,7 @@ QSize screenSize() {
   return QGuiApplication::primaryScreen()->size();
 }
 
-/// Sound on, at the middle speed: the click is measured with the speech that belongs to it.
-void writeSettings(const std::filesystem::path& path) {
-  std::ofstream file(path, std::ios::binary);
-  for (const std::int32_t record : {0, 1, 0, 5}) {
-    for (const unsigned char byte : bytesOf(record))
-      file.put(static_cast<char>(byte));
-  }
-}
-
 } // namespace
-
-// -- The pack.
-
-PackCopy::PackCopy(const std::filesystem::path& pack) {
-  std::string pattern = (std::filesystem::temp_directory_path() / "talvora-pack-XXXXXX").string();
-  if (::mkdtemp(pattern.data()) == nullptr) giveUp("no folder for the pack");
-  folder_ = pattern;
-  for (const auto& entry : std::filesystem::directory_iterator(pack)) {
-    const std::string name = entry.path().filename().string();
-    if (name == "data.c" || name == "data.Kcu" || name == "Yes1") continue;
-    std::filesystem::create_symlink(std::filesystem::absolute(entry.path()), folder_ / name);
-  }
-  std::ofstream(folder_ / "Yes1").flush();
-  writeSettings(folder_ / "data.Kcu");
-}
-
-PackCopy::~PackCopy() {
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
 
 // -- Painting.
 

@@ -2,6 +2,8 @@
 // and each deed is timed to the end of the painting that it leads to.
 #pragma once
 
+#include "PackCopy.h"
+
 #include "desktop/DesktopMachine.h"
 #include "desktop/EventBridge.h"
 #include "desktop/Window.h"
@@ -16,20 +18,6 @@
 #include <string>
 
 namespace talvora::bench {
-
-/// A pack that a run may write to: links to the files of another one, and the learner's files new.
-class PackCopy {
- public:
-  explicit PackCopy(const std::filesystem::path& pack);
-  PackCopy(const PackCopy&) = delete;
-  PackCopy& operator=(const PackCopy&) = delete;
-  ~PackCopy();
-
-  [[nodiscard]] std::string path() const { return folder_.string(); }
-
- private:
-  std::filesystem::path folder_;
-};
 
 /// Sees when a widget of the application has been painted.
 class PaintWatch final : public QObject {

@@ -3,6 +3,8 @@
 // is the machine's own one; without one the samples go nowhere, at the same moment.
 //
 //   talvora-bench-Sound PACK_FOLDER [benchmark options]
+#include "PackCopy.h"
+
 #include "desktop/FliteSpeech.h"
 #include "desktop/SoundDevice.h"
 #include "desktop/WaveOutput.h"
@@ -18,8 +20,6 @@
 #include <cctype>
 #include <chrono>
 #include <condition_variable>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <mutex>
 #include <optional>
@@ -27,8 +27,6 @@
 #include <string>
 #include <thread>
 #include <vector>
-
-#include <stdlib.h>
 
 namespace {
 
@@ -178,36 +176,6 @@ BENCHMARK(stopToSilence)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterat
 
 std::string packFolder;
 
-/// A copy of the pack that may be written into; its large files are links.
-class PackCopy {
- public:
-  PackCopy() {
-    std::string pattern =
-        (std::filesystem::temp_directory_path() / "talvora-bench-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) std::abort();
-    folder_ = pattern;
-    for (const auto& each : std::filesystem::directory_iterator(packFolder)) {
-      const auto name = each.path().filename();
-      if (name == "data.c" || name == "data.Kcu") {
-        std::filesystem::copy_file(each.path(), folder_ / name);
-      } else if (name != "Yes1") {
-        std::filesystem::create_symlink(std::filesystem::absolute(each.path()), folder_ / name);
-      }
-    }
-    std::ofstream(folder_ / "Yes1").flush();
-  }
-  PackCopy(const PackCopy&) = delete;
-  PackCopy& operator=(const PackCopy&) = delete;
-  ~PackCopy() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  [[nodiscard]] std::string path() const { return folder_.string(); }
-
- private:
-  std::filesystem::path folder_;
-};
-
 /// The program on a machine without a window whose speech is the real one.
 class SpeakingProgram {
  public:
@@ -255,7 +223,7 @@ class SpeakingProgram {
     }
   }
 
-  PackCopy pack_;
+  bench::PackCopy pack_{packFolder};
   ScriptedMachine machine_;
   FliteSpeech speech_;
   Platform platform_;

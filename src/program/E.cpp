@@ -170,7 +170,7 @@ void E::wireMenu() {
   for (int number = 1; number <= Controls::ButtonCount; ++number) {
     Button& button = controls_.but(number);
     button.GotFocus = [this, number] { shell_.hover.buttonGotFocus(number); };
-    button.MouseMove = [this, &button] { shell_.hover.pointerCame(button); };
+    button.MouseMove = [this, &button] { shell_.hover.NutSang(button); };
     button.Click = [this, number] { sections_.open(number); };
     button.KeyPress = [this, number](int& KeyAscii) {
       if (number <= 3) state_.word.DaChonRTD = false;

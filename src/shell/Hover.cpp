@@ -76,11 +76,6 @@ void Hover::buttonGotFocus(int number) {
   steeredTo_ = number;
 }
 
-void Hover::pointerCame(Button& button) {
-  Button* const steered = steeredButton();
-  NutSang(steered == nullptr ? button : *steered);
-}
-
 Button* Hover::steeredButton() {
   if (steeredTo_ == 0) return nullptr;
   Button& button = controls_.but(steeredTo_);

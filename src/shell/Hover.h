@@ -24,8 +24,6 @@ class Hover {
   void NutSang(Button& button);
   /// The pointer follows a focus that came from the keyboard.
   void buttonGotFocus(int number);
-  /// The pointer came over a button.
-  void pointerCame(Button& button);
   /// The button to whose place an arrow has brought the pointer, as long as it stands there; else
   /// null. The places are made for three sizes of the screen: on another one the pointer may stand
   /// beside its button or over a neighbour, and means this one all the same.

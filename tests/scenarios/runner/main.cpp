@@ -2,6 +2,7 @@
 
 #include "DriverProcess.h"
 #include "Scenario.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <cstdlib>
 #include <exception>
@@ -16,28 +17,9 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace talvora::scenario;
+using talvora::test::TemporaryFolder;
 
-/// A folder of its own for the run, gone with it.
-class RunFolder {
- public:
-  RunFolder() {
-    std::string pattern = (fs::temp_directory_path() / "talvora-scenario-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the run");
-    path_ = pattern;
-  }
-  RunFolder(const RunFolder&) = delete;
-  RunFolder& operator=(const RunFolder&) = delete;
-  ~RunFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-  [[nodiscard]] const fs::path& path() const noexcept { return path_; }
-
- private:
-  fs::path path_;
-};
-
-void fill(const RunFolder& folder, const fs::path& pack, const Scenario& scenario) {
+void fill(const TemporaryFolder& folder, const fs::path& pack, const Scenario& scenario) {
   fs::copy(pack, folder.path(), fs::copy_options::recursive);
   for (const std::string& name : scenario.without) {
     if (!fs::remove(folder.path() / name)) throw ScenarioFailure(name + ": not in the pack");
@@ -66,7 +48,7 @@ std::string ask(DriverProcess& process, const Step& step, const fs::path& file) 
 }
 
 void run(const std::string& driver, const fs::path& packs, const fs::path& file) {
-  const RunFolder folder;
+  const TemporaryFolder folder;
   const Scenario scenario = readScenario(file, folder.path());
   fill(folder, packs / scenario.pack, scenario);
   std::vector<std::string> options = {"--dir", folder.path().string()};

@@ -10,19 +10,8 @@
 
 namespace talvora::test {
 
-TestFolder::TestFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "talvora-XXXXXX").string();
-  if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the test");
-  folder_ = pattern;
-}
-
-TestFolder::~TestFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
-
 std::string TestFolder::pathOf(std::string_view name) const {
-  return (folder_ / name).string();
+  return (folder_.path() / name).string();
 }
 
 void TestFolder::write(std::string_view name, std::string_view bytes) const {

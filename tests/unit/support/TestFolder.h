@@ -1,6 +1,8 @@
 // A folder of its own for a test, with the store files that the test writes; gone with the test.
 #pragma once
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -11,12 +13,7 @@ namespace talvora::test {
 
 class TestFolder {
  public:
-  TestFolder();
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-  ~TestFolder();
-
-  [[nodiscard]] std::string path() const { return folder_.string(); }
+  [[nodiscard]] std::string path() const { return folder_.path().string(); }
   [[nodiscard]] std::string pathOf(std::string_view name) const;
   /// Writes a file of raw bytes.
   void write(std::string_view name, std::string_view bytes) const;
@@ -32,7 +29,7 @@ class TestFolder {
   void writeEmptyStores() const;
 
  private:
-  std::filesystem::path folder_;
+  TemporaryFolder folder_;
 };
 
 /// The bytes of a stream that decode to plain characters, one byte a character.
