@@ -1,6 +1,7 @@
 #include "dictionary/Dictionary.h"
 
 #include "dictionary/SyllableGate.h"
+#include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 #include "text/CharClass.h"
 
@@ -11,7 +12,6 @@ namespace talvora {
 
 namespace {
 
-constexpr int ReadingSection = 1;
 constexpr std::string_view WordCharacters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ'-";
 
@@ -86,7 +86,7 @@ void Dictionary::pressPopupCharacter(int code) {
   popup_.DongNghia();
   if (Letters.has(chr(code))) {
     MoDanhSachTu(chr(code));
-  } else if (state_.places.MucMenu == ReadingSection) {
+  } else if (state_.places.MucMenu == section::Reading) {
     letWordGo();
   }
 }

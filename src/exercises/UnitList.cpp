@@ -1,6 +1,7 @@
 #include "exercises/UnitList.h"
 
 #include "lessons/PageColours.h"
+#include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
 
@@ -11,7 +12,6 @@ namespace talvora {
 
 namespace {
 
-constexpr int ListeningSection = 4;
 constexpr int ListeningCaret = 10;
 // The instruction of the listening template, which the labels follow.
 constexpr int LabelsFrom = 40;
@@ -58,7 +58,7 @@ void UnitList::HienBT(int SoCauBT) {
   Rchon.SelStart(LabelsFrom);
   Rchon.SelLength(LabelsLength);
   Rchon.SelColor(PageBlue);
-  if (state_.places.MucMenu == ListeningSection) {
+  if (state_.places.MucMenu == section::Listening) {
     LietKeUnit();
     setUpListening();
   } else {
@@ -91,7 +91,7 @@ void UnitList::writeList(int units, std::string_view word) {
   RN1.SelColor(BodyColour);
   RN1.SelBullet(true);
   RN1.SelIndent(BodyIndent);
-  RN1.SelProtected(state_.places.MucMenu == ListeningSection);
+  RN1.SelProtected(state_.places.MucMenu == section::Listening);
   RN1.SelText(text);
   RN1.SelStart(0);
 }
@@ -106,7 +106,7 @@ void UnitList::open() {
 
 int UnitList::caretRecord() const {
   const int section = state_.places.MucMenu;
-  return section == ListeningSection ? ListeningCaret : section + 1;
+  return section == section::Listening ? ListeningCaret : section + 1;
 }
 
 void UnitList::DocViTriList() {
@@ -129,12 +129,11 @@ void UnitList::GoiRN2() {
   SoBaiChon = RN1.GetLineFromChar(RN1.SelStart()) + 1;
   const int section = state_.places.MucMenu;
   if (isBankSection(section)) BatDauBai();
-  if (section == ListeningSection) MoBaiNghe(SoBaiChon);
+  if (section == section::Listening) MoBaiNghe(SoBaiChon);
   shell_.gestures.remindOnFirstOpening(section, controls_.RN2);
 }
 
 void UnitList::ThoatNghe() {
-  constexpr int ListeningButton = 4;
   scoring_.ChuPhu();
   controls_.R1.Visible(false);
   controls_.R1.Top(state_.measures.CaoMH);
@@ -142,7 +141,7 @@ void UnitList::ThoatNghe() {
   state_.word.ChoGiai = false;
   state_.word.DaChonRTD = false;
   // The banks go back to the listening button too; that is meant.
-  focusButton(ListeningButton);
+  focusButton(section::Listening);
   closeListening();
 }
 

@@ -2,6 +2,7 @@
 
 #include "lessons/PageColours.h"
 #include "platform/FatalFailure.h"
+#include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -13,8 +14,6 @@ namespace talvora {
 namespace {
 
 constexpr int Lessons = static_cast<int>(CurrentList::LessonCount);
-constexpr int LessonSection = 3;
-constexpr int AnalysisSection = 5;
 constexpr int FirstLineBar = 8;
 // A title whose line end is lost ends here.
 constexpr std::size_t LongestTitle = 1000;
@@ -58,7 +57,7 @@ void VanPham::wireEvents() {
 // -- Entering and leaving.
 
 void VanPham::open() {
-  state_.places.MucMenu = LessonSection;
+  state_.places.MucMenu = section::Lessons;
   state_.word.ChoGiai = false;
   BaiTuChon = true;
   Surface& RVP1 = controls_.RVP1;
@@ -69,7 +68,7 @@ void VanPham::open() {
   MoVanPham();
   shell_.transitions.MoRan(RVP1, controls_.Frame1);
   DanhSachGoc_ = RVP1.Text();
-  shell_.gestures.remindOnFirstOpening(LessonSection, RVP1);
+  shell_.gestures.remindOnFirstOpening(section::Lessons, RVP1);
 }
 
 void VanPham::MoVanPham() {
@@ -110,7 +109,7 @@ void VanPham::ExitRVP1() {
   controls_.Frame3.Visible(false);
   shell_.transitions.DongRan(controls_.RVP1, controls_.Frame1);
   BaiTuChon = false;
-  focusButton(LessonSection);
+  focusButton(section::Lessons);
 }
 
 void VanPham::returnFocus() {
@@ -128,7 +127,7 @@ void VanPham::LapDanhSachVP() {
   TrangThaiVP_.fill(LessonMark::NotMarkable);
   for (int n = 1; n <= Lessons; ++n)
     appendLine(n);
-  if (state_.places.MucMenu != AnalysisSection) showList(list.DanhSachBai);
+  if (state_.places.MucMenu != section::Analysis) showList(list.DanhSachBai);
 }
 
 void VanPham::appendLine(int n) {

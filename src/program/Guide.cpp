@@ -1,16 +1,11 @@
 #include "program/Guide.h"
 
+#include "surface/SectionNumbers.h"
 #include "text/Text.h"
 
 #include <utility>
 
 namespace talvora {
-
-namespace {
-
-constexpr int GuideButton = 9;
-
-} // namespace
 
 Guide::Guide(Controls& controls, const SharedState& state, Shell& shell)
     : controls_(controls), state_(state), shell_(shell) {
@@ -38,7 +33,7 @@ void Guide::wireEvents() {
     const int pressed = std::exchange(KeyAscii, 0);
     if (pressed != key::Esc) return;
     shell_.transitions.DongRan(Rcachhoc, controls_.Frame1);
-    controls_.but(GuideButton).SetFocus();
+    controls_.but(section::Guide).SetFocus();
   };
   Rcachhoc.KeyUp = [this](int&, int) { shell_.gestures.keyReleased(); };
 }

@@ -1,23 +1,10 @@
 #include "program/Sections.h"
 
 #include "exercises/ItemRecord.h"
+#include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 
 namespace talvora {
-
-namespace {
-
-constexpr int ReadingSection = 1;
-constexpr int VocabularySection = 2;
-constexpr int LessonSection = 3;
-constexpr int ListeningSection = 4;
-constexpr int AnalysisSection = 5;
-constexpr int WritingSection = 6;
-constexpr int SpeakingSection = 7;
-constexpr int SettingsSection = 8;
-constexpr int GuideSection = 9;
-
-} // namespace
 
 Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedState& state,
                    Stores& stores, Shell& shell, PageServices services)
@@ -44,7 +31,7 @@ void Sections::wireFocus() {
   const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
   soundSettings_.focusButton = focusButton;
   reading_.focusButton = focusButton;
-  reading_.vocabulary().focusButton = [focusButton] { focusButton(VocabularySection); };
+  reading_.vocabulary().focusButton = [focusButton] { focusButton(section::Vocabulary); };
   lessons_.focusButton = focusButton;
   exercises_.units.focusButton = focusButton;
   writing_.focusButton = focusButton;
@@ -77,16 +64,19 @@ void Sections::wireAnalysis() {
   const auto takeMarkBack = [this] {
     if (!exercises_.item.ChuCu.empty()) exercises_.answer.KhoiPhucChu(controls_.R2);
   };
+  const auto closeBox = [this] {
+    if (controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+  };
   reading_.NapPhanTich = [this](int n) { analysis_.NapPhanTich(n); };
   page.GiaiPhanTich = [this] { analysis_.GiaiTuPT(controls_.R2); };
-  page.endExplanation = [this, takeMarkBack](int keyCode) {
+  page.endExplanation = [takeMarkBack, closeBox](int keyCode) {
     takeMarkBack();
     // Esc closes what stands on top, which need not be the box.
-    if (keyCode != key::Esc && controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+    if (keyCode != key::Esc) closeBox();
   };
-  page.leaveExplanation = [this, takeMarkBack] {
+  page.leaveExplanation = [takeMarkBack, closeBox] {
     takeMarkBack();
-    if (controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+    closeBox();
   };
   page.RoiChuotBT = [this](SurfacePoint at) { exercises_.box.RoiChuotBT(controls_.R2, at); };
   exercises_.box.keyPressed = [this, takeMarkBack] {
@@ -114,39 +104,39 @@ void Sections::declare(Variables& variables) const {
 // -- Opening.
 
 void Sections::open(int button) {
-  if (button == WritingSection) {
+  if (button == section::Writing) {
     // The closed section answers also while the program is busy; that is meant.
     shell_.messages.ThongBao("PhÌn này ðang xây dÜng."_bytes, 1000);
     return;
   }
   if (state_.places.DangBan) return;
   switch (button) {
-  case ReadingSection:
+  case section::Reading:
     openTexts(button, file::TextPositions);
     break;
-  case VocabularySection:
+  case section::Vocabulary:
     state_.places.MucMenu = button;
     reading_.vocabulary().open();
     break;
-  case LessonSection:
+  case section::Lessons:
     lessons_.open();
     break;
-  case ListeningSection:
+  case section::Listening:
     listening_.openSection();
     break;
-  case AnalysisSection:
+  case section::Analysis:
     openAnalysis();
     break;
-  case SpeakingSection:
+  case section::Speaking:
     // The list of another store must not stay.
     reading_.vocabulary().LuuTuVung();
     reading_.DaNapDanhSach = false;
     openTexts(button, file::SpeakingPositions);
     break;
-  case SettingsSection:
+  case section::Settings:
     soundSettings_.open();
     break;
-  case GuideSection:
+  case section::Guide:
     guide_.open();
     break;
   default:
@@ -162,16 +152,15 @@ void Sections::openTexts(int section, int store) {
 }
 
 void Sections::openAnalysis() {
-  state_.places.MucMenu = AnalysisSection;
+  state_.places.MucMenu = section::Analysis;
   // The explanations name rule lessons by their titles.
   lessons_.MoVanPham();
-  openTexts(AnalysisSection, file::TextPositions);
+  openTexts(section::Analysis, file::TextPositions);
 }
 
 void Sections::openBank(int section) {
-  constexpr int FirstBankSection = 10;
   state_.places.MucMenu = section;
-  exercises_.run.MoMuc(section - FirstBankSection + 1);
+  exercises_.run.MoMuc(section - section::FirstBank + 1);
 }
 
 } // namespace talvora

@@ -1,5 +1,6 @@
 #include "reading/Reading.h"
 
+#include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 
 #include <algorithm>
@@ -12,8 +13,6 @@ constexpr Colour BodyColour = 0x750000;
 constexpr Colour HeadingColour = 0x393971;
 constexpr Colour GreyedColour = 0x80000003;
 constexpr Colour White = 0xFFFFFF;
-constexpr int AnalysisSection = 5;
-constexpr int VocabularySection = 2;
 constexpr int FirstAnalysedText = 4;
 constexpr int GuideText = 2;
 constexpr int MostHeadings = 38;
@@ -113,7 +112,7 @@ void Reading::MoDanhSachBai() {
 }
 
 int Reading::caretRecord() const {
-  if (state_.places.MucMenu == AnalysisSection) return setting::AnalysisCaret;
+  if (state_.places.MucMenu == section::Analysis) return setting::AnalysisCaret;
   return stores_.FileChiSo == file::SpeakingPositions ? setting::SpeakingCaret
                                                       : setting::ReadingCaret;
 }
@@ -140,7 +139,7 @@ void Reading::GoiR2() {
   state_.word.NghiaHienTai.clear();
   state_.word.ViTriCaret = 0;
   const int number = state_.list.SoBaiChon;
-  const bool analysed = state_.places.MucMenu == AnalysisSection;
+  const bool analysed = state_.places.MucMenu == section::Analysis;
   if (analysed && number < FirstAnalysedText) return;
   page_.LaBaiHuongDan = stores_.FileChiSo == file::TextPositions && number == GuideText;
   openVoice();
@@ -179,7 +178,7 @@ void Reading::ExitR2() {
 // -- The list.
 
 void Reading::XayDanhSachBai() {
-  if (state_.places.MucMenu == VocabularySection) return;
+  if (state_.places.MucMenu == section::Vocabulary) return;
   state_.list.DanhSachBai.clear();
   state_.list.SoNhom = 0;
   for (int i = 1; i <= stores_.SoBai; ++i)
@@ -229,7 +228,7 @@ void Reading::VeDauMuc() {
   for (int heading = 1; heading <= state_.list.SoNhom; ++heading) {
     styleHeading(state_.list.ViTriNhom[static_cast<std::size_t>(heading)]);
   }
-  if (state_.places.MucMenu == AnalysisSection) {
+  if (state_.places.MucMenu == section::Analysis) {
     R1.SelStart(GreyedFrom);
     R1.SelLength(GreyedTo - GreyedFrom);
     R1.SelColor(GreyedColour);

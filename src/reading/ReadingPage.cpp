@@ -1,5 +1,6 @@
 #include "reading/ReadingPage.h"
 
+#include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/WordForm.h"
 
@@ -8,7 +9,6 @@ namespace talvora {
 namespace {
 
 constexpr Colour BodyColour = 0x750000;
-constexpr int AnalysisSection = 5;
 
 // Places in the guide text: the sentence that shows a message, and the end of what answers at all.
 constexpr int GuideSentenceFrom = 699;
@@ -170,7 +170,7 @@ void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
       return;
     }
     takeWordOrSentence();
-  } else if (state_.places.MucMenu == AnalysisSection) {
+  } else if (state_.places.MucMenu == section::Analysis) {
     // A word's entry must not stay over the explanation.
     if (controls_.RHD.Visible()) shell_.upward.DongNghia();
     word.ChoGiai = true;

@@ -1,6 +1,7 @@
 #include "shell/HintBar.h"
 
 #include "shell/HintTexts.h"
+#include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 #include "text/Rounding.h"
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr Colour Blue = 0xFF0000;
 constexpr Colour Red = 255;
-constexpr int AnalysisSection = 5;
 constexpr int MostReminders = 3;
 
 } // namespace
@@ -68,9 +68,9 @@ void HintBar::NoiDungHD(Surface& surface) {
   const auto holds = [&](HintCase when) {
     switch (when) {
     case HintCase::Analysis:
-      return places_.MucMenu == AnalysisSection;
+      return places_.MucMenu == section::Analysis;
     case HintCase::NotAnalysis:
-      return places_.MucMenu != AnalysisSection;
+      return places_.MucMenu != section::Analysis;
     case HintCase::ItemJudged:
       return itemJudged();
     case HintCase::Always:

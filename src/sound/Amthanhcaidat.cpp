@@ -1,5 +1,6 @@
 #include "sound/Amthanhcaidat.h"
 
+#include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
 
@@ -9,7 +10,6 @@ using namespace literals;
 
 namespace {
 
-constexpr int PanelButton = 8;
 constexpr Colour White = 0xFFFFFF;
 constexpr Colour Red = 255;
 constexpr Colour Black = 0;
@@ -96,7 +96,7 @@ void Amthanhcaidat::ExitRAmThanh() {
   stores_.writeSetting(setting::SoundOn, speech_.AmThanhBat);
   stores_.writeSetting(setting::SpeedLevel, speech_.TocDoDoc);
   shell_.transitions.DongRan(panel_, controls_.Frame1);
-  focusButton(PanelButton);
+  focusButton(section::Settings);
 }
 
 // -- Finding a cell. Positions count from 1, carets from 0.

@@ -1,5 +1,7 @@
 #include "writing/Writing.h"
 
+#include "surface/SectionNumbers.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -8,7 +10,6 @@ namespace talvora {
 namespace {
 
 constexpr Colour Red = 255;
-constexpr int SectionButton = 6;
 /// Characters of the first line that are selected, whatever its length.
 constexpr int FirstLineLength = 13;
 
@@ -125,7 +126,7 @@ void Writing::ExitRW1() {
   shell_.transitions.DongRan(controls_.RW1, controls_.Frame1);
   controls_.Frame2.Visible(false);
   controls_.Frame3.Visible(false);
-  focusButton(SectionButton);
+  focusButton(section::Writing);
 }
 
 // -- The task.
