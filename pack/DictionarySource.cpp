@@ -14,13 +14,37 @@ namespace talvora::pack {
 namespace {
 
 constexpr std::string_view formsOpener = "  forms: ";
+constexpr std::string_view phrasesOpener = "  phrases: ";
+constexpr std::string_view formsFirstLine = "  forms-first";
 constexpr std::string_view exampleOpener = "    > ";
+constexpr std::size_t mostPhrases = 4;
 
 const ClassName* classAt(std::string_view text) {
   const auto found = std::find_if(ClassNames.begin(), ClassNames.end(), [text](const auto& name) {
     return text.starts_with(name.source) && text.substr(name.source.size()).starts_with(' ');
   });
   return found != ClassNames.end() ? &*found : nullptr;
+}
+
+/// The group of a noun's use that a text opens with: "[u c] ".
+const NounUseName* useAt(std::string_view text) {
+  const auto found =
+      std::find_if(NounUseNames.begin(), NounUseNames.end(), [text](const auto& name) {
+        return !name.source.empty() && text.starts_with(std::string(name.source) + " ");
+      });
+  return found != NounUseNames.end() ? &*found : nullptr;
+}
+
+bool isDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+/// The level behind a head word: "go A1"; empty without one.
+std::string_view levelIn(std::string_view head) {
+  const std::size_t blank = head.rfind(' ');
+  if (blank == std::string_view::npos) return {};
+  const std::string_view last = head.substr(blank + 1);
+  return std::find(Levels.begin(), Levels.end(), last) != Levels.end() ? last : std::string_view{};
 }
 
 /// Reads a source line by line into entries.
@@ -40,6 +64,10 @@ class DictionaryParser {
       report(1, "an indented line without a head word above it");
     } else if (line.text.starts_with(formsOpener)) {
       readForms(line.text);
+    } else if (line.text.starts_with(phrasesOpener)) {
+      readPhrases(line.text);
+    } else if (line.text == formsFirstLine) {
+      entries_.back().formsFirst = true;
     } else if (line.text.starts_with(exampleOpener)) {
       readExample(line.text);
     } else {
@@ -63,8 +91,10 @@ class DictionaryParser {
     return sourceText(utf8, {file_, line_, column}, EntryMarks, problems_);
   }
 
+  EntryBlock& block() { return entries_.back().block; }
+
   void closeBlock() {
-    if (inBlock_ && entries_.back().senses.empty()) {
+    if (inBlock_ && block().senses.empty()) {
       problems_.add(entries_.back().where, "the head word has no sense");
     }
     inBlock_ = false;
@@ -73,7 +103,10 @@ class DictionaryParser {
   void readHead(std::string_view text) {
     closeBlock();
     inBlock_ = true;
-    entries_.push_back({stretch(text, 0), {}, {}, {file_, line_, 1}});
+    const std::string_view level = levelIn(text);
+    if (!level.empty()) text.remove_suffix(level.size() + 1);
+    entries_.push_back({stretch(text, 0), {}, {file_, line_, 1}});
+    block().level = level;
     const bool opens = Letters.has(text.front());
     if (!opens) report(1, "a head word must begin with a letter from a to z");
   }
@@ -81,12 +114,41 @@ class DictionaryParser {
   void readSense(std::string_view text) {
     const ClassName* name = text.starts_with("  ") ? classAt(text.substr(2)) : nullptr;
     if (name == nullptr) {
-      report(3, "a line below a head word must be a sense, an example or forms");
+      report(3, "a line below a head word must be a sense, an example, phrases or forms");
       return;
     }
-    const std::size_t ahead = 2 + name->source.size() + 1;
-    entries_.back().senses.push_back(
-        {name->wordClass, Language::Vietnamese, stretch(text.substr(ahead), ahead), ""});
+    Sense sense{name->wordClass, Language::Vietnamese, {}};
+    std::size_t at = 2 + name->source.size() + 1;
+    readNumber(text, at, sense);
+    readUse(text, at, sense);
+    const std::string_view rest = text.substr(at);
+    const std::size_t pattern = patternIn(rest);
+    sense.text = stretch(rest.substr(0, pattern), at);
+    if (pattern < rest.size()) sense.pattern = stretch(rest.substr(pattern + 2), at + pattern + 2);
+    block().senses.push_back(std::move(sense));
+  }
+
+  void readNumber(std::string_view text, std::size_t& at, Sense& sense) {
+    if (at + 1 >= text.size() || !isDigit(text[at]) || text[at + 1] != ' ') return;
+    sense.number = text[at] - '0';
+    const auto& senses = block().senses;
+    const bool follows = !senses.empty() && senses.back().wordClass == sense.wordClass;
+    if (sense.number != (follows ? senses.back().number + 1 : 1))
+      report(at + 1, "the senses of a class count 1, 2, 3 and stand together");
+    at += 2;
+  }
+
+  void readUse(std::string_view text, std::size_t& at, Sense& sense) {
+    if (at >= text.size() || text[at] != '[') return;
+    const NounUseName* use = useAt(text.substr(at));
+    if (use == nullptr || sense.wordClass != WordClass::Noun) {
+      report(at + 1, "in square brackets may stand u, c, u c, sg or pl, ahead of a noun's gloss");
+      at = std::min(text.find(']', at), text.size() - 1) + 1;
+      if (at < text.size()) ++at;
+      return;
+    }
+    sense.use = use->use;
+    at += use->source.size() + 1;
   }
 
   void readExample(std::string_view text) {
@@ -97,7 +159,7 @@ class DictionaryParser {
       report(exampleOpener.size() + 1, "an example must be \"English = Vietnamese\"");
       return;
     }
-    auto& senses = entries_.back().senses;
+    auto& senses = block().senses;
     if (senses.empty() || !senses.back().example.empty()) {
       report(1, "an example must stand below its sense, one at most");
       return;
@@ -106,12 +168,37 @@ class DictionaryParser {
   }
 
   void readForms(std::string_view text) {
+    if (!block().forms.empty()) report(1, "the forms of a head word stand on one line");
     std::size_t at = formsOpener.size();
     while (at <= text.size()) {
       const std::size_t end = std::min(text.find(", ", at), text.size());
-      entries_.back().forms.push_back(stretch(text.substr(at, end - at), at));
+      block().forms.push_back(stretch(text.substr(at, end - at), at));
       at = end + 2;
     }
+  }
+
+  void readPhrases(std::string_view text) {
+    if (!block().phrases.empty()) report(1, "the phrases of a head word stand on one line");
+    std::size_t at = phrasesOpener.size();
+    while (at <= text.size()) {
+      const std::size_t end = std::min(text.find("; ", at), text.size());
+      readPhrase(text.substr(at, end - at), at);
+      at = end + 2;
+    }
+    if (block().phrases.size() > mostPhrases)
+      report(1, "a head word has at most " + std::to_string(mostPhrases) + " phrases");
+  }
+
+  void readPhrase(std::string_view text, std::size_t at) {
+    constexpr std::string_view equals = " = ";
+    const std::size_t middle = text.find(equals);
+    if (middle == std::string_view::npos) {
+      report(at + 1, "a phrase must be \"English = Vietnamese\", and \"; \" parts two of them");
+      return;
+    }
+    const std::size_t behind = middle + equals.size();
+    block().phrases.push_back(
+        {stretch(text.substr(0, middle), at), stretch(text.substr(behind), at + behind)});
   }
 
   const std::string& file_;
@@ -137,7 +224,8 @@ std::vector<OwnEntry> readDictionary(const std::filesystem::path& folder, Proble
   for (const auto& path : textFilesIn(folder)) {
     for (auto& entry : parseDictionary(readSource(path, problems), path.string(), problems)) {
       const auto [first, isNew] = seen.emplace(ChuanHoaTu(entry.head), entry.where);
-      if (!isNew) {
+      const bool follows = !entries.empty() && entries.back().head == entry.head;
+      if (!isNew && !follows) {
         problems.add(entry.where, "the head word stands at " + first->second.file + ":" +
                                       std::to_string(first->second.line) + " already");
         continue;
@@ -148,13 +236,51 @@ std::vector<OwnEntry> readDictionary(const std::filesystem::path& folder, Proble
   return entries;
 }
 
+std::vector<std::string> alternativesOf(std::string_view form) {
+  std::vector<std::string> alternatives;
+  while (true) {
+    const std::size_t end = std::min(form.find('/'), form.size());
+    alternatives.emplace_back(form.substr(0, end));
+    if (end == form.size()) return alternatives;
+    form.remove_prefix(end + 1);
+  }
+}
+
+namespace {
+
+std::string senseLine(const Sense& sense) {
+  const auto& name = ClassNames[static_cast<std::size_t>(sense.wordClass)];
+  std::string line = "  " + std::string(name.source) + " ";
+  if (sense.number > 0) line += std::to_string(sense.number) + " ";
+  if (sense.use != NounUse::None)
+    line += std::string(NounUseNames[static_cast<std::size_t>(sense.use)].source) + " ";
+  line += utf8Of(sense.text);
+  if (!sense.pattern.empty()) line += ": " + utf8Of(sense.pattern);
+  return line + "\n";
+}
+
+} // namespace
+
 std::string writeEntry(const OwnEntry& entry) {
-  std::string source = utf8Of(entry.head) + "\n";
-  for (const Sense& sense : entry.senses) {
-    const auto& name = ClassNames[static_cast<std::size_t>(sense.wordClass)];
-    source += "  " + std::string(name.source) + " " + utf8Of(sense.text) + "\n";
+  const EntryBlock& block = entry.block;
+  std::string source = utf8Of(entry.head) + (block.level.empty() ? "" : " ") + block.level + "\n";
+  for (const Sense& sense : block.senses) {
+    source += senseLine(sense);
     if (!sense.example.empty()) source += std::string(exampleOpener) + utf8Of(sense.example) + "\n";
   }
+  std::string phrases;
+  for (const FixedPhrase& phrase : block.phrases) {
+    phrases += phrases.empty() ? phrasesOpener : "; ";
+    phrases += utf8Of(phrase.english) + " = " + utf8Of(phrase.vietnamese);
+  }
+  if (!phrases.empty()) source += phrases + "\n";
+  std::string forms;
+  for (const std::string& form : block.forms) {
+    forms += forms.empty() ? formsOpener : ", ";
+    forms += utf8Of(form);
+  }
+  if (!forms.empty()) source += forms + "\n";
+  if (entry.formsFirst) source += std::string(formsFirstLine) + "\n";
   return source;
 }
 

@@ -11,18 +11,23 @@
 
 namespace talvora::pack {
 
+/// A block of a source: a head word and what is said of it.
 struct OwnEntry {
   std::string head;
-  std::vector<Sense> senses;
-  std::vector<std::string> forms; ///< irregular ones, as the source lists them
-  Where where;
+  EntryBlock block;
+  Where where = {};
+  bool formsFirst = false; ///< the spelling is met more often as a form of another head word
 };
+
+/// The alternatives that a listed form names: "learnt/learned" has two.
+[[nodiscard]] std::vector<std::string> alternativesOf(std::string_view form);
 
 /// Parses one source; what is wrong is reported.
 [[nodiscard]] std::vector<OwnEntry> parseDictionary(std::string_view text, const std::string& file,
                                                     Problems& problems);
 
-/// Reads a folder of sources; a head word that stands twice is reported.
+/// Reads a folder of sources. Two words of one spelling stand one behind the other; a head word
+/// that stands twice in another way is reported.
 [[nodiscard]] std::vector<OwnEntry> readDictionary(const std::filesystem::path& folder,
                                                    Problems& problems);
 

@@ -59,8 +59,9 @@ std::vector<OwnEntry> decodeOwnEntries(std::string_view words, std::string_view 
       problems.add({"datatu.txt", line.number, 1}, "the entry of this word cannot be read");
       continue;
     }
-    if (!opensWithVietnamese(*entry)) continue;
-    own.push_back({std::string(line.text), sensesOfEntry(*entry), {}, {}});
+    OwnNotation notation = readOwnNotation(*entry, line.text);
+    for (EntryBlock& block : notation.blocks)
+      own.push_back({std::string(line.text), std::move(block), {}, notation.formsFirst});
   }
   return own;
 }

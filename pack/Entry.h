@@ -77,24 +77,78 @@ class ClassSet {
 /// The language in which a sense is explained; the class is named in the same one.
 enum class Language { Vietnamese, English };
 
-/// The senses of one class, in the text font's bytes.
+/// How a sense of a noun is counted.
+enum class NounUse : std::uint8_t { None, Uncountable, Countable, Both, Singular, Plural };
+
+/// How a noun's use is written in sources and how entries name it.
+struct NounUseName {
+  NounUse use;
+  std::string_view source;
+  std::string_view vietnamese;
+};
+
+inline constexpr std::array<NounUseName, 6> NounUseNames = {{
+    {NounUse::None, "", ""},
+    {NounUse::Uncountable, "[u]", "không đếm được"},
+    {NounUse::Countable, "[c]", "đếm được"},
+    {NounUse::Both, "[u c]", "đếm được và không đếm được"},
+    {NounUse::Singular, "[sg]", "số ít"},
+    {NounUse::Plural, "[pl]", "số nhiều"},
+}};
+
+/// A sense of one class, in the text font's bytes. Without a number it may hold several glosses.
 struct Sense {
   WordClass wordClass = WordClass::Noun;
   Language language = Language::Vietnamese;
   std::string text;
-  std::string example; ///< "English = Vietnamese"; empty without one
+  std::string example = {}; ///< "English = Vietnamese"; empty without one
+  std::string pattern = {}; ///< English words that go with the sense; empty without any
+  int number = 0;           ///< among the senses of its class, from 1; 0 without one
+  NounUse use = NounUse::None;
 };
+
+/// A phrase that is more than its words: "go on", with what it means.
+struct FixedPhrase {
+  std::string english;
+  std::string vietnamese;
+};
+
+/// What an entry says of one word of its spelling; "lie" has two of these.
+struct EntryBlock {
+  std::vector<Sense> senses;
+  std::vector<std::string> forms = {}; ///< irregular ones, as the source lists them
+  std::string level = {};              ///< "A1" to "C1"; empty without one
+  std::vector<FixedPhrase> phrases = {};
+};
+
+/// The levels that a head word can have.
+inline constexpr std::array<std::string_view, 5> Levels = {"A1", "A2", "B1", "B2", "C1"};
 
 enum class Examples { With, Without };
 
-/// Senses in entry notation: each on a line of its own, the class blue ahead of it.
+/// Senses in entry notation: each on a line of its own, the class blue ahead of it. Senses that are
+/// numbered share the name of their class. Without examples the patterns are left out as well.
 [[nodiscard]] std::string entryLines(const std::vector<Sense>& senses, Examples examples);
 
-/// The Vietnamese senses that entry notation holds; the lines that are none are passed over.
-[[nodiscard]] std::vector<Sense> sensesOfEntry(std::string_view entry);
+/// A block in entry notation: its senses, and its phrases below those of its first class.
+[[nodiscard]] std::string blockLines(const EntryBlock& block);
 
-/// True when the entry opens with a Vietnamese sense, so that it is the word's own.
-[[nodiscard]] bool opensWithVietnamese(std::string_view entry);
+/// What stands behind a head word: "/gou/ (went, gone) A1". What is empty is left out.
+[[nodiscard]] std::string headDetails(std::string_view pronunciation, const EntryBlock& block);
+
+/// Where the pattern of a sense begins, at the ": " ahead of it; the end when there is none. A
+/// colon within brackets is part of the gloss.
+[[nodiscard]] std::size_t patternIn(std::string_view sense);
+
+/// What entry notation holds of a head word itself.
+struct OwnNotation {
+  std::vector<EntryBlock> blocks;
+  bool formsFirst = false; ///< the word of which it is a form stands ahead of them
+};
+
+/// Reads entry notation; there are no blocks when the word is only a form or built from other
+/// words, or explained in English.
+[[nodiscard]] OwnNotation readOwnNotation(std::string_view entry, std::string_view head);
 
 /// The marks that entry notation or a stream gives a meaning; no sense may hold them.
 inline constexpr std::string_view EntryMarks = "_`@|*#^~<>{}[]\\";

@@ -93,14 +93,25 @@ class Filler {
 
   // A head word of one letter has the line that opens the letter's section as its own.
   void addOwnEntry(const OwnEntry& entry) {
-    if (entry.head.size() == 1) {
-      if (const auto letter = list_.find(lower(entry.head)))
-        list_.at(*letter).senses = entry.senses;
+    const auto taken =
+        list_.find(ChuanHoaTu(entry.head.size() == 1 ? lower(entry.head) : entry.head));
+    const bool joins = taken && (list_.at(*taken).kind == WordKind::Letter || isSecond(entry));
+    const ClassSet classes = classesOf(entry.block.senses);
+    const Order order = entry.formsFirst ? Order::OriginsFirst : Order::OwnFirst;
+    if (joins) {
+      Word& word = list_.at(*taken);
+      word.blocks.push_back(entry.block);
+      if (word.kind == WordKind::Own) word.classes.add(classes);
       return;
     }
-    if (list_.add({entry.head, WordKind::Own, classesOf(entry.senses), entry.senses, {}})) return;
+    if (list_.add({entry.head, WordKind::Own, classes, {entry.block}, {}, order})) return;
     problems_.add(entry.where, list_.full() ? "the word list has no more room for this word"
                                             : "this word has a place in the list already");
+  }
+
+  /// True for the second of two words of one spelling, which stand one behind the other.
+  [[nodiscard]] bool isSecond(const OwnEntry& entry) const {
+    return &entry != sources_.own.data() && std::prev(&entry)->head == entry.head;
   }
 
   /// Adds the forms of all single words from a number on.
@@ -110,33 +121,37 @@ class Filler {
       if (!isSingleWord(list_.at(base).head) || !list_.at(base).classes.meets(inflected)) continue;
       const std::string head = list_.at(base).head;
       for (const Form& form : inflections_.formsOf(head, list_.at(base).classes)) {
-        addOrExtend({form.text, {formOf(form, head), base, baseClassesOf(form)}, classesOf(form)},
+        addOrExtend({form.text,
+                     {formOf(form, head), base, baseClassesOf(form), form.block},
+                     classesOf(form)},
                     kind);
       }
     }
   }
 
-  /// Adds a word, or one more origin to the word of the same kind that has its place.
+  /// Adds a word, or one more origin to the word that has its place: one of the same kind, or a
+  /// head word of ours for a form of another one, since "saw" is both.
   void addOrExtend(Candidate candidate, WordKind kind) {
     const auto taken = list_.find(ChuanHoaTu(candidate.head));
     if (!taken) {
-      list_.add({std::move(candidate.head), kind, candidate.classes, {}, {candidate.origin}});
+      list_.add({std::move(candidate.head),
+                 kind,
+                 candidate.classes,
+                 {},
+                 {candidate.origin},
+                 Order::OriginsFirst});
       return;
     }
     Word& word = list_.at(*taken);
-    if (word.kind != kind || *taken == candidate.origin.base) return;
+    const bool ownToo = word.kind == WordKind::Own && kind == WordKind::OwnForm;
+    if ((word.kind != kind && !ownToo) || *taken == candidate.origin.base) return;
     if (word.origins.size() < mostOrigins) word.origins.push_back(std::move(candidate.origin));
   }
 
-  // "left" is a form of ours and a word of its own: it then says both.
+  // A form of ours says nothing of the English senses of its spelling: they would hide its own.
   void addWordNet(const WordNetWord& word) {
     if (word.senses.empty()) return;
-    const auto taken = list_.find(ChuanHoaTu(word.head));
-    if (!taken) {
-      list_.add({word.head, WordKind::WordNet, word.classes, word.senses, {}});
-    } else if (list_.at(*taken).kind == WordKind::OwnForm) {
-      list_.at(*taken).senses = word.senses;
-    }
+    list_.add({word.head, WordKind::WordNet, word.classes, {{word.senses}}, {}});
   }
 
   void addPhraseForms() {
@@ -201,7 +216,7 @@ class Filler {
     std::vector<Candidate> candidates;
     for (std::size_t base = 0; base < list_.size(); ++base) {
       const Word& word = list_.at(base);
-      if (isSingleWord(word.head) || hasCapital(word.head) || word.senses.empty() ||
+      if (isSingleWord(word.head) || hasCapital(word.head) || !word.hasSenses() ||
           !word.classes.has(WordClass::Noun)) {
         continue;
       }
@@ -256,7 +271,7 @@ class Filler {
     for (std::size_t base = 0; base < list_.size(); ++base) {
       const Word& word = list_.at(base);
       const bool phrase = word.head.find(' ') != std::string::npos;
-      if (!phrase || word.senses.empty() || !word.classes.has(WordClass::Noun)) continue;
+      if (!phrase || !word.hasSenses() || !word.classes.has(WordClass::Noun)) continue;
       addPossessive(candidates, word.head + (word.head.ends_with('s') ? "'" : "'s"), base);
     }
     addShortestFirst(std::move(candidates), WordKind::PhrasePossessive);

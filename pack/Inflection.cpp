@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace talvora::pack {
 
@@ -114,11 +115,21 @@ bool hasKind(const std::vector<Form>& forms, FormKind kind) {
                      [kind](const Form& form) { return form.is(kind); });
 }
 
+/// The class of a list of forms when they show it together: "better, best", "bet, bet".
+std::optional<WordClass> classOfForms(const OwnEntry& entry, ClassSet classes) {
+  const auto& forms = entry.block.forms;
+  if (forms.size() < 2) return std::nullopt;
+  if (forms.back().ends_with("st") && forms.front() != forms.back() && classes.meets(gradable))
+    return WordClass::Adjective;
+  const bool verb = classes.meets({WordClass::Verb, WordClass::Modal});
+  return verb ? std::optional(WordClass::Verb) : std::nullopt;
+}
+
 /// The class that a listed irregular form of an entry belongs to: the one that WordNet lists it
-/// under, else the first of the entry's classes that has forms.
+/// under, else the one that the forms show, else the first of the entry's classes that has forms.
 WordClass classOfForm(const OwnEntry& entry, const std::string& form, const WordNet& wordNet) {
   ClassSet classes;
-  for (const Sense& sense : entry.senses)
+  for (const Sense& sense : entry.block.senses)
     classes.add(sense.wordClass);
   const auto listed = wordNet.exceptions.find(lower(entry.head));
   if (listed != wordNet.exceptions.end()) {
@@ -126,15 +137,36 @@ WordClass classOfForm(const OwnEntry& entry, const std::string& form, const Word
       if (each.form == form && classes.has(each.wordClass)) return each.wordClass;
     }
   }
-  for (const Sense& sense : entry.senses) {
+  if (const auto shown = classOfForms(entry, classes)) return *shown;
+  const auto& senses = entry.block.senses;
+  for (const Sense& sense : senses) {
     if (sense.wordClass == WordClass::Modal) return WordClass::Verb;
     if (ClassSet{WordClass::Noun, WordClass::Verb, WordClass::Adjective, WordClass::Adverb}.has(
             sense.wordClass)) {
       return sense.wordClass;
     }
   }
-  return gradable.has(entry.senses.front().wordClass) ? entry.senses.front().wordClass
-                                                      : WordClass::Adjective;
+  return gradable.has(senses.front().wordClass) ? senses.front().wordClass : WordClass::Adjective;
+}
+
+/// The kinds of a verb's listed pasts by their places: the past, then the participle. One that
+/// serves for both says so; among more than two it cannot be told which is which.
+FormKind kindOfPast(const std::vector<std::string>& pasts, std::size_t place) {
+  if (pasts.size() > 2) return FormKind::PastOrParticiple;
+  if (pasts.size() == 1 || pasts[0] == pasts[1]) return FormKind::PastAndParticiple;
+  return place == 0 ? FormKind::Past : FormKind::Participle;
+}
+
+/// True for the kinds of a verb's past.
+bool isPast(FormKind kind) {
+  return kind == FormKind::Past || kind == FormKind::Participle ||
+         kind == FormKind::PastAndParticiple || kind == FormKind::PastOrParticiple;
+}
+
+bool hasPast(const std::vector<Form>& forms) {
+  return std::any_of(forms.begin(), forms.end(), [](const Form& form) {
+    return std::any_of(form.kinds.begin(), form.kinds.end(), isPast);
+  });
 }
 
 /// Adds regular forms of one kind that are known words.
@@ -186,16 +218,19 @@ ClassSet baseClassesOf(const Form& form) {
 Inflections::Inflections(const std::vector<OwnEntry>& own, const WordNet& wordNet,
                          const KnownWords& known)
     : wordNet_(wordNet), known_(known) {
+  std::size_t block = 0;
+  const OwnEntry* before = nullptr;
   for (const OwnEntry& entry : own) {
-    if (!entry.forms.empty() && !entry.senses.empty()) readOwn(entry);
+    block = before != nullptr && before->head == entry.head ? block + 1 : 0;
+    before = &entry;
+    if (!entry.block.forms.empty() && !entry.block.senses.empty()) readOwn(entry, block);
   }
 }
 
-// A verb lists its past and then its participle; a single form serves for both.
-void Inflections::readOwn(const OwnEntry& entry) {
-  std::vector<Form>& forms = own_[entry.head];
+void Inflections::readOwn(const OwnEntry& entry, std::size_t block) {
+  std::vector<Form> forms;
   std::vector<std::string> pasts;
-  for (const std::string& form : entry.forms) {
+  for (const std::string& form : entry.block.forms) {
     const FormKind kind = kindOf(form, classOfForm(entry, form, wordNet_));
     if (kind == FormKind::PastOrParticiple) {
       pasts.push_back(form);
@@ -204,11 +239,31 @@ void Inflections::readOwn(const OwnEntry& entry) {
     }
   }
   for (std::size_t place = 0; place < pasts.size(); ++place) {
-    const FormKind kind = pasts.size() == 1  ? FormKind::PastAndParticiple
-                          : pasts.size() > 2 ? FormKind::PastOrParticiple
-                          : place == 0       ? FormKind::Past
-                                             : FormKind::Participle;
-    addForm(forms, pasts[place], kind);
+    for (const std::string& past : alternativesOf(pasts[place]))
+      addForm(forms, past, kindOfPast(pasts, place));
+  }
+  for (Form& form : forms) {
+    // "got" and "got/gotten": what is the past and a participle says both in one.
+    if (form.is(FormKind::Past) && form.is(FormKind::Participle))
+      form.kinds = {FormKind::PastAndParticiple};
+    form.block = block;
+    own_[entry.head].push_back(std::move(form));
+  }
+}
+
+/// Adds the irregular forms of the database, as far as our own source lists none of the kind.
+void Inflections::addListed(std::vector<Form>& forms, const std::string& base,
+                            ClassSet classes) const {
+  const auto listed = wordNet_.exceptions.find(lower(base));
+  if (listed == wordNet_.exceptions.end()) return;
+  const std::vector<Form> own = forms;
+  const bool pastGiven = hasPast(own);
+  for (const ExceptionForm& each : listed->second) {
+    const FormKind kind = kindOf(each.form, each.wordClass);
+    const bool already = std::any_of(own.begin(), own.end(),
+                                     [&each](const Form& form) { return form.text == each.form; });
+    if (!classes.has(each.wordClass) || already || hasKind(own, kind)) continue;
+    if (!(isPast(kind) && pastGiven)) addForm(forms, each.form, kind);
   }
 }
 
@@ -217,25 +272,19 @@ std::vector<Form> Inflections::formsOf(const std::string& base, ClassSet classes
   std::vector<Form> forms = own != own_.end() ? own->second : std::vector<Form>{};
   const bool pluralGiven = hasKind(forms, FormKind::Plural);
   const bool degreeGiven = hasKind(forms, FormKind::Comparative);
-  const auto listed = wordNet_.exceptions.find(lower(base));
-  if (listed != wordNet_.exceptions.end()) {
-    for (const ExceptionForm& each : listed->second) {
-      const bool already = std::any_of(
-          forms.begin(), forms.end(), [&each](const Form& form) { return form.text == each.form; });
-      if (classes.has(each.wordClass) && !already) {
-        addForm(forms, each.form, kindOf(each.form, each.wordClass));
-      }
-    }
-  }
+  const bool pastGiven = hasPast(forms);
+  addListed(forms, base, classes);
   if (base.size() < 2) return forms;
   RegularForms regular(forms, known_);
   if (classes.has(WordClass::Noun) && !pluralGiven) regular.add(withS(base), FormKind::Plural);
   if (classes.has(WordClass::Verb)) {
     regular.add(withS(base), FormKind::ThirdPerson);
-    regular.add(withVowelEnding(base, "ed"), FormKind::PastAndParticiple);
+    if (!pastGiven) regular.add(withVowelEnding(base, "ed"), FormKind::PastAndParticiple);
     regular.add(withVowelEnding(base, "ing"), FormKind::Ing);
   }
-  if (classes.meets(gradable) && !degreeGiven && vowelGroups(base) <= 2) {
+  // What is a preposition too has degrees only where they are listed: "offer" is no more of "off".
+  const bool takesDegrees = classes.meets(gradable) && !classes.has(WordClass::Preposition);
+  if (takesDegrees && !degreeGiven && vowelGroups(base) <= 2) {
     regular.add(withVowelEnding(base, "er"), FormKind::Comparative);
     regular.add(withVowelEnding(base, "est"), FormKind::Superlative);
   }

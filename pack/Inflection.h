@@ -5,6 +5,9 @@
 #include "pack/Entry.h"
 #include "pack/WordNet.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -29,6 +32,7 @@ enum class FormKind : std::uint8_t {
 struct Form {
   std::string text;
   std::vector<FormKind> kinds;
+  std::optional<std::size_t> block = {}; ///< of the base whose form it is; none for all of them
 
   [[nodiscard]] bool is(FormKind kind) const;
 };
@@ -48,13 +52,15 @@ class Inflections {
   /// `known` confirms what the regular rules make. All are borrowed for the object's life.
   Inflections(const std::vector<OwnEntry>& own, const WordNet& wordNet, const KnownWords& known);
 
-  /// The forms of a single word in its classes, irregular ones first, each text once.
+  /// The forms of a single word in its classes, irregular ones first, each text once. The forms
+  /// that our own source lists are all that there are of their kind: "bursted" is none.
   [[nodiscard]] std::vector<Form> formsOf(const std::string& base, ClassSet classes) const;
   /// The plural of a noun; empty when no form is known.
   [[nodiscard]] std::string pluralOf(const std::string& noun) const;
 
  private:
-  void readOwn(const OwnEntry& entry);
+  void readOwn(const OwnEntry& entry, std::size_t block);
+  void addListed(std::vector<Form>& forms, const std::string& base, ClassSet classes) const;
 
   const WordNet& wordNet_;
   const KnownWords& known_;

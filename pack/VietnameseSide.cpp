@@ -35,30 +35,41 @@ bool hasCapital(std::string_view head) {
   return lower(head) != head;
 }
 
-/// The shortest of the meanings that semicolons part; those within brackets part nothing.
-std::string shortestMeaning(std::string_view sense) {
-  std::string_view shortest;
+/// The first of the meanings that semicolons part; those within brackets part nothing.
+std::string_view firstMeaning(std::string_view sense) {
   int depth = 0;
-  std::size_t begin = 0;
-  for (std::size_t at = 0; at <= sense.size(); ++at) {
-    const char character = at < sense.size() ? sense[at] : ';';
-    if (character == '(') ++depth;
-    if (character == ')') --depth;
-    if (character != ';' || (depth > 0 && at < sense.size())) continue;
-    const std::string_view meaning = trim(sense.substr(begin, at - begin));
-    if (shortest.empty() || (!meaning.empty() && meaning.size() < shortest.size()))
-      shortest = meaning;
-    begin = at + 1;
+  for (std::size_t at = 0; at < sense.size(); ++at) {
+    if (sense[at] == '(') ++depth;
+    if (sense[at] == ')') --depth;
+    if (sense[at] == ';' && depth <= 0) return trim(sense.substr(0, at));
   }
-  return std::string(shortest);
+  return trim(sense);
 }
 
-/// The meaning of a word in one of the classes, or, when none of its senses has one, in its first.
-// Senses stand with the commonest first: a shorter one further down would mislead.
+/// A meaning as the bar shows it: one that is long goes without the remark in brackets at its end.
+std::string shownMeaning(std::string_view sense) {
+  std::string_view meaning = firstMeaning(sense);
+  const std::size_t remark = meaning.rfind(" (");
+  if (meaning.size() > LongestSideMeaning && meaning.ends_with(')') &&
+      remark != std::string_view::npos) {
+    meaning = trim(meaning.substr(0, remark));
+  }
+  return std::string(meaning);
+}
+
+/// The meaning of a word of ours in one of the classes, or, when it has none of these, its first.
+// Senses stand with the commonest first: one further down would mislead.
 std::string meaningOf(const Word& word, ClassSet classes) {
-  const auto fits = [classes](const Sense& sense) { return classes.has(sense.wordClass); };
-  const auto found = std::find_if(word.senses.begin(), word.senses.end(), fits);
-  return shortestMeaning((found != word.senses.end() ? *found : word.senses.front()).text);
+  const Sense* first = &word.blocks.front().senses.front();
+  for (const EntryBlock& block : word.blocks) {
+    const auto found =
+        std::find_if(block.senses.begin(), block.senses.end(),
+                     [classes](const Sense& sense) { return classes.has(sense.wordClass); });
+    if (found == block.senses.end()) continue;
+    first = &*found;
+    break;
+  }
+  return shownMeaning(first->text);
 }
 
 class SideFiller {
@@ -92,15 +103,22 @@ class SideFiller {
   }
 
  private:
+  // A head word that is met more often as a form of another one has the meaning of that form.
   void addOwnWord(const Word& word) {
     const bool own = word.kind == WordKind::Own || word.kind == WordKind::Letter;
-    if (own && !word.senses.empty()) add(word.head, meaningOf(word, {}), {}, word.kind);
+    if (!own || !word.hasSenses()) return;
+    if (word.order == Order::OriginsFirst && !word.origins.empty()) {
+      addForm(word);
+    } else {
+      add(word.head, meaningOf(word, {}), {}, word.kind);
+    }
   }
 
   void addForm(const Word& word) {
     const Origin& origin = word.origins.front();
-    const Word& base = list_.at(origin.base);
-    add(word.head, meaningOf(base, origin.classes), base.head, word.kind);
+    const std::vector<Sense> senses = list_.borrowedSenses(origin);
+    if (senses.empty()) return;
+    add(word.head, shownMeaning(senses.front().text), list_.at(origin.base).head, word.kind);
   }
 
   [[nodiscard]] bool isInWordNet(const std::string& listed) const {

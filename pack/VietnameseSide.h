@@ -13,6 +13,9 @@ namespace talvora::pack {
 /// The number of entries that the program searches.
 inline constexpr std::size_t VietnameseSideCount = 12238;
 
+/// A meaning of more letters than this is shown without the remark at its end.
+inline constexpr std::size_t LongestSideMeaning = 24;
+
 struct SideEntry {
   std::string head;
   std::string form; ///< the normal form

@@ -12,16 +12,22 @@ namespace {
 
 constexpr std::size_t mostBorrowedSenses = 3;
 
-/// The first senses of a word for the entry of another one; those of the classes asked for, or of
-/// all when it has none of these.
-std::string borrowedLines(const Word& root, ClassSet classes) {
-  std::vector<Sense> senses;
-  for (const Sense& sense : root.senses) {
-    if (classes.has(sense.wordClass)) senses.push_back(sense);
+/// What an entry says of the word itself.
+std::string ownLines(const Word& word) {
+  if (!word.hasSenses()) return {};
+  const bool namedAgain = word.order == Order::OriginsFirst && word.kind == WordKind::Own;
+  std::string lines;
+  for (const EntryBlock& block : word.blocks) {
+    const std::string details = headDetails("", block);
+    if (!lines.empty() || namedAgain) lines += "_" + word.head + (details.empty() ? "" : " ");
+    lines += details + blockLines(block);
   }
-  if (senses.empty()) senses = root.senses;
-  if (senses.size() > mostBorrowedSenses) senses.resize(mostBorrowedSenses);
-  return entryLines(senses, Examples::Without);
+  return lines;
+}
+
+bool inVietnamese(const std::vector<Sense>& senses) {
+  return std::any_of(senses.begin(), senses.end(),
+                     [](const Sense& sense) { return sense.language == Language::Vietnamese; });
 }
 
 } // namespace
@@ -49,32 +55,39 @@ std::vector<std::size_t> WordList::sorted() const {
   return order;
 }
 
-const Word& WordList::rootOf(const Word& word) const {
-  const Word* root = &word;
-  while (root->senses.empty() && !root->origins.empty())
-    root = &words_[root->origins.front().base];
-  return *root;
+std::vector<Sense> WordList::borrowedSenses(const Origin& origin) const {
+  const Origin* from = &origin;
+  const Word* root = &words_[origin.base];
+  while (!root->hasSenses() && !root->origins.empty()) {
+    from = &root->origins.front();
+    root = &words_[from->base];
+  }
+  std::vector<Sense> senses;
+  std::vector<Sense> others;
+  for (std::size_t place = 0; place < root->blocks.size(); ++place) {
+    if (from->block.value_or(place) != place) continue;
+    for (const Sense& sense : root->blocks[place].senses)
+      (origin.classes.has(sense.wordClass) ? senses : others).push_back(sense);
+  }
+  if (senses.empty()) senses = std::move(others);
+  if (senses.size() > mostBorrowedSenses) senses.resize(mostBorrowedSenses);
+  return senses;
 }
 
 bool WordList::hasVietnamese(const Word& word) const {
-  const auto inVietnamese = [](const Word& root) {
-    return std::any_of(root.senses.begin(), root.senses.end(),
-                       [](const Sense& sense) { return sense.language == Language::Vietnamese; });
-  };
-  return inVietnamese(word) ||
-         std::any_of(word.origins.begin(), word.origins.end(), [&](const Origin& origin) {
-           return inVietnamese(rootOf(words_[origin.base]));
-         });
+  return std::any_of(word.blocks.begin(), word.blocks.end(),
+                     [](const EntryBlock& block) { return inVietnamese(block.senses); }) ||
+         std::any_of(word.origins.begin(), word.origins.end(),
+                     [this](const Origin& origin) { return inVietnamese(borrowedSenses(origin)); });
 }
 
 std::string WordList::entryOf(const Word& word) const {
-  const std::string own = entryLines(word.senses, Examples::With);
+  const std::string own = ownLines(word);
   std::string borrowed;
-  for (const Origin& origin : word.origins) {
-    borrowed += "_" + origin.relation + borrowedLines(rootOf(words_[origin.base]), origin.classes);
-  }
+  for (const Origin& origin : word.origins)
+    borrowed += "_" + origin.relation + entryLines(borrowedSenses(origin), Examples::Without);
   const std::string note = word.note.empty() ? "" : "_" + word.note;
-  return (word.kind == WordKind::OwnForm ? borrowed + own : own + borrowed) + note;
+  return (word.order == Order::OriginsFirst ? borrowed + own : own + borrowed) + note;
 }
 
 } // namespace talvora::pack

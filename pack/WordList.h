@@ -53,17 +53,24 @@ inline constexpr std::array<WordKindName, 11> WordKindNames = {{
 struct Origin {
   std::string relation;
   std::size_t base = 0;
-  ClassSet classes = {}; ///< whose senses the entry borrows; none means all
+  ClassSet classes = {};                 ///< whose senses the entry borrows; none means all
+  std::optional<std::size_t> block = {}; ///< of the base that the word belongs to; none means all
 };
+
+/// Which of its two halves an entry shows first.
+enum class Order : std::uint8_t { OwnFirst, OriginsFirst };
 
 struct Word {
   std::string head;
   WordKind kind = WordKind::Own;
   ClassSet classes;
-  std::vector<Sense> senses;
+  std::vector<EntryBlock> blocks; ///< what is said of the word itself
   std::vector<Origin> origins;
+  Order order = Order::OwnFirst;
   std::string note = {}; ///< a last line of the entry; empty without one
   std::string form = {}; ///< the normal form; the list fills it in
+
+  [[nodiscard]] bool hasSenses() const noexcept { return !blocks.empty(); }
 };
 
 class WordList {
@@ -85,8 +92,10 @@ class WordList {
 
   /// Numbers of all words in the order of the list: by normal form, in binary order.
   [[nodiscard]] std::vector<std::size_t> sorted() const;
-  /// The word whose senses stand for a word: itself, or the end of its line of first origins.
-  [[nodiscard]] const Word& rootOf(const Word& word) const;
+  /// The senses that a word borrows by an origin, the first three at most: those of the classes it
+  /// asks for, or of all when there are none of these. A base without senses passes on what it
+  /// borrows itself.
+  [[nodiscard]] std::vector<Sense> borrowedSenses(const Origin& origin) const;
   /// True when the entry of the word gives a Vietnamese sense.
   [[nodiscard]] bool hasVietnamese(const Word& word) const;
   /// The whole entry of a word in entry notation, without the character 13 that ends it.

@@ -114,7 +114,10 @@ TEST(Compiler, ADumpGivesTheSourcesBack) {
   EXPECT_EQ(textOf("reading/400-text.txt"), readWhole(content / "reading/400-listening-one.txt"));
   EXPECT_EQ(textOf("reading/headings.txt"), "1\tMỞ ĐẦU VÀ LÀM QUEN\n3\tBÀI NGẮN\n");
   EXPECT_EQ(textOf("dictionary/g.txt"),
-            "go\n  v. đi\n    > We go to school by bus. = Chúng tôi đi học bằng xe buýt.\n");
+            "go A1\n  v. 1 đi: go to school, go home\n  v. 2 đi (làm gì): go swimming\n"
+            "    > We go to school by bus. = Chúng tôi đi học bằng xe buýt.\n"
+            "  n. [c] lượt\n  phrases: go on = tiếp tục; go out = ra ngoài, tắt\n"
+            "  forms: went, gone\n");
   EXPECT_EQ(textOf("dictionary/z.txt"), "(missing)");
 }
 

@@ -50,10 +50,64 @@ TEST(FilledList, LettersCarryTheEntriesOfWordsOfOneLetter) {
 TEST(FilledList, FormsSayWhatTheyAreAndBorrowTheSensesOfTheirClass) {
   const WordList list = filled();
   EXPECT_EQ(entry(list, "walking"), "_dạng -ing của walk_#động từ #đi bộ");
-  EXPECT_EQ(entry(list, "left"),
-            "_quá khứ và quá khứ phân từ của leave_#động từ #rời đi_#noun #a side");
+  EXPECT_EQ(entry(list, "left"), "_quá khứ và quá khứ phân từ của leave_#động từ #rời đi");
   EXPECT_EQ(entry(list, "walking out"), "_dạng -ing của walk out_#verb #leave");
   EXPECT_EQ(entry(list, "chiefs of staff"), "_dạng số nhiều của chief of staff_#noun #a head");
+}
+
+/// The entry of a word in a list of our own entries alone.
+std::string ownEntry(const std::string& dictionary, const std::string& form,
+                     const std::vector<std::string>& known = {}) {
+  Problems problems;
+  WordSources sources;
+  sources.own = parseDictionary(dictionary, "d.txt", problems);
+  sources.known.insert(known.begin(), known.end());
+  const WordList list = fillWordList(sources, FullWordCount, Filling::OwnOnly, problems);
+  EXPECT_TRUE(problems.none());
+  return entry(list, form);
+}
+
+TEST(FilledList, AHeadWordThatIsAlsoAFormShowsBoth) {
+  const std::string see = "see A1\n  v. thấy\n  forms: saw, seen\n\n";
+  EXPECT_EQ(ownEntry(see + "saw B1\n  n. cái cưa\n  forms: saws\n", "saw"),
+            "(saws) B1_#danh từ #cái cưa_quá khứ của see_#động từ #thấy");
+  EXPECT_EQ(ownEntry(see + "saw B1\n  n. cái cưa\n  v. cưa\n  forms: sawed, sawn\n"
+                           "  forms-first\n",
+                     "saw"),
+            "_quá khứ của see_#động từ #thấy_saw (sawed, sawn) B1_#danh từ #cái cưa_#động từ #cưa");
+  EXPECT_EQ(
+      ownEntry("work\n  v. làm việc\n\nworking\n  adj. đang làm việc\n", "working", {"working"}),
+      "_#tính từ #đang làm việc_dạng -ing của work_#động từ #làm việc");
+}
+
+TEST(FilledList, TwoVerbsOfOneSpellingKeepTheirForms) {
+  const std::string lie = "lie A2\n  v. nằm\n  forms: lay, lain\n\n"
+                          "lie B1\n  v. nói dối\n  n. lời nói dối\n  forms: lied, lied\n";
+  const std::vector<std::string> known = {"lies", "lying"};
+  EXPECT_EQ(ownEntry(lie, "lie", known),
+            "(lay, lain) A2_#động từ #nằm_lie (lied, lied) B1_#động từ #nói dối"
+            "_#danh từ #lời nói dối");
+  EXPECT_EQ(ownEntry(lie, "lied", known), "_quá khứ và quá khứ phân từ của lie_#động từ #nói dối");
+  EXPECT_EQ(ownEntry(lie, "lain", known), "_quá khứ phân từ của lie_#động từ #nằm");
+  EXPECT_EQ(ownEntry(lie, "lying", known), "_dạng -ing của lie_#động từ #nằm_#động từ #nói dối");
+}
+
+TEST(FilledList, APackGivesBackAllKindsOfOwnEntries) {
+  const std::string source = "lie A2\n  v. nằm\n  forms: lay, lain\n\n"
+                             "lie B1\n  v. nói dối\n  forms: lied, lied\n\n"
+                             "saw\n  n. cái cưa\n  forms-first\n\n"
+                             "see A1\n  v. thấy\n  forms: saw, seen\n";
+  Problems problems;
+  WordSources sources;
+  sources.own = parseDictionary(source, "d.txt", problems);
+  const WordList list = fillWordList(sources, FullWordCount, Filling::OwnOnly, problems);
+  const auto files = compileDictionary(list);
+  std::string back;
+  for (const OwnEntry& each :
+       decodeOwnEntries(files[0].bytes, files[1].bytes, files[2].bytes, problems))
+    back += (back.empty() ? "" : "\n") + writeEntry(each);
+  EXPECT_TRUE(problems.none());
+  EXPECT_EQ(back, source);
 }
 
 TEST(FilledList, BuiltWordsAndPossessivesLeadToTheirBase) {

@@ -13,7 +13,7 @@ namespace talvora::pack {
 namespace {
 
 OwnEntry entryOf(std::string head, WordClass wordClass, std::vector<std::string> forms = {}) {
-  return {std::move(head), {{wordClass, Language::Vietnamese, "x", ""}}, std::move(forms), {}};
+  return {std::move(head), {{{wordClass, Language::Vietnamese, "x"}}, std::move(forms)}};
 }
 
 std::string formsIn(const std::vector<OwnEntry>& own, const KnownWords& known,
@@ -61,6 +61,31 @@ TEST(Inflection, OurOwnIrregularFormsSayWhatTheyAre) {
   EXPECT_EQ(formsIn({entryOf("bad", WordClass::Adjective, {"worse", "worst"})}, {}, "bad",
                     {WordClass::Adjective}),
             "so sánh hơn của worse\nso sánh nhất của worst\n");
+}
+
+TEST(Inflection, AVerbWhosePastsAreListedHasNoOtherPast) {
+  EXPECT_EQ(formsIn({entryOf("burst", WordClass::Verb, {"burst", "burst"})},
+                    {"bursted", "bursts", "bursting"}, "burst", {WordClass::Verb}),
+            "quá khứ và quá khứ phân từ của burst\nngôi thứ ba số ít của bursts\n"
+            "dạng -ing của bursting\n");
+  EXPECT_EQ(
+      formsIn({entryOf("come", WordClass::Verb, {"came", "come"})}, {}, "come", {WordClass::Verb}),
+      "quá khứ của came\nquá khứ phân từ của come\n");
+  EXPECT_EQ(formsIn({entryOf("get", WordClass::Verb, {"got", "got/gotten"})}, {}, "get",
+                    {WordClass::Verb}),
+            "quá khứ và quá khứ phân từ của got\nquá khứ phân từ của gotten\n");
+}
+
+TEST(Inflection, ANounThatIsAVerbTooTakesItsListedPastsForVerbForms) {
+  OwnEntry bet = entryOf("bet", WordClass::Noun, {"bet", "bet"});
+  bet.block.senses.push_back({WordClass::Verb, Language::Vietnamese, "x"});
+  EXPECT_EQ(formsIn({bet}, {"bets"}, "bet", {WordClass::Noun, WordClass::Verb}),
+            "quá khứ và quá khứ phân từ của bet\n"
+            "dạng số nhiều; ngôi thứ ba số ít của bets\n");
+}
+
+TEST(Inflection, APrepositionHasNoDegrees) {
+  EXPECT_EQ(formsIn({}, {"offer"}, "off", {WordClass::Adverb, WordClass::Preposition}), "");
 }
 
 TEST(Derivation, FindsPrefixesAndSuffixes) {

@@ -37,9 +37,28 @@ std::vector<std::string> textsOf(const std::vector<SideEntry>& entries) {
 
 using Texts = std::vector<std::string>;
 
-TEST(VietnameseSideOfPack, TakesTheShortestMeaningOfTheCommonestSense) {
-  EXPECT_EQ(textsOf(sideOf("can\n  modal. được phép; có thể\n  n. lon\n", {})),
-            Texts{"can~có thể"});
+TEST(VietnameseSideOfPack, TakesTheFirstMeaningOfTheCommonestSense) {
+  EXPECT_EQ(textsOf(sideOf("lot\n  n. nhiều, số lượng lớn; lô đất\n  v. chia\n", {})),
+            Texts{"lot~nhiều, số lượng lớn"});
+}
+
+TEST(VietnameseSideOfPack, ALongMeaningGoesWithoutItsRemark) {
+  EXPECT_EQ(textsOf(sideOf("off\n  adv. tắt (đèn)\n  adv. xa\n", {})), Texts{"off~tắt (đèn)"});
+  EXPECT_EQ(textsOf(sideOf("owl\n  n. con cú (chim ăn đêm, mắt to)\n", {})), Texts{"owl~con cú"});
+}
+
+TEST(VietnameseSideOfPack, AHeadWordThatIsMetAsAFormHasTheMeaningOfTheForm) {
+  const std::string see = "see\n  v. thấy\n  forms: saw, seen\n\nsaw\n  n. cái cưa\n";
+  EXPECT_EQ(textsOf(sideOf(see, {})), (Texts{"saw~cái cưa", "see~thấy", "seen~thấy <see>"}));
+  EXPECT_EQ(textsOf(sideOf(see + "  forms-first\n", {})),
+            (Texts{"saw~thấy <see>", "see~thấy", "seen~thấy <see>"}));
+}
+
+TEST(VietnameseSideOfPack, TwoWordsOfOneSpellingPassOnTheirOwnMeanings) {
+  EXPECT_EQ(textsOf(sideOf("lie\n  v. nằm\n  forms: lay, lain\n\n"
+                           "lie\n  v. nói dối\n  forms: lied, lied\n",
+                           {})),
+            (Texts{"lain~nằm <lie>", "lay~nằm <lie>", "lie~nằm", "lied~nói dối <lie>"}));
 }
 
 TEST(VietnameseSideOfPack, SemicolonsInBracketsPartNothing) {
