@@ -1,6 +1,7 @@
 // The steps in which the word list is filled.
 #include "pack/FilledList.h"
 
+#include "pack/BuiltWords.h"
 #include "pack/Derivation.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
@@ -15,8 +16,8 @@ namespace {
 
 constexpr std::size_t mostOrigins = 2;
 
-constexpr ClassSet inflected{WordClass::Noun, WordClass::Verb, WordClass::Adjective,
-                             WordClass::Adverb};
+constexpr ClassSet inflected{WordClass::Noun, WordClass::Verb, WordClass::Modal,
+                             WordClass::Adjective, WordClass::Adverb};
 
 bool isSingleWord(std::string_view head) {
   return head.find_first_of(" -'") == std::string_view::npos;
@@ -29,16 +30,15 @@ bool hasCapital(std::string_view head) {
 
 ClassSet classesOf(const std::vector<Sense>& senses) {
   ClassSet classes;
-  for (const Sense& sense : senses) {
-    classes.add(sense.wordClass == WordClass::Modal ? WordClass::Verb : sense.wordClass);
-  }
+  for (const Sense& sense : senses)
+    classes.add(sense.wordClass);
   return classes;
 }
 
 /// Classes that a form takes part in when words are built from it: participles describe.
 ClassSet classesOf(const Form& form) {
   const bool participle = std::any_of(form.kinds.begin(), form.kinds.end(), [](FormKind kind) {
-    return kind != FormKind::Plural && kind != FormKind::ThirdPerson &&
+    return kind != FormKind::Present && kind != FormKind::Plural && kind != FormKind::ThirdPerson &&
            kind != FormKind::Comparative && kind != FormKind::Superlative;
   });
   return participle ? ClassSet{WordClass::Adjective} : ClassSet{};
@@ -143,15 +143,49 @@ class Filler {
       return;
     }
     Word& word = list_.at(*taken);
-    const bool ownToo = word.kind == WordKind::Own && kind == WordKind::OwnForm;
+    // "Easter" is no more of "east": a name is no form of a word in small letters.
+    const bool ownToo = word.kind == WordKind::Own && kind == WordKind::OwnForm &&
+                        hasCapital(word.head) == hasCapital(candidate.head);
     if ((word.kind != kind && !ownToo) || *taken == candidate.origin.base) return;
     if (word.origins.size() < mostOrigins) word.origins.push_back(std::move(candidate.origin));
   }
 
-  // A form of ours says nothing of the English senses of its spelling: they would hide its own.
+  // A form of ours says nothing of the English senses of its spelling: they would hide its own. A
+  // word built from one of ours says that first.
   void addWordNet(const WordNetWord& word) {
     if (word.senses.empty()) return;
-    list_.add({word.head, WordKind::WordNet, word.classes, {{word.senses}}, {}});
+    const auto origin = ownOriginOf(word);
+    list_.add({word.head,
+               WordKind::WordNet,
+               word.classes,
+               {{word.senses}},
+               origin ? std::vector{*origin} : std::vector<Origin>{},
+               origin ? Order::OriginsFirst : Order::OwnFirst});
+  }
+
+  /// How a word of the database is built from a word of ours, when the database bears it out.
+  [[nodiscard]] std::optional<Origin> ownOriginOf(const WordNetWord& word) const {
+    if (!isSingleWord(word.head) || hasCapital(word.head)) return std::nullopt;
+    for (const Derivation& derivation : derivationsOf(word.head)) {
+      const auto base = list_.find(derivation.base);
+      if (!base || list_.at(*base).kind > WordKind::OwnForm || hasCapital(list_.at(*base).head))
+        continue;
+      // A prefix leaves the class alone: "recurrent" is no "current" that is so again.
+      const ClassSet classes =
+          derivation.affix == "re-" ? derivation.baseClasses : derivation.classes;
+      const bool fits = classes.empty() || classes.meets(word.classes);
+      if (fits && isBornOut(sources_.wordNet, word, derivation))
+        return builtOrigin(derivation, *base);
+    }
+    return std::nullopt;
+  }
+
+  [[nodiscard]] Origin builtOrigin(const Derivation& derivation, std::size_t base) const {
+    return {builtFrom(derivation, list_.at(base).head),
+            base,
+            derivation.baseClasses,
+            {},
+            derivation.affix};
   }
 
   void addPhraseForms() {
@@ -206,8 +240,12 @@ class Filler {
       if (!isSingleWord(head) || hasCapital(head)) continue;
       const ClassSet classes =
           derivation.classes.empty() ? list_.at(*base).classes : derivation.classes;
-      list_.add(
-          {listed, WordKind::Derivation, classes, {}, {{builtFrom(derivation, head), *base}}});
+      list_.add({listed,
+                 WordKind::Derivation,
+                 classes,
+                 {},
+                 {builtOrigin(derivation, *base)},
+                 Order::OriginsFirst});
       return;
     }
   }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace talvora::pack {
 
@@ -17,7 +18,8 @@ struct KindName {
   std::string_view text;
 };
 
-constexpr std::array<KindName, 9> kindNames = {{
+constexpr std::array<KindName, 10> kindNames = {{
+    {FormKind::Present, "hiện tại"},
     {FormKind::Plural, "dạng số nhiều"},
     {FormKind::ThirdPerson, "ngôi thứ ba số ít"},
     {FormKind::Past, "quá khứ"},
@@ -90,15 +92,38 @@ std::vector<std::string> withVowelEnding(const std::string& word, std::string_vi
   return {word + tail, word + word.back() + tail};
 }
 
-/// Adds a form, or one more thing that a form serves for.
+/// Adds a form, or one more thing that a form serves for. A rule that knows what a listed past
+/// serves for settles it.
 void addForm(std::vector<Form>& forms, const std::string& text, FormKind kind) {
   const auto same = [&text](const Form& form) { return form.text == text; };
   const auto found = std::find_if(forms.begin(), forms.end(), same);
   if (found == forms.end()) {
     forms.push_back({text, {kind}});
+  } else if (kind == FormKind::PastAndParticiple && found->is(FormKind::PastOrParticiple)) {
+    std::replace(found->kinds.begin(), found->kinds.end(), FormKind::PastOrParticiple, kind);
   } else if (found->kinds.size() < 2 && !found->is(kind)) {
     found->kinds.push_back(kind);
   }
+}
+
+/// The one verb that no rule and no list of pasts covers.
+std::vector<Form> formsOfBe() {
+  return {{"am", {FormKind::Present}},  {"is", {FormKind::ThirdPerson}},
+          {"are", {FormKind::Present}}, {"was", {FormKind::Past}},
+          {"were", {FormKind::Past}},   {"been", {FormKind::Participle}},
+          {"being", {FormKind::Ing}}};
+}
+
+/// Words that look like a form of another one and are none: no rule can tell.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 5> falseForms = {
+    {{"foreign", "foreigner"},
+     {"live", "liver"},
+     {"math", "maths"},
+     {"out", "outer"},
+     {"own", "owner"}}};
+
+bool isFalseForm(std::string_view base, std::string_view form) {
+  return std::find(falseForms.begin(), falseForms.end(), std::pair{base, form}) != falseForms.end();
 }
 
 FormKind kindOf(std::string_view form, WordClass wordClass) {
@@ -172,15 +197,18 @@ bool hasPast(const std::vector<Form>& forms) {
 /// Adds regular forms of one kind that are known words.
 class RegularForms {
  public:
-  RegularForms(std::vector<Form>& forms, const KnownWords& known) : forms_(forms), known_(known) {}
+  RegularForms(const std::string& base, std::vector<Form>& forms, const KnownWords& known)
+      : base_(base), forms_(forms), known_(known) {}
 
   void add(const std::vector<std::string>& candidates, FormKind kind) {
     for (const std::string& candidate : candidates) {
-      if (known_.count(lower(candidate)) != 0) addForm(forms_, candidate, kind);
+      if (known_.count(lower(candidate)) != 0 && !isFalseForm(base_, candidate))
+        addForm(forms_, candidate, kind);
     }
   }
 
  private:
+  const std::string& base_;
   std::vector<Form>& forms_;
   const KnownWords& known_;
 };
@@ -259,15 +287,19 @@ void Inflections::addListed(std::vector<Form>& forms, const std::string& base,
   const std::vector<Form> own = forms;
   const bool pastGiven = hasPast(own);
   for (const ExceptionForm& each : listed->second) {
-    const FormKind kind = kindOf(each.form, each.wordClass);
+    // "might" is the past of "may" and never a participle: auxiliaries have none.
+    const bool auxiliary = each.wordClass == WordClass::Verb && classes.has(WordClass::Modal);
+    const FormKind listedKind = kindOf(each.form, each.wordClass);
+    const FormKind kind = auxiliary && isPast(listedKind) ? FormKind::Past : listedKind;
     const bool already = std::any_of(own.begin(), own.end(),
                                      [&each](const Form& form) { return form.text == each.form; });
-    if (!classes.has(each.wordClass) || already || hasKind(own, kind)) continue;
+    if (!(classes.has(each.wordClass) || auxiliary) || already || hasKind(own, kind)) continue;
     if (!(isPast(kind) && pastGiven)) addForm(forms, each.form, kind);
   }
 }
 
 std::vector<Form> Inflections::formsOf(const std::string& base, ClassSet classes) const {
+  if (base == "be" && classes.has(WordClass::Verb)) return formsOfBe();
   const auto own = own_.find(base);
   std::vector<Form> forms = own != own_.end() ? own->second : std::vector<Form>{};
   const bool pluralGiven = hasKind(forms, FormKind::Plural);
@@ -275,7 +307,7 @@ std::vector<Form> Inflections::formsOf(const std::string& base, ClassSet classes
   const bool pastGiven = hasPast(forms);
   addListed(forms, base, classes);
   if (base.size() < 2) return forms;
-  RegularForms regular(forms, known_);
+  RegularForms regular(base, forms, known_);
   if (classes.has(WordClass::Noun) && !pluralGiven) regular.add(withS(base), FormKind::Plural);
   if (classes.has(WordClass::Verb)) {
     regular.add(withS(base), FormKind::ThirdPerson);

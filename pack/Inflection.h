@@ -17,6 +17,7 @@
 namespace talvora::pack {
 
 enum class FormKind : std::uint8_t {
+  Present,
   Plural,
   ThirdPerson,
   Past,

@@ -1,7 +1,6 @@
 // Choice of the entries and of their senses, and their layout.
 #include "pack/VietnameseSide.h"
 
-#include "pack/Derivation.h"
 #include "pack/StreamText.h"
 #include "text/Text.h"
 #include "text/WordForm.h"
@@ -72,6 +71,22 @@ std::string meaningOf(const Word& word, ClassSet classes) {
   return shownMeaning(first->text);
 }
 
+/// True when all that the adjective says is one gloss without a remark, and one that can take a
+/// word ahead of it: "thuộc văn hóa" cannot.
+bool hasOneMeaning(const Word& word) {
+  static const std::string belonging = ownText("thuộc ");
+  std::size_t senses = 0;
+  for (const EntryBlock& block : word.blocks) {
+    for (const Sense& sense : block.senses) {
+      if (sense.wordClass != WordClass::Adjective) continue;
+      ++senses;
+      if (sense.text.find_first_of(";(,") != std::string::npos) return false;
+      if (sense.text.starts_with(belonging)) return false;
+    }
+  }
+  return senses == 1;
+}
+
 class SideFiller {
  public:
   SideFiller(const WordList& list, const std::vector<std::string>& listed)
@@ -88,12 +103,12 @@ class SideFiller {
   }
 
   void addFurtherWords() {
-    for (const std::string& listed : listed_)
-      if (isInWordNet(listed)) addDerivation(listed);
+    for (const Word& word : list_.words())
+      if (word.kind == WordKind::WordNet) addBuilt(word);
     addPossessives();
-    // What only the word lists know is seldom met: "unnoisy".
-    for (const std::string& listed : listed_)
-      addDerivation(listed);
+    // What only the word lists know is seldom met.
+    for (const Word& word : list_.words())
+      if (word.kind == WordKind::Derivation) addBuilt(word);
   }
 
   [[nodiscard]] std::vector<SideEntry> takeSorted() {
@@ -121,29 +136,19 @@ class SideFiller {
     add(word.head, shownMeaning(senses.front().text), list_.at(origin.base).head, word.kind);
   }
 
-  [[nodiscard]] bool isInWordNet(const std::string& listed) const {
-    const auto number = list_.find(ChuanHoaTu(listed));
-    return number && list_.at(*number).kind == WordKind::WordNet;
-  }
-
-  void addDerivation(const std::string& listed) {
-    const auto fits = [&listed](const PlainAffix& each) {
-      return each.affix.ends_with('-')
-                 ? listed.starts_with(each.affix.substr(0, each.affix.size() - 1))
-                 : listed.ends_with(each.affix.substr(1));
-    };
-    if (std::none_of(plainAffixes.begin(), plainAffixes.end(), fits) || hasCapital(listed)) return;
-    for (const Derivation& derivation : derivationsOf(listed)) {
-      const auto affix = std::find_if(
-          plainAffixes.begin(), plainAffixes.end(),
-          [&derivation](const PlainAffix& each) { return each.affix == derivation.affix; });
-      if (affix == plainAffixes.end()) continue;
-      const Word* base = ownWord(derivation.base, WordClass::Adjective);
-      if (base == nullptr) continue;
-      add(listed, ownText(affix->opening) + meaningOf(*base, {WordClass::Adjective}), base->head,
-          WordKind::Derivation);
-      return;
-    }
+  void addBuilt(const Word& word) {
+    if (!word.isBuilt()) return;
+    const Origin& origin = word.origins.front();
+    const auto affix =
+        std::find_if(plainAffixes.begin(), plainAffixes.end(),
+                     [&origin](const PlainAffix& each) { return each.affix == origin.affix; });
+    if (affix == plainAffixes.end()) return;
+    const Word& base = list_.at(origin.base);
+    if (base.kind != WordKind::Own || !base.classes.has(WordClass::Adjective)) return;
+    // The word may take up any of the adjective's senses, so that the first one would mislead.
+    if (!hasOneMeaning(base)) return;
+    add(word.head, ownText(affix->opening) + meaningOf(base, {WordClass::Adjective}), base.head,
+        WordKind::Derivation);
   }
 
   // There may be more of them than room: short words are met more often than long ones.

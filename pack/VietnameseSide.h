@@ -23,8 +23,9 @@ struct SideEntry {
   WordKind kind = WordKind::Own;
 };
 
-/// The entries that the words of our own give, with their forms, and, as far as there is room,
-/// words with "un-", "-ly" and "-ness" and possessives that `listed` confirms. At most
+/// The entries that the words of our own give, with their forms, and, as far as there is room, the
+/// list's words with "un-", "-ly" and "-ness" from adjectives of one meaning, and possessives that
+/// `listed` confirms. At most
 /// VietnameseSideCount, sorted by their normal forms in binary order.
 [[nodiscard]] std::vector<SideEntry> vietnameseSideOf(const WordList& list,
                                                       const std::vector<std::string>& listed);

@@ -55,19 +55,25 @@ std::vector<std::size_t> WordList::sorted() const {
   return order;
 }
 
-std::vector<Sense> WordList::borrowedSenses(const Origin& origin) const {
-  const Origin* from = &origin;
-  const Word* root = &words_[origin.base];
-  while (!root->hasSenses() && !root->origins.empty()) {
-    from = &root->origins.front();
-    root = &words_[from->base];
+std::vector<const Origin*> WordList::pathOf(const Origin& origin) const {
+  std::vector<const Origin*> path{&origin};
+  const Word* base = &words_[origin.base];
+  while ((!base->hasSenses() || base->isBuilt()) && !base->origins.empty()) {
+    path.push_back(&base->origins.front());
+    base = &words_[path.back()->base];
   }
+  return path;
+}
+
+std::vector<Sense> WordList::borrowedSenses(const Origin& origin) const {
+  const Origin& last = *pathOf(origin).back();
+  const std::vector<EntryBlock>& blocks = words_[last.base].blocks;
   std::vector<Sense> senses;
   std::vector<Sense> others;
-  for (std::size_t place = 0; place < root->blocks.size(); ++place) {
-    if (from->block.value_or(place) != place) continue;
-    for (const Sense& sense : root->blocks[place].senses)
-      (origin.classes.has(sense.wordClass) ? senses : others).push_back(sense);
+  for (std::size_t place = 0; place < blocks.size(); ++place) {
+    if (last.block.value_or(place) != place) continue;
+    for (const Sense& sense : blocks[place].senses)
+      (last.classes.has(sense.wordClass) ? senses : others).push_back(sense);
   }
   if (senses.empty()) senses = std::move(others);
   if (senses.size() > mostBorrowedSenses) senses.resize(mostBorrowedSenses);
@@ -84,8 +90,14 @@ bool WordList::hasVietnamese(const Word& word) const {
 std::string WordList::entryOf(const Word& word) const {
   const std::string own = ownLines(word);
   std::string borrowed;
-  for (const Origin& origin : word.origins)
-    borrowed += "_" + origin.relation + entryLines(borrowedSenses(origin), Examples::Without);
+  for (const Origin& origin : word.origins) {
+    borrowed += "_" + origin.relation;
+    // "readers" belongs to "reader", and that is built from "read".
+    for (const Origin* further : pathOf(origin)) {
+      if (further != &origin && !further->affix.empty()) borrowed += "_" + further->relation;
+    }
+    borrowed += entryLines(borrowedSenses(origin), Examples::Without);
+  }
   const std::string note = word.note.empty() ? "" : "_" + word.note;
   return (word.order == Order::OriginsFirst ? borrowed + own : own + borrowed) + note;
 }

@@ -55,6 +55,7 @@ struct Origin {
   std::size_t base = 0;
   ClassSet classes = {};                 ///< whose senses the entry borrows; none means all
   std::optional<std::size_t> block = {}; ///< of the base that the word belongs to; none means all
+  std::string_view affix = {};           ///< that builds the word from the base; empty for a form
 };
 
 /// Which of its two halves an entry shows first.
@@ -71,6 +72,10 @@ struct Word {
   std::string form = {}; ///< the normal form; the list fills it in
 
   [[nodiscard]] bool hasSenses() const noexcept { return !blocks.empty(); }
+  /// True for a word whose entry opens with how it is built.
+  [[nodiscard]] bool isBuilt() const noexcept {
+    return order == Order::OriginsFirst && !origins.empty() && !origins.front().affix.empty();
+  }
 };
 
 class WordList {
@@ -93,8 +98,8 @@ class WordList {
   /// Numbers of all words in the order of the list: by normal form, in binary order.
   [[nodiscard]] std::vector<std::size_t> sorted() const;
   /// The senses that a word borrows by an origin, the first three at most: those of the classes it
-  /// asks for, or of all when there are none of these. A base without senses passes on what it
-  /// borrows itself.
+  /// asks for, or of all when there are none of these. A base that has no senses, or is built from
+  /// another word, passes on what it borrows itself.
   [[nodiscard]] std::vector<Sense> borrowedSenses(const Origin& origin) const;
   /// True when the entry of the word gives a Vietnamese sense.
   [[nodiscard]] bool hasVietnamese(const Word& word) const;
@@ -102,6 +107,9 @@ class WordList {
   [[nodiscard]] std::string entryOf(const Word& word) const;
 
  private:
+  /// The origins from a word to the one whose senses stand for it, the first being the word's own.
+  [[nodiscard]] std::vector<const Origin*> pathOf(const Origin& origin) const;
+
   std::size_t limit_;
   std::vector<Word> words_;
   std::unordered_map<std::string, std::size_t> byForm_;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
 #include <optional>
 
 namespace talvora::pack {
@@ -42,6 +43,23 @@ std::optional<std::size_t> numberOf(std::string_view digits, int base = 10) {
   return value;
 }
 
+SynsetKey keyOf(std::size_t offset, std::size_t part) {
+  return static_cast<SynsetKey>(offset << 2U | part);
+}
+
+/// The part of speech that a letter of the database names; satellites are adjectives.
+std::optional<std::size_t> partOf(std::string_view letter) {
+  const std::size_t part = letter == "s" ? 2 : std::string_view("nvar").find(letter);
+  return part < parts.size() ? std::optional(part) : std::nullopt;
+}
+
+bool mayBeBuilt(std::string_view word) {
+  static constexpr std::array<std::string_view, 3> endings = {"ly", "ness", "er"};
+  return word.starts_with("un") ||
+         std::any_of(endings.begin(), endings.end(),
+                     [word](std::string_view ending) { return word.ends_with(ending); });
+}
+
 std::string spelled(std::string_view lemma) {
   std::string text(lemma.substr(0, lemma.find('(')));
   std::replace(text.begin(), text.end(), '_', ' ');
@@ -75,6 +93,28 @@ std::string spellingIn(std::string_view words, const std::string& small) {
     takeField(words);
   }
   return small;
+}
+
+/// What ties one word of a synset to others: it is derived from them, pertains to them or is their
+/// opposite.
+void addTies(std::string_view words, const std::string& small, std::vector<SynsetKey>& ties) {
+  takeField(words);
+  takeField(words);
+  const std::size_t count = numberOf(takeField(words), 16).value_or(0);
+  std::size_t own = 0;
+  for (std::size_t word = 1; word <= count; ++word) {
+    if (lower(spelled(takeField(words))) == small) own = word;
+    takeField(words);
+  }
+  const std::size_t pointers = numberOf(takeField(words)).value_or(0);
+  for (std::size_t pointer = 0; pointer < pointers; ++pointer) {
+    const std::string_view symbol = takeField(words);
+    const auto offset = numberOf(takeField(words));
+    const auto part = partOf(takeField(words));
+    const auto source = numberOf(takeField(words).substr(0, 2), 16);
+    const bool tying = symbol == "+" || symbol == "\\" || symbol == "!";
+    if (tying && offset && part && source == own) ties.push_back(keyOf(*offset, *part));
+  }
 }
 
 /// A line of an index: a lemma with the places of its synsets, the commonest first.
@@ -158,6 +198,15 @@ class Collector {
  private:
   bool collect(const IndexLine& line, std::string_view data, WordClass wordClass) {
     Collected& collected = collected_[line.small];
+    const std::size_t part = static_cast<std::size_t>(std::distance(
+        parts.begin(), std::find_if(parts.begin(), parts.end(), [wordClass](const Part& each) {
+          return each.wordClass == wordClass;
+        })));
+    for (const std::size_t offset : line.offsets) {
+      collected.word.synsets.push_back(keyOf(offset, part));
+      const auto synset = mayBeBuilt(line.small) ? synsetAt(data, offset) : std::nullopt;
+      if (synset) addTies(synset->words, line.small, collected.word.ties);
+    }
     std::vector<Sense> senses;
     for (const std::size_t offset : line.offsets) {
       const auto synset = synsetAt(data, offset);
@@ -196,6 +245,14 @@ void readExceptions(const std::filesystem::path& path, WordClass wordClass, Word
 }
 
 } // namespace
+
+const WordNetWord* wordOf(const WordNet& wordNet, const std::string& small) {
+  const auto found = std::lower_bound(
+      wordNet.words.begin(), wordNet.words.end(), small,
+      [](const WordNetWord& word, const std::string& key) { return lower(word.head) < key; });
+  const bool known = found != wordNet.words.end() && lower(found->head) == small;
+  return known ? &*found : nullptr;
+}
 
 std::string definitionOf(std::string_view gloss) {
   const std::size_t example = gloss.find("; \"");

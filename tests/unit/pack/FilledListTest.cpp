@@ -116,7 +116,66 @@ TEST(FilledList, BuiltWordsAndPossessivesLeadToTheirBase) {
             "_cấu tạo: walk + -er (người hoặc vật làm việc đó)_#động từ #đi bộ"
             "_#danh từ #cuộc đi bộ");
   EXPECT_EQ(entry(list, "walker's"),
-            "_sở hữu cách của walker_#động từ #đi bộ_#danh từ #cuộc đi bộ");
+            "_sở hữu cách của walker_cấu tạo: walk + -er (người hoặc vật làm việc đó)"
+            "_#động từ #đi bộ_#danh từ #cuộc đi bộ");
+}
+
+WordNetWord inWordNet(std::string head, WordClass wordClass, std::string definition,
+                      std::vector<SynsetKey> synsets, std::vector<SynsetKey> ties = {}) {
+  return {std::move(head),
+          {wordClass},
+          {{wordClass, Language::English, std::move(definition)}},
+          std::move(synsets),
+          std::move(ties)};
+}
+
+TEST(FilledList, AWordThatTheDatabaseTiesToOneOfOursSaysSoAheadOfItsDefinition) {
+  Problems problems;
+  WordSources sources;
+  sources.own = parseDictionary("clear\n  adj. rõ ràng\n\nlad\n  n. cậu bé\n\n"
+                                "build\n  v. xây\n  forms: built, built\n\n"
+                                "current\n  n. dòng\n\nwash\n  v. rửa\n\n"
+                                "table\n  n. bàn\n\ncap\n  n. mũ\n",
+                                "d.txt", problems);
+  using enum WordClass;
+  sources.wordNet.words = {inWordNet("build", Verb, "make", {30}),
+                           inWordNet("cap", Noun, "a hat", {60}),
+                           inWordNet("capable", Adjective, "having skill", {61}),
+                           inWordNet("clear", Adjective, "plain", {10}),
+                           inWordNet("clearly", Adverb, "plainly", {11}, {10}),
+                           inWordNet("current", Noun, "a flow", {40}),
+                           inWordNet("lad", Noun, "a boy", {20}),
+                           inWordNet("ladder", Noun, "steps", {21}, {22}),
+                           inWordNet("rebuild", Verb, "build again", {31}),
+                           inWordNet("recurrent", Adjective, "happening again", {41}),
+                           inWordNet("wash", Verb, "clean", {50}),
+                           inWordNet("washable", Adjective, "capable of being washed", {51})};
+  const WordList list = fillWordList(sources, FullWordCount, Filling::Full, problems);
+  EXPECT_EQ(entry(list, "clearly"),
+            "_cấu tạo: clear + -ly (một cách)_#tính từ #rõ ràng_#adverb #plainly");
+  EXPECT_EQ(entry(list, "rebuild"),
+            "_cấu tạo: re- (lại, một lần nữa) + build_#động từ #xây_#verb #build again");
+  EXPECT_EQ(entry(list, "washable"),
+            "_cấu tạo: wash + -able (có thể)_#động từ #rửa_#adjective #capable of being washed");
+  EXPECT_EQ(entry(list, "ladder"), "_#noun #steps");
+  EXPECT_EQ(entry(list, "capable"), "_#adjective #having skill");
+  EXPECT_EQ(entry(list, "recurrent"), "_#adjective #happening again");
+  EXPECT_TRUE(list.hasVietnamese(list.at(*list.find("clearly"))));
+  EXPECT_FALSE(list.hasVietnamese(list.at(*list.find("ladder"))));
+}
+
+TEST(FilledList, ANameIsNoFormOfAWord) {
+  EXPECT_EQ(ownEntry("east\n  adj. đông\n\nEaster\n  n. lễ Phục sinh\n", "easter", {"easter"}),
+            "_#danh từ #lễ Phục sinh");
+}
+
+TEST(FilledList, TheFormsOfBeAreToldApart) {
+  const std::string be = "be\n  v. là\n\nbed\n  n. giường\n\nam\n  v. là\n";
+  EXPECT_EQ(ownEntry(be, "are"), "_hiện tại của be_#động từ #là");
+  EXPECT_EQ(ownEntry(be, "been"), "_quá khứ phân từ của be_#động từ #là");
+  EXPECT_EQ(ownEntry(be, "am"), "_#động từ #là_hiện tại của be_#động từ #là");
+  EXPECT_EQ(ownEntry(be, "bed", {"bed", "bing"}), "_#danh từ #giường");
+  EXPECT_EQ(ownEntry(be, "bing", {"bed", "bing"}), "(none)");
 }
 
 TEST(FilledList, WordsWithNothingToSayAreLeftOut) {

@@ -73,11 +73,32 @@ TEST(VietnameseSideOfPack, FormsTakeASenseOfTheirClassAndNameTheirBase) {
             (Texts{"go~đi", "gone~đi <go>", "went~đi <go>"}));
 }
 
+/// As `sideOf`, with the words that are built from ours in the list.
+std::vector<SideEntry> wholeSideOf(const std::string& dictionary,
+                                   const std::vector<std::string>& listed) {
+  Problems problems;
+  WordSources sources;
+  sources.own = parseDictionary(dictionary, "d.txt", problems);
+  sources.listed = listed;
+  sources.known.insert(listed.begin(), listed.end());
+  const WordList list = fillWordList(sources, FullWordCount, Filling::Full, problems);
+  return vietnameseSideOf(list, listed);
+}
+
 TEST(VietnameseSideOfPack, BuiltWordsAndPossessivesSayWhatTheyAddToTheirBase) {
-  EXPECT_EQ(textsOf(sideOf("kind\n  n. loại\n  adj. tốt bụng\n",
-                           {"kindly", "kindness", "unkind", "kind's", "kindful"})),
+  EXPECT_EQ(textsOf(wholeSideOf("kind\n  n. loại\n  adj. tốt bụng\n",
+                                {"kindly", "kindness", "unkind", "kind's", "kindful"})),
             (Texts{"kind~loại", "kind's~của loại <kind>", "kindly~một cách tốt bụng <kind>",
                    "kindness~sự tốt bụng <kind>", "unkind~không tốt bụng <kind>"}));
+}
+
+TEST(VietnameseSideOfPack, NothingIsBuiltFromAnAdjectiveOfSeveralMeanings) {
+  EXPECT_EQ(
+      textsOf(wholeSideOf("clear\n  adj. rõ ràng; trong\n\nborn\n  adj. sinh ra (ở đâu)\n"
+                          "\nrural\n  adj. thuộc nông thôn\n\n"
+                          "right\n  adj. 1 đúng\n  adj. 2 phải\n",
+                          {"unclear", "unborn", "rurally", "rightly"})),
+      (Texts{"born~sinh ra (ở đâu)", "clear~rõ ràng", "right~đúng", "rural~thuộc nông thôn"}));
 }
 
 TEST(VietnameseSideOfPack, ANamesPossessiveIsNotThatOfTheWord) {
