@@ -1,6 +1,7 @@
 // The command line of the content compiler.
 #include "pack/Compiler.h"
 #include "pack/Dump.h"
+#include "pack/Planner.h"
 #include "pack/Recordings.h"
 #include "pack/Status.h"
 
@@ -62,6 +63,14 @@ int status(const Options& options) {
   return tell(problems);
 }
 
+/// Slot 0 stands for all of them.
+int plan(const std::filesystem::path& source, int slot, Detail detail) {
+  Problems problems;
+  const Planner planner = readPlanner(source, problems);
+  std::cout << (slot == 0 ? overview(planner) : sheet(planner, slot, detail));
+  return tell(problems);
+}
+
 int dumpTo(const std::filesystem::path& pack, const std::filesystem::path& out) {
   Problems problems;
   const auto sources = dump(pack, problems);
@@ -111,6 +120,16 @@ int run(int argumentCount, char** arguments) {
                                            "scripts to record, words, the Vietnamese side");
   addSourceOptions(*statusCommand, options);
 
+  int slot = 0;
+  bool known = false;
+  CLI::App* planCommand = application.add_subcommand(
+      "plan", "tell what the reading texts of SOURCE do with words; for a SLOT also which lemmas "
+              "are known by then, which may be new and which are due again");
+  planCommand->add_option("SOURCE", options.source, "folder of the content sources")->required();
+  planCommand->add_option("SLOT", slot, "number of a reading text")
+      ->check(CLI::Range(1, ReadingSlots));
+  planCommand->add_flag("--known", known, "list the known lemmas as well");
+
   try {
     application.parse(argumentCount, arguments);
   } catch (const CLI::ParseError& error) {
@@ -118,6 +137,8 @@ int run(int argumentCount, char** arguments) {
   }
   if (buildCommand->parsed()) return build(options, out);
   if (checkCommand->parsed()) return check(options);
+  if (planCommand->parsed())
+    return plan(options.source, slot, known ? Detail::Full : Detail::Short);
   return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);
 }
 

@@ -1,0 +1,249 @@
+// The sheets.
+#include "pack/Planner.h"
+
+#include "pack/StreamText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr std::size_t lineWidth = 110;
+constexpr std::array<std::string_view, 6> levels = {"A1", "A2", "B1", "B2", "C1", ""};
+
+std::string withDecimal(double value) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%.1f", value);
+  return text.data();
+}
+
+std::string padded(std::string text, std::size_t width) {
+  if (text.size() < width) text.append(width - text.size(), ' ');
+  return text;
+}
+
+/// Words behind one another, broken into indented lines.
+std::string wrapped(const std::vector<std::string>& words) {
+  std::string text;
+  std::string line = " ";
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    const std::string word = words[at] + (at + 1 < words.size() ? "," : "");
+    if (line.size() + 1 + word.size() > lineWidth) {
+      text += line + "\n";
+      line = " ";
+    }
+    line += " " + word;
+  }
+  return words.empty() ? "" : text + line + "\n";
+}
+
+std::string bandText(const Band& band, std::string_view unit) {
+  return std::to_string(band.from) + " to " + std::to_string(band.to) + " " + std::string(unit);
+}
+
+std::string describe(const Series& series) {
+  std::string text = "Series " + std::to_string(series.slots.from) + "-" +
+                     std::to_string(series.slots.to) + ", " + std::string(nameOf(series.kind)) +
+                     ", " + series.level + ": " + bandText(series.words, "words") + ", " +
+                     bandText(series.sentence, "words a sentence");
+  if (series.newLemmas) text += ", at most " + std::to_string(*series.newLemmas) + " new lemmas";
+  const double share = knownShareOf(series.kind);
+  if (share > 0) text += ", " + withDecimal(share) + " % known at first sight";
+  return text + "\n";
+}
+
+std::string verdict(const Band& band, double value) {
+  return band.has(value) ? "" : value < band.from ? " (too few)" : " (too many)";
+}
+
+/// Makes the sheet of one slot.
+class SheetWriter {
+ public:
+  SheetWriter(const Planner& planner, int slot)
+      : planner_(planner), slot_(slot), series_(seriesOf(planner.plan, slot)),
+        text_(planner.book.textAt(slot)) {}
+
+  std::string write(Detail detail) const {
+    std::string sheet = "Slot " + std::to_string(slot_) + ": " + title() + "\n";
+    sheet += series_ != nullptr ? describe(*series_) : "In no series: the book leaves it out\n";
+    if (text_ != nullptr) sheet += "\n" + whatItDid();
+    sheet += "\n" + whatIsKnown(detail);
+    sheet += "\n" + whatIsDue();
+    return sheet + "\n" + whatMayBeNew();
+  }
+
+ private:
+  std::string title() const {
+    const auto found = planner_.readings.texts.find(slot_);
+    return found != planner_.readings.texts.end() ? utf8Of(found->second.title) : "open";
+  }
+
+  std::string whatItDid() const {
+    std::string report = "The text: " + std::to_string(text_->words) + " words" +
+                         (series_ != nullptr ? verdict(series_->words, text_->words) : "") + ", " +
+                         std::to_string(text_->sentences) + " sentences, " +
+                         withDecimal(text_->wordsASentence()) + " words a sentence";
+    if (series_ != nullptr) report += verdict(series_->sentence, text_->wordsASentence());
+    report += ", " + std::to_string(text_->names) + " names left out\n";
+    report += "  longest sentence, " + std::to_string(text_->longestWords) +
+              " words: " + utf8Of(text_->longest) + "\n";
+    report += "  known at first sight: " + withDecimal(text_->knownShare()) + " %";
+    const bool unfamiliar = series_ != nullptr && text_->knownShare() < knownShareOf(series_->kind);
+    report += std::string(unfamiliar ? " (too few)" : "") + "\n";
+    return report + newLemmas() + returned() + missed();
+  }
+
+  std::string newLemmas() const {
+    const std::size_t count = text_->newLemmas.size();
+    std::string report = "New lemmas: " + std::to_string(count);
+    if (series_ != nullptr && series_->newLemmas) {
+      report += " of at most " + std::to_string(*series_->newLemmas);
+      if (static_cast<int>(count) > *series_->newLemmas) report += " (too many)";
+    }
+    std::vector<std::string> lines;
+    for (const std::string& lemma : text_->newLemmas)
+      lines.push_back(withDetails(lemma));
+    return report + "\n" + wrapped(lines) + lowerOnes();
+  }
+
+  /// What texts that are still to come may well bring ahead of this one.
+  std::string lowerOnes() const {
+    const int open = planner_.book.openAhead(slot_);
+    if (open == 0 || series_ == nullptr) return "";
+    const auto lower = std::count_if(text_->newLemmas.begin(), text_->newLemmas.end(),
+                                     [this](const std::string& lemma) {
+                                       const std::string level = planner_.lemmas.levelOf(lemma);
+                                       return !level.empty() && level < series_->level;
+                                     });
+    return "  " + std::to_string(lower) + " of a level below " + series_->level + "; " +
+           std::to_string(open) + " open slots ahead may bring them\n";
+  }
+
+  /// "engine 2x A2", with what is wrong about it.
+  std::string withDetails(const std::string& lemma) const {
+    const int count = text_->lemmas.at(lemma);
+    std::string text = utf8Of(lemma) + " " + std::to_string(count) + "x";
+    const std::string level = planner_.lemmas.levelOf(lemma);
+    if (!level.empty()) text += " " + level;
+    if (count < 2) text += " ONCE";
+    if (series_ != nullptr && level > series_->level) text += " ABOVE";
+    if (!planner_.lemmas.hasEntry(lemma)) text += " NO-ENTRY";
+    return text;
+  }
+
+  std::string returned() const {
+    std::vector<std::string> used;
+    for (const DueLemma& due : planner_.book.dueAt(slot_)) {
+      if (text_->lemmas.count(due.lemma) != 0) used.push_back(utf8Of(due.lemma));
+    }
+    return "Returned: " + std::to_string(used.size()) + " lemmas that were due\n" + wrapped(used);
+  }
+
+  std::string missed() const {
+    std::vector<std::string> late;
+    for (const DueLemma& due : planner_.book.missedOf(slot_))
+      late.push_back(utf8Of(due.lemma) + " (by " + std::to_string(due.lastSlot) + ")");
+    if (late.empty()) return "";
+    return "Brought here and not returned in time: " + std::to_string(late.size()) + "\n" +
+           wrapped(late);
+  }
+
+  std::string whatIsKnown(Detail detail) const {
+    const auto known = planner_.book.knownBefore(slot_);
+    const auto& texts = planner_.book.texts();
+    const auto ahead = std::distance(texts.begin(), texts.lower_bound(slot_));
+    std::string report = "Known by then: " + std::to_string(known.size()) + " lemmas from " +
+                         std::to_string(ahead) + " texts\n";
+    if (detail == Detail::Short) return report;
+    std::vector<std::string> words;
+    for (const std::string& lemma : known)
+      words.push_back(utf8Of(lemma));
+    return report + wrapped(words);
+  }
+
+  std::string whatIsDue() const {
+    std::string report = "Due again, the most urgent first (with the last slot that is in time)\n";
+    const auto due = planner_.book.dueAt(slot_);
+    for (const int window : ReturnWindows) {
+      std::vector<std::string> words;
+      for (const DueLemma& each : due) {
+        if (each.window == window)
+          words.push_back(utf8Of(each.lemma) + " " + std::to_string(each.lastSlot));
+      }
+      report += " within " + std::to_string(window) + " texts: " + std::to_string(words.size()) +
+                "\n" + wrapped(words);
+    }
+    return report;
+  }
+
+  // Words of a higher level than the series are no candidates; those without a level may be any.
+  std::string whatMayBeNew() const {
+    std::string report = "May be new: head words that no text up to here has, by level\n";
+    for (const std::string_view level : levels) {
+      if (series_ != nullptr && !level.empty() && level > series_->level) continue;
+      std::vector<std::string> words;
+      for (const std::string& head : planner_.lemmas.heads()) {
+        const int first = planner_.book.firstSlotOf(head);
+        if (planner_.lemmas.levelOf(head) == level && (first == 0 || first >= slot_))
+          words.push_back(utf8Of(head));
+      }
+      report += std::string(" ") + (level.empty() ? "without a level" : std::string(level)) + ": " +
+                std::to_string(words.size()) + "\n";
+      if (!level.empty()) report += wrapped(words);
+    }
+    return report;
+  }
+
+  const Planner& planner_;
+  int slot_;
+  const Series* series_;
+  const TextWords* text_;
+};
+
+std::vector<int> slotsOf(const std::vector<Series>& plan, const ReadingSource& readings) {
+  std::vector<int> slots;
+  for (int slot = 1; slot <= ReadingSlots; ++slot) {
+    if (seriesOf(plan, slot) != nullptr && readings.headings.count(slot) == 0)
+      slots.push_back(slot);
+  }
+  return slots;
+}
+
+} // namespace
+
+Planner readPlanner(const std::filesystem::path& source, Problems& problems) {
+  ReadingSource readings = readReadings(source / "reading", problems);
+  auto plan = readPlan(source, problems);
+  std::erase_if(readings.texts,
+                [&plan](const auto& text) { return seriesOf(plan, text.first) == nullptr; });
+  const Lemmas lemmas(readDictionary(source / "dictionary", problems),
+                      NameFinder(readings).words());
+  LemmaBook book(readings, slotsOf(plan, readings), lemmas);
+  return {std::move(readings), std::move(plan), lemmas, std::move(book)};
+}
+
+std::string overview(const Planner& planner) {
+  std::string report = "slot words  a sentence  known %  new  once  missed  known after  title\n";
+  for (const auto& [slot, text] : planner.book.texts()) {
+    const auto once = std::count_if(
+        text.newLemmas.begin(), text.newLemmas.end(),
+        [&text = text](const std::string& lemma) { return text.lemmas.at(lemma) < 2; });
+    report += padded(std::to_string(slot), 5) + padded(std::to_string(text.words), 7) +
+              padded(withDecimal(text.wordsASentence()), 12) +
+              padded(withDecimal(text.knownShare()), 9) +
+              padded(std::to_string(text.newLemmas.size()), 5) + padded(std::to_string(once), 6) +
+              padded(std::to_string(planner.book.missedOf(slot).size()), 8) +
+              padded(std::to_string(planner.book.knownBefore(slot + 1).size()), 13) +
+              utf8Of(planner.readings.texts.at(slot).title) + "\n";
+  }
+  return report;
+}
+
+std::string sheet(const Planner& planner, int slot, Detail detail) {
+  return SheetWriter(planner, slot).write(detail);
+}
+
+} // namespace talvora::pack
