@@ -1,6 +1,7 @@
 // Parsing of the plan, a row of words a line.
 #include "pack/CoursePlan.h"
 
+#include "pack/Entry.h"
 #include "pack/SourceFile.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace talvora::pack {
 namespace {
 
 constexpr std::size_t columns = 7;
-constexpr std::array<std::string_view, 5> levels = {"A1", "A2", "B1", "B2", "C1"};
 
 struct KindRow {
   SeriesKind kind;
@@ -94,7 +94,7 @@ class RowParser {
   }
 
   std::string level(const Field& field) {
-    if (std::find(levels.begin(), levels.end(), field.text) == levels.end())
+    if (std::find(Levels.begin(), Levels.end(), field.text) == Levels.end())
       report(field, "a level is A1, A2, B1, B2 or C1");
     return std::string(field.text);
   }

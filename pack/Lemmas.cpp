@@ -12,7 +12,7 @@ namespace {
 
 ClassSet classesOf(const OwnEntry& entry) {
   ClassSet classes;
-  for (const Sense& sense : entry.senses)
+  for (const Sense& sense : entry.block.senses)
     classes.add(sense.wordClass == WordClass::Modal ? WordClass::Verb : sense.wordClass);
   return classes;
 }
@@ -28,7 +28,7 @@ Lemmas::Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::s
   const Inflections inflections(own, nothing, met);
   for (const OwnEntry& entry : own) {
     const std::string head = lower(entry.head);
-    heads_.try_emplace(head, Head{"", head != entry.head, false});
+    heads_.try_emplace(head, Head{entry.block.level, head != entry.head, entry.formsFirst});
     for (const Form& form : inflections.formsOf(entry.head, classesOf(entry))) {
       const std::string text = lower(form.text);
       auto& bases = bases_[text];
