@@ -1,6 +1,7 @@
 // Layout of items in records, and the records in files.
 #include "pack/ExerciseStore.h"
 
+#include "pack/BlankWidth.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -33,7 +34,8 @@ std::string questionOf(const Item& item) {
   for (std::size_t at = 0; at < item.hints.size(); ++at)
     record += (at == 0 ? '|' : ',') + item.hints[at];
   if (!item.hints.empty()) record += lineEnd;
-  record += item.question;
+  const bool guessable = item.form == ItemForm::Fill && item.hints.empty();
+  record += guessable ? withEvenBlanks(item.question) : item.question;
   if (item.form == ItemForm::Choice) record += lineEnd;
   for (const std::string& option : item.options)
     record += '+' + option + lineEnd;

@@ -44,7 +44,7 @@ constexpr std::array<NamedHeading, 30> headings = {{
     {28, "", "past-simple-without-auxiliary"},
     {29, "", "past-simple-with-auxiliary"},
     {30, "", "conditional"},
-    {31, "", "question"},
+    {31, "", "exclamation"},
 }};
 
 std::string_view nameIn(const NamedHeading& heading, ItemPlace place) {

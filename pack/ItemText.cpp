@@ -12,7 +12,6 @@ namespace talvora::pack {
 namespace {
 
 constexpr std::string_view questionMarks = "@`*|}";
-constexpr std::size_t usualRoom = 3;
 constexpr std::size_t mostForms = 2;
 
 bool isWordCharacter(char character) {
@@ -82,7 +81,7 @@ class ItemLineParser {
     while (behind < utf8_.size() && utf8_[behind] == '_')
       ++behind;
     const std::size_t room = behind - end - 1;
-    text_.stored.append(room > 0 ? room : usualRoom, '_');
+    text_.stored.append(room > 0 ? room : UsualRoom, '_');
     ++text_.braces;
     return behind;
   }
@@ -173,7 +172,7 @@ std::string writeItemText(std::string_view stored, BraceUse use, int marked) {
     if (use == BraceUse::Answer) {
       source += '{' + writtenForms(key) + '}';
       const std::size_t room = roomEnd - keyEnd;
-      if (room != usualRoom) source.append(room, '_');
+      if (room != UsualRoom) source.append(room, '_');
       stored.remove_prefix(roomEnd);
     } else {
       if (touches) source += ' ';

@@ -4,6 +4,7 @@
 
 #include "pack/Problems.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,9 @@ namespace talvora::pack {
 /// What stands in braces: an answer to be typed, a phrase to look at, or a phrase that may be the
 /// mistake.
 enum class BraceUse { Answer, Phrase, Candidate };
+
+/// The cells behind an answer where a source does not write them.
+inline constexpr std::size_t UsualRoom = 3;
 
 /// A question's text in the store's form, and what was found in its braces.
 struct ItemText {

@@ -55,6 +55,22 @@ TEST(ItemSource, AFillItemIsStoredWithItsBlanks) {
   EXPECT_EQ(recordsOf(item).second, "General.^^\rWhy #so?#");
 }
 
+TEST(ItemSource, WithoutHintsAllBlanksAreOfOneWidth) {
+  const auto stored = [](const std::string& line) {
+    return recordsOf(itemOf("item: fill, none\n\n" + line + "\n")).first.substr(3);
+  };
+  EXPECT_EQ(stored("He goes {to} bed, {} home and {in|during} town."),
+            "He goes *to__________ bed, *____________ home and *in\\during___ town.");
+  EXPECT_EQ(stored("I go {} home."), "I go *_________ home.") << "an empty blank looks like any";
+  EXPECT_EQ(stored("{since}"), "*since____");
+  EXPECT_EQ(stored("{A}_____ dog, {an}____ owl, {}______ birds."),
+            "*A_____ dog, *an____ owl, *______ birds.")
+      << "room written by hand is kept";
+  EXPECT_EQ(stored("{A}_____ dog, {an}__ owl."), "*A_____ dog, *an____ owl.");
+  const Item hinted = itemOf("item: fill, none\nhints: to, be\n\nA {to} b {is} c.\n");
+  EXPECT_EQ(recordsOf(hinted).first, "400|to,be\rA *to___ b *is___ c.") << "hints tell the word";
+}
+
 TEST(ItemSource, AChoiceIsStoredWithItsOptionsAndKey) {
   const Item item = itemOf("item: choice, choose\n\nShe {has gone} home, \"{fast}\" now.\n\n"
                            "- goes\n- go\n+ went\n- gone\n");
@@ -207,12 +223,12 @@ TEST(ExerciseStore, CountsSectionsSoThatTheProgramFindsItsItems) {
   EXPECT_EQ(counts[2 * (8 + 3)], 1);
   EXPECT_EQ(counts[2 * (8 + 4)], 0) << "a lesson without items has none";
   EXPECT_EQ(files[0].bytes.size(), 4U * 2 * (366 + 1));
-  EXPECT_EQ(storedUntil(files[1].bytes, integerAt(files[0].bytes, 3), '@'), "400C *d___.");
+  EXPECT_EQ(storedUntil(files[1].bytes, integerAt(files[0].bytes, 3), '@'), "400C *d________.");
   const ExerciseSource back =
       decodeExercises({files[0].bytes, files[1].bytes, counts}, {}, problems);
   EXPECT_TRUE(problems.none());
   EXPECT_EQ(writeItems(back.banks[1], ItemPlace::Bank),
-            writeItems(source.banks[1], ItemPlace::Bank));
+            "item: fill, none\n\nA {b}________.\n\nitem: fill, none\n\nC {d}________.\n");
   EXPECT_EQ(back.lessons.size(), 1U);
   EXPECT_TRUE(back.banks[0].empty());
 }
