@@ -191,7 +191,7 @@ AnalysisSource readAnalyses(const std::filesystem::path& folder, Problems& probl
       problems.add({file}, "the name must be NN.txt with a number from 01 to 11");
       continue;
     }
-    source.analyses[*slot] = parseAnalysis(readSource(path, problems), file, problems);
+    source.analyses[*slot] = parseAnalysis(readText(path, problems), file, problems);
   }
   return source;
 }

@@ -105,7 +105,7 @@ Content readContent(const Options& options, Problems& problems, const Progress& 
   readDrills(options, content, problems);
   progress("guide");
   const auto guide = options.source / "guide.txt";
-  content.guide = compileGuide(readSource(guide, problems), guide.string(), problems);
+  content.guide = compileGuide(readText(guide, problems), guide.string(), problems);
   content.words = readWordSources(options, content.readings, problems, progress);
   if (!options.smallWordList) content.wordNetLicence = readSource(options.wordNetLicence, problems);
   return content;

@@ -222,7 +222,7 @@ std::vector<OwnEntry> readDictionary(const std::filesystem::path& folder, Proble
   std::vector<OwnEntry> entries;
   std::unordered_map<std::string, Where> seen;
   for (const auto& path : textFilesIn(folder)) {
-    for (auto& entry : parseDictionary(readSource(path, problems), path.string(), problems)) {
+    for (auto& entry : parseDictionary(readText(path, problems), path.string(), problems)) {
       const auto [first, isNew] = seen.emplace(ChuanHoaTu(entry.head), entry.where);
       const bool follows = !entries.empty() && entries.back().head == entry.head;
       if (!isNew && !follows) {

@@ -1,8 +1,10 @@
 // Reading of the folders of items.
 #include "pack/ExerciseSource.h"
 
+#include "pack/NearestName.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <iterator>
@@ -24,7 +26,7 @@ std::vector<Item> readBank(const std::filesystem::path& folder, BlankHelp help,
   std::vector<Item> items;
   for (const auto& path : textFilesIn(folder)) {
     auto more =
-        parseItems(readSource(path, problems), path.string(), ItemPlace::Bank, help, problems);
+        parseItems(readText(path, problems), path.string(), ItemPlace::Bank, help, problems);
     std::move(more.begin(), more.end(), std::back_inserter(items));
   }
   if (!items.empty() && items.size() < fewestInABank) {
@@ -44,7 +46,7 @@ void readLessonItems(const std::filesystem::path& folder, const LessonSource& le
       problems.add({file}, "slot " + std::to_string(*slot) + " has no lesson");
     }
     auto items =
-        parseItems(readSource(path, problems), file, ItemPlace::Lesson, BlankHelp::Own, problems);
+        parseItems(readText(path, problems), file, ItemPlace::Lesson, BlankHelp::Own, problems);
     if (items.empty()) {
       problems.add({file}, "there are no items");
     } else {
@@ -53,14 +55,85 @@ void readLessonItems(const std::filesystem::path& folder, const LessonSource& le
   }
 }
 
-void checkReferences(const std::vector<Item>& items, const LessonSource& lessons,
-                     Problems& problems) {
-  for (const Item& item : items) {
+/// Checks what items say of lessons and of each other.
+class ItemsTogether {
+ public:
+  ItemsTogether(const LessonSource& lessons, Problems& problems)
+      : lessons_(lessons), titles_(lessons.titles()), problems_(problems) {
+    const std::set<std::string> distinct(titles_.begin(), titles_.end());
+    titlesAreClear_ = distinct.size() == titles_.size();
+  }
+
+  void check(const std::vector<Item>& items) {
+    for (const Item& item : items) {
+      checkReferences(item);
+      checkId(item);
+      checkTwin(item);
+    }
+  }
+
+ private:
+  void checkReferences(const Item& item) {
+    if (!item.about.title.empty()) checkTitle(item.about.title, item.about.where);
     for (const auto& [number, lines] : item.explanations) {
       for (const ExplanationLine& line : lines) {
-        if (!line.refersTo || lessons.slotOf(line.text.text)) continue;
-        problems.add(line.where, "no lesson has the title \"" + utf8Of(line.text.text) + "\"");
+        if (line.refersTo) checkTitle(line.text.text, line.where);
       }
+    }
+  }
+
+  /// Where two lessons have one title, that is reported, and other titles may be missing for it.
+  void checkTitle(const std::string& title, const Where& where) {
+    if (!titlesAreClear_ || lessons_.slotOf(title)) return;
+    problems_.add(where, "no lesson has the title \"" + utf8Of(title) + "\"" +
+                             utf8Of(didYouMean(title, titles_)));
+  }
+
+  void checkId(const Item& item) {
+    if (item.id.empty()) return;
+    const auto [first, isNew] = ids_.emplace(item.id, item.where);
+    if (!isNew)
+      problems_.add(item.where, "the id is taken by the item at " + placed(first->second));
+  }
+
+  void checkTwin(const Item& item) {
+    std::string text = lower(item.question);
+    std::vector<std::string> options = item.options;
+    std::sort(options.begin(), options.end());
+    for (const std::string& option : options)
+      text += '+' + lower(option);
+    const auto [first, isNew] = texts_.emplace(text, item.where);
+    if (!isNew) problems_.add(item.where, "the same item stands at " + placed(first->second));
+  }
+
+  static std::string placed(const Where& where) {
+    return where.file + ":" + std::to_string(where.line);
+  }
+
+  const LessonSource& lessons_;
+  std::vector<std::string> titles_;
+  bool titlesAreClear_ = true;
+  Problems& problems_;
+  std::map<std::string, Where> ids_;
+  std::map<std::string, Where> texts_;
+};
+
+/// A folder or file below `exercises` that no bank is read from.
+void reportUnknownBanks(const std::filesystem::path& folder, Problems& problems) {
+  const std::vector<std::string> names(BankNames.begin(), BankNames.end());
+  std::vector<std::filesystem::path> entries;
+  std::error_code failure;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, failure))
+    entries.push_back(entry.path());
+  std::sort(entries.begin(), entries.end());
+  for (const auto& path : entries) {
+    const std::string name = path.filename().string();
+    if (name.starts_with('.')) continue;
+    const bool known = std::find(names.begin(), names.end(), name) != names.end();
+    if (known && std::filesystem::is_directory(path)) {
+      reportStrangers(path, "no items are read from it: they stand in \".txt\" files", problems);
+    } else {
+      problems.add({path.string()}, "is the folder of no bank" + didYouMean(name, names));
     }
   }
 }
@@ -77,6 +150,7 @@ std::set<int> ExerciseSource::lessonsWithItems() const {
 ExerciseSource readExercises(const std::filesystem::path& content, const LessonSource& lessons,
                              Problems& problems) {
   ExerciseSource source;
+  reportUnknownBanks(content / "exercises", problems);
   for (std::size_t bank = 0; bank < BankCount; ++bank) {
     const bool verbs = bank == conditionalBank || bank == tenseBank;
     source.banks[bank] = readBank(content / "exercises" / BankNames[bank],
@@ -84,8 +158,9 @@ ExerciseSource readExercises(const std::filesystem::path& content, const LessonS
   }
   readLessonItems(content / "lessons", lessons, source, problems);
   std::size_t total = 0;
+  ItemsTogether together(lessons, problems);
   const auto check = [&](const std::vector<Item>& items) {
-    checkReferences(items, lessons, problems);
+    together.check(items);
     total += items.size();
   };
   std::for_each(source.banks.begin(), source.banks.end(), check);

@@ -61,6 +61,15 @@ std::optional<int> headingCode(std::string_view name, ItemPlace place) {
   return found->code;
 }
 
+std::vector<std::string> headingNames(ItemPlace place) {
+  std::vector<std::string> names;
+  for (const NamedHeading& heading : headings) {
+    const std::string_view name = nameIn(heading, place);
+    if (!name.empty()) names.emplace_back(name);
+  }
+  return names;
+}
+
 std::string headingName(int code, ItemPlace place) {
   const auto found = std::find_if(headings.begin(), headings.end(),
                                   [&](const auto& each) { return each.code == code; });

@@ -10,6 +10,8 @@
 namespace talvora::pack {
 
 inline constexpr std::string_view itemOpener = "item: ";
+inline constexpr std::string_view idOpener = "id: ";
+inline constexpr std::string_view aboutOpener = "about: ";
 inline constexpr std::string_view hintsOpener = "hints: ";
 inline constexpr std::string_view explainOpener = "explain";
 inline constexpr std::string_view referenceOpener = "see: ";

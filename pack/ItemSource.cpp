@@ -1,10 +1,14 @@
 // Parsing of exercise items.
 #include "pack/ItemSource.h"
 
+#include "pack/ItemCheck.h"
+#include "pack/ItemKeys.h"
 #include "pack/ItemNotation.h"
+#include "pack/ItemOpening.h"
 #include "pack/ItemText.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "text/Bytes.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -16,12 +20,23 @@ namespace talvora::pack {
 namespace {
 
 constexpr std::size_t optionCount = 4;
-constexpr int fewestPhrases = 2;
-constexpr int mostPhrases = 6;
 constexpr int fewestBlanksBetweenWords = 3;
-constexpr int mostBlanks = 1000;
 
-/// Reads a file of items line by line.
+std::string inQuotes(std::string_view text) {
+  return "\"" + std::string(text) + "\"";
+}
+
+/// Whether a line of UTF-8 is Vietnamese, as far as its letters tell.
+bool hasVietnameseLetters(std::string_view utf8) {
+  const auto text = streamText(utf8);
+  // Quotes and dashes stand below 0x98, and "café" is English.
+  return text && std::any_of(text->begin(), text->end(), [](char character) {
+           return asc(character) >= 0x98 && asc(character) != 0x99 && asc(character) != 0xE9;
+         });
+}
+
+/// Reads a file of items line by line. One mistake gives one message: a line that cannot be read
+/// spares the item the checks that would only follow from it.
 class ItemParser {
  public:
   ItemParser(const std::string& file, ItemPlace place, BlankHelp help, Problems& problems)
@@ -29,15 +44,16 @@ class ItemParser {
 
   void read(const SourceLine& line) {
     if (line.text.starts_with("//")) return;
-    if (line.text.starts_with("item:")) {
+    const auto key = keyLineOf(line.text);
+    if (key && key->key == ItemKey::Item) {
       finishItem();
-      beginItem(line);
+      beginItem(line, *key);
     } else if (line.text.empty()) {
       if (started_) ++emptyLines_;
-    } else if (!begun_) {
-      report(line, "an item begins with \"item: KIND, HEADING\"");
-    } else {
-      readContent(line);
+    } else if (begun_) {
+      readContent(line, key);
+    } else if (!std::exchange(skipping_, true)) {
+      report(line, std::string(ItemFirstLine));
     }
   }
 
@@ -48,63 +64,93 @@ class ItemParser {
 
  private:
   void report(const SourceLine& line, const std::string& message, std::size_t at = 0) {
-    problems_.add(placeIn(line.text, at, {file_, line.number, 1}), message);
+    problems_.add(placeOf(line, at), message);
   }
-  void reportItem(const std::string& message) { problems_.add({file_, itemLine_, 1}, message); }
-  [[nodiscard]] Where placeOf(const SourceLine& line, std::size_t at) const {
+  [[nodiscard]] Where placeOf(const SourceLine& line, std::size_t at = 0) const {
     return placeIn(line.text, at, {file_, line.number, 1});
   }
 
-  // -- The first lines.
+  // -- The first line.
 
-  void beginItem(const SourceLine& line) {
+  void beginItem(const SourceLine& line, const KeyLine& key) {
     item_ = Item();
+    item_.where = placeOf(line);
     text_ = ItemText();
     explaining_ = nullptr;
-    begun_ = true;
     started_ = false;
+    sound_ = true;
     emptyLines_ = 0;
     lastExplained_ = -1;
-    itemLine_ = line.number;
-    if (!line.text.starts_with(itemOpener)) {
-      report(line, "an item begins with \"item: KIND, HEADING\"");
+    const auto opening = parseItemOpening(line, key, file_, place_, problems_);
+    begun_ = opening.has_value();
+    // What stands below a line that cannot be read is left out up to the next item.
+    skipping_ = true;
+    if (!opening) return;
+    item_.form = opening->form;
+    item_.heading = opening->heading;
+  }
+
+  // -- The lines with a key.
+
+  void readContent(const SourceLine& line, const std::optional<KeyLine>& key) {
+    if (!key) {
+      readText(line);
+    } else if (key->key == ItemKey::Explain) {
+      if (!key->exact) reportExplain(line, *key);
+      beginExplanation(line, key->written);
+    } else if (!key->exact) {
+      reportKey(line, *key);
+    } else if (key->key == ItemKey::See) {
+      readReference(line);
+    } else {
+      readLeadingLine(line, key->key);
+    }
+    emptyLines_ = 0;
+  }
+
+  void reportKey(const SourceLine& line, const KeyLine& key) {
+    const std::string written = inQuotes(std::string(key.written) + ":");
+    if (key.key == ItemKey::None) {
+      report(line, written + " is no key: there are item, id, about, hints, explain and see");
+    } else if (key.written == wordOf(key.key)) {
+      report(line, "a blank must stand behind " + written + " and something behind that");
+    } else {
+      report(line, written + " is no key; did you mean " +
+                       inQuotes(std::string(wordOf(key.key)) + ":") + "?");
+    }
+    sound_ = false;
+  }
+
+  void reportExplain(const SourceLine& line, const KeyLine& key) {
+    const bool colon = key.written.size() < line.text.size();
+    const bool known = key.written.starts_with(explainOpener);
+    if (!known) {
+      report(line, inQuotes(std::string(key.written) + ":") +
+                       " is no key; did you mean \"explain:\" or \"explain NUMBER:\"?");
+    } else if (colon) {
+      report(line, "an explanation begins on the line below", key.written.size() + 1);
+    } else {
+      report(line, "the colon behind " + inQuotes(key.written) + " is missing", key.written.size());
+    }
+  }
+
+  /// Lines that stand ahead of the question.
+  void readLeadingLine(const SourceLine& line, ItemKey key) {
+    if (started_) {
+      report(line, inQuotes(std::string(wordOf(key)) + ":") + " stands ahead of the question");
+      sound_ = false;
       return;
     }
-    const std::string_view rest = line.text.substr(itemOpener.size());
-    const std::size_t comma = rest.find(',');
-    readForm(line, rest.substr(0, comma));
-    if (comma != std::string_view::npos) {
-      readHeading(line, rest.substr(comma + 1));
-    } else if (item_.form != ItemForm::Order) {
-      report(line, "the heading is missing; \"none\" stands for no heading");
-    }
-  }
-
-  void readForm(const SourceLine& line, std::string_view name) {
-    const auto found = std::find_if(formNames.begin(), formNames.end(),
-                                    [&](const FormName& each) { return each.name == name; });
-    if (found == formNames.end()) {
-      report(line, "the kind must be fill, choice, mistake or order", itemOpener.size());
+    if (key == ItemKey::Hints) {
+      if (item_.form != ItemForm::Fill) report(line, "only a fill item has hints");
+      hintsAt_ = placeOf(line);
+      readHints(line);
+    } else if (key == ItemKey::Id) {
+      readId(line);
     } else {
-      item_.form = found->form;
-    }
-    if (item_.form == ItemForm::Order && place_ == ItemPlace::Bank) {
-      report(line, "an ordering item belongs among a lesson's items: in a bank it ends the run",
-             itemOpener.size());
-    }
-  }
-
-  void readHeading(const SourceLine& line, std::string_view name) {
-    const auto code = headingCode(trim(name), place_);
-    if (!code) {
-      report(line,
-             place_ == ItemPlace::Bank ? "a bank has no heading of this name"
-                                       : "a lesson's items have no heading of this name",
-             line.text.find(',') + 1);
-    }
-    item_.heading = code.value_or(0);
-    if (item_.form == ItemForm::Order && item_.heading != 0) {
-      report(line, "an ordering item has no heading");
+      const Where where = placeOf(line, aboutOpener.size());
+      item_.about = {sourceText(line.text.substr(aboutOpener.size()), where, "`@#^", problems_),
+                     where};
     }
   }
 
@@ -121,28 +167,49 @@ class ItemParser {
     }
   }
 
+  void readId(const SourceLine& line) {
+    constexpr std::string_view allowed = "abcdefghijklmnopqrstuvwxyz0123456789-";
+    item_.id = line.text.substr(idOpener.size());
+    if (item_.id.find_first_not_of(allowed) == std::string::npos) return;
+    report(line, "an id is made of small letters, digits and \"-\"", idOpener.size());
+    item_.id.clear();
+  }
+
   // -- The question.
 
-  void readContent(const SourceLine& line) {
-    if (line.text.starts_with(explainOpener) && line.text.ends_with(':')) {
-      beginExplanation(line);
-    } else if (explaining_ != nullptr) {
-      readExplanation(line);
-    } else if (line.text.starts_with(hintsOpener) && !started_) {
-      if (item_.form != ItemForm::Fill) report(line, "only a fill item has hints");
-      readHints(line);
-    } else {
-      readQuestion(line);
-      started_ = true;
+  void readText(const SourceLine& line) {
+    if (explaining_ == nullptr && isForgottenExplanation(line)) {
+      report(line, "this reads like an explanation; \"explain:\" is missing ahead of it");
+      startExplanation(line, 0);
     }
-    emptyLines_ = 0;
+    if (explaining_ != nullptr) {
+      readExplanation(line);
+      return;
+    }
+    const std::size_t before = problems_.all().size();
+    readQuestion(line);
+    started_ = true;
+    if (problems_.all().size() > before) sound_ = false;
+  }
+
+  /// A Vietnamese paragraph without a blank below the question.
+  [[nodiscard]] bool isForgottenExplanation(const SourceLine& line) const {
+    if (item_.form == ItemForm::Order || isOption(line) || !hasVietnameseLetters(line.text)) {
+      return false;
+    }
+    if (item_.form == ItemForm::Choice) return item_.options.size() == optionCount;
+    return emptyLines_ > 0 && text_.braces > 0 && line.text.find('{') == std::string_view::npos;
+  }
+
+  [[nodiscard]] bool isOption(const SourceLine& line) const {
+    return item_.form == ItemForm::Choice &&
+           (line.text.starts_with(rightOpener) || line.text.starts_with(wrongOpener));
   }
 
   void readQuestion(const SourceLine& line) {
-    const bool option = line.text.starts_with(rightOpener) || line.text.starts_with(wrongOpener);
     if (item_.form == ItemForm::Order) {
       readSentence(line);
-    } else if (item_.form == ItemForm::Choice && option) {
+    } else if (isOption(line)) {
       readOption(line);
     } else if (!item_.options.empty()) {
       report(line, "behind the options only explanations may stand");
@@ -158,43 +225,50 @@ class ItemParser {
     const std::string option = sourceText(written, where, "@`*|{}+", problems_);
     checkBlanks(option, where, problems_);
     if (option.empty()) problems_.add(where, "an option is missing here");
+    const bool twice =
+        std::find(item_.options.begin(), item_.options.end(), option) != item_.options.end();
+    if (twice) problems_.add(where, "the item has this option already");
     item_.options.push_back(option);
     if (!line.text.starts_with(rightOpener)) return;
     if (item_.key != 0) report(line, "there is a right option already");
     item_.key = static_cast<int>(item_.options.size());
   }
 
+  /// Ordering items keep their sentences among the options until they are finished.
   void readSentence(const SourceLine& line) {
-    const bool translation = line.text.starts_with(translationOpener);
+    bool translation = line.text.starts_with(translationOpener);
     const std::size_t from = translation ? translationOpener.size() : 0;
     const Where where = placeOf(line, from);
     const std::string text = sourceText(line.text.substr(from), where, StreamMarks, problems_);
     checkBlanks(text, where, problems_);
+    const bool waits = item_.translations.size() < item_.options.size();
+    if (!translation && waits && hasVietnameseLetters(line.text)) {
+      report(line, "a translation begins with \"= \"");
+      translation = true;
+    }
     if (translation) {
+      if (!waits) report(line, "this translation has no sentence");
       item_.translations.push_back(text);
-      if (item_.translations.size() != sentenceCount())
-        report(line, "this translation has no sentence");
       return;
     }
-    if (item_.translations.size() != sentenceCount()) {
-      report(line, "the sentence above has no translation (\"= ...\")");
-    }
-    if (std::count(text.begin(), text.end(), ' ') < fewestBlanksBetweenWords) {
+    expectTranslation();
+    if (std::count(text.begin(), text.end(), ' ') < fewestBlanksBetweenWords)
       report(line, "a sentence to be ordered has at least four words");
-    }
+    sentenceAt_ = where;
     item_.options.push_back(text);
   }
 
-  /// Ordering items keep their sentences among the options until they are finished.
-  [[nodiscard]] std::size_t sentenceCount() const { return item_.options.size(); }
+  void expectTranslation() {
+    if (item_.translations.size() >= item_.options.size()) return;
+    problems_.add(sentenceAt_, "this sentence needs a translation below it (\"= ...\")");
+    item_.translations.resize(item_.options.size());
+  }
 
   // -- Explanations.
 
-  void beginExplanation(const SourceLine& line) {
-    started_ = true;
-    std::string_view number = line.text.substr(explainOpener.size());
-    number.remove_suffix(1);
-    number = trim(number);
+  void beginExplanation(const SourceLine& line, std::string_view written) {
+    std::string_view number = trim(written.substr(std::min(written.find(' '), written.size())));
+    if (written.starts_with(explainOpener)) number = trim(written.substr(explainOpener.size()));
     int value = 0;
     if (!number.empty()) {
       const auto [end, failure] =
@@ -206,119 +280,79 @@ class ItemParser {
     }
     if (item_.form == ItemForm::Order) report(line, "an ordering item has no explanations");
     if (value <= lastExplained_) report(line, "explanations stand in rising order, each once");
-    if (value > 0 && item_.form == ItemForm::Fill && help_ == BlankHelp::VerbLessons) {
+    if (value > 0 && item_.form == ItemForm::Fill && help_ == BlankHelp::VerbLessons)
       report(line, "in this bank the program explains each blank with the lessons 2 to 69");
-    }
-    if (value > braces()) {
+    if (value > braces() && item_.form != ItemForm::Order && sound_)
       report(line, "the item has only " + std::to_string(braces()) + " to explain");
-    }
-    lastExplained_ = std::max(lastExplained_, value);
-    explaining_ = value == 0 ? &item_.general : &item_.explanations[value];
-    explainedNumber_ = value;
+    startExplanation(line, value);
+  }
+
+  void startExplanation(const SourceLine& line, int number) {
+    finishExplanation();
+    started_ = true;
+    lastExplained_ = std::max(lastExplained_, number);
+    explaining_ = number == 0 ? &item_.general : &item_.explanations[number];
+    explainedNumber_ = number;
+    explainedAt_ = placeOf(line);
+  }
+
+  void finishExplanation() {
+    if (explaining_ == nullptr || !explaining_->empty()) return;
+    problems_.add(explainedAt_,
+                  explainedNumber_ == 0
+                      ? "the general explanation is empty"
+                      : "explanation " + std::to_string(explainedNumber_) + " is empty");
   }
 
   [[nodiscard]] int braces() const {
     return item_.form == ItemForm::Choice ? static_cast<int>(optionCount) : text_.braces;
   }
 
-  void readExplanation(const SourceLine& line) {
+  void addEmptyLines() {
     for (; emptyLines_ > 0 && !explaining_->empty(); --emptyLines_)
       explaining_->push_back({});
-    const bool reference = line.text.starts_with(referenceOpener);
-    const std::size_t from = reference ? referenceOpener.size() : 0;
-    const Where where = placeOf(line, from);
-    if (explainedNumber_ == 0) {
-      if (reference) report(line, "the general explanation cannot lead to lessons");
-      const MarkedLine text =
-          parseMarkedLine(line.text.substr(from), where, LineKind::Explanation, problems_);
-      if (text.blueFrom || std::count(text.red.begin(), text.red.end(), true) > 0) {
-        report(line, "the general explanation has no colours");
-      }
-      explaining_->push_back({text, false, where});
-    } else if (reference) {
-      const std::string title = sourceText(line.text.substr(from), where, "`@#^", problems_);
-      explaining_->push_back({{title, std::vector<bool>(title.size()), std::nullopt}, true, where});
-    } else {
-      explaining_->push_back(
-          {parseMarkedLine(line.text, where, LineKind::Explanation, problems_), false, where});
+  }
+
+  void readReference(const SourceLine& line) {
+    if (explaining_ == nullptr) {
+      report(line, "\"see:\" stands in an explanation; \"explain NUMBER:\" is missing ahead of it");
+      sound_ = false;
+      return;
     }
+    if (explainedNumber_ == 0) report(line, "the general explanation cannot lead to lessons");
+    addEmptyLines();
+    const Where where = placeOf(line, referenceOpener.size());
+    const std::string title =
+        sourceText(line.text.substr(referenceOpener.size()), where, "`@#^", problems_);
+    explaining_->push_back({{title, std::vector<bool>(title.size()), std::nullopt}, true, where});
+  }
+
+  void readExplanation(const SourceLine& line) {
+    addEmptyLines();
+    const Where where = placeOf(line);
+    const std::size_t before = problems_.all().size();
+    const MarkedLine text = parseMarkedLine(line.text, where, LineKind::Explanation, problems_);
+    const bool coloured = text.blueFrom || std::count(text.red.begin(), text.red.end(), true) > 0;
+    if (explainedNumber_ == 0 && coloured && problems_.all().size() == before)
+      report(line, "the general explanation has no colours");
+    explaining_->push_back({text, false, where});
   }
 
   // -- The whole item.
 
   void finishItem() {
     if (!std::exchange(begun_, false)) return;
-    for (const auto& [number, lines] : item_.explanations) {
-      if (lines.empty()) reportItem("explanation " + std::to_string(number) + " is empty");
+    finishExplanation();
+    if (item_.form == ItemForm::Order) expectTranslation();
+    if (item_.form == ItemForm::Mistake) item_.key = text_.marked;
+    if (sound_) checkWhole(item_, text_, hintsAt_, problems_);
+    if (item_.form == ItemForm::Order) {
+      for (const std::string& sentence : std::exchange(item_.options, {}))
+        item_.question += (item_.question.empty() ? "_" : " _") + sentence;
+    } else {
+      item_.question = std::move(text_.stored);
     }
-    switch (item_.form) {
-    case ItemForm::Fill:
-      checkFill();
-      break;
-    case ItemForm::Choice:
-      checkChoice();
-      break;
-    case ItemForm::Mistake:
-      checkMistake();
-      break;
-    case ItemForm::Order:
-      finishOrder();
-      break;
-    }
-    if (item_.form != ItemForm::Order) item_.question = std::move(text_.stored);
     items_.push_back(std::move(item_));
-  }
-
-  void checkFill() {
-    if (text_.braces == 0) reportItem("a fill item has at least one blank");
-    if (text_.braces > mostBlanks) reportItem("an item has at most 1000 blanks");
-    if (!item_.hints.empty() && static_cast<int>(item_.hints.size()) != text_.braces) {
-      reportItem("there are " + std::to_string(item_.hints.size()) + " hints for " +
-                 std::to_string(text_.braces) + " blanks");
-    }
-  }
-
-  void checkChoice() {
-    if (text_.stored.empty()) reportItem("the stem is missing");
-    if (item_.options.size() != optionCount) {
-      reportItem("a choice has four options and this one " + std::to_string(item_.options.size()));
-    }
-    if (item_.key == 0) reportItem("the right option (\"+ ...\") is missing");
-    if (text_.marks > 0) reportItem("only a phrase of a mistake item begins with \"!\"");
-    if (text_.hasGap && text_.braces > 0) {
-      reportItem("a stem has either a phrase in braces or a gap of \"_\"");
-    }
-    checkDigits();
-  }
-
-  /// The program tells options from stem by digits in their places.
-  void checkDigits() {
-    bool inPhrase = false;
-    for (const char character : text_.stored) {
-      if (character == '*') inPhrase = true;
-      if (character == '_') inPhrase = false;
-      if (!inPhrase || character < '0' || character > '9') continue;
-      reportItem("a phrase of a choice item has no digits");
-      return;
-    }
-  }
-
-  void checkMistake() {
-    item_.key = text_.marked;
-    if (text_.marks != 1) reportItem("exactly one phrase begins with \"!\"");
-    if (text_.braces < fewestPhrases || text_.braces > mostPhrases) {
-      reportItem("a mistake item has two to six phrases in braces");
-    }
-    if (text_.hasGap) reportItem("\"_\" cannot stand in a mistake item");
-  }
-
-  void finishOrder() {
-    if (item_.options.empty()) reportItem("the sentences are missing");
-    if (item_.translations.size() != item_.options.size()) {
-      reportItem("each sentence needs a translation (\"= ...\")");
-    }
-    for (const std::string& sentence : std::exchange(item_.options, {}))
-      item_.question += (item_.question.empty() ? "_" : " _") + sentence;
   }
 
   const std::string& file_;
@@ -328,13 +362,17 @@ class ItemParser {
   std::vector<Item> items_;
   Item item_;
   ItemText text_;
+  Where hintsAt_;
+  Where sentenceAt_;                       ///< of the last sentence to be ordered
   ExplanationLines* explaining_ = nullptr; ///< what the next lines belong to
+  Where explainedAt_;
   int explainedNumber_ = 0;
   int lastExplained_ = -1;
-  int itemLine_ = 0;
   std::size_t emptyLines_ = 0; ///< since the last line with content
   bool begun_ = false;         ///< an item is being read
+  bool skipping_ = false;      ///< lines outside of an item have been reported
   bool started_ = false;       ///< its question has begun
+  bool sound_ = true;          ///< its question has had no mistake so far
 };
 
 } // namespace

@@ -30,8 +30,17 @@ struct ExplanationLine {
 
 using ExplanationLines = std::vector<ExplanationLine>;
 
+/// The lesson that an item is said to practise, by its title.
+struct Subject {
+  std::string title; ///< empty for none
+  Where where;
+};
+
 /// An item; texts in the text font's bytes.
 struct Item {
+  Where where;    ///< of its first line
+  std::string id; ///< a name to cite it by; empty for none
+  Subject about;  ///< the lesson it practises
   ItemForm form = ItemForm::Fill;
   int heading = 0; ///< its code; 0 for none
   std::vector<std::string> hints;
@@ -52,6 +61,8 @@ struct Item {
 
 /// The code of a heading's name; empty when there is none of that name.
 [[nodiscard]] std::optional<int> headingCode(std::string_view name, ItemPlace place);
+/// The names that may be used, in the order of their codes.
+[[nodiscard]] std::vector<std::string> headingNames(ItemPlace place);
 /// The name of a heading code; "none" for a code without one.
 [[nodiscard]] std::string headingName(int code, ItemPlace place);
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view questionMarks = "@`*|}";
 constexpr std::size_t mostForms = 2;
+constexpr char rightQuote = chr(0x92);
 
 bool isWordCharacter(char character) {
   return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
@@ -38,7 +39,7 @@ class ItemLineParser {
       addPlain(at, brace);
       if (brace == utf8_.size()) return;
       const std::size_t end = utf8_.find('}', brace);
-      if (end == std::string_view::npos) {
+      if (end == std::string_view::npos || utf8_.find('{', brace + 1) < end) {
         report(brace, "this \"{\" is not closed on its line");
         return;
       }
@@ -68,6 +69,8 @@ class ItemLineParser {
   std::size_t addAnswer(std::size_t brace, std::size_t end) {
     if (text_.stored.ends_with('_')) report(brace, "something must stand between two blanks");
     text_.stored += '*';
+    if (hasEmptyForm(brace + 1, end))
+      report(brace, "an answer is missing beside the \"|\"; a blank that stays empty is \"{}\"");
     std::size_t from = brace + 1;
     for (std::size_t form = 1;; ++form) {
       const std::size_t to = std::min(utf8_.find('|', from), end);
@@ -86,10 +89,19 @@ class ItemLineParser {
     return behind;
   }
 
+  /// Whether a part beside a "|" is empty.
+  [[nodiscard]] bool hasEmptyForm(std::size_t from, std::size_t end) const {
+    const std::string_view forms = utf8_.substr(from, end - from);
+    return forms.starts_with('|') || forms.ends_with('|') ||
+           forms.find("||") != std::string_view::npos;
+  }
+
   void addForm(std::size_t from, std::size_t to) {
     const std::string form = bytes(from, to, "_@`*{\\");
     if (!std::all_of(form.begin(), form.end(), isTypable)) {
-      report(from, "an answer is typed in plain English letters");
+      report(from, form.find(rightQuote) == std::string::npos
+                       ? "an answer is typed in plain English letters"
+                       : "an answer is typed in plain English letters; use ' for ’");
     }
     checkBlanks(form, placeIn(utf8_, from, where_), problems_);
     text_.stored += form;

@@ -38,8 +38,12 @@ std::string writeItem(const Item& item, ItemPlace place) {
   const auto form = std::find_if(formNames.begin(), formNames.end(),
                                  [&](const FormName& each) { return each.form == item.form; });
   std::string source = std::string(itemOpener) + std::string(form->name);
-  if (item.form == ItemForm::Order) return source + "\n\n" + writtenSentences(item);
-  source += ", " + headingName(item.heading, place) + "\n";
+  if (item.form != ItemForm::Order) source += ", " + headingName(item.heading, place);
+  source += "\n";
+  if (!item.id.empty()) source += std::string(idOpener) + item.id + "\n";
+  if (!item.about.title.empty())
+    source += std::string(aboutOpener) + utf8Of(item.about.title) + "\n";
+  if (item.form == ItemForm::Order) return source + "\n" + writtenSentences(item);
   for (std::size_t at = 0; at < item.hints.size(); ++at)
     source += (at == 0 ? std::string(hintsOpener) : ", ") + utf8Of(item.hints[at]);
   if (!item.hints.empty()) source += "\n";

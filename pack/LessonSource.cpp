@@ -69,13 +69,20 @@ void checkTitles(const LessonSource& source, const std::map<int, std::string>& f
   for (const auto& [slot, lesson] : source.lessons) {
     const auto [first, isNew] = slots.emplace(lesson.title, slot);
     if (!isNew && !lesson.title.empty()) {
-      problems.add({files.at(slot), 1, 1},
-                   "lesson " + std::to_string(first->second) + " has the same title");
+      problems.add({files.at(slot), 1, 1}, "lesson " + std::to_string(first->second) +
+                                               " has the same title: " + files.at(first->second));
     }
   }
 }
 
 } // namespace
+
+std::vector<std::string> LessonSource::titles() const {
+  std::vector<std::string> titles;
+  for (const auto& [slot, lesson] : lessons)
+    titles.push_back(lesson.title);
+  return titles;
+}
 
 std::optional<int> LessonSource::slotOf(std::string_view title) const {
   const auto found = std::find_if(lessons.begin(), lessons.end(),
@@ -109,20 +116,23 @@ bool holdsItems(const std::filesystem::path& path) {
 LessonSource readLessons(const std::filesystem::path& folder, Problems& problems) {
   LessonSource source;
   std::map<int, std::string> files;
+  reportStrangers(folder, "no lesson is read from it: lessons are files NNN-slug.txt", problems);
   for (const auto& path : textFilesIn(folder)) {
     const std::string file = path.string();
     if (path.filename() == headingsFile) {
-      source.headings = parseHeadings(readSource(path, problems), file, problems, LessonSlots);
+      source.headings = parseHeadings(readText(path, problems), file, problems, LessonSlots);
       continue;
     }
     const auto slot = lessonSlotOf(path);
     if (!slot) {
       problems.add({file}, "the name must be NNN-slug.txt with a slot from 001 to 357");
     } else if (!holdsItems(path)) {
-      if (!files.emplace(*slot, file).second) {
-        problems.add({file}, "slot " + std::to_string(*slot) + " has a lesson already");
+      if (const auto [first, isNew] = files.emplace(*slot, file); !isNew) {
+        problems.add({file},
+                     "slot " + std::to_string(*slot) + " has a lesson already: " + first->second);
+        continue;
       }
-      source.lessons[*slot] = parseLesson(readSource(path, problems), file, problems);
+      source.lessons[*slot] = parseLesson(readText(path, problems), file, problems);
     }
   }
   checkTitles(source, files, problems);

@@ -28,6 +28,8 @@ struct LessonSource {
 
   /// The slot of the lesson with a title.
   [[nodiscard]] std::optional<int> slotOf(std::string_view title) const;
+  /// The titles of all lessons, in the order of their slots.
+  [[nodiscard]] std::vector<std::string> titles() const;
 };
 
 /// Parses one lesson; what is wrong is reported.

@@ -206,7 +206,7 @@ ListeningSource readListening(const std::filesystem::path& folder, Problems& pro
   for (const auto& path : textFilesIn(folder)) {
     const std::string file = path.string();
     const std::string name = path.filename().string();
-    const std::string text = readSource(path, problems);
+    const std::string text = readText(path, problems);
     if (name == "template.txt") {
       source.page = parseListeningPage(text, file, problems);
       continue;

@@ -13,6 +13,9 @@ constexpr std::string_view blueLine = "> ";
 constexpr std::string_view blueRest = ">> ";
 constexpr std::string_view lessonMarks = "`~@";
 constexpr std::string_view explanationMarks = "`@#^&";
+/// In a lesson these do not end red, so that they take the colour of the word that they stand
+/// behind.
+constexpr std::string_view marksBehindRed = ";!?)";
 
 /// The characters that end a red word by themselves.
 std::string_view redEnds(LineKind kind) {
@@ -46,7 +49,7 @@ class LineParser {
     }
     while (at < utf8_.size()) {
       if (utf8_[at] == '*') {
-        toggleRed(at++);
+        at = toggleRed(at);
       } else if (utf8_.substr(at).starts_with(">>")) {
         at = beginBlue(at);
       } else {
@@ -62,26 +65,48 @@ class LineParser {
  private:
   [[nodiscard]] Where placeOf(std::size_t at) const { return placeIn(utf8_, at, where_); }
 
-  void toggleRed(std::size_t at) {
+  /// Returns the place behind the star and the marks that turn red with the word ahead of them.
+  std::size_t toggleRed(std::size_t at) {
+    if (inRed_ && isOpening(at)) {
+      problems_.add(placeOf(redAt_), "this \"*\" is not closed");
+      inRed_ = false;
+    }
     inRed_ = !inRed_;
     if (inRed_) {
       redAt_ = at;
       redFrom_ = line_.text.size();
-      return;
+      return at + 1;
+    }
+    return closeRed(at);
+  }
+
+  /// A star ahead of a word and behind a blank can only open.
+  [[nodiscard]] bool isOpening(std::size_t at) const {
+    return utf8_[at - 1] == ' ' && at + 1 < utf8_.size() && utf8_[at + 1] != ' ' &&
+           line_.text.size() > redFrom_ + 1;
+  }
+
+  std::size_t closeRed(std::size_t at) {
+    std::size_t behind = at + 1;
+    if (kind_ == LineKind::Lesson) {
+      while (behind < utf8_.size() && marksBehindRed.find(utf8_[behind]) != std::string_view::npos)
+        ++behind;
     }
     const bool ended =
-        at + 1 == utf8_.size() || redEnds(kind_).find(utf8_[at + 1]) != std::string_view::npos;
+        behind == utf8_.size() || redEnds(kind_).find(utf8_[behind]) != std::string_view::npos;
     if (line_.text.size() == redFrom_) {
       problems_.add(placeOf(at), "there is nothing between the two \"*\"");
     } else if (line_.text.back() == ' ' || line_.text[redFrom_] == ' ') {
       problems_.add(placeOf(at), "a red stretch begins and ends with a word, not with a blank");
     } else if (kind_ == LineKind::Lesson && !ended) {
-      problems_.add(placeOf(at),
-                    "behind the closing \"*\" a blank, a comma, a point, a colon or the "
-                    "line's end must stand");
+      problems_.add(placeOf(at), "behind the closing \"*\" a blank, one of , . : ; ! ? ) or the "
+                                 "line's end must stand");
     } else if (kind_ == LineKind::Explanation && !ended && utf8_[at + 1] == '*') {
       problems_.add(placeOf(at), "something must stand between two red stretches");
     }
+    line_.text += utf8_.substr(at + 1, behind - at - 1);
+    line_.red.resize(line_.text.size(), true);
+    return behind;
   }
 
   std::size_t beginBlue(std::size_t at) {

@@ -155,7 +155,7 @@ ReadingSource readTexts(const std::filesystem::path& folder, int slots, Problems
     const std::string file = path.string();
     const std::string name = path.filename().string();
     if (name == "headings.txt") {
-      source.headings = parseHeadings(readSource(path, problems), file, problems, slots);
+      source.headings = parseHeadings(readText(path, problems), file, problems, slots);
       continue;
     }
     const auto slot = name.size() > digits + 1 && name[digits] == '-'
@@ -168,7 +168,7 @@ ReadingSource readTexts(const std::filesystem::path& folder, int slots, Problems
                                .append("-slug.txt with a slot from " + first + " to " + last));
       continue;
     }
-    auto text = parseReadingText(readSource(path, problems), file, problems);
+    auto text = parseReadingText(readText(path, problems), file, problems);
     if (!source.texts.emplace(*slot, std::move(text)).second) {
       problems.add({file}, "slot " + std::to_string(*slot) + " has a text already");
     }

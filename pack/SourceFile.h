@@ -26,6 +26,14 @@ struct SourceLine {
 /// The same, with a problem instead when it cannot be read.
 [[nodiscard]] std::string readSource(const std::filesystem::path& path, Problems& problems);
 
+/// The same for a text that somebody writes: a byte order mark at its start is skipped and letters
+/// with their marks behind them are put together.
+[[nodiscard]] std::string readText(const std::filesystem::path& path, Problems& problems);
+
+/// Reports what lies in a folder and is no ".txt" file, hidden files apart, with a hint.
+void reportStrangers(const std::filesystem::path& folder, const std::string& hint,
+                     Problems& problems);
+
 /// The regular ".txt" files of a folder, sorted by name; none when there is no such folder.
 [[nodiscard]] std::vector<std::filesystem::path> textFilesIn(const std::filesystem::path& folder);
 

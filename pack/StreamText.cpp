@@ -54,6 +54,22 @@ std::string quoted(char32_t letter) {
   return text + "\"";
 }
 
+/// A letter by its look, or by its number and name where it has no look.
+std::string named(char32_t letter) {
+  switch (letter) {
+  case U'\t':
+    return "U+0009, a tab; type blanks";
+  case U'\u00A0':
+    return "U+00A0, the no-break space; type a plain blank";
+  case U'\u00AD':
+    return "U+00AD, the soft hyphen, which cannot be seen; delete it";
+  case U'\u200B':
+    return "U+200B, a blank without width, which cannot be seen; delete it";
+  default:
+    return quoted(letter);
+  }
+}
+
 } // namespace
 
 std::optional<char> streamByte(char32_t letter) {
@@ -91,7 +107,7 @@ std::string sourceText(std::string_view utf8, Where where, std::string_view forb
     }
     const auto byte = streamByte(*letter);
     if (!byte) {
-      problems.add(where, "the text font has no byte for " + quoted(*letter));
+      problems.add(where, "the text font has no byte for " + named(*letter));
     } else if (forbidden.find(*byte) != std::string_view::npos) {
       problems.add(where, quoted(*letter) + " is a mark and cannot stand in this text");
     } else {

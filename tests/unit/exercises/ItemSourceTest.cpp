@@ -120,7 +120,7 @@ TEST(ItemSource, ProblemsOfTheFirstLines) {
   EXPECT_THAT(problemsOf("item: fill\n\nA {b}.\n"),
               ElementsAre(testing::HasSubstr("the heading is missing")));
   EXPECT_THAT(problemsOf("item: fill, none\nhints: go\n\nA {b} {c}.\n"),
-              ElementsAre(testing::HasSubstr("1 hints for 2 blanks")));
+              ElementsAre(testing::HasSubstr("f:2:1: there is 1 hint for 2 blanks")));
 }
 
 TEST(ItemSource, ProblemsOfBlanks) {
@@ -194,7 +194,7 @@ TEST(ItemSource, ProblemsOfExplanations) {
 TEST(ExerciseFolders, AreCheckedAgainstTheLessons) {
   const TestFolder folder;
   folder.write("exercises/toefl/1.txt", "item: fill, none\n\nA {b}.\n\nexplain 1:\nsee: Nowhere\n");
-  folder.write("lessons/002-items.txt", "item: fill, none\n\nA {b}.\n");
+  folder.write("lessons/002-items.txt", "item: fill, none\n\nC {d}.\n");
   Problems problems;
   const ExerciseSource source = readExercises(folder.path(), {}, problems);
   std::vector<std::string> all;

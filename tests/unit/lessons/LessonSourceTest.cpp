@@ -39,6 +39,7 @@ TEST(ColouredLine, OfALessonIsStoredWithItsMarks) {
   EXPECT_EQ(stored("*have gone*, now", LineKind::Lesson), "`have `gone, now");
   EXPECT_EQ(stored("> She *goes* home", LineKind::Lesson), "&She `goes home");
   EXPECT_EQ(stored("Form: >> S + V", LineKind::Lesson), "Form: ~S + V");
+  EXPECT_EQ(stored("(a *b);* c *d!*", LineKind::Lesson), "(a `b); c `d!");
 }
 
 TEST(ColouredLine, OfAnExplanationIsStoredWithItsMarks) {
@@ -49,10 +50,21 @@ TEST(ColouredLine, OfAnExplanationIsStoredWithItsMarks) {
   EXPECT_EQ(stored("x >> rest", LineKind::Explanation), "x &rest");
 }
 
+TEST(ColouredLine, MarksThatDoNotEndRedInALessonTurnRedWithTheWord) {
+  Problems problems;
+  const auto parsed = [&](std::string_view utf8) {
+    return writeMarkedLine(parseMarkedLine(utf8, {"f", 1, 1}, LineKind::Lesson, problems));
+  };
+  EXPECT_EQ(parsed("(a *b*); c *d*!"), "(a *b);* c *d!*");
+  EXPECT_EQ(parsed("*a*, *b*."), "*a*, *b*.") << "a comma and a point stay black";
+  EXPECT_TRUE(problems.none());
+}
+
 TEST(ColouredLine, ProblemsNameTheirPlace) {
   EXPECT_EQ(problemOf("ê *open", LineKind::Lesson), "f:7:3: this \"*\" is not closed");
-  EXPECT_THAT(problemOf("*go*?", LineKind::Lesson),
+  EXPECT_THAT(problemOf("*go*x", LineKind::Lesson),
               testing::StartsWith("f:7:4: behind the closing"));
+  EXPECT_EQ(problemOf("*go home *now* x", LineKind::Lesson), "f:7:1: this \"*\" is not closed");
   EXPECT_THAT(problemOf("a>>b", LineKind::Lesson), testing::HasSubstr(":7:2:"));
   EXPECT_THAT(problemOf(">> b", LineKind::Lesson), testing::HasSubstr("stands between two blanks"));
   EXPECT_THAT(problemOf("a >> b >> c", LineKind::Lesson), testing::HasSubstr("blue already"));
@@ -96,18 +108,22 @@ TEST(LessonSource, ReportsMissingAndForbiddenParts) {
 TEST(LessonSource, FoldersAreCheckedAsAWhole) {
   const TestFolder folder;
   folder.write("002-one.txt", "title: Same\n\nx\n");
-  folder.write("003-two.txt", "title: Same\n\nx\n");
   folder.write("003-again.txt", "title: Other\n\nx\n");
+  folder.write("003-two.txt", "title: Third\n\nx\n");
+  folder.write("004-two.txt", "title: Same\n\nx\n");
+  folder.write("old/005-old.txt", "title: Old\n\nx\n");
   folder.write("400-far.txt", "title: Far\n\nx\n");
   folder.write("002-items.txt", "not read here");
   folder.write("headings.txt", "2\tGroup\n");
   Problems problems;
   const LessonSource source = readLessons(folder.path(), problems);
   EXPECT_THAT(described(problems),
-              testing::UnorderedElementsAre(testing::HasSubstr("slot 3 has a lesson already"),
-                                            testing::HasSubstr("has the same title"),
-                                            testing::HasSubstr("NNN-slug.txt"),
-                                            testing::HasSubstr("cannot be a heading")));
+              testing::UnorderedElementsAre(
+                  testing::HasSubstr("003-two.txt: slot 3 has a lesson already: " + folder.path() +
+                                     "/003-again.txt"),
+                  testing::HasSubstr("002-one.txt"),
+                  testing::HasSubstr("old: no lesson is read from it"),
+                  testing::HasSubstr("NNN-slug.txt"), testing::HasSubstr("cannot be a heading")));
   EXPECT_EQ(source.slotOf("Same"), 2);
   EXPECT_EQ(source.slotOf("None"), std::nullopt);
 }

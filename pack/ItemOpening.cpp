@@ -1,0 +1,104 @@
+// Kinds and headings of items.
+#include "pack/ItemOpening.h"
+
+#include "pack/ItemNotation.h"
+#include "pack/NearestName.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace talvora::pack {
+
+namespace {
+
+class OpeningParser {
+ public:
+  OpeningParser(const SourceLine& line, const std::string& file, ItemPlace place,
+                Problems& problems)
+      : line_(line), file_(file), place_(place), problems_(problems) {}
+
+  std::optional<ItemOpening> run() {
+    const std::string_view rest = line_.text.substr(itemOpener.size());
+    const std::size_t comma = rest.find(',');
+    const auto form = readForm(rest.substr(0, comma));
+    if (!form) return std::nullopt;
+    const bool order = *form == ItemForm::Order;
+    if (order && place_ == ItemPlace::Bank) {
+      report("an ordering item belongs among a lesson's items: in a bank it ends the run",
+             itemOpener.size());
+    }
+    int heading = 0;
+    if (comma != std::string_view::npos) {
+      heading = readHeading(rest.substr(comma + 1));
+    } else if (!order) {
+      report("the heading is missing; \"none\" stands for no heading");
+    }
+    if (order && heading != 0) report("an ordering item has no heading");
+    return ItemOpening{*form, heading};
+  }
+
+ private:
+  void report(const std::string& message, std::size_t at = 0) {
+    problems_.add(placeIn(line_.text, at, {file_, line_.number, 1}), message);
+  }
+
+  std::optional<ItemForm> readForm(std::string_view name) {
+    const auto found = std::find_if(formNames.begin(), formNames.end(),
+                                    [&](const FormName& each) { return each.name == name; });
+    if (found != formNames.end()) return found->form;
+    if (!reportsMissingComma(name)) {
+      std::vector<std::string> kinds;
+      for (const FormName& each : formNames)
+        kinds.emplace_back(each.name);
+      report("the kind must be fill, choice, mistake or order" + didYouMean(name, kinds),
+             itemOpener.size());
+    }
+    return std::nullopt;
+  }
+
+  /// "choice replace" stands for "choice, replace".
+  bool reportsMissingComma(std::string_view name) {
+    const std::size_t blank = std::min(name.find(' '), name.size());
+    const std::string kind(name.substr(0, blank));
+    const std::string heading(trim(name.substr(blank)));
+    const bool known = std::any_of(formNames.begin(), formNames.end(),
+                                   [&](const FormName& each) { return each.name == kind; });
+    if (!known || heading.empty()) return false;
+    report("a comma is missing: \"item: " + kind + ", " + heading + "\"",
+           itemOpener.size() + blank);
+    return true;
+  }
+
+  int readHeading(std::string_view name) {
+    const auto code = headingCode(trim(name), place_);
+    if (code) return *code;
+    const auto names = headingNames(place_);
+    std::string list;
+    for (const std::string& each : names)
+      list += (list.empty() ? "" : ", ") + each;
+    report((place_ == ItemPlace::Bank ? "a bank has no heading of this name"
+                                      : "a lesson's items have no heading of this name") +
+               didYouMean(trim(name), names) + " (" + list + ")",
+           line_.text.find(',') + 1);
+    return 0;
+  }
+
+  const SourceLine& line_;
+  const std::string& file_;
+  ItemPlace place_;
+  Problems& problems_;
+};
+
+} // namespace
+
+std::optional<ItemOpening> parseItemOpening(const SourceLine& line, const KeyLine& key,
+                                            const std::string& file, ItemPlace place,
+                                            Problems& problems) {
+  if (key.exact) return OpeningParser(line, file, place, problems).run();
+  problems.add({file, line.number, 1},
+               std::string(ItemFirstLine) +
+                   (key.written == "item" ? "" : "; did you mean \"item:\"?"));
+  return std::nullopt;
+}
+
+} // namespace talvora::pack
