@@ -1,15 +1,19 @@
 // The command line of the content compiler.
+#include "pack/Check.h"
 #include "pack/Compiler.h"
 #include "pack/Dump.h"
 #include "pack/Planner.h"
 #include "pack/Recordings.h"
+#include "pack/Show.h"
 #include "pack/Status.h"
 
 #include <CLI/CLI.hpp>
 
 #include <exception>
 #include <iostream>
+#include <map>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -48,9 +52,16 @@ int build(Options options, const std::filesystem::path& out) {
   return 0;
 }
 
-int check(const Options& options) {
+int check(const Options& options, const std::vector<ContentKind>& only) {
   Problems problems;
-  static_cast<void>(compile(options, problems, showStep));
+  const std::string counted = checkContent(options, {only.begin(), only.end()}, problems, showStep);
+  if (problems.none()) std::cout << counted << ": no errors\n";
+  return tell(problems);
+}
+
+int showPlace(const std::string& place) {
+  Problems problems;
+  std::cout << show(shownPlaceOf(place), problems);
   return tell(problems);
 }
 
@@ -83,6 +94,13 @@ int dumpTo(const std::filesystem::path& pack, const std::filesystem::path& out) 
   return tell(problems);
 }
 
+std::map<std::string, ContentKind> namedKinds() {
+  std::map<std::string, ContentKind> kinds;
+  for (const ContentKindName& each : ContentKindNames)
+    kinds.emplace(each.name, each.kind);
+  return kinds;
+}
+
 void addSourceOptions(CLI::App& command, Options& options) {
   command.add_option("SOURCE", options.source, "folder of the content sources")->required();
   command.add_option("--wordnet", options.wordNet, "folder of the WordNet database")
@@ -112,6 +130,14 @@ int run(int argumentCount, char** arguments) {
   buildCommand->add_option("OUT", out, "folder of the pack")->required();
   CLI::App* checkCommand = application.add_subcommand("check", "check SOURCE and write nothing");
   addSourceOptions(*checkCommand, options);
+  std::vector<ContentKind> only;
+  checkCommand->add_option("--only", only, "check these kinds alone, which takes a second or two")
+      ->transform(CLI::CheckedTransformer(namedKinds()));
+  std::string place;
+  CLI::App* showCommand = application.add_subcommand(
+      "show", "show an item, a lesson or a text of the sources as the learner will see it");
+  showCommand->add_option("PLACE", place, "FILE, or FILE:LINE for the item at that line")
+      ->required();
   CLI::App* dumpCommand = application.add_subcommand("dump", "decode the pack PACK into sources");
   dumpCommand->add_option("PACK", pack, "folder of the pack")->required();
   dumpCommand->add_option("OUT", out, "folder for the sources")->required();
@@ -136,9 +162,10 @@ int run(int argumentCount, char** arguments) {
     return application.exit(error) == 0 ? 0 : usageOrDiskErrors;
   }
   if (buildCommand->parsed()) return build(options, out);
-  if (checkCommand->parsed()) return check(options);
   if (planCommand->parsed())
     return plan(options.source, slot, known ? Detail::Full : Detail::Short);
+  if (checkCommand->parsed()) return check(options, only);
+  if (showCommand->parsed()) return showPlace(place);
   return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);
 }
 

@@ -1,0 +1,123 @@
+// Reading and counting of what is to be checked.
+#include "pack/Check.h"
+
+#include "pack/Guide.h"
+#include "pack/SourceFile.h"
+#include "pack/SpeakingSource.h"
+
+namespace talvora::pack {
+
+namespace {
+
+std::size_t sentencesIn(const ReadingSource& readings) {
+  std::size_t count = 0;
+  for (const auto& [slot, text] : readings.texts) {
+    for (const Paragraph& paragraph : text.paragraphs)
+      count += paragraph.size();
+  }
+  return count;
+}
+
+std::size_t itemsIn(const ExerciseSource& exercises) {
+  std::size_t count = 0;
+  for (const auto& items : exercises.banks)
+    count += items.size();
+  for (const auto& [slot, items] : exercises.lessons)
+    count += items.size();
+  return count;
+}
+
+std::size_t itemsIn(const ListeningSource& listening) {
+  std::size_t count = 0;
+  for (const auto& [unit, items] : listening.units)
+    count += items.size();
+  return count;
+}
+
+/// "1 lesson", "2 lessons"; a list of counts grows by one.
+void count(std::string& list, std::size_t number, std::string_view one, std::string_view many) {
+  list += (list.empty() ? "" : ", ") + std::to_string(number) + " ";
+  list += number == 1 ? one : many;
+}
+
+/// Reads the kinds that are wanted and those that they refer to.
+class Checker {
+ public:
+  Checker(const Options& options, const std::set<ContentKind>& only, Problems& problems,
+          const Progress& progress)
+      : source_(options.source), only_(only), problems_(problems), progress_(progress) {}
+
+  std::string run() {
+    checkReadings();
+    if (wants(ContentKind::SpeakingTexts)) {
+      const auto speaking = readSpeaking(source_ / "speaking", problems_);
+      count(counted_, speaking.texts.size(), "speaking text", "speaking texts");
+    }
+    if (wants(ContentKind::Lessons) || wants(ContentKind::Exercises)) checkLessons();
+    if (wants(ContentKind::Guide)) {
+      const auto guide = source_ / "guide.txt";
+      static_cast<void>(compileGuide(readText(guide, problems_), guide.string(), problems_));
+      count(counted_, 1, "guide", "guides");
+    }
+    if (wants(ContentKind::Dictionary)) {
+      progress_("dictionary sources");
+      count(counted_, readDictionary(source_ / "dictionary", problems_).size(), "dictionary entry",
+            "dictionary entries");
+    }
+    return counted_;
+  }
+
+ private:
+  [[nodiscard]] bool wants(ContentKind kind) const { return only_.count(kind) > 0; }
+
+  /// The listening items and the analyses are checked against the texts.
+  void checkReadings() {
+    const bool listening = wants(ContentKind::Listening);
+    const bool analysis = wants(ContentKind::Analyses);
+    if (!wants(ContentKind::ReadingTexts) && !listening && !analysis) return;
+    progress_("reading texts");
+    ReadingSource readings = readReadings(source_ / "reading", problems_);
+    count(counted_, readings.texts.size(), "reading text", "reading texts");
+    count(counted_, sentencesIn(readings), "sentence", "sentences");
+    if (listening) {
+      const auto items = readListening(source_ / "listening", problems_);
+      checkAgainstScripts(items, readings, problems_);
+      count(counted_, itemsIn(items), "listening item", "listening items");
+    }
+    if (analysis) {
+      const auto analyses = readAnalyses(source_ / "analysis", problems_);
+      markStretches(analyses, readings, problems_);
+      count(counted_, analyses.analyses.size(), "analysis", "analyses");
+    }
+  }
+
+  void checkLessons() {
+    progress_("lessons and exercises");
+    const auto lessons = readLessons(source_ / "lessons", problems_);
+    const auto exercises = readExercises(source_, lessons, problems_);
+    count(counted_, lessons.lessons.size(), "lesson", "lessons");
+    count(counted_, itemsIn(exercises), "item", "items");
+  }
+
+  const std::filesystem::path& source_;
+  const std::set<ContentKind>& only_;
+  Problems& problems_;
+  const Progress& progress_;
+  std::string counted_;
+};
+
+} // namespace
+
+std::string checkContent(const Options& options, const std::set<ContentKind>& only,
+                         Problems& problems, const Progress& progress) {
+  std::set<ContentKind> kinds = only;
+  if (only.empty()) {
+    static_cast<void>(compile(options, problems, progress));
+    if (!problems.none()) return {};
+    for (const ContentKindName& each : ContentKindNames)
+      kinds.insert(each.kind);
+  }
+  return Checker(options, kinds, problems, progress).run();
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,45 @@
+// The checks of a content tree: of all of it, or of a few kinds for a quick answer while writing.
+#pragma once
+
+#include "pack/Compiler.h"
+
+#include <array>
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace talvora::pack {
+
+/// The kinds of content, by the names of their folders.
+enum class ContentKind {
+  ReadingTexts,
+  SpeakingTexts,
+  Listening,
+  Analyses,
+  Lessons,
+  Exercises,
+  Guide,
+  Dictionary
+};
+
+struct ContentKindName {
+  ContentKind kind;
+  std::string_view name;
+};
+
+inline constexpr std::array<ContentKindName, 8> ContentKindNames = {
+    {{ContentKind::ReadingTexts, "reading"},
+     {ContentKind::SpeakingTexts, "speaking"},
+     {ContentKind::Listening, "listening"},
+     {ContentKind::Analyses, "analysis"},
+     {ContentKind::Lessons, "lessons"},
+     {ContentKind::Exercises, "exercises"},
+     {ContentKind::Guide, "guide"},
+     {ContentKind::Dictionary, "dictionary"}}};
+
+/// Checks some kinds, or everything for none, with what these refer to. Tells what was counted:
+/// "104 lessons, 1154 items".
+[[nodiscard]] std::string checkContent(const Options& options, const std::set<ContentKind>& only,
+                                       Problems& problems, const Progress& progress);
+
+} // namespace talvora::pack
