@@ -263,10 +263,7 @@ void ExplanationBox::DongBaiLienKet() {
   // The lesson has kept a caret of its own; the box and the item take theirs back.
   state_.word.ViTriCaret = controls_.RHDBT.Visible() ? controls_.RHDBT.SelStart() : itemCaret_;
   shell_.upward.DongNghia();
-  if (state_.measures.KieuTruot == SlideStandsAtOnce) {
-    controls_.Rnen3.Visible(false);
-    controls_.Rnen3.Top(state_.measures.CaoMH + 100);
-  }
+  if (state_.measures.KieuTruot == SlideStandsAtOnce) shell_.setup.parkPlate();
   shell_.transitions.DongRan(controls_.RVP2, controls_.Frame3);
   if (controls_.RHDBT.Visible()) {
     controls_.RHDBT.SetFocus();

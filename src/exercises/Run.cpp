@@ -169,7 +169,12 @@ bool Run::step() {
   return lessons_.BaiTuChon;
 }
 
+void Run::parkPlate() {
+  if (slidesAtOnce()) services_.shell.setup.parkPlate();
+}
+
 void Run::endRun() {
+  parkPlate();
   scoring_.BaoDiem(SoCauChay_);
   controls_.Frame1.Visible(true);
   controls_.RN1.SetFocus();
@@ -180,10 +185,7 @@ void Run::ThoatBT(Surface& surface) {
   services_.box.DongGiai();
   state_.word.TuHienTai.clear();
   services_.words.stopSpeech();
-  if (slidesAtOnce()) {
-    controls_.Rnen3.Visible(false);
-    controls_.Rnen3.Top(state_.measures.CaoMH + 100);
-  }
+  parkPlate();
   Transitions& transitions = services_.shell.transitions;
   if (lessons_.BaiTuChon) {
     transitions.DongRan(surface, controls_.Frame2);

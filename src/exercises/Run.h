@@ -59,6 +59,8 @@ class Run {
   /// Moves `ViTriCau`; false when the run is over.
   bool step();
   void endRun();
+  /// Takes the plate off that `BatDauChay` has shown.
+  void parkPlate();
   void DocCauHoi(int n);
   void DocLoiGiai(int n);
   void PhanTichCau();

@@ -112,7 +112,7 @@ void XepTu::leaveSelfMadeTest() {
   }
   run.BoChonBai();
   sentencesOpened_ = 0;
-  Rnen3.Visible(false);
+  shell_.setup.parkPlate();
 }
 
 // -- Choosing a sentence.

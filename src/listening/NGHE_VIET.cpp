@@ -141,7 +141,7 @@ void NGHE_VIET::ThoatViet() {
   state_.places.DangBan = false;
   shell_.hints.AnRDOS(controls_.Rviet);
   controls_.Rviet.Visible(false);
-  controls_.Rnen3.Visible(false);
+  shell_.setup.parkPlate();
   controls_.R1.Enabled(true);
   controls_.RHDBT.Enabled(true);
   controls_.RHDBT.Visible(false);

@@ -147,8 +147,7 @@ void E::Main() {
   loadEnglishSide();
   shell_.steering.XepChuot();
   shell_.setup.measureCard();
-  controls_.Rnen3.Text("");
-  controls_.Rnen3.Top(state_.measures.CaoMH + 100);
+  shell_.setup.parkPlate();
   state_.places.waitkd = false;
   state_.places.DangBan = false;
   shell_.steering.pointAtButton(1);

@@ -25,6 +25,7 @@ ScreenClass screenClassOf(int RongMH) {
 }
 
 constexpr Colour InactiveCaptionText = 0x80000013;
+constexpr Colour White = 0xFFFFFF;
 
 } // namespace
 
@@ -125,6 +126,14 @@ void ScreenSetup::measureCard() {
   m.CaoKhung = m.CaoBai;
   m.LeTrenKhung = Round((m.CaoMH - m.CaoKhung) / 2.0);
   m.LeTraiKhung = Round((m.RongMH - m.RongKhung) / 2.0);
+}
+
+void ScreenSetup::parkPlate() {
+  Surface& plate = controls_.Rnen3;
+  plate.Visible(false);
+  plate.Text("");
+  plate.BackColor(White);
+  plate.Top(measures_.CaoMH + 100);
 }
 
 } // namespace talvora

@@ -29,6 +29,9 @@ class ScreenSetup {
   void parkSurfaces();
   /// Size and place of the card behind a standard text surface.
   void measureCard();
+  /// Takes the plate `Rnen3` off, as it was at the start: below the screen, white and empty.
+  /// Whoever needs it shows it wherever it stands.
+  void parkPlate();
 
  private:
   void shareMeasures();

@@ -227,6 +227,15 @@ TEST_F(BankRun, TheEndShowsTheScoreAndTheList) {
   EXPECT_EQ(run.form.Caption(), run.state.measures.KhoangDem + "Ban da lam dung  1/25 = 4%");
 }
 
+TEST_F(BankRun, TheEndTakesThePlateAway) {
+  Surface& Rnen3 = run.controls.Rnen3;
+  ASSERT_TRUE(Rnen3.Visible());
+  stepTo(25);
+  step(run, "<Next>");
+  EXPECT_FALSE(Rnen3.Visible());
+  EXPECT_EQ(Rnen3.Top(), run.state.measures.CaoMH + 100);
+}
+
 TEST_F(BankRun, TheEndWithNoneRightKeepsTheLastItemsCaption) {
   stepTo(25);
   const std::string caption = run.form.Caption();

@@ -182,6 +182,18 @@ TEST_F(Dictation, EscTakesTheHintAwayFirstAndThenEnds) {
   EXPECT_EQ(linesChosen, 1);
 }
 
+TEST_F(Dictation, ThePlateIsParkedForTheNextThatNeedsIt) {
+  openThree();
+  run.key(key::Esc);
+  run.controls().RHDBT.Visible(false);
+  run.key(key::Esc);
+  const Surface& Rnen3 = run.controls().Rnen3;
+  EXPECT_FALSE(Rnen3.Visible());
+  EXPECT_EQ(Rnen3.Top(), run.state().measures.CaoMH + 100);
+  EXPECT_EQ(Rnen3.BackColor(), 0xFFFFFFU);
+  EXPECT_EQ(Rnen3.Text(), "");
+}
+
 TEST_F(Dictation, BackspaceTakesNothingBack) {
   openThree();
   run.type("the");
