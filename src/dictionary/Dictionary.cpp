@@ -79,7 +79,10 @@ void Dictionary::wirePopup() {
   RHD.MouseUp = [this](MouseButton button, int, SurfacePoint at) {
     if (button == MouseButton::Left) lookUpInPopup(at);
   };
-  RHD.MouseMove = [this](int, SurfacePoint) { controls_.RHDBT.SetFocus(); };
+  // An explanation that lies behind a lesson takes no keys from it.
+  RHD.MouseMove = [this](int, SurfacePoint) {
+    if (!controls_.linkedLessonOpen()) controls_.RHDBT.SetFocus();
+  };
 }
 
 void Dictionary::pressPopupCharacter(int code) {

@@ -75,6 +75,8 @@ void LookUpList::load() {
 
 void LookUpList::saveCarets() {
   CurrentWord& word = state_.word;
+  // A lesson over the text has stored its own caret, which is the one to come back to.
+  if (controls_.linkedLessonOpen()) return;
   if (controls_.R2.Visible()) word.ViTriCaret = controls_.R2.SelStart();
   if (controls_.R1.Visible()) word.ViTriCaretR1 = controls_.R1.SelStart();
 }

@@ -258,8 +258,7 @@ bool ExplanationBox::MoLienKet(int p) {
 
 void ExplanationBox::DongBaiLienKet() {
   state_.word.NghiaHienTai.clear();
-  // Words are picked and put in order by the text of the page that is seen again.
-  if (textBehind_) state_.text.CauHoi = *std::exchange(textBehind_, std::nullopt);
+  giveTextBack();
   // The lesson has kept a caret of its own; the box and the item take theirs back.
   state_.word.ViTriCaret = controls_.RHDBT.Visible() ? controls_.RHDBT.SelStart() : itemCaret_;
   shell_.upward.DongNghia();
@@ -270,6 +269,18 @@ void ExplanationBox::DongBaiLienKet() {
   } else {
     focusBehind();
   }
+}
+
+void ExplanationBox::takeLessonAway() {
+  if (!controls_.linkedLessonOpen()) return;
+  giveTextBack();
+  controls_.RVP2.Visible(false);
+  controls_.Frame3.Visible(false);
+}
+
+void ExplanationBox::giveTextBack() {
+  // Words are picked and put in order by the text of the page that is seen again.
+  if (textBehind_) state_.text.CauHoi = *std::exchange(textBehind_, std::nullopt);
 }
 
 void ExplanationBox::releaseMouse(MouseButton button, SurfacePoint at) {

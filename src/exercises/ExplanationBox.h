@@ -49,6 +49,8 @@ class ExplanationBox {
   bool MoLienKet(int p);
   /// Leaves the lesson that a link has opened.
   void DongBaiLienKet();
+  /// Takes that lesson and its card off, where the page behind it goes too.
+  void takeLessonAway();
   /// The number of the lesson with a title; 0 when there is none.
   [[nodiscard]] int TimBaiHoc(std::string_view title) const;
 
@@ -72,6 +74,8 @@ class ExplanationBox {
   [[nodiscard]] int lineCount();
   /// Half the way that the box keeps from the pointer, twips.
   [[nodiscard]] int halfGap() const;
+  /// The page's own text is the current one again.
+  void giveTextBack();
   /// Gives the focus to the surface that lies behind the box.
   void focusBehind();
 

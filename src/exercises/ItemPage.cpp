@@ -62,6 +62,10 @@ void ItemPage::pressCtrl(int keyCode, int shift) {
 
 void ItemPage::pressEsc() {
   const Controls& controls = services_.controls;
+  if (controls.linkedLessonOpen()) {
+    services_.shell.gestures.DongPhu(surface_);
+    return;
+  }
   const bool somethingOver =
       controls.RDOS.Visible() || controls.RHDBT.Visible() || controls.RHD.Visible();
   if (!somethingOver) {

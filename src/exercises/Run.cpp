@@ -135,6 +135,7 @@ void Run::CauKeTiep() {
 }
 
 void Run::hideItem() {
+  services_.box.takeLessonAway();
   services_.box.DongGiai();
   services_.shell.upward.DongNghia();
   if (!lessons_.BaiTuChon) controls_.Frame1.Visible(false);

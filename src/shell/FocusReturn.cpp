@@ -5,8 +5,7 @@
 
 namespace talvora {
 
-FocusReturn::FocusReturn(const Form& form, Controls& c, const CurrentWord& word)
-    : form_(form), selectablePages_{&c.RN2, &c.R2} {
+FocusReturn::FocusReturn(Controls& c, const CurrentWord& word) {
   const auto always = [] { return true; };
   const auto row = [&](Surface& surface, std::function<bool()> holds) {
     rows_.push_back({&surface, std::move(holds),
@@ -19,6 +18,8 @@ FocusReturn::FocusReturn(const Form& form, Controls& c, const CurrentWord& word)
   const auto withoutSelection = [](const Surface& surface) {
     return [&surface] { return surface.SelLength() == 0; };
   };
+  // A lesson over an item or a text covers all of the page that has opened it.
+  row(c.RVP2, [&c] { return c.linkedLessonOpen(); });
   row(c.Rviet, always);
   row(c.Rxep, always);
   row(c.RHDBT, always);
@@ -44,17 +45,7 @@ void FocusReturn::TraLaiBeMat() {
   const auto row = std::find_if(rows_.begin(), rows_.end(), [](const Row& each) {
     return each.surface->Visible() && each.holds();
   });
-  if (row != rows_.end()) {
-    row->action();
-  } else if (form_.ActiveControl() == nullptr) {
-    focusSelectedPage();
-  }
-}
-
-void FocusReturn::focusSelectedPage() {
-  const auto page = std::find_if(selectablePages_.begin(), selectablePages_.end(),
-                                 [](const Surface* each) { return each->Visible(); });
-  if (page != selectablePages_.end()) (*page)->SetFocus();
+  if (row != rows_.end()) row->action();
 }
 
 void FocusReturn::onReturnTo(const Surface& surface, std::function<void()> action) {

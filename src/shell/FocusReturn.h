@@ -3,7 +3,6 @@
 #pragma once
 
 #include "surface/Controls.h"
-#include "surface/Form.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -13,10 +12,10 @@ namespace talvora {
 
 class FocusReturn {
  public:
-  FocusReturn(const Form& form, Controls& controls, const CurrentWord& word);
+  FocusReturn(Controls& controls, const CurrentWord& word);
 
   /// The first visible surface of the chain whose condition holds gets its caret and the focus. A
-  /// page whose selection stands gets no caret, and the focus only when nothing else has it.
+  /// page whose selection stands gets neither; it inherits the focus from what is hidden over it.
   void TraLaiBeMat();
 
   /// What a surface of the chain does instead of taking the shared caret.
@@ -30,11 +29,7 @@ class FocusReturn {
   };
 
   void takeCaret(Surface& surface, int caret);
-  void focusSelectedPage();
 
-  const Form& form_;
-  /// The pages that get no caret while they have a selection.
-  std::vector<Surface*> selectablePages_;
   std::vector<Row> rows_;
 };
 

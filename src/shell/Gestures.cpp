@@ -61,8 +61,8 @@ void Gestures::RoiChuot(Surface& surface, SurfacePoint at) {
 
 bool Gestures::mayClose(const Surface& surface) const {
   if (!surface.Visible()) return false;
-  // A lesson that was opened from its list is a page of its own; one over an exercise is an extra.
-  return &surface != &controls_.RVP2 || controls_.Frame3.Visible();
+  // A lesson that was opened from its list is left by its own Esc.
+  return &surface != &controls_.RVP2 || controls_.linkedLessonOpen();
 }
 
 bool Gestures::DongPhu(Surface& surface) {

@@ -32,8 +32,9 @@ Controls::Controls(Form& form, const LineLayout& layout)
            &RW2,    &RVP2, &RTD,  &Rnen,  &RHD,  &RDOS,  &L1,       &FC1,      &FC2}) {
     form.add(*control);
   }
-  // A click on the rim around a page must not take the keyboard away from it.
-  for (Surface* plate : {&Rnen, &Rnen2, &Rnen3})
+  // A click on the rim around a page must not take the keyboard away from it, nor does the hint bar
+  // have a use for keys.
+  for (Surface* plate : {&Rnen, &Rnen2, &Rnen3, &RDOS})
     plate->TakesKeys(false);
 }
 

@@ -84,7 +84,19 @@ void Form::controlChanged(Control& control, ControlChange change) {
 void Form::dropFocus() {
   Control* const before = std::exchange(focus_, nullptr);
   if (before->LostFocus) before->LostFocus();
-  if (focus_ == nullptr && observer_ != nullptr) observer_->focusChanged();
+  if (focus_ != nullptr) return;
+  if (Control* const heir = foremostPage()) {
+    giveFocus(*heir);
+  } else if (observer_ != nullptr) {
+    observer_->focusChanged();
+  }
+}
+
+Control* Form::foremostPage() const noexcept {
+  const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [](const Control* control) {
+    return takesKeys(*control) && dynamic_cast<const Surface*>(control) != nullptr;
+  });
+  return found == controls_.rend() ? nullptr : *found;
 }
 
 void Form::pressKey(int keyCode, int shift, char character) {

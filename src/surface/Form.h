@@ -60,7 +60,8 @@ class Form final : public ControlHost {
   /// there is only background.
   [[nodiscard]] Control* controlAt(SurfacePoint point) const noexcept;
 
-  /// The control that has the keyboard, or null.
+  /// The control that has the keyboard, or null. When it is hidden or disabled, the foremost
+  /// surface that takes keys inherits the keyboard; null only where no surface is left.
   [[nodiscard]] Control* ActiveControl() const noexcept { return focus_; }
   void giveFocus(Control& control) override;
   [[nodiscard]] bool hasFocus(const Control& control) const noexcept override {
@@ -78,6 +79,8 @@ class Form final : public ControlHost {
 
  private:
   void dropFocus();
+  /// The foremost surface that can have the keyboard, or null.
+  [[nodiscard]] Control* foremostPage() const noexcept;
 
   Screen& screen_;
   TextMetrics& metrics_;

@@ -40,10 +40,40 @@ TEST_F(FormTest, FocusEventsRunInOrderAndOnce) {
   EXPECT_EQ(events, (std::vector<std::string>{"lost", "got"}));
 }
 
-TEST_F(FormTest, HidingTheFocusedControlDropsTheFocus) {
+TEST_F(FormTest, HidingTheFocusedControlDropsTheFocusWhereNoPageIsLeft) {
   run.show(run.controls.R1);
   run.controls.R1.Visible(false);
   EXPECT_EQ(focus(), "");
+}
+
+TEST_F(FormTest, TheForemostPageThatTakesKeysInheritsTheKeyboard) {
+  run.show(run.controls.R1);
+  run.show(run.controls.RVP2);
+  run.show(run.controls.R2);
+  run.controls.Rnen2.Visible(true);
+  run.show(run.controls.RTD);
+  ASSERT_EQ(focus(), "RTD");
+  run.controls.RTD.Visible(false);
+  EXPECT_EQ(focus(), "RVP2");
+  run.controls.RVP2.Enabled(false);
+  EXPECT_EQ(focus(), "R2") << "a plate takes no keys, and a disabled page none either";
+}
+
+TEST_F(FormTest, TheHintBarDoesNotTakeTheKeyboard) {
+  run.show(run.controls.R1);
+  run.show(run.controls.RTD);
+  run.controls.RDOS.Visible(true);
+  run.controls.RTD.Visible(false);
+  EXPECT_EQ(focus(), "R1");
+}
+
+TEST_F(FormTest, WhoeverALostFocusHasChosenKeepsTheKeyboard) {
+  run.show(run.controls.R1);
+  run.show(run.controls.RVP2);
+  run.show(run.controls.RTD);
+  run.controls.RTD.LostFocus = [&] { run.controls.R1.SetFocus(); };
+  run.controls.RTD.Visible(false);
+  EXPECT_EQ(focus(), "R1");
 }
 
 TEST_F(FormTest, ArrowsAndTabMoveAlongTheRingOfTheTabOrder) {
