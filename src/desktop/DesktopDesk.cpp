@@ -49,6 +49,7 @@ void DesktopInstallation::run(const std::string& program) {
 }
 
 BoxAnswer DesktopBoxes::ask(std::string_view text, std::string_view title, BoxAnswer byDefault) {
+  opening();
   QMessageBox box(QMessageBox::Question, shown(title, Encoding::Windows1252),
                   shown(text, Encoding::X1), QMessageBox::Yes | QMessageBox::No, owner);
   box.setDefaultButton(byDefault == BoxAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
@@ -57,6 +58,7 @@ BoxAnswer DesktopBoxes::ask(std::string_view text, std::string_view title, BoxAn
 }
 
 void DesktopBoxes::tell(std::string_view text) {
+  opening();
   QMessageBox box(QMessageBox::Information, QString(), shown(text, Encoding::X1), QMessageBox::Ok,
                   owner);
   box.exec();

@@ -59,6 +59,8 @@ class DesktopBoxes final : public Boxes {
 
   /// What a box stands over; set by the window.
   QWidget* owner = nullptr;
+  /// Called ahead of every box; set by the window.
+  std::function<void()> opening = [] {};
 };
 
 class DesktopNarrator final : public Narrator {

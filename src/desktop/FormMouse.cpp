@@ -46,7 +46,7 @@ void FormMouse::press(const QMouseEvent& event) {
   if (!button) return;
   pressed_ = hovered();
   if (auto* surface = dynamic_cast<Surface*>(pressed_)) {
-    bridge_.deliver([&] {
+    deliverPress([&] {
       surface->SetFocus();
       surface->pressMouse(*button, shiftOf(event.modifiers()), inside(*surface, pointer_));
     });
@@ -79,8 +79,21 @@ void FormMouse::doubleClick(const QMouseEvent& event) {
   }
   take(pointOf(event.position()));
   pressed_ = surface;
-  bridge_.deliver(
+  deliverPress(
       [&] { surface->doubleClick(shiftOf(event.modifiers()), inside(*surface, pointer_)); });
+}
+
+void FormMouse::deliverPress(const std::function<void()>& deed) {
+  pressing_ = true;
+  bridge_.deliver(deed);
+  pressing_ = false;
+}
+
+void FormMouse::focusMoved() {
+  // A surface may hand the keyboard on when it is pressed, as the popup does, and still gets the
+  // release. A button keeps what it was given.
+  const bool ownDoing = pressing_ && dynamic_cast<Surface*>(pressed_) != nullptr;
+  if (!ownDoing && form_.ActiveControl() != pressed_) endPress();
 }
 
 void FormMouse::move(const QMouseEvent& event) {
@@ -88,6 +101,8 @@ void FormMouse::move(const QMouseEvent& event) {
   if (point == pointer_) return;
   take(point);
   const int shift = shiftOf(event.modifiers());
+  // A button that is not down any more was let go where nobody told the window.
+  if (event.buttons() == Qt::NoButton) endPress();
   if (pressed_ != nullptr) {
     auto* const surface = dynamic_cast<Surface*>(pressed_);
     if (surface == nullptr || !event.buttons().testFlag(Qt::LeftButton)) return;

@@ -34,18 +34,27 @@ class FormMouse {
   void move(const QMouseEvent& event);
   void wheel(const QWheelEvent& event);
 
+  /// A press whose release goes elsewhere is over: a box has opened, or another window is in front.
+  void endPress() noexcept { pressed_ = nullptr; }
+  /// Told when the keyboard has passed to another control, which ends a press that did not do so
+  /// itself.
+  void focusMoved();
+
   /// The control under the pointer, or null.
   [[nodiscard]] Control* hovered() const { return form_.controlAt(pointer_); }
 
  private:
   [[nodiscard]] SurfacePoint pointOf(QPointF pixels) const;
   void take(SurfacePoint point);
+  /// What a press does to the program.
+  void deliverPress(const std::function<void()>& deed);
 
   Form& form_;
   EventBridge& bridge_;
   double scale_ = 1;
   SurfacePoint pointer_; ///< in twips of the form
   Control* pressed_ = nullptr;
+  bool pressing_ = false; ///< the program answers a press
 };
 
 } // namespace talvora

@@ -60,6 +60,7 @@ void FormView::controlChanged(Control& control, ControlChange change) {
 }
 
 void FormView::focusChanged() {
+  mouse_.focusMoved();
   if (focus_ != nullptr) changed_.insert(focus_);
   focus_ = form_.ActiveControl();
   if (focus_ != nullptr) changed_.insert(focus_);

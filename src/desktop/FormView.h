@@ -35,6 +35,9 @@ class FormView final : public QWidget, public FormObserver {
   /// Sets how to ask for the button that the pointer means, whatever lies under it.
   void steeredButton(std::function<Button*()> ask) { mouse_.steeredButton = std::move(ask); }
 
+  /// Ends a press whose release goes elsewhere.
+  void endPress() { mouse_.endPress(); }
+
   /// Places every child anew.
   void setScale(double pixelsPerTwip);
   /// Paints at once what has changed.

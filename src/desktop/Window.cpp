@@ -60,6 +60,7 @@ void Window::connectMachine() {
     if (closeWanted_) askToClose();
   };
   machine_.boxes.owner = this;
+  machine_.boxes.opening = [this] { view_->endPress(); };
   machine_.narrator.window = this;
   machine_.events.programRuns = [this] { return program_.running() && !bridge_.failed(); };
   DesktopInput& input = machine_.input;
@@ -170,6 +171,11 @@ void Window::keyReleaseEvent(QKeyEvent* event) {
   if (event->isAutoRepeat() || code == 0) return;
   const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
   bridge_.deliver([&] { program_.form().releaseKey(code, shiftOf(event->modifiers()) & ~own); });
+}
+
+void Window::focusOutEvent(QFocusEvent*) {
+  // Another window is in front, which gets the release of a button that is held.
+  view_->endPress();
 }
 
 SurfacePoint Window::formPointOf(PixelPoint pixel) const {

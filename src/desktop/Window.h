@@ -21,6 +21,7 @@ class Window final : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
