@@ -1,6 +1,7 @@
 // talvora: the tutor in its window.
 
 #include "desktop/DesktopMachine.h"
+#include "desktop/DisplayGuard.h"
 #include "desktop/EventBridge.h"
 #include "desktop/Fonts.h"
 #include "desktop/StateTrace.h"
@@ -15,6 +16,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <random>
 
 namespace {
@@ -58,7 +60,9 @@ QSize realScreenSize() {
 } // namespace
 
 int main(int argc, char** argv) {
+  auto guard = std::make_optional<talvora::DisplayGuard>();
   QApplication application(argc, argv);
+  guard.reset();
   QApplication::setApplicationName(QStringLiteral("talvora"));
   QApplication::setApplicationVersion(QStringLiteral(TALVORA_VERSION));
   QApplication::setQuitOnLastWindowClosed(false);
