@@ -10,6 +10,8 @@
 #include <atomic>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <limits>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -320,6 +322,48 @@ class WaveFile {
  private:
   std::filesystem::path path_;
 };
+
+/// A FLAC file of so many frames, each of the value 1, whose header claims the most that it can.
+class BoastingFile {
+ public:
+  explicit BoastingFile(int frames)
+      : path_(std::filesystem::temp_directory_path() /
+              ("talvora-sound-" + std::to_string(getpid()) + ".flac")) {
+    {
+      SndfileHandle file(path_.string(), SFM_WRITE, SF_FORMAT_FLAC | SF_FORMAT_PCM_16, 1, Rate);
+      const Samples samples(static_cast<std::size_t>(frames), 1);
+      file.writef(samples.data(), frames);
+    }
+    // The number of frames takes the lower half of the byte 21 and the four that follow.
+    std::fstream file(path_, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekg(ClaimAt);
+    const int half = file.get();
+    file.seekp(ClaimAt);
+    file.put(static_cast<char>(half | 0x0F));
+    file << "\xFF\xFF\xFF\xFF";
+  }
+  BoastingFile(const BoastingFile&) = delete;
+  BoastingFile& operator=(const BoastingFile&) = delete;
+  ~BoastingFile() { std::filesystem::remove(path_); }
+
+  [[nodiscard]] std::string path() const { return path_.string(); }
+
+ private:
+  static constexpr int ClaimAt = 21;
+
+  std::filesystem::path path_;
+};
+
+TEST(WaveOutput, AHeaderThatClaimsMoreThanThereIsCostsNothing) {
+  const BoastingFile file(20000);
+  ASSERT_EQ(SndfileHandle(file.path()).frames(), (std::int64_t{1} << 36) - 1);
+  Heard heard;
+  WaveOutput wave(counting(heard));
+  wave.Open(file.path());
+  wave.Play(0, std::numeric_limits<int>::max());
+  EXPECT_TRUE(comesTrue([&] { return heard.count() >= 20000; }));
+  EXPECT_EQ(heard.samples(), Samples(20000, 1));
+}
 
 TEST(WaveOutput, AStretchIsPlayedFromMarkToMark) {
   const WaveFile file(2000, 1000, 1);
