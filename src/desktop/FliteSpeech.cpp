@@ -22,8 +22,8 @@ struct VoiceSource {
   const char* entry; ///< the function that makes it
 };
 
-/// The voices by number from 1; the clearest is the last, since that is the one in use. A fourth
-/// one would make the settings panel deaf to level 5, with which a learner starts.
+/// The voices that the numbers go through in turn. The last number has the last and clearest one,
+/// since that is the one in use.
 constexpr std::array<VoiceSource, 3> voices = {{
     {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb"},
     {"libflite_cmu_us_rms.so.1", "register_cmu_us_rms"},
@@ -62,7 +62,8 @@ struct FliteSpeech::Stream {
 };
 
 cst_voice* loadFliteVoice(int number) {
-  const VoiceSource& source = voices.at(static_cast<std::size_t>(number - 1));
+  const auto beforeLast = static_cast<std::size_t>(VoiceNumbers - number);
+  const VoiceSource& source = voices.at(voices.size() - 1 - beforeLast % voices.size());
   // Never unloaded: the voice lives in it.
   void* const library = ::dlopen(source.library, RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return nullptr;
@@ -109,7 +110,7 @@ void FliteSpeech::Speed(int wordsPerMinute) {
 }
 
 bool FliteSpeech::Select(int voice) {
-  if (voice < 1 || voice > static_cast<int>(voices.size())) return false;
+  if (voice < 1 || voice > VoiceNumbers) return false;
   const std::lock_guard lock(mutex_);
   voice_ = voice;
   return true;

@@ -17,8 +17,8 @@ struct cst_voice_struct;
 
 namespace talvora {
 
-/// The flite voice of a number, from 1; null when its library is not installed. A voice takes up
-/// memory, and stays for the whole process.
+/// The flite voice of a number, from 1 to 10; several numbers have the same one. Null when its
+/// library is not installed. A voice takes up memory, and stays for the whole process.
 [[nodiscard]] cst_voice_struct* loadFliteVoice(int number);
 
 /// flite keeps its voices for the whole process: one engine at a time. A voice is loaded with its

@@ -9,6 +9,10 @@
 
 namespace talvora {
 
+/// How many voices every engine of the desktop answers to. The settings panel shuts the speed level
+/// whose number follows that of the last voice: with ten all ten levels can be chosen.
+inline constexpr int VoiceNumbers = 10;
+
 /// How many milliseconds a text takes at a speed, about.
 [[nodiscard]] std::int64_t spokenMs(std::string_view text, int wordsPerMinute);
 
@@ -20,7 +24,7 @@ class SilentSpeech final : public SpeechEngine {
   void StopSpeaking() override { silentFrom_ = 0; }
   [[nodiscard]] bool IsSpeaking() const override { return clock_.elapsed() < silentFrom_; }
   void Speed(int wordsPerMinute) override;
-  bool Select(int voice) override { return voice == 1; }
+  bool Select(int voice) override { return voice >= 1 && voice <= VoiceNumbers; }
 
  private:
   QElapsedTimer clock_;

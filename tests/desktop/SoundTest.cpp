@@ -1,8 +1,10 @@
 // Speech and wave playing of the desktop, heard by a device that only counts.
 #include "desktop/FliteSpeech.h"
 #include "desktop/PcmPlayer.h"
+#include "desktop/SilentSpeech.h"
 #include "desktop/WaveOutput.h"
 
+#include <flite/flite.h>
 #include <gtest/gtest.h>
 #include <sndfile.hh>
 
@@ -206,7 +208,7 @@ TEST(PcmPlayer, ItEndsWhileItPlays) {
 
 // -- Speech.
 
-constexpr int Clearest = 3;
+constexpr int Clearest = 10;
 
 /// Samples of a text at a speed, once the engine has no more to say.
 std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times = 1) {
@@ -230,6 +232,22 @@ std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times =
 
 TEST(FliteSpeech, VoicesAreNumberedFromOne) {
   FliteSpeech speech({});
+  EXPECT_FALSE(speech.Select(0));
+  for (int voice = 1; voice <= Clearest; ++voice)
+    EXPECT_TRUE(speech.Select(voice)) << voice;
+  EXPECT_FALSE(speech.Select(Clearest + 1));
+}
+
+TEST(FliteSpeech, TheNumbersShareThreeVoicesAndTheLastHasTheClearest) {
+  ASSERT_NE(loadFliteVoice(Clearest), nullptr);
+  EXPECT_STREQ(loadFliteVoice(Clearest)->name, "slt");
+  for (int voice = 1; voice + 3 <= Clearest; ++voice)
+    EXPECT_EQ(loadFliteVoice(voice), loadFliteVoice(voice + 3)) << voice;
+  EXPECT_NE(loadFliteVoice(Clearest - 1), loadFliteVoice(Clearest));
+}
+
+TEST(SilentSpeech, HasAsManyNumbersAsTheVoices) {
+  SilentSpeech speech;
   EXPECT_FALSE(speech.Select(0));
   for (int voice = 1; voice <= Clearest; ++voice)
     EXPECT_TRUE(speech.Select(voice)) << voice;
