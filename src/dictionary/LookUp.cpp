@@ -108,7 +108,8 @@ void LookUp::timMoiDang() {
   std::string form = RutGonDuoi(word_.TuHienTai);
   bool found = fetch(form);
   if (!found) {
-    form = word_.TuHienTai;
+    // What is longer than any word of the list is not in it.
+    form = word_.TuHienTai.substr(0, WordList::LongestWord);
     // One letter alone is not searched, except as the word itself.
     do {
       found = fetch(form);

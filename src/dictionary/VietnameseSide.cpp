@@ -5,6 +5,8 @@
 #include "text/Text.h"
 #include "text/WordForm.h"
 
+#include <algorithm>
+
 namespace talvora {
 
 namespace {
@@ -20,7 +22,7 @@ std::vector<std::string> linesOf(std::string_view text, std::size_t most) {
   std::vector<std::string> lines;
   while (!text.empty() && lines.size() < most) {
     const auto end = text.find_first_of("\r\n");
-    lines.emplace_back(text.substr(0, end));
+    lines.emplace_back(text.substr(0, std::min(end, WordList::LongestWord)));
     if (end == std::string_view::npos) break;
     const bool pair = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
     text.remove_prefix(end + (pair ? 2 : 1));

@@ -103,7 +103,7 @@ std::string_view WordList::Chu(int i) const noexcept {
   const auto line = static_cast<std::size_t>(i - 1);
   const auto from = static_cast<std::size_t>(starts_[line]);
   const auto to = static_cast<std::size_t>(starts_[line + 1]);
-  return withoutLineEnd({text_.data() + from, to - from});
+  return withoutLineEnd({text_.data() + from, to - from}).substr(0, LongestWord);
 }
 
 void WordList::examineCarets() {

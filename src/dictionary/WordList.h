@@ -24,6 +24,8 @@ class WordList {
   /// A list may have one line more than words.
   static constexpr int MostLines = WordCount + 1;
   static constexpr int LetterSlots = 27;
+  /// A line whose end is lost counts as a word of so many characters.
+  static constexpr std::size_t LongestWord = 1000;
   /// The load is cut into strides of so many lines, with one tick of the progress for each.
   static constexpr int Stride = 48135;
 

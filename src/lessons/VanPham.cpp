@@ -15,8 +15,6 @@ namespace {
 
 constexpr int Lessons = static_cast<int>(CurrentList::LessonCount);
 constexpr int FirstLineBar = 8;
-// A title whose line end is lost ends here.
-constexpr std::size_t LongestTitle = 1000;
 
 } // namespace
 
@@ -137,10 +135,11 @@ void VanPham::appendLine(int n) {
   const int number = n - list.SoNhom;
   std::string prefix = Str(number) + "\t\t";
   std::string title;
-  PieceReader reader(stores_.fileOf(file::Lessons), std::int64_t{page_.ViTriVP[place]} + 1);
+  PieceReader reader(stores_.fileOf(file::Lessons), std::int64_t{page_.ViTriVP[place]} + 1,
+                     LongestTitle);
   bool first = true;
   while (const auto piece = reader.next()) {
-    if (*piece == "\r" || title.size() > LongestTitle) break;
+    if (*piece == "\r") break;
     if (*piece == "." && first) {
       prefix = Str(number) + ".\t\t";
       TrangThaiVP_[place] = LessonMark::Unmarked;

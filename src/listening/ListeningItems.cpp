@@ -27,7 +27,7 @@ void ListeningItems::LapBangNghe() {
 
 void ListeningItems::DocDauNghe(int i) {
   ListeningItem& item = CauNghe_[static_cast<std::size_t>(i)];
-  PieceReader reader(stream_, static_cast<std::int64_t>(item.ViTri) + 1);
+  PieceReader reader(stream_, static_cast<std::int64_t>(item.ViTri) + 1, LongestTitle);
   std::string head;
   while (const auto piece = reader.next()) {
     if (*piece == "@" || *piece == "\r") break;

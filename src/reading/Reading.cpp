@@ -191,8 +191,7 @@ void Reading::appendTitle(int i) {
   std::string prefix = "\t\t";
   std::string line;
   PieceReader reader(stores_.fileOf(stores_.FileVanBan),
-                     stores_.ViTriBai[static_cast<std::size_t>(i)] + 1);
-  // A title without its line end ends with its file.
+                     std::int64_t{stores_.ViTriBai[static_cast<std::size_t>(i)]} + 1, LongestTitle);
   for (bool ended = false; !ended;) {
     const auto piece = reader.next();
     ended = !piece || *piece == "\r";

@@ -54,7 +54,8 @@ bool RecordFile::holdsByte(std::int64_t record) const noexcept {
 }
 
 std::optional<std::string_view> PieceReader::next() {
-  if (!stream_->holdsByte(next_)) return std::nullopt;
+  if (left_ <= 0 || !stream_->holdsByte(next_)) return std::nullopt;
+  --left_;
   const std::string_view piece = MoRongByte(GiaiMaByte(stream_->byte(next_++)));
   stream_->notePiece(piece);
   return piece;

@@ -73,13 +73,21 @@ class RecordFile {
   std::string_view* lastPiece_ = nullptr;
 };
 
+/// The most bytes that are read of a text whose end mark is lost; carets and positions in a text
+/// have 16 bits.
+inline constexpr std::int64_t LongestText = 32767;
+/// The same of a title.
+inline constexpr std::int64_t LongestTitle = 1000;
+
 /// Reads a stream piece by piece from a record on; each piece is what one stored byte stands for.
 class PieceReader {
  public:
-  /// `record` is that of the first byte fetched.
-  PieceReader(const RecordFile& stream, std::int64_t record) : stream_(&stream), next_(record) {}
+  /// `record` is that of the first byte fetched, `most` the number of bytes to fetch at most.
+  PieceReader(const RecordFile& stream, std::int64_t record, std::int64_t most = LongestText)
+      : stream_(&stream), next_(record), left_(most) {}
 
-  /// The next piece; empty at the end of the file, so that no text without its terminator runs on.
+  /// The next piece; empty at the end of the file, and behind the most that may be read, so that no
+  /// text without its terminator runs on.
   [[nodiscard]] std::optional<std::string_view> next();
   /// Record number of the byte that `next` fetches next.
   [[nodiscard]] std::int64_t nextRecord() const noexcept { return next_; }
@@ -87,6 +95,7 @@ class PieceReader {
  private:
   const RecordFile* stream_;
   std::int64_t next_;
+  std::int64_t left_;
 };
 
 class Stores {

@@ -53,6 +53,20 @@ TEST_F(LookUpTest, FindsAShortenedForm) {
   EXPECT_EQ(run.state.word.TuHienTai, "Walk");
 }
 
+TEST_F(LookUpTest, AnEndlessWordIsShortenedFromTheLongestThatAListHolds) {
+  // Letter by letter this takes as many searches as the word has letters.
+  run.lookUp("walk" + std::string(2'000'000, 'q'));
+  EXPECT_EQ(run.state.word.TuHienTai, "walk");
+  EXPECT_EQ(run.shown(), "walk \r - on foot\r");
+}
+
+TEST_F(LookUpTest, AnEntryWithoutItsEndIsCutOff) {
+  run.folder.write("data.avt", std::string(3'000'000, static_cast<char>('x' ^ 0xC0)));
+  run.stores.MoDuLieu();
+  run.lookUp("able");
+  EXPECT_EQ(run.shown().size(), std::string("able ").size() + LongestText);
+}
+
 TEST_F(LookUpTest, DoesNotSearchAOneLetterRemainder) {
   run.lookUp("qq");
   EXPECT_FALSE(run.controls.RHD.Visible());

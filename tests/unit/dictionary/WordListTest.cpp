@@ -50,6 +50,12 @@ TEST_F(WordListTest, ReadsLinesOfEveryKindOfLineEnd) {
   EXPECT_EQ(words.Chu(4), "four");
 }
 
+TEST_F(WordListTest, ALineThatNeverEndsIsCutOff) {
+  load("one\n" + std::string(3'000'000, 'x'));
+  EXPECT_EQ(words.Chu(1), "one");
+  EXPECT_EQ(words.Chu(2), std::string(WordList::LongestWord, 'x'));
+}
+
 TEST_F(WordListTest, CountsNoLineBehindTheLastLineEnd) {
   load("one\r\ntwo\r\n");
   EXPECT_EQ(words.count(), 2);

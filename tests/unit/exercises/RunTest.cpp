@@ -352,5 +352,21 @@ TEST(Items, ADamagedStoreOpensAndLeavesWithoutHarm) {
   EXPECT_EQ(run.focus(), "RN1");
 }
 
+TEST(Items, AnItemWithoutItsEndIsCutOff) {
+  ItemRun run(bank(25));
+  std::string stream = "402Number *" + std::string(3'000'000, 'x');
+  for (char& each : stream)
+    each = static_cast<char>(each ^ 0xC0);
+  run.folder.write("data.bt", stream);
+  run.folder.writeIntegers("data.vbt", std::vector<std::int32_t>(50, 0));
+  run.stores.MoDuLieu();
+  run.startUnit();
+  const auto bound = static_cast<int>(LongestText + run.item.DeMuc.size() + 100);
+  EXPECT_GT(run.controls.RDT.TextLength(), 30'000);
+  EXPECT_LT(run.controls.RDT.TextLength(), bound);
+  run.key(key::Enter);
+  EXPECT_TRUE(run.item.DaCham);
+}
+
 } // namespace
 } // namespace talvora

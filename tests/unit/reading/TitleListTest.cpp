@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace talvora {
 namespace {
 
@@ -36,6 +38,29 @@ class TitleList : public testing::Test {
   ProgramRun run;
   Surface& R1 = run.controls().R1;
 };
+
+TEST(DamagedTitles, WithoutLineEndsAreCutOff) {
+  ProgramRun run;
+  // Every title would reach to the end of the file.
+  run.writeTexts(texts(), true);
+  run.folder.write("datasp.av", std::string(300'000, static_cast<char>('x' ^ 0xC0)));
+  run.start();
+  run.clickButton(7);
+  const std::string list = run.controls().R1.Text();
+  EXPECT_EQ(std::count(list.begin(), list.end(), '\r'), 2025);
+  EXPECT_EQ(list.substr(0, 1003), "\t\t" + std::string(1000, 'x') + "\r");
+}
+
+TEST(DamagedTitles, FarBeyondTheFileAreEmptyAndOpenAnEmptyText) {
+  ProgramRun run;
+  run.folder.writeIntegers("datasp.vt", std::vector<std::int32_t>(4051, 2147483647));
+  run.start();
+  run.clickButton(7);
+  EXPECT_EQ(run.controls().R1.Text().substr(0, 6), "\t\t\r\t\t\r");
+  run.controls().RDOS.Visible(false);
+  run.key(key::Enter);
+  EXPECT_EQ(run.controls().R2.Text(), "\xA0\xA0");
+}
 
 TEST_F(TitleList, HasALineForEveryTextAndHeadingsWithoutAnIndent) {
   run.clickButton(1);
