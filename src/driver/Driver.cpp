@@ -69,6 +69,11 @@ void refuseUnlessReachable(const Control& control) {
   if (!control.Enabled()) throw CommandError(control.Name() + " is disabled");
 }
 
+/// `cover` is what a click meets instead of the control, or null.
+void refuseCovered(const Control& control, const Control* cover) {
+  if (cover != nullptr) throw CommandError(control.Name() + " is covered by " + cover->Name());
+}
+
 std::string endingName(Ending ending) {
   switch (ending) {
   case Ending::FirstRun:
@@ -158,13 +163,18 @@ Json Driver::start(const Command&) {
 }
 
 Json Driver::click(const Command& command) {
-  learner_.click(buttonField(command));
+  Button& button = buttonField(command);
+  refuseCovered(button, learner_.coverOf(button));
+  learner_.click(button);
   return Json::object();
 }
 
 Json Driver::mouse(const Command& command) {
   Surface& surface = surfaceField(command);
-  const SurfacePoint point = learner_.mouse(surface, gestureFields(command, surface));
+  const MouseGesture gesture = gestureFields(command, surface);
+  refuseCovered(surface, learner_.coverOf(surface, gesture.at));
+  if (gesture.to) refuseCovered(surface, learner_.coverOf(surface, *gesture.to));
+  const SurfacePoint point = learner_.mouse(surface, gesture);
   return {{"x", point.x}, {"y", point.y}};
 }
 

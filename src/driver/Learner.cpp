@@ -27,6 +27,10 @@ SurfacePoint relativeTo(const Control& control, SurfacePoint formPoint) {
   return {formPoint.x - control.Left(), formPoint.y - control.Top()};
 }
 
+SurfacePoint middleOf(const Control& control) {
+  return {control.Left() + control.Width() / 2, control.Top() + control.Height() / 2};
+}
+
 /// The bit of the Shift argument that a key is itself.
 int ownBit(int keyCode) {
   switch (keyCode) {
@@ -93,10 +97,28 @@ void Learner::hover(Button& button, int frames) {
 }
 
 void Learner::pointAtMiddle(const Button& button) {
-  placePointer({button.Left() + button.Width() / 2, button.Top() + button.Height() / 2});
+  placePointer(middleOf(button));
   deliver([&] {
     if (button.MouseMove) button.MouseMove();
   });
+}
+
+// -- What lies over what.
+
+const Control* Learner::coverAt(const Control& control, SurfacePoint formPoint) const {
+  const Control* const met = program_.form().controlAt(formPoint);
+  return met == &control ? nullptr : met;
+}
+
+const Control* Learner::coverOf(const Button& button) const {
+  return coverAt(button, middleOf(button));
+}
+
+const Control* Learner::coverOf(const Surface& surface, int caret) const {
+  SurfacePoint point = surface.pointOf(caret);
+  // What is out of view is scrolled into the middle first.
+  if (point.y < 0 || point.y >= surface.Height()) point.y = surface.Height() / 2;
+  return coverAt(surface, {surface.Left() + point.x, surface.Top() + point.y});
 }
 
 // -- The mouse on a surface.

@@ -38,6 +38,11 @@ class Learner {
   void close();
   void wait(int ms);
 
+  /// What a click on a control would meet instead of it, at the character `caret` of a surface or
+  /// in the middle of a button: the control that covers it there; null when nothing does.
+  [[nodiscard]] const Control* coverOf(const Button& button) const;
+  [[nodiscard]] const Control* coverOf(const Surface& surface, int caret) const;
+
   /// The pointer goes to the middle of a menu button, which then is clicked.
   void click(Button& button);
   /// The pointer goes there, and the animation may show so many pictures.
@@ -65,6 +70,7 @@ class Learner {
   void deliverPointerMove();
   void moveOver(Control* control, SurfacePoint formPoint);
   void press(Surface& surface, const MouseGesture& gesture, SurfacePoint point);
+  [[nodiscard]] const Control* coverAt(const Control& control, SurfacePoint formPoint) const;
   void pointAtMiddle(const Button& button);
   SurfacePoint pointAtCharacter(Surface& surface, int caret);
   void pressKey(const ScriptedKey& key, int shift);

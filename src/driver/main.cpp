@@ -45,7 +45,7 @@ void declare(CLI::App& app, Arguments& arguments) {
       ->capture_default_str();
   app.add_option("--voices", arguments.options.voices, "Number of voices of the speech engine")
       ->capture_default_str()
-      ->check(CLI::Range(0, 100));
+      ->check(CLI::NonNegativeNumber);
   app.add_option("--speech-ms-per-char", arguments.options.speechMsPerChar,
                  "Virtual milliseconds that a spoken character takes")
       ->capture_default_str()
