@@ -19,7 +19,7 @@ void ReadAloud::DocCa() {
   speech_.LuiCau = false;
   Progress progress;
   progress.caret = R2_.SelStart();
-  progress.sentence = sentences_.sentenceAt(progress.caret);
+  progress.sentence = sentences_.sentenceAt(SentencePick::askedCaret(R2_));
   progress.pageEnd = pageEndFrom(progress.sentence);
   while (progress.quit == 0) {
     if (silent()) {
@@ -60,7 +60,7 @@ void ReadAloud::readOne(Progress& progress) {
   progress.caret = target;
   if (!again) {
     state_.word.ViTriCaret = target;
-    sentences_.ChonCau(R2_);
+    sentences_.ChonCau(R2_, target);
   }
   clock_.Sleep(20);
   speech_.ChoDoc(s, progress.quit);

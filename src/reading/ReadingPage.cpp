@@ -131,7 +131,7 @@ void ReadingPage::ChonCauSpace() {
   ViTriGiuSpace_ = word.ViTriCaret;
   word.GiuSpace = true;
   word.CoDupChuot = true;
-  sentences_.ChonCau(controls_.R2);
+  sentences_.ChonCau(controls_.R2, SentencePick::askedCaret(controls_.R2));
   lookUp();
 }
 
@@ -183,7 +183,7 @@ void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
 void ReadingPage::takeWordOrSentence() {
   CurrentWord& word = state_.word;
   if (word.CoDupChuot) {
-    sentences_.ChonCau(controls_.R2);
+    sentences_.ChonCau(controls_.R2, word.ViTriCaret);
     word.CoDupChuot = false;
   } else {
     word.ThongBaoHD.clear();

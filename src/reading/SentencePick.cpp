@@ -11,8 +11,15 @@ constexpr CharClass Points("[,.?!]");
 
 } // namespace
 
-void SentencePick::ChonCau(Surface& surface) {
-  const int k = text_.CauTaiViTri(state_.word.ViTriCaret);
+int SentencePick::askedCaret(const Surface& surface) {
+  const int caret = surface.SelStart();
+  // The mark at the text's end opens no sentence.
+  const bool opens = surface.CharAt(caret) == SentenceMark && caret + 1 < surface.TextLength();
+  return opens ? caret + 1 : caret;
+}
+
+void SentencePick::ChonCau(Surface& surface, int caret) {
+  const int k = text_.CauTaiViTri(caret);
   state_.text.CauChon = k;
   int s = text_.markOf(k);
   int n = text_.markOf(k + 1) - s - 1;

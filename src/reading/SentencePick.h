@@ -13,9 +13,12 @@ class SentencePick {
   SentencePick(ReadingText& text, SharedState& state, WordPick& words)
       : text_(text), state_(state), words_(words) {}
 
-  /// Selects the sentence at `ViTriCaret`, takes it into `TuHienTai` and its translation into
+  /// Selects the sentence at a caret, takes it into `TuHienTai` and its translation into
   /// `NghiaHienTai`; its number goes into `CauChon`.
-  void ChonCau(Surface& surface);
+  void ChonCau(Surface& surface, int caret);
+  /// The caret that a sentence is asked for at: one directly ahead of a sentence's mark stands for
+  /// that sentence.
+  [[nodiscard]] static int askedCaret(const Surface& surface);
   /// Number of the sentence at a caret, from 1; its translation goes into `ThongBaoHD`.
   int sentenceAt(int caret) { return text_.CauTaiViTri(caret); }
   /// Position, from 1, of the mark that opens sentence k.

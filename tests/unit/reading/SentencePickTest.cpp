@@ -24,8 +24,7 @@ class SentencePickTest : public testing::Test {
       run.state.text.DichCau.push_back(each);
   }
   std::string sentenceAt(int caret) {
-    run.state.word.ViTriCaret = caret;
-    sentences.ChonCau(R2);
+    sentences.ChonCau(R2, caret);
     return R2.SelText();
   }
   int rightOf(int caret) {
@@ -63,6 +62,19 @@ TEST_F(SentencePickTest, BeginsASentenceAtItsMark) {
   // The mark at caret 19 is the character at position 20.
   EXPECT_EQ(sentenceAt(19), "One here. ");
   EXPECT_EQ(sentenceAt(20), "Two there.");
+}
+
+TEST_F(SentencePickTest, IsAskedForBehindTheMarkThatTheCaretStandsAheadOf) {
+  showText("_Title\r_\tOne here. _Two there.\r_", {"Mot.", "Hai."});
+  const auto asked = [this](int caret) {
+    R2.SelStart(caret);
+    return SentencePick::askedCaret(R2);
+  };
+  EXPECT_EQ(asked(7), 8);
+  EXPECT_EQ(asked(19), 20);
+  EXPECT_EQ(asked(18), 18);
+  EXPECT_EQ(asked(20), 20);
+  EXPECT_EQ(asked(31), 31) << "the last mark opens no sentence";
 }
 
 TEST_F(SentencePickTest, HasNoTranslationForTheTitle) {
