@@ -16,7 +16,7 @@ class WordHelp {
 
   /// Selects the word at the caret of a surface, speaks it and shows its entry.
   void lookUpAtCaret(Surface& surface);
-  /// The same on a page that shows another text than the one that is open.
+  /// The same on a drill's line, on which every caret is one in a word.
   void lookUpShownWord(Surface& surface);
   /// What Ctrl alone does: shows the Vietnamese side of the word at the caret.
   void showOnCtrl(int keyCode, int shift, Surface& surface);

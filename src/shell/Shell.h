@@ -28,7 +28,7 @@ struct Shell {
         messages(form, controls, state.measures, upward, platform.clock, platform.boxes,
                  platform.narrator),
         gestures(controls, state.measures, state.word, hints, upward, platform.clipboard),
-        focusReturn(controls, state.word), wordPick(state.text, state.word) {}
+        focusReturn(controls, state.word), wordPick(state.word) {}
 
   void declare(Variables& variables) const {
     steering.declare(variables);

@@ -16,25 +16,19 @@ constexpr std::string_view RightBounds = " ,;:.?>!\x94";
 constexpr std::string_view LeftBoundsBT = "(/\\< ,;:.?!-\r\t\x93";
 constexpr std::string_view RightBoundsBT = " ,;:.?>/\\)!\x94\r\t";
 
-} // namespace
+// Both step the caret off a mark or a point at its left, by what the surface itself shows there;
+// true when the word also reaches to the left.
 
-char WordPick::questionAt(int position) const noexcept {
-  const std::string& text = text_.CauHoi;
-  return position >= 1 && position <= static_cast<int>(text.size())
-             ? text[static_cast<std::size_t>(position - 1)]
-             : '\0';
-}
-
-bool WordPick::settleCaret(Surface& surface) {
+bool settleCaret(Surface& surface) {
   const int p = surface.SelStart();
-  if (p < 2 || text_.CauHoi.empty()) return true;
-  switch (questionAt(p)) {
+  if (p < 2) return true;
+  switch (surface.CharAt(p - 1)) {
   case '\r':
   case ',':
     surface.SelStart(p + 1);
     return false;
   case Mark:
-    if (questionAt(p + 1) == '\t') surface.SelStart(p + 1);
+    if (surface.CharAt(p) == '\t') surface.SelStart(p + 1);
     return false;
   case '\t':
     return false;
@@ -43,7 +37,7 @@ bool WordPick::settleCaret(Surface& surface) {
   case '?':
   case '!':
   case ':':
-    if (questionAt(p + 1) != '\r') return false;
+    if (surface.CharAt(p) != '\r') return false;
     // Behind the last point of a line the line's last word is meant.
     surface.SelStart(p - 2);
     return true;
@@ -52,19 +46,12 @@ bool WordPick::settleCaret(Surface& surface) {
   }
 }
 
-void WordPick::ChonTu(Surface& surface) {
-  if (settleCaret(surface)) {
-    surface.Span(LeftBounds, SpanDirection::Backward, SpanUntil::InSet);
-  }
-  surface.Span(RightBounds, SpanDirection::Forward, SpanUntil::InSet);
-  LayTuChon(surface);
-}
-
-bool WordPick::settleCaretBT(Surface& surface) {
+bool settleCaretBT(Surface& surface) {
   const int p = surface.SelStart();
-  if (p < 2 || text_.CauHoi.empty()) return true;
-  switch (questionAt(p)) {
+  if (p < 2) return true;
+  switch (surface.CharAt(p - 1)) {
   case '\r':
+    // Two characters, whether a mark and a tab stand there or the word itself; that is meant.
     surface.SelStart(p + 2);
     return false;
   case ',':
@@ -80,6 +67,16 @@ bool WordPick::settleCaretBT(Surface& surface) {
   default:
     return true;
   }
+}
+
+} // namespace
+
+void WordPick::ChonTu(Surface& surface) {
+  if (settleCaret(surface)) {
+    surface.Span(LeftBounds, SpanDirection::Backward, SpanUntil::InSet);
+  }
+  surface.Span(RightBounds, SpanDirection::Forward, SpanUntil::InSet);
+  LayTuChon(surface);
 }
 
 void WordPick::ChonTuBT(Surface& surface) {

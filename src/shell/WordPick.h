@@ -11,15 +11,14 @@ namespace talvora {
 
 class WordPick {
  public:
-  WordPick(const CurrentText& text, CurrentWord& word) : text_(text), word_(word) {}
+  explicit WordPick(CurrentWord& word) : word_(word) {}
 
   /// Selects the word at the caret of a reading surface and takes it into `TuHienTai`.
   void ChonTu(Surface& surface);
-  /// The word pick of all lesson and exercise surfaces. Where the caret stands by a point or a line
-  /// end of `CauHoi`, the word reaches only to the right; that the surface may show another text
-  /// does not matter there.
+  /// The word pick of all lesson and exercise surfaces. Where the caret stands behind a point or a
+  /// line end, the word reaches only to the right.
   void ChonTuBT(Surface& surface);
-  /// The word pick of a page that shows another text than `CauHoi`: by what stands on it alone.
+  /// The word pick of a drill's line, on which every caret is one in a word.
   void takeShownWord(Surface& surface);
   /// Takes the letters of the selection into `TuHienTai`; with no selection that stays.
   void LayTuChon(const Surface& surface);
@@ -30,14 +29,6 @@ class WordPick {
   void LayCumTu(Surface& surface);
 
  private:
-  /// Steps the caret off a mark or a point at its left; true when the word also reaches to the
-  /// left.
-  bool settleCaret(Surface& surface);
-  bool settleCaretBT(Surface& surface);
-  /// The character of `CauHoi` at a position, from 1; 0 outside.
-  [[nodiscard]] char questionAt(int position) const noexcept;
-
-  const CurrentText& text_;
   CurrentWord& word_;
 };
 

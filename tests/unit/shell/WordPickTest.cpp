@@ -46,13 +46,32 @@ TEST_F(WordPickTest, WidensToBothSidesAtTheStartOfTheText) {
   EXPECT_EQ(pick("one two", 1), "one");
 }
 
-TEST_F(WordPickTest, WidensToBothSidesWithoutAText) {
-  showText("one, two");
-  run.state.text.CauHoi.clear();
-  R2.SelStart(4);
-  pickBehindClick();
-  EXPECT_EQ(R2.SelStart(), 4);
-  EXPECT_EQ(R2.SelLength(), 0);
+TEST_F(WordPickTest, GoesByWhatTheSurfaceShowsAndNotByTheTextAtHand) {
+  showText("one, two three");
+  for (const char* other : {"", "_.one,,,,,,,,,,,,", "_.\r\r\r\r\r\r\r\r\r\r\r\r\r\r\r"}) {
+    run.state.text.CauHoi = other;
+    for (const int caret : {11, 12, 13, 14}) {
+      R2.SelStart(caret);
+      pickBehindClick();
+      EXPECT_EQ(R2.SelText(), "three") << other << caret;
+      R2.SelStart(caret);
+      run.shell.wordPick.ChonTuBT(R2);
+      EXPECT_EQ(R2.SelText(), "three") << other << caret;
+    }
+    R2.SelStart(4);
+    run.shell.wordPick.ChonTuBT(R2);
+    EXPECT_EQ(R2.SelText(), "two") << "the blank behind a comma";
+    R2.SelStart(5);
+    run.shell.wordPick.ChonTuBT(R2);
+    EXPECT_EQ(R2.SelText(), "two");
+  }
+}
+
+TEST_F(WordPickTest, OnALessonALineEndIsSteppedOverByTwo) {
+  showText("one.\r\xA0\ttwo three");
+  R2.SelStart(5);
+  run.shell.wordPick.ChonTuBT(R2);
+  EXPECT_EQ(R2.SelText(), "two");
 }
 
 TEST_F(WordPickTest, StepsOverTheMarkBehindALineEnd) {
