@@ -22,7 +22,9 @@ HintBar::HintBar(Form& form, Controls& controls, const Places& places, const Mea
     : form_(form), controls_(controls), places_(places), measures_(measures), steering_(steering) {
   controls_.RDOS.MouseMove = [this](int, SurfacePoint) {
     controls_.RDOS.Visible(false);
-    if (controls_.R2.Visible()) controls_.R2.SetFocus();
+    // The page that is seen, which need not be the text: the look-up list or a drill may cover it.
+    Control* const page = form_.foremostSurface({&controls_.RHD, &controls_.RHDBT});
+    if (page != nullptr) page->SetFocus();
   };
 }
 

@@ -85,17 +85,19 @@ void Form::dropFocus() {
   Control* const before = std::exchange(focus_, nullptr);
   if (before->LostFocus) before->LostFocus();
   if (focus_ != nullptr) return;
-  if (Control* const heir = foremostPage()) {
+  if (Control* const heir = foremostSurface()) {
     giveFocus(*heir);
   } else if (observer_ != nullptr) {
     observer_->focusChanged();
   }
 }
 
-Control* Form::foremostPage() const noexcept {
-  const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [](const Control* control) {
-    return takesKeys(*control) && dynamic_cast<const Surface*>(control) != nullptr;
-  });
+Control* Form::foremostSurface(std::initializer_list<const Control*> butNot) const noexcept {
+  const auto found =
+      std::find_if(controls_.rbegin(), controls_.rend(), [butNot](const Control* control) {
+        return takesKeys(*control) && dynamic_cast<const Surface*>(control) != nullptr &&
+               std::find(butNot.begin(), butNot.end(), control) == butNot.end();
+      });
   return found == controls_.rend() ? nullptr : *found;
 }
 

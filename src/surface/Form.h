@@ -7,6 +7,7 @@
 #include "surface/Control.h"
 #include "surface/Surface.h"
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,10 @@ class Form final : public ControlHost {
   /// The control that has the keyboard, or null. When it is hidden or disabled, the foremost
   /// surface that takes keys inherits the keyboard; null only where no surface is left.
   [[nodiscard]] Control* ActiveControl() const noexcept { return focus_; }
+  /// The foremost surface that can have the keyboard and is none of those given; null where there
+  /// is none.
+  [[nodiscard]] Control*
+  foremostSurface(std::initializer_list<const Control*> butNot = {}) const noexcept;
   void giveFocus(Control& control) override;
   [[nodiscard]] bool hasFocus(const Control& control) const noexcept override {
     return focus_ == &control;
@@ -79,8 +84,6 @@ class Form final : public ControlHost {
 
  private:
   void dropFocus();
-  /// The foremost surface that can have the keyboard, or null.
-  [[nodiscard]] Control* foremostPage() const noexcept;
 
   Screen& screen_;
   TextMetrics& metrics_;

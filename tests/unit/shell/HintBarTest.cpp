@@ -32,6 +32,25 @@ TEST_F(Hints, F2ShowsTheHintOfASurfaceAtDoubleHeightAndAtTheTop) {
   EXPECT_TRUE(run.form.hasFocus(run.controls.R1));
 }
 
+TEST_F(Hints, APointerOverTheBarGivesTheKeyboardToTheForemostPage) {
+  Controls& c = run.controls;
+  run.show(c.R2);
+  const auto pointAtBar = [&] {
+    bar.Visible(true);
+    bar.moveMouse(shift::None, {10, 10});
+  };
+  run.show(c.RHDBT);
+  pointAtBar();
+  EXPECT_TRUE(run.form.hasFocus(c.R2)) << "an explanation is no page";
+  EXPECT_FALSE(bar.Visible());
+  for (Surface* page : {&c.Rxep, &c.RTD}) {
+    run.show(*page);
+    c.RHDBT.SetFocus();
+    pointAtBar();
+    EXPECT_TRUE(run.form.hasFocus(*page)) << page->Name();
+  }
+}
+
 TEST_F(Hints, ASurfaceWithoutAHintLeavesTheBarHidden) {
   run.show(run.controls.RAmthanh);
   run.shell.hints.showOnF2(key::F2, run.controls.RAmthanh);
