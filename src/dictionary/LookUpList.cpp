@@ -53,6 +53,7 @@ void LookUpList::MoDanhSachTu(char character) {
   saveCarets();
   shell_.upward.DongNghia();
   Surface& RTD = controls_.RTD;
+  if (!RTD.Visible()) captionBehind_ = form_.Caption();
   RTD.Left(state_.measures.LeTraiBai);
   RTD.Top(state_.measures.LeTrenBai);
   RTD.Width(state_.measures.RongBai);
@@ -83,7 +84,7 @@ void LookUpList::saveCarets() {
 
 void LookUpList::DongDanhSachTu() {
   controls_.RTD.Visible(false);
-  form_.Caption(state_.measures.TieuDeE);
+  form_.Caption(captionBehind_);
   if (!state_.word.DaChonRTD) shell_.focusReturn.TraLaiBeMat();
 }
 

@@ -29,7 +29,8 @@ class LookUpList {
   void ChonDongRTD();
   /// Picks the line at the caret: the list closes and the word's entry is shown.
   void ChonTuRTD();
-  /// Closes the list; unless a pick is under way the focus goes back.
+  /// Closes the list, and the caption that stood before comes back; unless a pick is under way the
+  /// focus goes back too.
   void DongDanhSachTu();
 
   void declare(Variables& variables) const;
@@ -65,6 +66,7 @@ class LookUpList {
   Shell& shell_;
   WordList& words_;
   LookUp& lookUp_;
+  std::string captionBehind_; ///< the caption to come back to
 };
 
 } // namespace talvora

@@ -29,6 +29,20 @@ class LookUpListTest : public testing::Test {
   Surface& RTD = run.controls.RTD;
 };
 
+TEST_F(LookUpListTest, TheCaptionThatStoodBeforeComesBack) {
+  run.form.Caption("     Cau  10");
+  open('c');
+  EXPECT_EQ(run.form.Caption(), "c" + run.state.measures.TieuDeE);
+  run.type("at");
+  list.DongDanhSachTu();
+  EXPECT_EQ(run.form.Caption(), "     Cau  10");
+  open('c');
+  run.form.Caption("cat");
+  open('a');
+  list.DongDanhSachTu();
+  EXPECT_EQ(run.form.Caption(), "     Cau  10") << "opened again while it is open";
+}
+
 TEST_F(LookUpListTest, LoadsItsTextOnceUnderAMessage) {
   EXPECT_FALSE(list.DaNapRTD);
   open('a');
