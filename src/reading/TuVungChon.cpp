@@ -26,7 +26,8 @@ bool CoSoVaChu(std::string_view text) {
   const auto holds = [text](const CharClass& wanted) {
     return std::any_of(text.begin(), text.end(), [&](char each) { return wanted.has(each); });
   };
-  return holds(digits) && holds(smallLetters);
+  // The tab tells a row's number from a digit of the word itself.
+  return text.find('\t') != std::string_view::npos && holds(digits) && holds(smallLetters);
 }
 
 TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
