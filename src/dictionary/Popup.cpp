@@ -117,7 +117,7 @@ void Popup::VeMucTu(const std::string& text) {
     RHD.SelColor(Red);
   }
   CoHopNghia();
-  shell_.messages.VeKhung();
+  VeKhung();
 }
 
 bool Popup::select(EntrySpan span) {
@@ -142,7 +142,7 @@ void Popup::CoHopNghia() {
 
 void Popup::VeThongBao() {
   writeMessage(state_.word.ThongBaoHD);
-  shell_.messages.VeKhung();
+  VeKhung();
   controls_.RHD.SelColor(Black);
 }
 
@@ -161,6 +161,21 @@ void Popup::writeMessage(const std::string& message) {
   RHD.SelText(message);
   RHD.SelStart(RHD.TextLength() - 1);
   RHD.Height(heightOf(RHD.GetLineFromChar(RHD.SelStart()) + 1));
+}
+
+void Popup::VeKhung() {
+  shell_.messages.VeKhung();
+  const Surface& plate = controls_.Rnen;
+  // What is larger than the form keeps its beginning in sight.
+  const auto overrun = [](int from, int length, int room) {
+    return std::clamp(from + length - room, 0, std::max(from, 0));
+  };
+  const int right = overrun(plate.Left(), plate.Width(), form_.Width());
+  const int below = overrun(plate.Top(), plate.Height(), form_.Height());
+  for (Surface* surface : {&controls_.RHD, &controls_.Rnen}) {
+    surface->Left(surface->Left() - right);
+    surface->Top(surface->Top() - below);
+  }
 }
 
 void Popup::declare(Variables& variables) const {

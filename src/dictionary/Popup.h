@@ -23,10 +23,13 @@ class Popup {
   /// Speaks the word at hand, and shows a text beside the stored pointer: a head word, "~", and its
   /// entry.
   void HienNghia(const std::string& text);
+  /// Fits the red plate behind the popup, and moves both up or left by as much as they would leave
+  /// the form.
+  void VeKhung();
   /// Takes the popup down, ends speech, and gives the focus back.
   void DongNghia();
-  /// Writes a message, wrapped and in the colours of a message, and sizes the popup to it; the red
-  /// plate is left to the caller.
+  /// Writes a message, wrapped and in the colours of a message, and sizes the popup to it; its
+  /// place and the red plate are left to `VeKhung`.
   void writeMessage(const std::string& message);
 
   void declare(Variables& variables) const;

@@ -217,7 +217,7 @@ void TuVungChon::VeCauTuVung(const std::string& text) {
   }
   controls_.RHD.SelStart(0);
   services_.dictionary.popup().XemCauTuVung = false;
-  shell_.messages.VeKhung();
+  services_.dictionary.popup().VeKhung();
 }
 
 void TuVungChon::XoaTuVung() {

@@ -54,6 +54,39 @@ TEST_F(PopupTest, StandsBesideThePointerInAllFourQuarters) {
   EXPECT_EQ(RHD.Width(), m.Phan3);
 }
 
+TEST_F(PopupTest, StaysOnTheFormWithItsPlate) {
+  const Surface& plate = run.controls.Rnen;
+  // At the least height of the lower half an entry of many lines reaches below the form.
+  const SurfacePoint pointer{100, m.CaoBai - 100};
+  showAt(pointer, "long");
+  const double d = m.Phan12 - m.Phan12 / 3.0;
+  const int stated = Round(d) / 2 + pointer.y - m.Phan6;
+  const int aboveIt = RHD.Top() - plate.Top();
+  ASSERT_GT(stated - aboveIt + plate.Height(), run.form.Height());
+  EXPECT_EQ(plate.Top() + plate.Height(), run.form.Height()) << "by just that much";
+  EXPECT_EQ(aboveIt, Round(2.0 * m.CaoMH / 200));
+  EXPECT_EQ(RHD.Left(), Round(m.LeTraiBai + d + pointer.x));
+  EXPECT_EQ(RHD.Left() - plate.Left(), Round(2.0 * m.RongMH / 400));
+}
+
+TEST_F(PopupTest, ALongTranslationStaysOnTheForm) {
+  // The text is parked at the right, so that there is room for all of the message in one line.
+  run.state.word.ViTriChuot = {m.RongBai / 2 - 1, 100};
+  run.state.word.NghiaHienTai = run.state.word.ThongBaoHD = std::string(45, 'w');
+  run.dictionary.TraTu();
+  const Surface& plate = run.controls.Rnen;
+  ASSERT_TRUE(RHD.Visible());
+  EXPECT_EQ(plate.Left() + plate.Width(), run.form.Width());
+  EXPECT_EQ(RHD.Left() - plate.Left(), Round(2.0 * m.RongMH / 400));
+}
+
+TEST_F(PopupTest, WhatIsWiderThanTheFormKeepsItsBeginning) {
+  run.state.word.ViTriChuot = {100, 100};
+  run.state.word.NghiaHienTai = run.state.word.ThongBaoHD = std::string(500, 'w');
+  run.dictionary.TraTu();
+  EXPECT_GE(run.controls.Rnen.Left(), 0);
+}
+
 TEST_F(PopupTest, ShowsEachSenseOnALineAndFitsTheirNumber) {
   showAt({100, 100});
   EXPECT_EQ(RHD.Text(), "cat n. \r - an animal\r - a man \r - a whip \r");
