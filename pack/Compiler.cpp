@@ -63,11 +63,21 @@ WordSources readWordSources(const Options& options, const ReadingSource& reading
   return words;
 }
 
+/// How many sentences the scripts of the recordings have.
+std::map<int, std::size_t> sentenceCounts(const ReadingSource& readings) {
+  std::map<int, std::size_t> counts;
+  for (const Script& script : scriptsOf(readings))
+    counts[script.number] = script.lines.size();
+  return counts;
+}
+
 void readDrills(const Options& options, Content& content, Problems& problems) {
   content.speaking = readSpeaking(options.source / "speaking", problems);
   content.listening = readListening(options.source / "listening", problems);
   checkAgainstScripts(content.listening, content.readings, problems);
   content.analyses = readAnalyses(options.source / "analysis", problems);
+  content.recordings =
+      readOwnRecordings(options.source / "recordings", sentenceCounts(content.readings), problems);
   markStretches(content.analyses, content.readings, problems);
 }
 
@@ -159,7 +169,8 @@ std::vector<PackFile> compile(const Options& options, Problems& problems,
   if (!content.wordNetLicence.empty())
     files.push_back({"LICENCE-wordnet.txt", content.wordNetLicence});
   if (!problems.none()) return {};
-  append(files, compileRecordings(content.readings, options.earlierPack, progress));
+  append(files,
+         compileRecordings(content.readings, content.recordings, options.earlierPack, progress));
   return files;
 }
 

@@ -6,12 +6,14 @@
 #include "pack/FilledList.h"
 #include "pack/LessonSource.h"
 #include "pack/ListeningSource.h"
+#include "pack/OwnRecording.h"
 #include "pack/PackFile.h"
 #include "pack/ReadingSource.h"
 #include "pack/VietnameseSide.h"
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -39,6 +41,7 @@ using Progress = std::function<void(std::string_view step)>;
 struct Content {
   ReadingSource readings; ///< the analysed texts cut into their stretches
   ReadingSource speaking;
+  std::map<int, OwnRecording> recordings; ///< of teachers, by number
   ListeningSource listening;
   AnalysisSource analyses;
   LessonSource lessons;

@@ -123,7 +123,9 @@ std::vector<DueLemma> LemmaBook::missedOf(int slot) const {
   for (const std::string& lemma : text->newLemmas) {
     const auto& meetings = meetings_.at(lemma);
     for (std::size_t window = 0; window < ReturnWindows.size(); ++window) {
-      const int last = slotBehind(slot, ReturnWindows.at(window));
+      const int texts = ReturnWindows.at(window);
+      const int last = slotBehind(slot, texts);
+      if (textsBetween(slot, last) < texts) break; // The course ends first.
       const auto written =
           static_cast<int>(std::distance(texts_.lower_bound(slot), texts_.upper_bound(last)));
       if (written <= textsBetween(slot, last)) break;

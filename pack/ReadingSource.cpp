@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <utility>
 
 namespace talvora::pack {
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::string_view titleOpener = "title: ";
 constexpr std::string_view translationOpener = "= ";
+constexpr std::string_view speakerOpener = "// voice: ";
 constexpr int mostHeadings = 38;
 // The table of sentence marks holds 200; the mark ahead of the title and the closing one take two.
 constexpr std::size_t mostSentences = 198;
@@ -32,6 +34,7 @@ class TextParser {
   TextParser(const std::string& file, Problems& problems) : file_(file), problems_(problems) {}
 
   void read(const SourceLine& line) {
+    if (line.text.starts_with(speakerOpener)) return readSpeaker(line);
     if (line.text.starts_with("//")) return;
     if (line.text.empty()) {
       expectNoSentenceWaits(line.number);
@@ -75,11 +78,21 @@ class TextParser {
     text_.title = stretch(line.text.substr(titleOpener.size()), where, "_`@|*");
   }
 
+  // The voices are known by name only here, so that a text can be read where none is installed.
+  void readSpeaker(const SourceLine& line) {
+    speaker_ = line.text.substr(speakerOpener.size());
+    if (speaker_ != "rms" && speaker_ != "slt") {
+      problems_.add({file_, line.number, static_cast<int>(speakerOpener.size()) + 1},
+                    "a voice is \"rms\", a man's, or \"slt\", a woman's");
+    }
+  }
+
   void readSentence(const SourceLine& line) {
     expectNoSentenceWaits(line.number);
     if (newParagraph_ || text_.paragraphs.empty()) text_.paragraphs.emplace_back();
     newParagraph_ = false;
-    text_.paragraphs.back().push_back({stretch(line.text, {file_, line.number, 1}), ""});
+    text_.paragraphs.back().push_back(
+        {stretch(line.text, {file_, line.number, 1}), "", std::exchange(speaker_, {})});
     waits_ = true;
   }
 
@@ -107,6 +120,7 @@ class TextParser {
   const std::string& file_;
   Problems& problems_;
   ReadingText text_;
+  std::string speaker_; ///< of the next sentence
   bool titleRead_ = false;
   bool newParagraph_ = true;
   bool waits_ = false;
@@ -186,6 +200,7 @@ std::string writeReadingText(const ReadingText& text) {
   for (const Paragraph& paragraph : text.paragraphs) {
     source += "\n";
     for (const SentencePair& pair : paragraph) {
+      if (!pair.speaker.empty()) source += std::string(speakerOpener) + pair.speaker + "\n";
       source += utf8Of(pair.english) + "\n";
       source += std::string(translationOpener) + utf8Of(pair.vietnamese) + "\n";
     }

@@ -19,6 +19,7 @@ inline constexpr int ReadingSlots = 408;
 struct SentencePair {
   std::string english;
   std::string vietnamese;
+  std::string speaker = {}; ///< who says it in a recording; empty when it is anybody's turn
 };
 
 using Paragraph = std::vector<SentencePair>;

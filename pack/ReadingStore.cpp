@@ -37,11 +37,17 @@ std::string layOutTranslation(const ReadingText& text) {
   return plain + textEnd;
 }
 
+ReadingText openText() {
+  return {openSlotTitle(),
+          {{{"This text is coming soon.",
+             ownText("Bài này đang được soạn, mời bạn chọn một bài khác nhé.")}}}};
+}
+
 ReadingText textOfSlot(const ReadingSource& source, int slot) {
   const auto text = source.texts.find(slot);
   if (text != source.texts.end()) return text->second;
   const auto heading = source.headings.find(slot);
-  return {heading != source.headings.end() ? "*" + heading->second : openSlotTitle(), {}};
+  return heading != source.headings.end() ? ReadingText{"*" + heading->second, {}} : openText();
 }
 
 /// Each text's record holds the place just ahead of its first byte: records count from 1, so that
@@ -101,11 +107,6 @@ TextStore compileReadings(const ReadingSource& source, int slots) {
   return compileSlots(texts);
 }
 
-TextStore openTextStore(int slots) {
-  return compileSlots(
-      std::vector<ReadingText>(static_cast<std::size_t>(slots), {openSlotTitle(), {}}));
-}
-
 ReadingSource decodeReadings(std::string_view positions, std::string_view stream,
                              Problems& problems, int slots) {
   const auto shift = static_cast<std::size_t>(slots);
@@ -120,7 +121,7 @@ ReadingSource decodeReadings(std::string_view positions, std::string_view stream
                    "text " + std::to_string(slot) + " cannot be read");
     } else if (text->title.starts_with('*')) {
       source.headings.emplace(slot, text->title.substr(1));
-    } else if (!text->paragraphs.empty() || text->title != openSlotTitle()) {
+    } else if (text->title != openSlotTitle()) {
       source.texts.emplace(slot, std::move(*text));
     }
   }

@@ -20,9 +20,6 @@ struct TextStore {
 /// Every slot filled: texts, headings, and slots still open.
 [[nodiscard]] TextStore compileReadings(const ReadingSource& source, int slots = ReadingSlots);
 
-/// A store whose slots are all still open, as many as given.
-[[nodiscard]] TextStore openTextStore(int slots);
-
 /// The texts and headings of a store; open slots are left out.
 /// Problems name the record at which a damaged store cannot be read.
 [[nodiscard]] ReadingSource decodeReadings(std::string_view positions, std::string_view stream,

@@ -2,13 +2,12 @@
 #include "pack/Recordings.h"
 
 #include "pack/SourceFile.h"
+#include "pack/SpeechLevel.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
 #include <array>
 #include <future>
-#include <iterator>
-#include <map>
 #include <mutex>
 #include <sstream>
 #include <utility>
@@ -19,11 +18,15 @@ namespace {
 
 constexpr int samplesPerMs = Voice::SamplesPerSecond / 1000;
 constexpr int pauseMs = 300;
-/// Slower than by nature, for learners.
-constexpr float stretch = 1.15F;
 /// Opens a block of DataS; no mark is so small.
 constexpr std::size_t blockStart = 1;
-constexpr std::array speakers = {Speaker::Rms, Speaker::Awb};
+constexpr std::array speakers = {Speaker::Rms, Speaker::Slt};
+/// Beginners need time between sounds, so that the first units are slow.
+constexpr std::array<double, RecordingCount> rates = {3.0, 3.2, 3.3, 3.4, 3.5, 3.8, 4.2, 4.4, 4.8};
+/// So many sentences of a script tell how fast a voice speaks it by nature.
+constexpr std::size_t samplesOfRate = 10;
+constexpr float slowest = 2.0F;
+constexpr float fastest = 0.6F;
 
 std::string waveName(int number) {
   return "sound/" + std::to_string(number) + ".wav";
@@ -31,11 +34,6 @@ std::string waveName(int number) {
 
 std::string stampName(int number) {
   return "sound/" + std::to_string(number) + ".stamp";
-}
-
-/// Recordings take turns. Each speaker has a thread of its own, since a voice serves one at a time.
-std::size_t speakerOf(const Script& script) {
-  return static_cast<std::size_t>(script.number - 1) % speakers.size();
 }
 
 /// A number that changes with any byte of a text, the same on every machine (FNV-1a).
@@ -46,42 +44,89 @@ std::uint64_t fingerprint(std::string_view text) {
   return hash;
 }
 
+std::string hexadecimal(std::uint64_t number) {
+  std::ostringstream text;
+  text << std::hex << number;
+  return text.str();
+}
+
 /// Tells recordings apart by everything that they are made from.
 std::string keyOf(const Script& script) {
   std::ostringstream all;
-  all << synthesiserName() << ' ' << speakerOf(script) << ' ' << stretch << ' ' << pauseMs << ' '
-      << Voice::SamplesPerSecond;
-  for (const std::string& sentence : script.sentences)
-    all << '\n' << sentence;
-  std::ostringstream key;
-  key << std::hex << fingerprint(all.str());
-  return key.str();
+  all << synthesiserName() << ' ' << syllablesASecond(script.number) << ' ' << pauseMs << ' '
+      << RecordedLevel << ' ' << Voice::SamplesPerSecond;
+  for (const ScriptLine& line : script.lines)
+    all << '\n' << static_cast<int>(line.speaker) << line.sentence;
+  return hexadecimal(fingerprint(all.str()));
+}
+
+std::string keyOf(const OwnRecording& own) {
+  return "own-" + hexadecimal(fingerprint(own.wave));
 }
 
 /// The key on the first line, the marks on the second.
-std::string stampOf(const Script& script, const Marks& marks) {
-  std::string stamp = keyOf(script) + "\n";
+std::string stampOf(const std::string& key, const Marks& marks) {
+  std::string stamp = key + "\n";
   for (const std::int32_t mark : marks)
     stamp += std::to_string(mark) + " ";
   return stamp + "\n";
 }
 
 /// The marks of a recording that can stay as it is.
-std::optional<Marks> keptMarks(const std::filesystem::path& pack, const Script& script) {
-  const auto stamp = readWhole(pack / stampName(script.number));
-  if (!stamp || !std::filesystem::is_regular_file(pack / waveName(script.number)))
-    return std::nullopt;
+std::optional<Marks> keptMarks(const std::filesystem::path& pack, int number,
+                               const std::string& key, std::size_t sentences) {
+  const auto stamp = readWhole(pack / stampName(number));
+  if (!stamp || !std::filesystem::is_regular_file(pack / waveName(number))) return std::nullopt;
   std::istringstream fields(*stamp);
-  std::string key;
-  fields >> key;
+  std::string keptKey;
+  fields >> keptKey;
   Marks marks;
   for (std::int32_t mark = 0; fields >> mark;)
     marks.push_back(mark);
-  const bool valid = key == keyOf(script) && marks.size() == script.sentences.size();
+  const bool valid = keptKey == key && marks.size() == sentences;
   return valid ? std::optional(std::move(marks)) : std::nullopt;
 }
 
 using MarksByNumber = std::map<int, Marks>;
+
+/// Sentences of a script as far as they are spoken, by their places.
+using SpokenLines = std::map<std::size_t, Samples>;
+
+std::vector<std::size_t> placesOf(const Script& script, Speaker speaker) {
+  std::vector<std::size_t> places;
+  for (std::size_t place = 0; place < script.lines.size(); ++place) {
+    if (script.lines[place].speaker == speaker) places.push_back(place);
+  }
+  return places;
+}
+
+/// How many times its natural length a voice needs for a script, so that it has the wanted rate.
+float stretchFor(const Script& script, const std::vector<std::size_t>& places, const Voice& voice) {
+  double syllables = 0;
+  double seconds = 0;
+  for (std::size_t at = 0; at < std::min(places.size(), samplesOfRate); ++at) {
+    const SpokenSentence natural = voice.speak(script.lines[places[at]].sentence, 1.0F);
+    syllables += natural.syllables;
+    seconds += static_cast<double>(natural.samples.size()) / Voice::SamplesPerSecond;
+  }
+  if (syllables <= 0 || seconds <= 0) return 1.0F;
+  const double wanted = syllables / syllablesASecond(script.number);
+  return std::clamp(static_cast<float>(wanted / seconds), fastest, slowest);
+}
+
+/// Speaks what one speaker has to say in a script.
+SpokenLines speakLines(const Script& script, Speaker speaker, const Voice& voice) {
+  const auto places = placesOf(script, speaker);
+  const float stretch = stretchFor(script, places, voice);
+  SpokenLines spoken;
+  for (const std::size_t place : places) {
+    Samples samples = voice.speak(script.lines[place].sentence, stretch).samples;
+    highPass(samples, Voice::SamplesPerSecond);
+    bringToLevel(samples, Voice::SamplesPerSecond, RecordedLevel);
+    spoken[place] = std::move(samples);
+  }
+  return spoken;
+}
 
 /// A recording with the script that it speaks.
 struct Spoken {
@@ -89,48 +134,47 @@ struct Spoken {
   Recording recording;
 };
 
-/// Speaks several scripts one after the other.
-std::vector<Spoken> recordAll(const std::vector<Script>& scripts, const Voice& voice,
-                              const Progress& progress) {
-  std::vector<Spoken> all;
-  for (const Script& script : scripts) {
-    progress(waveName(script.number) + ", " + std::to_string(script.sentences.size()) +
-             " sentences");
-    all.push_back({script, record(script, voice)});
-  }
-  return all;
-}
-
-/// Speaks scripts, a thread for each speaker.
+/// Speaks scripts, a thread for each speaker: a voice serves one at a time.
 std::vector<Spoken> recordTogether(const std::vector<Script>& scripts, const Progress& progress) {
   std::mutex telling;
-  const Progress tell = [&](std::string_view step) {
-    const std::lock_guard lock(telling);
-    progress(step);
-  };
-  std::array<std::vector<Script>, speakers.size()> turns;
-  for (const Script& script : scripts)
-    turns.at(speakerOf(script)).push_back(script);
-  std::vector<std::future<std::vector<Spoken>>> work;
-  for (std::size_t place = 0; place < speakers.size(); ++place) {
-    if (turns.at(place).empty()) continue;
-    const Voice voice(speakers.at(place), stretch);
-    work.push_back(std::async(std::launch::async, [&turns, &tell, voice, place] {
-      return recordAll(turns.at(place), voice, tell);
+  std::vector<std::future<std::vector<SpokenLines>>> work;
+  for (const Speaker speaker : speakers) {
+    if (scripts.empty()) break;
+    const Voice voice(speaker);
+    work.push_back(std::async(std::launch::async, [&scripts, &telling, &progress, voice, speaker] {
+      std::vector<SpokenLines> parts;
+      for (const Script& script : scripts) {
+        {
+          const std::lock_guard lock(telling);
+          progress(waveName(script.number) + ", " +
+                   std::to_string(placesOf(script, speaker).size()) + " sentences by " +
+                   std::string(SpeakerNames.at(static_cast<std::size_t>(speaker))));
+        }
+        parts.push_back(speakLines(script, speaker, voice));
+      }
+      return parts;
     }));
   }
-  std::vector<Spoken> all;
+  std::vector<std::vector<SpokenLines>> bySpeaker;
   for (auto& each : work)
-    std::ranges::move(each.get(), std::back_inserter(all));
+    bySpeaker.push_back(each.get());
+  std::vector<Spoken> all;
+  for (std::size_t at = 0; at < scripts.size(); ++at) {
+    std::vector<Samples> sentences(scripts[at].lines.size());
+    for (auto& parts : bySpeaker) {
+      for (auto& [place, samples] : parts[at])
+        sentences.at(place) = std::move(samples);
+    }
+    all.push_back({scripts[at], joined(sentences)});
+  }
   return all;
 }
 
 // The stamp comes behind its wave file: broken off between, a build makes the wave again.
-void appendFiles(std::vector<PackFile>& files, const Spoken& spoken) {
-  const int number = spoken.script.number;
-  files.push_back(
-      {waveName(number), waveFileOf(spoken.recording.samples, Voice::SamplesPerSecond)});
-  files.push_back({stampName(number), stampOf(spoken.script, spoken.recording.marks)});
+void appendFiles(std::vector<PackFile>& files, int number, std::string wave, const std::string& key,
+                 const Marks& marks) {
+  files.push_back({waveName(number), std::move(wave)});
+  files.push_back({stampName(number), stampOf(key, marks)});
 }
 
 std::string tableOf(const MarksByNumber& marks) {
@@ -147,6 +191,10 @@ std::string tableOf(const MarksByNumber& marks) {
 
 } // namespace
 
+double syllablesASecond(int number) {
+  return rates.at(static_cast<std::size_t>(number - 1));
+}
+
 std::vector<Script> scriptsOf(const ReadingSource& readings) {
   std::vector<Script> scripts;
   for (int number = 1; number <= RecordingCount; ++number) {
@@ -154,20 +202,21 @@ std::vector<Script> scriptsOf(const ReadingSource& readings) {
     if (text == readings.texts.end()) continue;
     Script& script = scripts.emplace_back(Script{number, {}});
     for (const Paragraph& paragraph : text->second.paragraphs) {
-      for (const SentencePair& pair : paragraph)
-        script.sentences.push_back(pair.english);
+      for (const SentencePair& pair : paragraph) {
+        const Speaker turn = speakers.at(script.lines.size() % speakers.size());
+        script.lines.push_back({pair.english, speakerNamed(pair.speaker).value_or(turn)});
+      }
     }
   }
   return scripts;
 }
 
-Recording record(const Script& script, const Voice& voice) {
+Recording joined(const std::vector<Samples>& sentences) {
   Recording recording;
   Samples& samples = recording.samples;
-  for (std::size_t place = 0; place < script.sentences.size(); ++place) {
-    const Samples sentence = voice.speak(script.sentences[place]);
-    samples.insert(samples.end(), sentence.begin(), sentence.end());
-    const bool last = place + 1 == script.sentences.size();
+  for (std::size_t place = 0; place < sentences.size(); ++place) {
+    samples.insert(samples.end(), sentences[place].begin(), sentences[place].end());
+    const bool last = place + 1 == sentences.size();
     const std::size_t end = samples.size() + (last ? 0 : pauseMs * samplesPerMs);
     // Up to a whole millisecond, so that the mark is exact.
     samples.resize((end + samplesPerMs - 1) / samplesPerMs * samplesPerMs);
@@ -177,6 +226,7 @@ Recording record(const Script& script, const Voice& voice) {
 }
 
 std::vector<PackFile> compileRecordings(const ReadingSource& readings,
+                                        const std::map<int, OwnRecording>& own,
                                         const std::optional<std::filesystem::path>& earlierPack,
                                         const Progress& progress) {
   std::vector<PackFile> files;
@@ -184,15 +234,23 @@ std::vector<PackFile> compileRecordings(const ReadingSource& readings,
   if (earlierPack) {
     std::vector<Script> changed;
     for (Script& script : scriptsOf(readings)) {
-      if (auto kept = keptMarks(*earlierPack, script)) {
+      const auto brought = own.find(script.number);
+      const std::string key = brought != own.end() ? keyOf(brought->second) : keyOf(script);
+      auto kept = keptMarks(*earlierPack, script.number, key, script.lines.size());
+      if (brought != own.end()) {
+        const Marks& given = brought->second.marks;
+        if (kept != given) appendFiles(files, script.number, brought->second.wave, key, given);
+        marks[script.number] = given;
+      } else if (kept) {
         marks[script.number] = std::move(*kept);
       } else {
         changed.push_back(std::move(script));
       }
     }
-    for (const Spoken& spoken : recordTogether(changed, progress)) {
-      appendFiles(files, spoken);
-      marks[spoken.script.number] = spoken.recording.marks;
+    for (const auto& [script, recording] : recordTogether(changed, progress)) {
+      appendFiles(files, script.number, waveFileOf(recording.samples, Voice::SamplesPerSecond),
+                  keyOf(script), recording.marks);
+      marks[script.number] = recording.marks;
     }
   }
   files.push_back({"DataS", tableOf(marks)});

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "pack/Compiler.h"
+#include "pack/OwnRecording.h"
 #include "pack/PackFile.h"
 #include "pack/ReadingSource.h"
 #include "pack/Voice.h"
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,32 +21,40 @@ namespace talvora::pack {
 inline constexpr int RecordingCount = 9;
 inline constexpr int FirstRecordedText = 400;
 
-/// What is heard of a text: its sentences without the title, in the text font's bytes.
+/// A sentence in the text font's bytes, and who says it.
+struct ScriptLine {
+  std::string sentence;
+  Speaker speaker = Speaker::Rms;
+};
+
+/// What is heard of a text: its sentences without the title. Where the text names no speaker the
+/// two take turns, sentence by sentence.
 struct Script {
   int number = 0; ///< of the recording
-  std::vector<std::string> sentences;
+  std::vector<ScriptLine> lines;
 };
+
+/// How many syllables a second a recording has, from 1: slow for a beginner, and at the end as
+/// people speak.
+[[nodiscard]] double syllablesASecond(int number);
 
 /// The scripts that are written.
 [[nodiscard]] std::vector<Script> scriptsOf(const ReadingSource& readings);
-
-/// Milliseconds from the recording's start, rising: mark k ends sentence k with the pause behind
-/// it.
-using Marks = std::vector<std::int32_t>;
 
 struct Recording {
   Samples samples;
   Marks marks;
 };
 
-/// Speaks a script: sentence by sentence, with a pause of 300 ms between.
-[[nodiscard]] Recording record(const Script& script, const Voice& voice);
+/// Joins the sentences of a script, with a pause of 300 ms between.
+[[nodiscard]] Recording joined(const std::vector<Samples>& sentences);
 
 /// The wave files of the scripts, each with a stamp that tells what it was made from, and DataS. A
-/// recording that stands in `earlierPack` with the right stamp is kept and is not among the files;
-/// without such a folder none is made, and all blocks of DataS are empty.
+/// recording of a teacher's own takes the place of the synthesised one. A recording that stands in
+/// `earlierPack` with the right stamp is kept and is not among the files; without such a folder
+/// none is made, and all blocks of DataS are empty.
 [[nodiscard]] std::vector<PackFile>
-compileRecordings(const ReadingSource& readings,
+compileRecordings(const ReadingSource& readings, const std::map<int, OwnRecording>& own,
                   const std::optional<std::filesystem::path>& earlierPack,
                   const Progress& progress);
 

@@ -108,6 +108,9 @@ std::string sourceText(std::string_view utf8, Where where, std::string_view forb
     const auto byte = streamByte(*letter);
     if (!byte) {
       problems.add(where, "the text font has no byte for " + named(*letter));
+    } else if (x1Letter(*byte) != *letter) {
+      problems.add(where,
+                   "the text font has no capital " + quoted(*letter) + " and shows it small");
     } else if (forbidden.find(*byte) != std::string_view::npos) {
       problems.add(where, quoted(*letter) + " is a mark and cannot stand in this text");
     } else {

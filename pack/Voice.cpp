@@ -6,13 +6,14 @@
 #include <flite/flite.h>
 #include <flite/flite_version.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
 // The voice libraries come without headers.
 extern "C" {
 cst_voice* register_cmu_us_rms(const char* directory);
-cst_voice* register_cmu_us_awb(const char* directory);
+cst_voice* register_cmu_us_slt(const char* directory);
 }
 
 namespace talvora::pack {
@@ -23,22 +24,36 @@ struct DeleteUtterance {
   void operator()(cst_utterance* utterance) const { delete_utterance(utterance); }
 };
 
-} // namespace
-
-Voice::Voice(Speaker speaker, float stretch) {
-  flite_init();
-  voice_ = speaker == Speaker::Rms ? register_cmu_us_rms(nullptr) : register_cmu_us_awb(nullptr);
-  if (voice_ == nullptr) throw std::runtime_error("flite gives no voice for the recordings");
-  flite_feat_set_float(voice_->features, "duration_stretch", stretch);
+int syllablesOf(cst_utterance& utterance) {
+  int count = 0;
+  for (const cst_item* syllable = relation_head(utt_relation(&utterance, "Syllable"));
+       syllable != nullptr; syllable = item_next(syllable))
+    ++count;
+  return count;
 }
 
-Samples Voice::speak(std::string_view sentence) const {
+} // namespace
+
+std::optional<Speaker> speakerNamed(std::string_view name) {
+  const auto found = std::find(SpeakerNames.begin(), SpeakerNames.end(), name);
+  if (found == SpeakerNames.end()) return std::nullopt;
+  return static_cast<Speaker>(found - SpeakerNames.begin());
+}
+
+Voice::Voice(Speaker speaker) {
+  flite_init();
+  voice_ = speaker == Speaker::Rms ? register_cmu_us_rms(nullptr) : register_cmu_us_slt(nullptr);
+  if (voice_ == nullptr) throw std::runtime_error("flite gives no voice for the recordings");
+}
+
+SpokenSentence Voice::speak(std::string_view sentence, float stretch) const {
+  flite_feat_set_float(voice_->features, "duration_stretch", stretch);
   const std::unique_ptr<cst_utterance, DeleteUtterance> spoken(
       flite_synth_text(plainAscii(sentence).c_str(), voice_));
   const cst_wave* wave = spoken ? utt_wave(spoken.get()) : nullptr;
   if (wave == nullptr || wave->sample_rate != SamplesPerSecond || wave->num_channels != 1)
     throw std::runtime_error("flite cannot speak: " + std::string(sentence));
-  return {wave->samples, wave->samples + wave->num_samples};
+  return {{wave->samples, wave->samples + wave->num_samples}, syllablesOf(*spoken)};
 }
 
 std::string synthesiserName() {

@@ -3,6 +3,8 @@
 
 #include "pack/WaveFile.h"
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,21 +12,31 @@ struct cst_voice_struct;
 
 namespace talvora::pack {
 
-/// Two men; what is spoken live has a woman's voice.
-enum class Speaker { Rms, Awb };
+/// A man, and the woman who speaks live as well.
+enum class Speaker { Rms, Slt };
+
+/// The names that scripts call the speakers by.
+inline constexpr std::array<std::string_view, 2> SpeakerNames = {"rms", "slt"};
+[[nodiscard]] std::optional<Speaker> speakerNamed(std::string_view name);
+
+/// A sentence as it was spoken.
+struct SpokenSentence {
+  Samples samples;
+  int syllables = 0;
+};
 
 class Voice {
  public:
   static constexpr int SamplesPerSecond = 16000;
 
-  /// `stretch` is how many times as long as by nature the voice takes. The library keeps one voice
-  /// of each speaker for the process: make it on one thread, and let one thread at a time use it.
-  /// Throws std::runtime_error when the library gives none.
-  Voice(Speaker speaker, float stretch);
+  /// The library keeps one voice of each speaker for the process: make it on one thread, and let
+  /// one thread at a time use it. Throws std::runtime_error when the library gives none.
+  explicit Voice(Speaker speaker);
 
-  /// A sentence in the text font's bytes, spoken. Its length depends on the text alone; the breath
-  /// in the voice is random, so that its samples differ a little every time.
-  [[nodiscard]] Samples speak(std::string_view sentence) const;
+  /// A sentence in the text font's bytes, spoken in so many times its natural length. Its length
+  /// depends on the text and the stretch alone; the breath in the voice is random, so that its
+  /// samples differ a little every time.
+  [[nodiscard]] SpokenSentence speak(std::string_view sentence, float stretch) const;
 
  private:
   cst_voice_struct* voice_; // The library's own.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace talvora::pack {
 
@@ -13,6 +14,9 @@ namespace {
 /// A file in memory as libsndfile asks for one.
 class MemoryFile {
  public:
+  MemoryFile() = default;
+  explicit MemoryFile(std::string bytes) : bytes_(std::move(bytes)) {}
+
   static SF_VIRTUAL_IO operations() {
     SF_VIRTUAL_IO calls{};
     calls.get_filelen = [](void* file) { return self(file).length(); };
@@ -71,6 +75,15 @@ std::string waveFileOf(const Samples& samples, int samplesPerSecond) {
       throw std::runtime_error(std::string("no wave file can be made: ") + wave.strError());
   }
   return memory.takeBytes();
+}
+
+std::optional<std::int64_t> waveLengthMs(std::string bytes) {
+  MemoryFile memory(std::move(bytes));
+  SF_VIRTUAL_IO operations = MemoryFile::operations();
+  const SndfileHandle wave(operations, &memory, SFM_READ);
+  const bool isWave = (wave.format() & SF_FORMAT_TYPEMASK) == SF_FORMAT_WAV;
+  if (wave.error() != SF_ERR_NO_ERROR || !isWave || wave.samplerate() <= 0) return std::nullopt;
+  return static_cast<std::int64_t>(wave.frames()) * 1000 / wave.samplerate();
 }
 
 } // namespace talvora::pack

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,5 +13,8 @@ using Samples = std::vector<std::int16_t>;
 
 /// The bytes of a wave file. Throws std::runtime_error when it cannot be made.
 [[nodiscard]] std::string waveFileOf(const Samples& samples, int samplesPerSecond);
+
+/// How long a wave file is; empty when its bytes are none.
+[[nodiscard]] std::optional<std::int64_t> waveLengthMs(std::string bytes);
 
 } // namespace talvora::pack

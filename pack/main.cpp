@@ -1,6 +1,7 @@
 // The command line of the content compiler.
 #include "pack/Check.h"
 #include "pack/Compiler.h"
+#include "pack/CourseChecks.h"
 #include "pack/Dump.h"
 #include "pack/Planner.h"
 #include "pack/Recordings.h"
@@ -55,6 +56,11 @@ int build(Options options, const std::filesystem::path& out) {
 int check(const Options& options, const std::vector<ContentKind>& only) {
   Problems problems;
   const std::string counted = checkContent(options, {only.begin(), only.end()}, problems, showStep);
+  if (problems.none() && only.empty()) {
+    showStep("rules of texts and drills");
+    for (const std::string& note : checkCourse(options.source, problems))
+      std::cerr << "note: " << note << "\n";
+  }
   if (problems.none()) std::cout << counted << ": no errors\n";
   return tell(problems);
 }

@@ -20,14 +20,15 @@ namespace {
 struct VoiceSource {
   const char* library;
   const char* entry; ///< the function that makes it
+  float gain;        ///< brings it to the level of the recordings
 };
 
 /// The voices that the numbers go through in turn. The last number has the last and clearest one,
 /// since that is the one in use.
 constexpr std::array<VoiceSource, 3> voices = {{
-    {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb"},
-    {"libflite_cmu_us_rms.so.1", "register_cmu_us_rms"},
-    {"libflite_cmu_us_slt.so.1", "register_cmu_us_slt"},
+    {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb", 0.92F},
+    {"libflite_cmu_us_rms.so.1", "register_cmu_us_rms", 1.0F},
+    {"libflite_cmu_us_slt.so.1", "register_cmu_us_slt", 0.54F},
 }};
 constexpr const char* StreamFeature = "streaming_info";
 constexpr const char* StretchFeature = "duration_stretch";

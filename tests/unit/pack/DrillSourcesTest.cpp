@@ -173,7 +173,7 @@ TEST(SpeakingSource, TextsAndHeadingsGoThroughTheStoreAndBack) {
   const test::TestFolder folder;
   const std::string text = "title: Hello\n\nGood morning.\n= Chào.\n";
   folder.write("2025-hello.txt", text);
-  folder.write("headings.txt", "2024\tCHÀO HỎI\n");
+  folder.write("headings.txt", "2024\tChào hỏi\n");
   Problems problems;
   const ReadingSource source = readSpeaking(folder.path(), problems);
   EXPECT_THAT(told(problems), ElementsAre());

@@ -41,8 +41,9 @@ TEST(Reading, FillsEverySlot) {
   EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 1), '@'), "*GROUP\r");
   for (std::size_t slot = 2; slot <= 408; ++slot) {
     EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, slot), '@'),
-              openSlotTitle() + "\r");
-    EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 408 + slot), '@'), "");
+              openSlotTitle() + "\r_\tThis text is coming soon.\r");
+    EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 408 + slot), '@'),
+              ownText("_Bài này đang được soạn, mời bạn chọn một bài khác nhé."));
   }
   EXPECT_EQ(integerAt(store.positions, 817), static_cast<int>(store.stream.size()));
 }

@@ -39,7 +39,7 @@ class Pack {
     steps.clear();
     std::filesystem::create_directories(path() / "sound");
     for (const PackFile& file : compileRecordings(
-             readings, path(), [this](std::string_view step) { steps.emplace_back(step); })) {
+             readings, own, path(), [this](std::string_view step) { steps.emplace_back(step); })) {
       EXPECT_FALSE(store(file, path()));
       names.push_back(file.name);
     }
@@ -67,6 +67,7 @@ class Pack {
   }
 
   std::vector<std::string> steps;
+  std::map<int, OwnRecording> own;
 
  private:
   test::TestFolder folder_;
@@ -130,7 +131,7 @@ TEST(Recordings, ASecondBuildKeepsThemAndTheirMarks) {
   EXPECT_EQ(pack.build(twoScripts()),
             (std::vector<std::string>{"DataS", "sound/1.stamp", "sound/1.wav", "sound/4.stamp",
                                       "sound/4.wav"}));
-  EXPECT_EQ(pack.steps.size(), 2U);
+  EXPECT_EQ(pack.steps.size(), 4U) << "a step for each speaker of a script";
   const auto marks = pack.blocks();
   EXPECT_EQ(pack.build(twoScripts()), std::vector<std::string>{"DataS"});
   EXPECT_TRUE(pack.steps.empty());
@@ -157,7 +158,7 @@ TEST(Recordings, WithoutItsWaveOrAWholeStampARecordingIsMadeAgain) {
 }
 
 TEST(Recordings, WithoutAPackNoneIsMade) {
-  const auto files = compileRecordings(twoScripts(), std::nullopt, [](std::string_view) {});
+  const auto files = compileRecordings(twoScripts(), {}, std::nullopt, [](std::string_view) {});
   ASSERT_EQ(files.size(), 1U);
   EXPECT_EQ(files[0].name, "DataS");
   EXPECT_EQ(files[0].bytes.size(), 9U * 4);

@@ -1,0 +1,45 @@
+// The checks, one after the other.
+#include "pack/CourseChecks.h"
+
+#include "pack/DrillChecks.h"
+#include "pack/PlanChecks.h"
+#include "pack/Recordings.h"
+#include "pack/SpeakingSource.h"
+#include "pack/TextChecks.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace talvora::pack {
+
+namespace {
+
+std::unordered_set<std::string> headsOf(const std::vector<OwnEntry>& own) {
+  std::unordered_set<std::string> heads;
+  for (const OwnEntry& entry : own)
+    heads.insert(lower(entry.head));
+  return heads;
+}
+
+} // namespace
+
+std::vector<std::string> checkCourse(const std::filesystem::path& source, Problems& problems) {
+  const auto heads = headsOf(readDictionary(source / "dictionary", problems));
+  checkTexts(source / "reading", TextUse::Reading, heads, problems);
+  checkTexts(source / "speaking", TextUse::Speaking, heads, problems);
+  checkCutting(readAnalyses(source / "analysis", problems), source / "analysis", problems);
+  const auto folder = source / "listening";
+  auto notes = checkOptions(readListening(folder, problems), folder, problems);
+  const Planner planner = readPlanner(source, problems);
+  std::ranges::move(checkBudgets(planner, source / "reading", problems), std::back_inserter(notes));
+  // The listening scripts close the list of reading texts and have their fixed slots.
+  notes.push_back(openSlotNote("reading texts", readReadings(source / "reading", problems),
+                               FirstRecordedText - 1));
+  notes.push_back(
+      openSlotNote("speaking texts", readSpeaking(source / "speaking", problems), SpeakingSlots));
+  std::erase(notes, "");
+  return notes;
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,223 @@
+// Options by length and by sound, stretches by their class.
+#include "pack/DrillChecks.h"
+
+#include "pack/StreamText.h"
+#include "pack/TextWords.h"
+#include "pack/WordPhones.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace talvora::pack {
+
+namespace {
+
+/// Sounds that the recorded voices hardly keep apart: their distance in a word is not above the
+/// one and a half times that the same word has from itself when it is said at another speed.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 3> likeSounds = {
+    {{"uh", "uw"}, {"p", "b"}, {"ch", "sh"}}};
+
+constexpr double lengthShare = 0.25;
+/// In short options a letter or two weigh too much.
+constexpr double lengthSlack = 6.0;
+constexpr double mostExact = 1.0 / 3.0;
+constexpr double leastLongest = 0.15;
+constexpr double mostLongest = 0.35;
+/// Shares of fewer items say nothing.
+constexpr std::size_t enoughItems = 20;
+constexpr double linkedShare = 0.9;
+
+bool soundAlike(const std::string& first, const std::string& second) {
+  return std::any_of(likeSounds.begin(), likeSounds.end(), [&](const auto& pair) {
+    return (pair.first == first && pair.second == second) ||
+           (pair.first == second && pair.second == first);
+  });
+}
+
+// "can" is said in full, so that only a stop ahead of the next word would tell it from "can't".
+bool isCanAndCant(const std::string& first, const std::string& second) {
+  return (first == "can" && second == "can't") || (first == "can't" && second == "can");
+}
+
+bool wordsSoundAlike(const std::string& first, const std::string& second) {
+  if (isCanAndCant(first, second)) return true;
+  const auto left = wordPhones(first);
+  const auto right = wordPhones(second);
+  if (left.size() != right.size()) return false;
+  for (std::size_t at = 0; at < left.size(); ++at) {
+    if (left[at] != right[at] && !soundAlike(left[at], right[at])) return false;
+  }
+  return true;
+}
+
+std::vector<std::string> wordsIn(std::string_view sentence) {
+  std::vector<std::string> words;
+  for (const std::string& word : split(std::string(sentence), ' ')) {
+    std::string plain;
+    for (const char character : lower(word)) {
+      if ((character >= 'a' && character <= 'z') || character == '\'') plain += character;
+    }
+    if (!plain.empty()) words.push_back(std::move(plain));
+  }
+  return words;
+}
+
+/// The checks of one unit.
+class UnitChecker {
+ public:
+  UnitChecker(int unit, const ListeningUnit& items, std::string file, Problems& problems)
+      : unit_(unit), items_(items), file_(std::move(file)), problems_(problems) {}
+
+  /// What is only counted; empty for a strict unit, whose problems are reported.
+  std::string check() {
+    for (const ListeningQuestion& item : items_) {
+      checkSounds(item);
+      if (!optionsAreLike(item)) tellLength(item);
+    }
+    const std::size_t exact = exactKeys();
+    const bool manyExact =
+        static_cast<double>(exact) > mostExact * static_cast<double>(items_.size());
+    if (unit_ < FirstStrictUnit) return counted(exact, manyExact);
+    if (manyExact) {
+      problems_.add({file_}, std::to_string(exact) + " of " + std::to_string(items_.size()) +
+                                 " keys are the heard sentence itself; a third at most may be");
+    }
+    checkLongest();
+    return {};
+  }
+
+ private:
+  void checkSounds(const ListeningQuestion& item) {
+    for (const std::string& wrong : item.wrong) {
+      const std::string reason = notHeardApart(item.sentence, wrong);
+      if (!reason.empty()) problems_.add(item.where, "\"" + utf8Of(wrong) + "\": " + reason);
+    }
+  }
+
+  static std::vector<double> lengthsOf(const ListeningQuestion& item) {
+    std::vector<double> lengths = {static_cast<double>(item.right.size())};
+    for (const std::string& wrong : item.wrong)
+      lengths.push_back(static_cast<double>(wrong.size()));
+    return lengths;
+  }
+
+  static bool optionsAreLike(const ListeningQuestion& item) {
+    auto lengths = lengthsOf(item);
+    std::sort(lengths.begin(), lengths.end());
+    const double median = (lengths[1] + lengths[2]) / 2;
+    const double slack = std::max(lengthShare * median, lengthSlack);
+    return median - lengths.front() <= slack && lengths.back() - median <= slack;
+  }
+
+  void tellLength(const ListeningQuestion& item) {
+    ++unlike_;
+    if (unit_ < FirstStrictUnit) return;
+    problems_.add(item.where, "the options differ too much in length: each stays within a quarter "
+                              "of the middle one");
+  }
+
+  std::size_t exactKeys() const {
+    return static_cast<std::size_t>(
+        std::count_if(items_.begin(), items_.end(),
+                      [](const ListeningQuestion& item) { return item.right == item.sentence; }));
+  }
+
+  std::string counted(std::size_t exact, bool manyExact) const {
+    std::string note;
+    if (manyExact) {
+      note = std::to_string(exact) + " of " + std::to_string(items_.size()) +
+             " keys are the heard sentence itself";
+    }
+    if (unlike_ > 0) {
+      note += (note.empty() ? "" : ", ") + std::to_string(unlike_) +
+              " items have options of unlike length";
+    }
+    return note.empty() ? note : "listening unit " + std::to_string(unit_) + ": " + note;
+  }
+
+  void checkLongest() {
+    std::size_t others = 0;
+    std::size_t longest = 0;
+    for (const ListeningQuestion& item : items_) {
+      if (item.right == item.sentence) continue;
+      ++others;
+      const auto lengths = lengthsOf(item);
+      if (lengths.front() > *std::max_element(lengths.begin() + 1, lengths.end())) ++longest;
+    }
+    const double share =
+        static_cast<double>(longest) / static_cast<double>(std::max<std::size_t>(others, 1));
+    if (others < enoughItems || (share >= leastLongest && share <= mostLongest)) return;
+    problems_.add({file_}, "the key is the longest option in " +
+                               std::to_string(std::lround(100 * share)) + " % of " +
+                               std::to_string(others) +
+                               " items, which gives it away; 15 to 35 % may be");
+  }
+
+  int unit_;
+  const ListeningUnit& items_;
+  std::string file_;
+  Problems& problems_;
+  int unlike_ = 0;
+};
+
+/// True for a class that names a subject or a conjunction together with a verb.
+bool isTwoPhrases(std::string_view wordClass) {
+  static const std::string verb = ownText("động từ");
+  static const std::string subject = ownText("chủ ngữ +");
+  static const std::string conjunction = ownText("liên từ +");
+  static const std::string inside = ownText("+ chủ ngữ");
+  if (wordClass.find(verb) == std::string_view::npos) return false;
+  return wordClass.find(subject) != std::string_view::npos ||
+         wordClass.find(inside) != std::string_view::npos || wordClass.starts_with(conjunction);
+}
+
+} // namespace
+
+std::string notHeardApart(std::string_view heard, std::string_view other) {
+  const auto left = wordsIn(heard);
+  const auto right = wordsIn(other);
+  if (left.size() != right.size()) return {};
+  std::string pairs;
+  for (std::size_t at = 0; at < left.size(); ++at) {
+    if (left[at] == right[at]) continue;
+    if (!wordsSoundAlike(left[at], right[at])) return {};
+    pairs += (pairs.empty() ? "" : ", ") + left[at] + "/" + right[at];
+  }
+  return pairs.empty() ? pairs : "the voice does not keep " + pairs + " apart";
+}
+
+std::vector<std::string> checkOptions(const ListeningSource& source,
+                                      const std::filesystem::path& folder, Problems& problems) {
+  std::vector<std::string> notes;
+  for (const auto& [unit, items] : source.units) {
+    const auto file = folder / ("unit-" + std::to_string(unit) + ".txt");
+    std::string note = UnitChecker(unit, items, file.string(), problems).check();
+    if (!note.empty()) notes.push_back(std::move(note));
+  }
+  return notes;
+}
+
+void checkCutting(const AnalysisSource& source, const std::filesystem::path& folder,
+                  Problems& problems) {
+  for (const auto& [number, analysis] : source.analyses) {
+    std::size_t linked = 0;
+    for (const AnalysisEntry& entry : analysis) {
+      if (!entry.lessons.empty()) ++linked;
+      if (!isTwoPhrases(entry.field(AnalysisField::Class))) continue;
+      problems.add(entry.where, "\"" + utf8Of(entry.field(AnalysisField::Word)) +
+                                    "\" is more than one phrase; a verb stands apart from its "
+                                    "subject and from a conjunction");
+    }
+    if (static_cast<double>(linked) >= linkedShare * static_cast<double>(analysis.size())) continue;
+    const std::string digits = std::to_string(number);
+    const auto file = folder / ((digits.size() < 2 ? "0" : "") + digits + ".txt");
+    problems.add({file.string()}, std::to_string(linked) + " of " +
+                                      std::to_string(analysis.size()) +
+                                      " stretches lead to a lesson; nine of ten must");
+  }
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,213 @@
+// The rules of texts and drills: each is shown to fail.
+#include "pack/CourseChecks.h"
+
+#include "pack/DrillChecks.h"
+#include "pack/PlanChecks.h"
+#include "pack/StreamText.h"
+#include "pack/TextChecks.h"
+#include "pack/WordPhones.h"
+#include "support/TestFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace talvora::pack {
+namespace {
+
+using test::TestFolder;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+std::vector<std::string> told(const Problems& problems) {
+  std::vector<std::string> lines;
+  for (const Problem& problem : problems.all())
+    lines.push_back(describe(problem));
+  return lines;
+}
+
+std::vector<std::string> problemsOf(const std::string& text, TextUse use = TextUse::Reading) {
+  Problems problems;
+  checkText(text, "t", use, {"second hand", "o'clock"}, problems);
+  return told(problems);
+}
+
+// -- Texts.
+
+TEST(TextChecks, FindASecondSentenceOnALine) {
+  EXPECT_THAT(problemsOf("title: A\n\nI am here. You are not.\n= x\n"),
+              ElementsAre(HasSubstr("t:3:12: a second sentence")));
+  EXPECT_THAT(problemsOf("“Come in.” Then she left.\n= x\n"),
+              ElementsAre(HasSubstr("t:1:16: a second sentence")));
+  EXPECT_THAT(problemsOf("“Where are you? I am here,” she said.\n= x\n"), ElementsAre())
+      << "what somebody says stays together";
+  EXPECT_THAT(problemsOf("“How much?” Lan asked.\n= Một. Hai.\n"), ElementsAre());
+}
+
+TEST(TextChecks, FindASentenceWithoutItsPoint) {
+  EXPECT_THAT(problemsOf("It rains\n= x\n"), ElementsAre(HasSubstr("t:1:9: the sentence has no")));
+  EXPECT_THAT(problemsOf("He said, “It rains.”\n= x\n"), ElementsAre());
+}
+
+TEST(TextChecks, FindAHyphenThatNoEntryExplains) {
+  EXPECT_THAT(problemsOf("He sent an e-mail.\n= x\n"),
+              ElementsAre(HasSubstr("t:1:12: \"e-mail\"")));
+  EXPECT_THAT(problemsOf("A second-hand car is thirty-five years old.\n= x\n"), ElementsAre());
+}
+
+TEST(TextChecks, HoldATextToSpeakToShortLinesThatCanBeSpoken) {
+  const auto spoken = [](const std::string& text) { return problemsOf(text, TextUse::Speaking); };
+  EXPECT_THAT(spoken("Yes; it is.\n= x\n"), ElementsAre(HasSubstr("t:1:4: a mark")));
+  EXPECT_THAT(spoken("Say “ah”.\n= x\n"),
+              ElementsAre(HasSubstr("t:1:5: a mark"), HasSubstr("a mark")));
+  EXPECT_THAT(spoken("Room 12 is free.\n= x\n"), ElementsAre(HasSubstr("t:1:6: numbers")));
+  EXPECT_THAT(spoken("a b c d e f g h i j k l m.\n= x\n"),
+              ElementsAre(HasSubstr("t:1:1: the line has 13 words")));
+  EXPECT_THAT(spoken("Are you here?\n= x\nYes.\n= x\n"),
+              ElementsAre(HasSubstr("t: somebody asks here")));
+  EXPECT_THAT(spoken("Are you here?\n= x\n\nYes.\n= x\n"), ElementsAre());
+}
+
+TEST(StreamText, TellsOfACapitalThatTheFontShowsSmall) {
+  Problems problems;
+  EXPECT_EQ(sourceText("ĐỌC", {"t", 1, 1}, "", problems), *streamText("ĐC"));
+  EXPECT_THAT(told(problems), ElementsAre(HasSubstr("t:1:2: the text font has no capital \"Ọ\"")));
+}
+
+// -- Budgets.
+
+void writeTree(const TestFolder& folder, const std::string& budget) {
+  folder.write("plan.txt", "4-6 story A1 3-9 3-6 1 " + budget + "\n");
+  folder.write("reading/004-old.txt", "title: Old\n\nThe boat was old.\n= Thuyền cũ.\n");
+  folder.write("reading/005-new.txt", "title: New\n\nThe old boat was a house.\n= Nhà.\n");
+}
+
+TEST(PlanChecks, ReportASeriesThatHoldsItsBudgetAndCountOneThatAims) {
+  TestFolder folder;
+  writeTree(folder, "holds");
+  Problems problems;
+  EXPECT_THAT(checkBudgets(readPlanner(folder.path(), problems), "reading", problems),
+              ElementsAre());
+  EXPECT_THAT(told(problems),
+              ElementsAre("reading: text 4: 4 new lemmas instead of at most 1",
+                          HasSubstr("text 4: new and only once in its text: the, boat, was, old"),
+                          HasSubstr("text 4: 0 % of the words known at first sight instead of 97"),
+                          HasSubstr("text 5: 2 new lemmas"),
+                          HasSubstr("once in its text: a, house"),
+                          HasSubstr("text 5: 67 % of the words known")));
+  writeTree(folder, "aims");
+  Problems none;
+  EXPECT_THAT(checkBudgets(readPlanner(folder.path(), none), "reading", none),
+              ElementsAre(HasSubstr("reading texts 4 to 6: 2 of 2 outside the budget")));
+  EXPECT_TRUE(none.none());
+}
+
+TEST(PlanChecks, TellWhatDoesNotReturnAndWhichTextIsTooLong) {
+  TestFolder folder;
+  folder.write("plan.txt", "4-7 topic A1 1-3 1-2 9 holds\n");
+  folder.write("reading/004-a.txt", "title: A\n\nThe boat is old.\n= x\nThe boat is old.\n= x\n");
+  for (const std::string slot : {"5", "6", "7"})
+    folder.write("reading/00" + slot + "-b.txt", "title: B\n\nThe boat.\n= x\n");
+  Problems problems;
+  const Planner planner = readPlanner(folder.path(), problems);
+  EXPECT_THAT(overBudget(planner, 4),
+              ElementsAre("8 words instead of 1 to 3", "4 words a sentence instead of 1 to 2",
+                          "brought here and not returned in time: is, old",
+                          HasSubstr("50 % of the words known")));
+}
+
+TEST(PlanChecks, TellOfOpenSlotsBetweenTexts) {
+  ReadingSource texts;
+  texts.texts[1] = {};
+  texts.texts[4] = {};
+  EXPECT_EQ(openSlotNote("texts", texts, 4), "texts: 2 open slots stand between texts");
+  EXPECT_EQ(openSlotNote("texts", texts, 6), "texts: 2 open slots stand between texts, and the 2 "
+                                             "at the end have no heading of their own");
+  texts.texts[2] = texts.texts[3] = {};
+  texts.headings[5] = "Sắp có";
+  EXPECT_EQ(openSlotNote("texts", texts, 6), "");
+}
+
+// -- Listening options.
+
+TEST(DrillChecks, KnowWhatTheVoiceKeepsApart) {
+  EXPECT_THAT(wordPhones("ship"), ElementsAre("sh", "ih", "p"));
+  EXPECT_THAT(notHeardApart("I can find it.", "I can't find it."), HasSubstr("can/can't"));
+  EXPECT_THAT(notHeardApart("The jug is full.", "The jug is fool."), HasSubstr("full/fool"));
+  EXPECT_THAT(notHeardApart("It's their house.", "It's there house."), HasSubstr("their/there"));
+  EXPECT_EQ(notHeardApart("It's a ship.", "It's a sheep."), "");
+  EXPECT_EQ(notHeardApart("I can find it.", "I can't find them."), "");
+  EXPECT_EQ(notHeardApart("I can find it.", "I can find it now."), "");
+  EXPECT_EQ(notHeardApart("I can find it.", "I can find it."), "");
+}
+
+ListeningQuestion itemOf(const std::string& heard, const std::string& right,
+                         const std::array<std::string, 3>& wrong) {
+  return {1, heard, right, wrong, {"u", 1, 1}};
+}
+
+std::vector<std::string> optionProblems(int unit, const ListeningUnit& items) {
+  ListeningSource source;
+  source.units[unit] = items;
+  Problems problems;
+  auto lines = checkOptions(source, "l", problems);
+  for (const std::string& line : told(problems))
+    lines.push_back(line);
+  return lines;
+}
+
+TEST(DrillChecks, HoldOptionsToOneLength) {
+  const ListeningUnit items = {
+      itemOf("Tom is ill today, isn't he?", "He is not at school today.",
+             {"He is fine.", "He is at school with us.", "He is going to school now."})};
+  EXPECT_THAT(optionProblems(3, items), ElementsAre(HasSubstr("u:1:1: the options differ")));
+  EXPECT_THAT(optionProblems(1, items),
+              ElementsAre("listening unit 1: 1 items have options of unlike length"));
+}
+
+TEST(DrillChecks, AllowTheHeardSentenceInAThirdOfTheKeys) {
+  const ListeningUnit items = {
+      itemOf("It is ten.", "It is ten.", {"It is two.", "It is six.", "It is one."})};
+  EXPECT_THAT(optionProblems(3, items), ElementsAre(HasSubstr("1 of 1 keys are the heard")));
+  EXPECT_THAT(optionProblems(2, items), ElementsAre(HasSubstr("1 of 1 keys are the heard")));
+}
+
+TEST(DrillChecks, DoNotLetLengthGiveTheKeyAway) {
+  const ListeningUnit items(
+      20, itemOf("It is ten.", "It is late.", {"It is one", "It is two", "It is six"}));
+  EXPECT_THAT(optionProblems(3, items), ElementsAre(HasSubstr("longest option in 100 % of 20")));
+}
+
+// -- Analyses.
+
+TEST(DrillChecks, CutOnePhraseAStretch) {
+  const auto entry = [](const std::string& word, const std::string& wordClass, bool linked) {
+    AnalysisEntry made{{word, ownText(wordClass)}, {}, {"a", 1, 1}};
+    if (linked) made.lessons = {3};
+    return made;
+  };
+  AnalysisSource source;
+  source.analyses[3] = {entry("and asks", "liên từ + động từ", true),
+                        entry("I try", "chủ ngữ + động từ thường", true),
+                        entry("do you use", "trợ động từ + chủ ngữ + động từ", true),
+                        entry("is making", "động từ to be + động từ thêm ing", false),
+                        entry("My book", "cụm danh từ: tính từ sở hữu + danh từ", true)};
+  Problems problems;
+  checkCutting(source, "a", problems);
+  EXPECT_THAT(told(problems),
+              ElementsAre(HasSubstr("\"and asks\" is more than one phrase"), HasSubstr("\"I try\""),
+                          HasSubstr("\"do you use\""),
+                          HasSubstr("a/03.txt: 4 of 5 stretches lead to a lesson")));
+}
+
+// -- All together.
+
+TEST(CourseChecks, KeepEveryRuleInTheCourse) {
+  Problems problems;
+  const auto notes = checkCourse(TALVORA_CONTENT, problems);
+  EXPECT_THAT(told(problems), ElementsAre());
+  for (const std::string& note : notes)
+    EXPECT_THAT(note, HasSubstr(": "));
+}
+
+} // namespace
+} // namespace talvora::pack
