@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -26,9 +27,9 @@ struct VoiceSource {
 /// The voices that the numbers go through in turn. The last number has the last and clearest one,
 /// since that is the one in use.
 constexpr std::array<VoiceSource, 3> voices = {{
-    {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb", 0.92F},
+    {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb", 0.89F},
     {"libflite_cmu_us_rms.so.1", "register_cmu_us_rms", 1.0F},
-    {"libflite_cmu_us_slt.so.1", "register_cmu_us_slt", 0.54F},
+    {"libflite_cmu_us_slt.so.1", "register_cmu_us_slt", 0.52F},
 }};
 constexpr const char* StreamFeature = "streaming_info";
 constexpr const char* StretchFeature = "duration_stretch";
@@ -53,10 +54,13 @@ struct DeleteUtterance {
 struct FliteSpeech::Stream {
   FliteSpeech& speech;
   std::uint64_t stops;
+  float gain;
 
   static int take(const cst_wave* wave, int start, int size, int, cst_audio_streaming_info* info) {
     const auto& stream = *static_cast<const Stream*>(info->userdata);
-    const std::span part(wave->samples + start, static_cast<std::size_t>(std::max(size, 0)));
+    Samples part(wave->samples + start, wave->samples + start + std::max(size, 0));
+    for (std::int16_t& sample : part)
+      sample = static_cast<std::int16_t>(std::lround(static_cast<float>(sample) * stream.gain));
     return stream.speech.playPart(part, wave->sample_rate, stream.stops) ? CST_AUDIO_STREAM_CONT
                                                                          : CST_AUDIO_STREAM_STOP;
   }
@@ -148,7 +152,8 @@ void FliteSpeech::say(const Utterance& utterance, std::uint64_t stops) {
 }
 
 void FliteSpeech::synthesise(const Utterance& utterance, cst_voice& voice, std::uint64_t stops) {
-  Stream stream{*this, stops};
+  const float gain = voices.at(static_cast<std::size_t>(utterance.voice - 1)).gain;
+  Stream stream{*this, stops, gain};
   cst_audio_streaming_info* const info = new_audio_streaming_info();
   info->asc = Stream::take;
   info->min_buffsize = PartSamples;

@@ -11,13 +11,16 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <limits>
 #include <mutex>
+#include <numeric>
 #include <string>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace talvora {
 namespace {
@@ -210,11 +213,11 @@ TEST(PcmPlayer, ItEndsWhileItPlays) {
 
 constexpr int Clearest = 10;
 
-/// Samples of a text at a speed, once the engine has no more to say.
-std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times = 1) {
+/// What is heard of a text at a speed, once the engine has no more to say.
+Samples spoken(std::string_view text, int voice, int wordsPerMinute, int times = 1) {
   Heard heard;
   FliteSpeech speech(counting(heard));
-  EXPECT_TRUE(speech.Select(Clearest));
+  EXPECT_TRUE(speech.Select(voice));
   speech.Speed(wordsPerMinute);
   for (int time = 0; time < times; ++time)
     speech.Speak(text);
@@ -227,7 +230,35 @@ std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times =
     std::this_thread::sleep_for(100ms);
     return before == heard.count() && before > 0;
   });
-  return heard.count();
+  return heard.samples();
+}
+
+std::size_t spokenSamples(std::string_view text, int wordsPerMinute, int times = 1) {
+  return spoken(text, Clearest, wordsPerMinute, times).size();
+}
+
+/// The level in dB of fiftieths of a second in which somebody speaks.
+double speechLevel(const Samples& samples) {
+  constexpr std::size_t frame = Rate / 50;
+  std::vector<double> powers;
+  for (std::size_t from = 0; from + frame <= samples.size(); from += frame) {
+    double power = 0;
+    for (std::size_t at = from; at < from + frame; ++at)
+      power += static_cast<double>(samples[at]) * samples[at];
+    powers.push_back(power / frame);
+  }
+  const double loudest = *std::max_element(powers.begin(), powers.end());
+  std::erase_if(powers, [loudest](double power) { return power < loudest / 1000; });
+  const double mean =
+      std::accumulate(powers.begin(), powers.end(), 0.0) / static_cast<double>(powers.size());
+  return 10 * std::log10(mean / (32768.0 * 32768.0));
+}
+
+TEST(FliteSpeech, EveryVoiceHasTheLevelOfTheRecordings) {
+  for (int voice = 1; voice <= Clearest; ++voice) {
+    const Samples samples = spoken("My sister is washing the dishes in the kitchen.", voice, 175);
+    EXPECT_NEAR(speechLevel(samples), -20.0, 2.0) << voice; // Sentences differ so much.
+  }
 }
 
 TEST(FliteSpeech, VoicesAreNumberedFromOne) {
