@@ -4,7 +4,9 @@
 #include "pack/StreamText.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace talvora::pack {
 
@@ -24,14 +26,19 @@ std::string layOut(const Lesson& lesson) {
   return plain + textEnd;
 }
 
+Lesson openLesson() {
+  const std::string line = ownText("Bài này đang được soạn, mời bạn học một bài khác nhé.");
+  return {openSlotTitle(), {{line, std::vector<bool>(line.size()), std::nullopt}}};
+}
+
 std::string textOfSlot(const LessonSource& source, const std::set<int>& withItems, int slot) {
   const auto lesson = source.lessons.find(slot);
   if (lesson != source.lessons.end()) {
     return (withItems.count(slot) > 0 ? std::string(1, itemsMark) : "") + layOut(lesson->second);
   }
   const auto heading = source.headings.find(slot);
-  return layOut(
-      {heading != source.headings.end() ? headingMark + heading->second : openSlotTitle(), {}});
+  if (heading != source.headings.end()) return layOut({headingMark + heading->second, {}});
+  return layOut(openLesson());
 }
 
 Lesson lessonFrom(std::string_view plain) {
@@ -71,7 +78,7 @@ LessonSource decodeLessons(std::string_view positions, std::string_view stream,
     Lesson lesson = lessonFrom(*plain);
     if (lesson.title.starts_with(headingMark)) {
       source.headings.emplace(slot, lesson.title.substr(1));
-    } else if (!lesson.lines.empty() || lesson.title != openSlotTitle()) {
+    } else if (lesson.title != openSlotTitle()) {
       source.lessons.emplace(slot, std::move(lesson));
     }
   }

@@ -136,7 +136,8 @@ TEST(LessonStore, FillsEverySlotAndMarksLessonsWithItems) {
   const TextStore store = compileLessons(source, {2});
   EXPECT_EQ(store.positions.size(), 357U * 4);
   EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 1), '@'),
-            ownText("(đang soạn)") + "\r");
+            ownText("(đang soạn)") + "\r" +
+                ownText("Bài này đang được soạn, mời bạn học một bài khác nhé."));
   EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 2), '@'), ".A\r&b\r\rc");
   EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 3), '@'), "*Group\r");
   const LessonSource back = decodeLessons(store.positions, store.stream, problems);

@@ -81,7 +81,9 @@ TEST(Compiler, FirstSettingsTurnTheSoundOnAtMiddleSpeed) {
 
 TEST(Compiler, OpenSlotsSayThatTheyAreBeingWritten) {
   const auto files = compiled();
-  EXPECT_EQ(storedUntil(bytesOf(files, "datavp.n"), 0, '@'), ownText("(đang soạn)") + "\r");
+  EXPECT_EQ(storedUntil(bytesOf(files, "datavp.n"), 0, '@'),
+            ownText("(đang soạn)") + "\r" +
+                ownText("Bài này đang được soạn, mời bạn học một bài khác nhé."));
   const std::string item =
       *storedUntil(bytesOf(files, "dataN.av"), integerAt(bytesOf(files, "dataN.vt"), 556), '@');
   // An open record stands behind the ninth unit, where the program does not play it.
