@@ -15,8 +15,8 @@ namespace talvora::pack {
 
 namespace {
 
-/// Sounds that the recorded voices hardly keep apart: their distance in a word is not above the
-/// one and a half times that the same word has from itself when it is said at another speed.
+/// Sounds that the recorded voices hardly keep apart: in one of the two the distance of such words
+/// is less than one and a half times that of one word from itself at another speed.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 3> likeSounds = {
     {{"uh", "uw"}, {"p", "b"}, {"ch", "sh"}}};
 
