@@ -8,6 +8,7 @@
 #include "pack/LessonStore.h"
 #include "pack/ListeningStore.h"
 #include "pack/OtherStores.h"
+#include "pack/Pronouncer.h"
 #include "pack/ReadingStore.h"
 #include "pack/Recordings.h"
 #include "pack/SourceFile.h"
@@ -71,6 +72,13 @@ std::map<int, std::size_t> sentenceCounts(const ReadingSource& readings) {
   return counts;
 }
 
+// The pronunciations belong to the entries, and what the voice says wrong goes with the pack.
+void pronounceWords(const Options& options, Content& content, Problems& problems) {
+  const Pronouncer pronouncer(readPronunciations(options.source / "pronunciation.txt", problems));
+  pronouncer.pronounce(content.words.own);
+  content.pronunciations = pronouncer.correctionsFor(content.words.own);
+}
+
 void readDrills(const Options& options, Content& content, Problems& problems) {
   content.speaking = readSpeaking(options.source / "speaking", problems);
   content.listening = readListening(options.source / "listening", problems);
@@ -117,6 +125,7 @@ Content readContent(const Options& options, Problems& problems, const Progress& 
   const auto guide = options.source / "guide.txt";
   content.guide = compileGuide(readText(guide, problems), guide.string(), problems);
   content.words = readWordSources(options, content.readings, problems, progress);
+  pronounceWords(options, content, problems);
   if (!options.smallWordList) content.wordNetLicence = readSource(options.wordNetLicence, problems);
   return content;
 }
@@ -166,11 +175,12 @@ std::vector<PackFile> compile(const Options& options, Problems& problems,
   append(files, compileDrills(content));
   append(files, compileVietnameseSide(makeVietnameseSide(content, list, options, problems)));
   append(files, firstSettings());
+  files.push_back({std::string(Pronunciations::FileName), content.pronunciations.write()});
   if (!content.wordNetLicence.empty())
     files.push_back({"LICENCE-wordnet.txt", content.wordNetLicence});
   if (!problems.none()) return {};
-  append(files,
-         compileRecordings(content.readings, content.recordings, options.earlierPack, progress));
+  append(files, compileRecordings(content.readings, content.recordings, content.pronunciations,
+                                  options.earlierPack, progress));
   return files;
 }
 

@@ -10,6 +10,7 @@
 #include "pack/PackFile.h"
 #include "pack/ReadingSource.h"
 #include "pack/VietnameseSide.h"
+#include "sound/Pronunciations.h"
 
 #include <filesystem>
 #include <functional>
@@ -47,7 +48,8 @@ struct Content {
   LessonSource lessons;
   ExerciseSource exercises;
   std::string guide; ///< as rich text
-  WordSources words;
+  WordSources words; ///< our own with their pronunciations
+  Pronunciations pronunciations;
   std::string wordNetLicence; ///< empty where nothing of WordNet is used
 };
 

@@ -56,6 +56,8 @@ std::string groupLines(const std::vector<Sense>& senses, std::size_t first, std:
                   [&opening](const Sense& sense) { return sense.use == opening.use; });
   std::string lines = "_" + blueText(notation::label(opening.wordClass, opening.language,
                                                      sameUse ? opening.use : NounUse::None));
+  if (examples == Examples::With && !opening.pronunciation.empty())
+    lines += opening.pronunciation + " ";
   for (std::size_t place = first; place < end; ++place) {
     const Sense& sense = senses[place];
     if (place > first) lines += "_";
@@ -98,8 +100,8 @@ std::string blockLines(const EntryBlock& block) {
   return linesOf(block.senses, Examples::With, block.phrases);
 }
 
-std::string headDetails(std::string_view pronunciation, const EntryBlock& block) {
-  std::string details(pronunciation);
+std::string headDetails(const EntryBlock& block) {
+  std::string details = block.pronunciation;
   std::string forms;
   for (const std::string& form : block.forms)
     forms += (forms.empty() ? "" : ", ") + form;

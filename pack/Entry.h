@@ -105,6 +105,8 @@ struct Sense {
   std::string pattern = {}; ///< English words that go with the sense; empty without any
   int number = 0;           ///< among the senses of its class, from 1; 0 without one
   NounUse use = NounUse::None;
+  std::string pronunciation =
+      {}; ///< of the class that begins here, where it differs from the head's
 };
 
 /// A phrase that is more than its words: "go on", with what it means.
@@ -119,6 +121,7 @@ struct EntryBlock {
   std::vector<std::string> forms = {}; ///< irregular ones, as the source lists them
   std::string level = {};              ///< "A1" to "C1"; empty without one
   std::vector<FixedPhrase> phrases = {};
+  std::string pronunciation = {}; ///< "/gou/"; empty without one
 };
 
 /// The levels that a head word can have.
@@ -134,7 +137,7 @@ enum class Examples { With, Without };
 [[nodiscard]] std::string blockLines(const EntryBlock& block);
 
 /// What stands behind a head word: "/gou/ (went, gone) A1". What is empty is left out.
-[[nodiscard]] std::string headDetails(std::string_view pronunciation, const EntryBlock& block);
+[[nodiscard]] std::string headDetails(const EntryBlock& block);
 
 /// Where the pattern of a sense begins, at the ": " ahead of it; the end when there is none. A
 /// colon within brackets is part of the gloss.

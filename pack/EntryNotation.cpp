@@ -86,6 +86,12 @@ std::optional<NounUse> nounUse(std::string_view text) {
   return std::nullopt;
 }
 
+/// The compiler writes pronunciations itself, so that none goes back into a source.
+void skipPronunciation(std::string_view& line) {
+  const std::size_t end = line.starts_with('/') ? line.find("/ ", 1) : std::string_view::npos;
+  if (end != std::string_view::npos) line.remove_prefix(end + 2);
+}
+
 /// Takes the number of a sense off its line: "1 ".
 int takeNumber(std::string_view& line) {
   if (line.size() < 2 || line[0] < '1' || line[0] > '9' || line[1] != ' ') return 0;
@@ -141,7 +147,8 @@ class EntryReader {
       return true;
     }
     line.remove_prefix(1);
-    if (line == head_ || line.starts_with(std::string(head_) + " (") || isHeadWithLevel(line)) {
+    if (line == head_ || line.starts_with(std::string(head_) + " (") ||
+        line.starts_with(std::string(head_) + " /") || isHeadWithLevel(line)) {
       openBlock(line.substr(head_.size()));
       return true;
     }
@@ -179,6 +186,7 @@ class EntryReader {
       const auto label = vietnameseLabel(*text);
       if (!label) return false;
       label_ = *label;
+      skipPronunciation(rest);
       sense.number = takeNumber(rest);
     } else {
       sense.number = takeNumber(rest);

@@ -4,6 +4,7 @@
 #include "pack/SourceFile.h"
 #include "pack/SpeechLevel.h"
 #include "pack/StreamText.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -51,12 +52,15 @@ std::string hexadecimal(std::uint64_t number) {
 }
 
 /// Tells recordings apart by everything that they are made from.
-std::string keyOf(const Script& script) {
+std::string keyOf(const Script& script, const Pronunciations& pronunciations) {
   std::ostringstream all;
   all << synthesiserName() << ' ' << syllablesASecond(script.number) << ' ' << pauseMs << ' '
       << RecordedLevel << ' ' << Voice::SamplesPerSecond;
-  for (const ScriptLine& line : script.lines)
+  for (const ScriptLine& line : script.lines) {
     all << '\n' << static_cast<int>(line.speaker) << line.sentence;
+    for (const LexiconEntry& entry : pronunciations.lexiconFor(plainAscii(line.sentence)))
+      all << ' ' << entry.word << '=' << entry.phones;
+  }
   return hexadecimal(fingerprint(all.str()));
 }
 
@@ -100,12 +104,23 @@ std::vector<std::size_t> placesOf(const Script& script, Speaker speaker) {
   return places;
 }
 
+/// A voice with the corrections of what it says.
+struct Reader {
+  Voice voice;
+  const Pronunciations& pronunciations;
+
+  [[nodiscard]] SpokenSentence speak(std::string_view sentence, float stretch) const {
+    return voice.speak(pronunciations.prepared(plainAscii(sentence)), stretch);
+  }
+};
+
 /// How many times its natural length a voice needs for a script, so that it has the wanted rate.
-float stretchFor(const Script& script, const std::vector<std::size_t>& places, const Voice& voice) {
+float stretchFor(const Script& script, const std::vector<std::size_t>& places,
+                 const Reader& reader) {
   double syllables = 0;
   double seconds = 0;
   for (std::size_t at = 0; at < std::min(places.size(), samplesOfRate); ++at) {
-    const SpokenSentence natural = voice.speak(script.lines[places[at]].sentence, 1.0F);
+    const SpokenSentence natural = reader.speak(script.lines[places[at]].sentence, 1.0F);
     syllables += natural.syllables;
     seconds += static_cast<double>(natural.samples.size()) / Voice::SamplesPerSecond;
   }
@@ -115,12 +130,12 @@ float stretchFor(const Script& script, const std::vector<std::size_t>& places, c
 }
 
 /// Speaks what one speaker has to say in a script.
-SpokenLines speakLines(const Script& script, Speaker speaker, const Voice& voice) {
+SpokenLines speakLines(const Script& script, Speaker speaker, const Reader& reader) {
   const auto places = placesOf(script, speaker);
-  const float stretch = stretchFor(script, places, voice);
+  const float stretch = stretchFor(script, places, reader);
   SpokenLines spoken;
   for (const std::size_t place : places) {
-    Samples samples = voice.speak(script.lines[place].sentence, stretch).samples;
+    Samples samples = reader.speak(script.lines[place].sentence, stretch).samples;
     highPass(samples, Voice::SamplesPerSecond);
     bringToLevel(samples, Voice::SamplesPerSecond, RecordedLevel);
     spoken[place] = std::move(samples);
@@ -135,13 +150,15 @@ struct Spoken {
 };
 
 /// Speaks scripts, a thread for each speaker: a voice serves one at a time.
-std::vector<Spoken> recordTogether(const std::vector<Script>& scripts, const Progress& progress) {
+std::vector<Spoken> recordTogether(const std::vector<Script>& scripts,
+                                   const Pronunciations& pronunciations, const Progress& progress) {
+  if (!scripts.empty()) Voice::learn(pronunciations);
   std::mutex telling;
   std::vector<std::future<std::vector<SpokenLines>>> work;
   for (const Speaker speaker : speakers) {
     if (scripts.empty()) break;
-    const Voice voice(speaker);
-    work.push_back(std::async(std::launch::async, [&scripts, &telling, &progress, voice, speaker] {
+    const Reader reader{Voice(speaker), pronunciations};
+    work.push_back(std::async(std::launch::async, [&scripts, &telling, &progress, reader, speaker] {
       std::vector<SpokenLines> parts;
       for (const Script& script : scripts) {
         {
@@ -150,7 +167,7 @@ std::vector<Spoken> recordTogether(const std::vector<Script>& scripts, const Pro
                    std::to_string(placesOf(script, speaker).size()) + " sentences by " +
                    std::string(SpeakerNames.at(static_cast<std::size_t>(speaker))));
         }
-        parts.push_back(speakLines(script, speaker, voice));
+        parts.push_back(speakLines(script, speaker, reader));
       }
       return parts;
     }));
@@ -227,6 +244,7 @@ Recording joined(const std::vector<Samples>& sentences) {
 
 std::vector<PackFile> compileRecordings(const ReadingSource& readings,
                                         const std::map<int, OwnRecording>& own,
+                                        const Pronunciations& pronunciations,
                                         const std::optional<std::filesystem::path>& earlierPack,
                                         const Progress& progress) {
   std::vector<PackFile> files;
@@ -235,7 +253,8 @@ std::vector<PackFile> compileRecordings(const ReadingSource& readings,
     std::vector<Script> changed;
     for (Script& script : scriptsOf(readings)) {
       const auto brought = own.find(script.number);
-      const std::string key = brought != own.end() ? keyOf(brought->second) : keyOf(script);
+      const std::string key =
+          brought != own.end() ? keyOf(brought->second) : keyOf(script, pronunciations);
       auto kept = keptMarks(*earlierPack, script.number, key, script.lines.size());
       if (brought != own.end()) {
         const Marks& given = brought->second.marks;
@@ -247,9 +266,9 @@ std::vector<PackFile> compileRecordings(const ReadingSource& readings,
         changed.push_back(std::move(script));
       }
     }
-    for (const auto& [script, recording] : recordTogether(changed, progress)) {
+    for (const auto& [script, recording] : recordTogether(changed, pronunciations, progress)) {
       appendFiles(files, script.number, waveFileOf(recording.samples, Voice::SamplesPerSecond),
-                  keyOf(script), recording.marks);
+                  keyOf(script, pronunciations), recording.marks);
       marks[script.number] = recording.marks;
     }
   }

@@ -49,12 +49,14 @@ struct Recording {
 /// Joins the sentences of a script, with a pause of 300 ms between.
 [[nodiscard]] Recording joined(const std::vector<Samples>& sentences);
 
-/// The wave files of the scripts, each with a stamp that tells what it was made from, and DataS. A
+/// The wave files of the scripts, spoken with the corrections of the pronunciations, each with a
+/// stamp that tells what it was made from, and DataS. A
 /// recording of a teacher's own takes the place of the synthesised one. A recording that stands in
 /// `earlierPack` with the right stamp is kept and is not among the files; without such a folder
 /// none is made, and all blocks of DataS are empty.
 [[nodiscard]] std::vector<PackFile>
 compileRecordings(const ReadingSource& readings, const std::map<int, OwnRecording>& own,
+                  const Pronunciations& pronunciations,
                   const std::optional<std::filesystem::path>& earlierPack,
                   const Progress& progress);
 

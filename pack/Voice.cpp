@@ -1,6 +1,7 @@
 // Synthesis with flite.
 #include "pack/Voice.h"
 
+#include "sound/FliteLexicon.h"
 #include "text/Text.h"
 
 #include <flite/flite.h>
@@ -10,10 +11,11 @@
 #include <memory>
 #include <stdexcept>
 
-// The voice libraries come without headers.
+// The voice libraries and the lexicon come without headers.
 extern "C" {
 cst_voice* register_cmu_us_rms(const char* directory);
 cst_voice* register_cmu_us_slt(const char* directory);
+cst_lexicon* cmu_lex_init();
 }
 
 namespace talvora::pack {
@@ -44,6 +46,11 @@ Voice::Voice(Speaker speaker) {
   flite_init();
   voice_ = speaker == Speaker::Rms ? register_cmu_us_rms(nullptr) : register_cmu_us_slt(nullptr);
   if (voice_ == nullptr) throw std::runtime_error("flite gives no voice for the recordings");
+}
+
+void Voice::learn(const Pronunciations& pronunciations) {
+  flite_init();
+  teach(*cmu_lex_init(), pronunciations);
 }
 
 SpokenSentence Voice::speak(std::string_view sentence, float stretch) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pack/WaveFile.h"
+#include "sound/Pronunciations.h"
 
 #include <array>
 #include <optional>
@@ -32,6 +33,9 @@ class Voice {
   /// The library keeps one voice of each speaker for the process: make it on one thread, and let
   /// one thread at a time use it. Throws std::runtime_error when the library gives none.
   explicit Voice(Speaker speaker);
+
+  /// Tells all voices how to say what they do not know. None may be speaking meanwhile.
+  static void learn(const Pronunciations& pronunciations);
 
   /// A sentence in the text font's bytes, spoken in so many times its natural length. Its length
   /// depends on the text and the stretch alone; the breath in the voice is random, so that its

@@ -12,14 +12,18 @@ namespace {
 
 constexpr std::size_t mostBorrowedSenses = 3;
 
-/// What an entry says of the word itself.
+/// What an entry says of the word itself. How it is said stands behind the head word, and again at
+/// a second word of the spelling that is said in another way.
 std::string ownLines(const Word& word) {
-  if (!word.hasSenses()) return {};
-  const bool namedAgain = word.order == Order::OriginsFirst && word.kind == WordKind::Own;
   std::string lines;
-  for (const EntryBlock& block : word.blocks) {
-    const std::string details = headDetails("", block);
-    if (!lines.empty() || namedAgain) lines += "_" + word.head + (details.empty() ? "" : " ");
+  for (EntryBlock block : word.blocks) {
+    const bool first = lines.empty();
+    if (!first || word.order == Order::OriginsFirst) {
+      if (block.pronunciation == word.blocks.front().pronunciation) block.pronunciation.clear();
+    }
+    const std::string details = headDetails(block);
+    const bool namedAgain = word.order == Order::OriginsFirst && word.kind == WordKind::Own;
+    if (!first || namedAgain) lines += "_" + word.head + (details.empty() ? "" : " ");
     lines += details + blockLines(block);
   }
   return lines;
@@ -99,7 +103,8 @@ std::string WordList::entryOf(const Word& word) const {
     borrowed += entryLines(borrowedSenses(origin), Examples::Without);
   }
   const std::string note = word.note.empty() ? "" : "_" + word.note;
-  return (word.order == Order::OriginsFirst ? borrowed + own : own + borrowed) + note;
+  if (word.order == Order::OwnFirst) return own + borrowed + note;
+  return (word.hasSenses() ? word.blocks.front().pronunciation : "") + borrowed + own + note;
 }
 
 } // namespace talvora::pack

@@ -3,6 +3,7 @@
 #include "pack/Compiler.h"
 #include "pack/CourseChecks.h"
 #include "pack/Dump.h"
+#include "pack/PhonesReport.h"
 #include "pack/Planner.h"
 #include "pack/Recordings.h"
 #include "pack/Show.h"
@@ -88,6 +89,12 @@ int plan(const std::filesystem::path& source, int slot, Detail detail) {
   return tell(problems);
 }
 
+int phones(const std::filesystem::path& source, const std::vector<std::string>& words) {
+  Problems problems;
+  std::cout << phonesReport(source, words, problems);
+  return tell(problems);
+}
+
 int dumpTo(const std::filesystem::path& pack, const std::filesystem::path& out) {
   Problems problems;
   const auto sources = dump(pack, problems);
@@ -162,6 +169,12 @@ int run(int argumentCount, char** arguments) {
       ->check(CLI::Range(1, ReadingSlots));
   planCommand->add_flag("--known", known, "list the known lemmas as well");
 
+  std::vector<std::string> words;
+  CLI::App* phonesCommand = application.add_subcommand(
+      "phones", "tell how the head words of SOURCE are said, or the WORDs alone");
+  phonesCommand->add_option("SOURCE", options.source, "folder of the content sources")->required();
+  phonesCommand->add_option("WORD", words, "words to tell of");
+
   try {
     application.parse(argumentCount, arguments);
   } catch (const CLI::ParseError& error) {
@@ -172,6 +185,7 @@ int run(int argumentCount, char** arguments) {
     return plan(options.source, slot, known ? Detail::Full : Detail::Short);
   if (checkCommand->parsed()) return check(options, only);
   if (showCommand->parsed()) return showPlace(place);
+  if (phonesCommand->parsed()) return phones(options.source, words);
   return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);
 }
 

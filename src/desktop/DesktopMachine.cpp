@@ -4,8 +4,9 @@
 
 namespace talvora {
 
-DesktopMachine::DesktopMachine(QSize virtualScreen, std::uint64_t seed)
-    : gate(keys), clock(gate), events(gate), input(keys, gate), sound(makeSound()),
+DesktopMachine::DesktopMachine(QSize virtualScreen, std::uint64_t seed,
+                               const std::filesystem::path& pack)
+    : gate(keys), clock(gate), events(gate), input(keys, gate), sound(makeSound(pack)),
       screen(virtualScreen),
       random(seed), platform{clock, events, input,     *sound.speech, *sound.wave, metrics, layout,
                              boxes, screen, clipboard, installation,  narrator,    random} {

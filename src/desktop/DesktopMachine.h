@@ -12,12 +12,14 @@
 #include "platform/Platform.h"
 
 #include <cstdint>
+#include <filesystem>
 
 namespace talvora {
 
 class DesktopMachine {
  public:
-  DesktopMachine(QSize virtualScreen, std::uint64_t seed);
+  /// `pack` is the folder of the content, of which the voices need to know.
+  DesktopMachine(QSize virtualScreen, std::uint64_t seed, const std::filesystem::path& pack);
   DesktopMachine(const DesktopMachine&) = delete;
   DesktopMachine& operator=(const DesktopMachine&) = delete;
   ~DesktopMachine();

@@ -1,6 +1,7 @@
 #include "desktop/FliteSpeech.h"
 
 #include "desktop/SilentSpeech.h"
+#include "sound/FliteLexicon.h"
 #include "text/Text.h"
 
 #include <dlfcn.h>
@@ -77,9 +78,10 @@ cst_voice* loadFliteVoice(int number) {
   return makeVoice == nullptr ? nullptr : makeVoice(nullptr);
 }
 
-FliteSpeech::FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice)
+FliteSpeech::FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice,
+                         Pronunciations pronunciations)
     : player_(std::move(makeDevice)), loadVoice_(std::move(loadVoice)),
-      wordsPerMinute_(NaturalSpeed),
+      pronunciations_(std::move(pronunciations)), wordsPerMinute_(NaturalSpeed),
       thread_([this](const std::stop_token& ending) { run(ending); }) {}
 
 FliteSpeech::~FliteSpeech() {
@@ -152,6 +154,9 @@ void FliteSpeech::say(const Utterance& utterance, std::uint64_t stops) {
 }
 
 void FliteSpeech::synthesise(const Utterance& utterance, cst_voice& voice, std::uint64_t stops) {
+  // All voices have one lexicon; it is there with the first of them.
+  if (!taught_) teach(*val_lexicon(feat_val(voice.features, "lexicon")), pronunciations_);
+  taught_ = true;
   const float gain = voices.at(static_cast<std::size_t>(utterance.voice - 1)).gain;
   Stream stream{*this, stops, gain};
   cst_audio_streaming_info* const info = new_audio_streaming_info();
@@ -164,7 +169,7 @@ void FliteSpeech::synthesise(const Utterance& utterance, cst_voice& voice, std::
                            static_cast<float>(utterance.wordsPerMinute));
   {
     const std::unique_ptr<cst_utterance, DeleteUtterance> spoken(
-        flite_synth_text(utterance.text.c_str(), &voice));
+        flite_synth_text(pronunciations_.prepared(utterance.text).c_str(), &voice));
   }
   // The voice outlives the stream and must not keep it.
   flite_feat_remove(voice.features, StreamFeature);

@@ -3,6 +3,7 @@
 
 #include "desktop/PcmPlayer.h"
 #include "platform/Speech.h"
+#include "sound/Pronunciations.h"
 
 #include <condition_variable>
 #include <cstdint>
@@ -27,7 +28,10 @@ class FliteSpeech final : public SpeechEngine {
  public:
   using LoadVoice = std::function<cst_voice_struct*(int number)>;
 
-  explicit FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice = loadFliteVoice);
+  /// `pronunciations` is what the voices say wrong of themselves, and for words that are said in
+  /// several ways what they cannot know.
+  explicit FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice = loadFliteVoice,
+                       Pronunciations pronunciations = {});
   FliteSpeech(const FliteSpeech&) = delete;
   FliteSpeech& operator=(const FliteSpeech&) = delete;
   ~FliteSpeech() override;
@@ -56,6 +60,8 @@ class FliteSpeech final : public SpeechEngine {
 
   PcmPlayer player_;
   LoadVoice loadVoice_;
+  const Pronunciations pronunciations_;
+  bool taught_ = false; ///< whether the lexicon has them; the thread's own
   mutable std::mutex mutex_;
   std::condition_variable_any changed_;
   std::deque<Utterance> queue_;

@@ -26,7 +26,8 @@ function(talvora_finds_sound_device program)
 endfunction()
 
 if(Flite_FOUND)
-  target_sources(talvora-desktop-sound PRIVATE ${CMAKE_CURRENT_LIST_DIR}/FliteSpeech.cpp)
+  target_sources(talvora-desktop-sound PRIVATE ${CMAKE_CURRENT_LIST_DIR}/FliteSpeech.cpp
+    ${PROJECT_SOURCE_DIR}/src/sound/FliteLexicon.cpp)
   target_compile_definitions(talvora-desktop-sound PUBLIC TALVORA_HAS_FLITE)
   # The voices are loaded with the first word.
   target_link_libraries(talvora-desktop-sound PRIVATE Flite::Flite)

@@ -14,13 +14,21 @@
 #include "desktop/SilentWave.h"
 #endif
 
+#include <fstream>
+#include <sstream>
+
 namespace talvora {
 
 namespace {
 
-std::unique_ptr<SpeechEngine> makeSpeech() {
+std::unique_ptr<SpeechEngine> makeSpeech([[maybe_unused]] const std::filesystem::path& pack) {
 #ifdef TALVORA_HAS_FLITE
-  return std::make_unique<FliteSpeech>(openSoundDevice);
+  // A pack without the file is spoken as the voices know it.
+  std::ifstream file(pack / Pronunciations::FileName, std::ios::binary);
+  std::ostringstream text;
+  text << file.rdbuf();
+  return std::make_unique<FliteSpeech>(openSoundDevice, loadFliteVoice,
+                                       Pronunciations::read(text.str()));
 #else
   return std::make_unique<SilentSpeech>();
 #endif
@@ -36,8 +44,8 @@ std::unique_ptr<WavePlayer> makeWave() {
 
 } // namespace
 
-Sound makeSound() {
-  return {makeSpeech(), makeWave()};
+Sound makeSound(const std::filesystem::path& pack) {
+  return {makeSpeech(pack), makeWave()};
 }
 
 } // namespace talvora

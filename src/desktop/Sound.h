@@ -4,6 +4,7 @@
 #include "platform/Speech.h"
 #include "platform/WavePlayer.h"
 
+#include <filesystem>
 #include <memory>
 
 namespace talvora {
@@ -13,9 +14,9 @@ struct Sound {
   std::unique_ptr<WavePlayer> wave;
 };
 
-/// Makes both. They look for the default sound device when the first sound comes, and keep their
-/// timing silently where there is none. What the program was built without is replaced by a silent
-/// one.
-[[nodiscard]] Sound makeSound();
+/// Makes both, for a pack in a folder, which tells what the voices say wrong of themselves. They
+/// look for the default sound device when the first sound comes, and keep their timing silently
+/// where there is none. What the program was built without is replaced by a silent one.
+[[nodiscard]] Sound makeSound(const std::filesystem::path& pack);
 
 } // namespace talvora

@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
   talvora::loadFonts();
 
   talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
-                                  std::random_device{}());
+                                  std::random_device{}(), std::filesystem::current_path());
   talvora::Program program(machine.platform, std::filesystem::current_path().string());
   talvora::EventBridge bridge;
   talvora::Window window(machine, program, bridge);

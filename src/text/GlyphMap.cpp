@@ -12,11 +12,12 @@ namespace talvora {
 namespace {
 
 // The upper half of "x1", sixteen bytes a row. A letter that stands in its Windows-1252 place keeps
-// it; the rest of the places are Vietnamese.
-constexpr std::u16string_view x1Upper = u"ÁÀẢƒẠĂ†‡ẮÂẤẦẨẬÉÊ"           // 0x80
-                                        u"Ế‘’“”•–—Ề™ăỂÍÓÔư"           // 0x90
-                                        u"\u00A0ỐợỒ¤ỵ¦ỔỘ©ƠỚỜ\u00AD®Ở" // 0xA0
-                                        u"°±ÚỦƯỨ¶·ỪỬỰÝ¼½¾Ị"           // 0xB0
+// it; the rest of the places are Vietnamese, and eight have the letters of pronunciations that
+// ASCII lacks in place of capitals that the fonts can do without.
+constexpr std::u16string_view x1Upper = u"ÁÀẢƒẠĂ†‡ẮÂẤẦæẬðÊ"           // 0x80
+                                        u"Ế‘’“”•–—Ề™ăθÍÓÔư"           // 0x90
+                                        u"\u00A0ỐợỒ¤ỵ¦ŋỘ©əỚʃ\u00AD®Ở" // 0xA0
+                                        u"°±ÚỦƯʒ¶·ỪʌỰÝ¼½¾Ị"           // 0xB0
                                         u"ằắẳẵặỷỡểềếễệầấẩậ"           // 0xC0
                                         u"Đẫồốổỗộơữừứửựớờở"           // 0xD0
                                         u"àáâãạảẻẽèéêẹìíỉị"           // 0xE0

@@ -52,12 +52,13 @@ TEST(Compiler, MakesEveryFileThatTheProgramOpens) {
   for (const PackFile& file : files)
     names.push_back(file.name);
   std::sort(names.begin(), names.end());
-  EXPECT_EQ(names, (std::vector<std::string>{
-                       "DataS",        "data.Kcu",  "data.Muc",  "data.av",   "data.avt",
-                       "data.bt",      "data.c",    "data.mtd",  "data.vbt",  "data.vt",
-                       "dataABCD.rtf", "dataD.av",  "dataD.vt",  "dataN.av",  "dataN.vt",
-                       "dataPt.v",     "dataPt.vt", "datasp.av", "datasp.vt", "datatu.txt",
-                       "datatuD.txt",  "datavp.n",  "datavp.vt", "readme.rtf"}));
+  EXPECT_EQ(names,
+            (std::vector<std::string>{
+                "DataS",        "data.Kcu",  "data.Muc",  "data.av",           "data.avt",
+                "data.bt",      "data.c",    "data.mtd",  "data.vbt",          "data.vt",
+                "dataABCD.rtf", "dataD.av",  "dataD.vt",  "dataN.av",          "dataN.vt",
+                "dataPt.v",     "dataPt.vt", "datasp.av", "datasp.vt",         "datatu.txt",
+                "datatuD.txt",  "datavp.n",  "datavp.vt", "pronunciation.txt", "readme.rtf"}));
 }
 
 TEST(Compiler, TablesHaveTheirFixedSizes) {

@@ -51,7 +51,7 @@ constexpr std::string_view wholeSource =
 
 /// An entry as a pack has it.
 std::string entryOf(const EntryBlock& block) {
-  return headDetails("", block) + blockLines(block);
+  return headDetails(block) + blockLines(block);
 }
 
 TEST(DictionarySource, AWholeEntryShowsItsFormsLevelNumbersUsesAndPhrases) {
@@ -69,8 +69,10 @@ TEST(DictionarySource, AWholeEntryShowsItsFormsLevelNumbersUsesAndPhrases) {
   EXPECT_EQ(utf8Of(entryLines(block.senses, Examples::Without)),
             "_#động từ #1 đi_2 đi (làm gì)_3 trở nên_4 diễn ra; chạy (máy)"
             "_#danh từ, đếm được #lượt; lần thử");
-  EXPECT_EQ(headDetails("/gou/", block), "/gou/ (went, gone) A1");
-  EXPECT_EQ(headDetails("", {}), "");
+  EntryBlock said = block;
+  said.pronunciation = "/gou/";
+  EXPECT_EQ(headDetails(said), "/gou/ (went, gone) A1");
+  EXPECT_EQ(headDetails({}), "");
 }
 
 TEST(DictionarySource, SensesOfOneClassThatAreCountedDifferentlySaySoEach) {
@@ -99,7 +101,10 @@ TEST(DictionarySource, BlocksComeBackFromAnEntry) {
     const auto entries = parseDictionary(text, "d.txt", problems);
     ASSERT_TRUE(problems.none());
     const OwnEntry& entry = entries.at(0);
-    const std::string stored = "/x/ " + entryOf(entry.block);
+    EntryBlock said = entry.block;
+    said.pronunciation = "/x/";
+    said.senses.back().pronunciation = "/y/";
+    const std::string stored = entryOf(said);
     const auto blocks = readOwnNotation(stored, entry.head).blocks;
     ASSERT_EQ(blocks.size(), 1U);
     EXPECT_EQ(writeEntry({entry.head, blocks[0]}), writeEntry(entry));

@@ -76,15 +76,15 @@ TEST(OwnRecording, TakesThePlaceOfTheSynthesisedOneAndIsKept) {
   TestFolder pack;
   std::filesystem::create_directories(std::filesystem::path(pack.path()) / "sound");
   const std::map<int, OwnRecording> own = {{1, {waveOf(1500), {700, 1500}}}};
-  const auto files = compileRecordings(oneScript(), own, pack.path(), noProgress);
+  const auto files = compileRecordings(oneScript(), own, {}, pack.path(), noProgress);
   ASSERT_EQ(files.size(), 3U);
   EXPECT_EQ(files[0].bytes, waveOf(1500));
   for (const PackFile& file : files)
     ASSERT_FALSE(store(file, pack.path()));
-  EXPECT_EQ(compileRecordings(oneScript(), own, pack.path(), noProgress).size(), 1U);
+  EXPECT_EQ(compileRecordings(oneScript(), own, {}, pack.path(), noProgress).size(), 1U);
   const std::map<int, OwnRecording> moved = {{1, {waveOf(1500), {800, 1500}}}};
-  EXPECT_EQ(compileRecordings(oneScript(), moved, pack.path(), noProgress).size(), 3U);
-  EXPECT_EQ(compileRecordings(oneScript(), {}, pack.path(), noProgress).size(), 3U)
+  EXPECT_EQ(compileRecordings(oneScript(), moved, {}, pack.path(), noProgress).size(), 3U);
+  EXPECT_EQ(compileRecordings(oneScript(), {}, {}, pack.path(), noProgress).size(), 3U)
       << "without it the voices speak again";
 }
 
@@ -115,7 +115,7 @@ TEST(Speakers, HaveOneLevelAndTheRateOfTheirUnit) {
   readings.texts[408] = readings.texts[400];
   TestFolder pack;
   std::map<std::string, std::string> waves;
-  for (const PackFile& file : compileRecordings(readings, {}, pack.path(), noProgress))
+  for (const PackFile& file : compileRecordings(readings, {}, {}, pack.path(), noProgress))
     waves[file.name] = file.bytes;
   EXPECT_GT(waves["sound/1.wav"].size(), waves["sound/9.wav"].size()) << "the first unit is slower";
   const std::string bytes = waves["sound/1.wav"].substr(44);

@@ -38,14 +38,17 @@ class Pack {
     std::vector<std::string> names;
     steps.clear();
     std::filesystem::create_directories(path() / "sound");
-    for (const PackFile& file : compileRecordings(
-             readings, own, path(), [this](std::string_view step) { steps.emplace_back(step); })) {
+    for (const PackFile& file :
+         compileRecordings(readings, own, pronunciations, path(),
+                           [this](std::string_view step) { steps.emplace_back(step); })) {
       EXPECT_FALSE(store(file, path()));
       names.push_back(file.name);
     }
     std::sort(names.begin(), names.end());
     return names;
   }
+
+  Pronunciations pronunciations;
 
   [[nodiscard]] std::filesystem::path path() const { return folder_.path(); }
   [[nodiscard]] std::string bytes(const std::string& name) const {
@@ -148,6 +151,19 @@ TEST(Recordings, OnlyAChangedScriptIsSpokenAgain) {
             (std::vector<std::string>{"DataS", "sound/1.stamp", "sound/1.wav"}));
 }
 
+TEST(Recordings, ACorrectedPronunciationSpeaksAgainWhatHasTheWord) {
+  Pack pack;
+  pack.build(twoScripts());
+  const auto before = pack.blocks();
+  pack.pronunciations =
+      Pronunciations({{SpokenWhere::Everywhere, "rains", "r ey1 n d r aa1 p s ax0 n t r iy1 z"},
+                      {SpokenWhere::Alone, "works", "w ah1 k s"}});
+  EXPECT_EQ(pack.build(twoScripts()),
+            (std::vector<std::string>{"DataS", "sound/4.stamp", "sound/4.wav"}));
+  EXPECT_GT(pack.blocks()[3].back(), before[3].back());
+  Voice::learn({});
+}
+
 TEST(Recordings, WithoutItsWaveOrAWholeStampARecordingIsMadeAgain) {
   Pack pack;
   pack.build(twoScripts());
@@ -158,7 +174,7 @@ TEST(Recordings, WithoutItsWaveOrAWholeStampARecordingIsMadeAgain) {
 }
 
 TEST(Recordings, WithoutAPackNoneIsMade) {
-  const auto files = compileRecordings(twoScripts(), {}, std::nullopt, [](std::string_view) {});
+  const auto files = compileRecordings(twoScripts(), {}, {}, std::nullopt, [](std::string_view) {});
   ASSERT_EQ(files.size(), 1U);
   EXPECT_EQ(files[0].name, "DataS");
   EXPECT_EQ(files[0].bytes.size(), 9U * 4);

@@ -52,7 +52,19 @@ TEST(GlyphMap, EverySmallVietnameseLetterHasAnX1Byte) {
   EXPECT_EQ(bytes.size(), letters.size());
 }
 
+TEST(GlyphMap, ThePhoneticLettersHaveAByteInX1) {
+  for (const char32_t letter : U"æʌəθðʃʒŋ") {
+    if (letter == 0) continue;
+    const auto byte = x1Byte(letter);
+    ASSERT_TRUE(byte.has_value()) << static_cast<unsigned>(letter);
+    EXPECT_EQ(x1Letter(*byte), letter);
+  }
+}
+
 TEST(GlyphMap, ACapitalWithoutAByteIsWrittenSmall) {
+  EXPECT_EQ(x1Byte(U'Ể'), x1Byte(U'ể'));
+  EXPECT_EQ(x1Byte(U'É'), x1Byte(U'é'));
+  EXPECT_EQ(x1Byte(U'Ơ'), x1Byte(U'ơ'));
   EXPECT_EQ(x1Byte(U'Ẵ'), x1Byte(U'ẵ'));
   EXPECT_EQ(x1Byte(U'Ẻ'), x1Byte(U'ẻ'));
   EXPECT_EQ(x1Byte(U'Ũ'), x1Byte(U'ũ'));

@@ -1,0 +1,213 @@
+// Look-ups in the voice's lexicon.
+#include "pack/Pronouncer.h"
+
+#include "pack/StreamText.h"
+#include "text/CharClass.h"
+#include "text/Text.h"
+
+#include <flite/flite.h>
+
+#include <algorithm>
+#include <array>
+#include <unordered_set>
+#include <utility>
+
+// The lexicon comes without a header.
+extern "C" {
+cst_lexicon* cmu_lex_init();
+}
+
+namespace talvora::pack {
+
+namespace {
+
+/// The letters by which the lexicon tells classes apart.
+constexpr std::array<const char*, 5> lexiconClasses = {"0", "n", "v", "j", "r"};
+
+const char* lexiconClass(WordClass wordClass) {
+  switch (wordClass) {
+  case WordClass::Noun:
+    return lexiconClasses[1];
+  case WordClass::Verb:
+  case WordClass::Modal:
+    return lexiconClasses[2];
+  case WordClass::Adjective:
+    return lexiconClasses[3];
+  case WordClass::Adverb:
+    return lexiconClasses[4];
+  default:
+    return lexiconClasses[0];
+  }
+}
+
+Phones lookUp(const std::string& word, const char* wordClass) {
+  static cst_lexicon* const lexicon = cmu_lex_init();
+  cst_val* const found = lex_lookup(lexicon, word.c_str(), wordClass, nullptr);
+  Phones phones;
+  for (const cst_val* each = found; each != nullptr; each = val_cdr(each))
+    phones.emplace_back(val_string(val_car(each)));
+  delete_val(found);
+  return phones;
+}
+
+bool isSaidInSeveralWays(const std::string& word) {
+  const Phones first = lookUp(word, lexiconClasses[0]);
+  return std::any_of(lexiconClasses.begin(), lexiconClasses.end(),
+                     [&](const char* each) { return lookUp(word, each) != first; });
+}
+
+bool isAbbreviation(std::string_view word) {
+  return word.size() > 1 && std::all_of(word.begin(), word.end(),
+                                        [](char letter) { return letter >= 'A' && letter <= 'Z'; });
+}
+
+/// What stands for a whole word behind an apostrophe.
+struct ShortEnding {
+  std::string_view spelling;
+  std::string_view phones;
+};
+
+constexpr std::array<ShortEnding, 4> shortEndings = {
+    {{"'d", "d"}, {"'ll", "l"}, {"'m", "m"}, {"'ve", "v"}}};
+
+/// The names of the letters, a to z.
+constexpr std::array<std::string_view, 26> letterNames = {"ey1",
+                                                          "b iy1",
+                                                          "s iy1",
+                                                          "d iy1",
+                                                          "iy1",
+                                                          "eh1 f",
+                                                          "jh iy1",
+                                                          "ey1 ch",
+                                                          "ay1",
+                                                          "jh ey1",
+                                                          "k ey1",
+                                                          "eh1 l",
+                                                          "eh1 m",
+                                                          "eh1 n",
+                                                          "ow1",
+                                                          "p iy1",
+                                                          "k y uw1",
+                                                          "aa1 r",
+                                                          "eh1 s",
+                                                          "t iy1",
+                                                          "y uw1",
+                                                          "v iy1",
+                                                          "d ah1 b ax0 l y uw0",
+                                                          "eh1 k s",
+                                                          "w ay1",
+                                                          "z iy1"};
+
+/// The words of a head word; hyphens part them as blanks do, stops are not said.
+std::vector<std::string> partsOf(std::string_view head) {
+  std::string plain(head);
+  std::replace(plain.begin(), plain.end(), '-', ' ');
+  std::erase(plain, '.');
+  auto parts = split(plain, ' ');
+  std::erase(parts, "");
+  return parts;
+}
+
+std::string joined(const Phones& phones) {
+  std::string text;
+  for (const std::string& phone : phones)
+    text += (text.empty() ? "" : " ") + phone;
+  return text;
+}
+
+} // namespace
+
+Pronouncer::Pronouncer(std::vector<PronunciationRule> rules) : rules_(std::move(rules)) {
+  for (const PronunciationRule& rule : rules_) {
+    if (rule.phrase.empty()) byWord_[lower(rule.word)].push_back(&rule);
+  }
+}
+
+// A rule for the class goes before one for all.
+const PronunciationRule* Pronouncer::ruleFor(const std::string& word, WordClass wordClass) const {
+  const auto found = byWord_.find(lower(word));
+  if (found == byWord_.end()) return nullptr;
+  const PronunciationRule* general = nullptr;
+  for (const PronunciationRule* rule : found->second) {
+    if (rule->wordClass == wordClass) return rule;
+    if (!rule->wordClass) general = rule;
+  }
+  return general;
+}
+
+Phones Pronouncer::phonesOfWord(const std::string& word, WordClass wordClass) const {
+  const PronunciationRule* rule = ruleFor(word, wordClass);
+  if (rule != nullptr && !rule->phones.empty()) return rule->phones;
+  for (const ShortEnding& ending : shortEndings) {
+    if (!word.ends_with(ending.spelling) || word.size() == ending.spelling.size()) continue;
+    Phones phones = phonesOfWord(word.substr(0, word.size() - ending.spelling.size()), wordClass);
+    for (std::string& phone : phonesOf(ending.phones))
+      phones.push_back(std::move(phone));
+    return phones;
+  }
+  if (!isAbbreviation(word)) return lookUp(lower(word), lexiconClass(wordClass));
+  Phones phones;
+  for (const char letter : word) {
+    for (std::string& phone : phonesOf(letterNames.at(static_cast<std::size_t>(letter - 'A'))))
+      phones.push_back(std::move(phone));
+  }
+  return phones;
+}
+
+std::string Pronouncer::shownOf(std::string_view head, WordClass wordClass) const {
+  const PronunciationRule* whole = ruleFor(std::string(head), wordClass);
+  if (whole != nullptr && !whole->shown.empty()) return whole->shown;
+  std::string shown;
+  for (const std::string& part : partsOf(head)) {
+    const PronunciationRule* rule = ruleFor(part, wordClass);
+    const Phones phones = phonesOfWord(part, wordClass);
+    const bool given = rule != nullptr && !rule->shown.empty();
+    if (!given && !faultOf(phones).empty()) return {};
+    const std::string notation = given ? rule->shown : phoneticOf(phones, part);
+    shown += (shown.empty() ? "" : " ") + notation.substr(1, notation.size() - 2);
+  }
+  return shown.empty() ? shown : "/" + shown + "/";
+}
+
+void Pronouncer::pronounce(std::vector<OwnEntry>& entries) const {
+  for (OwnEntry& entry : entries) {
+    EntryBlock& block = entry.block;
+    if (block.senses.empty()) continue;
+    const std::string head = utf8Of(entry.head);
+    const std::string first = shownOf(head, block.senses.front().wordClass);
+    block.pronunciation = ownText(first);
+    WordClass before = block.senses.front().wordClass;
+    for (Sense& sense : block.senses) {
+      if (sense.wordClass == before) continue;
+      before = sense.wordClass;
+      const std::string shown = shownOf(head, sense.wordClass);
+      if (shown != first) sense.pronunciation = ownText(shown);
+    }
+  }
+}
+
+Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries) const {
+  std::vector<SpokenCorrection> corrections;
+  std::unordered_set<std::string> heads;
+  for (const OwnEntry& entry : entries) {
+    const std::string word = lower(utf8Of(entry.head));
+    if (entry.block.senses.empty() || spokenWordsOf(word) != std::vector{word}) continue;
+    if (!heads.insert(word).second) continue;
+    const WordClass wordClass = entry.block.senses.front().wordClass;
+    const PronunciationRule* rule = ruleFor(entry.head, wordClass);
+    const bool ruled = rule != nullptr && rule->wordClass && !rule->phones.empty();
+    if (!ruled && !isSaidInSeveralWays(word)) continue;
+    corrections.push_back({SpokenWhere::Alone, word, joined(phonesOfWord(entry.head, wordClass))});
+  }
+  for (const PronunciationRule& rule : rules_) {
+    const std::string word = lower(rule.word);
+    if (rule.phones.empty() || (rule.wordClass && heads.contains(word))) continue;
+    const SpokenWhere where = !rule.phrase.empty() ? SpokenWhere::Within
+                              : rule.wordClass     ? SpokenWhere::Alone
+                                                   : SpokenWhere::Everywhere;
+    corrections.push_back({where, word, joined(rule.phones), spokenWordsOf(rule.phrase)});
+  }
+  return Pronunciations(std::move(corrections));
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,90 @@
+// Parsing of pronunciations.
+#include "pack/PronunciationSource.h"
+
+#include "pack/SourceFile.h"
+#include "pack/StreamText.h"
+#include "sound/Pronunciations.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr std::string_view equals = " = ";
+constexpr std::string_view within = " : ";
+
+/// Takes the class off the end of a word: "use v.".
+std::optional<WordClass> takeClass(std::string_view& word) {
+  for (const ClassName& name : ClassNames) {
+    if (!word.ends_with(" " + std::string(name.source))) continue;
+    word.remove_suffix(name.source.size() + 1);
+    return name.wordClass;
+  }
+  return std::nullopt;
+}
+
+bool holds(std::string_view phrase, std::string_view word) {
+  const auto words = spokenWordsOf(phrase);
+  return std::find(words.begin(), words.end(), lower(word)) != words.end();
+}
+
+/// What is wrong with a rule as a whole; empty when nothing is.
+std::string ruleFault(const PronunciationRule& rule) {
+  if (rule.word.empty()) return "a word must stand ahead of \" = \"";
+  if (!rule.shown.empty()) {
+    if (!rule.phrase.empty()) return "a notation holds for the word alone, not within a phrase";
+    return streamText(rule.shown) ? "" : "the notation has a letter that cannot be shown";
+  }
+  if (!rule.phrase.empty() && !holds(rule.phrase, rule.word))
+    return "the phrase does not have the word";
+  if (spokenWordsOf(rule.word).size() != 1) return "one word at a time can have phones";
+  return faultOf(rule.phones);
+}
+
+} // namespace
+
+std::vector<PronunciationRule> parsePronunciations(std::string_view text, const std::string& file,
+                                                   Problems& problems) {
+  std::vector<PronunciationRule> rules;
+  for (const SourceLine& line : linesOf(text)) {
+    if (line.text.empty() || line.text.starts_with("//")) continue;
+    const Where where{file, line.number, 1};
+    const std::size_t middle = line.text.find(equals);
+    if (middle == std::string_view::npos) {
+      problems.add(where, "a pronunciation must be \"word = phones\" or \"word = /notation/\"");
+      continue;
+    }
+    PronunciationRule rule;
+    rule.where = where;
+    std::string_view word = trim(line.text.substr(0, middle));
+    rule.wordClass = takeClass(word);
+    rule.word = word;
+    std::string_view said = line.text.substr(middle + equals.size());
+    const std::size_t phrase = said.find(within);
+    if (phrase != std::string_view::npos) rule.phrase = trim(said.substr(phrase + within.size()));
+    said = trim(said.substr(0, phrase));
+    const bool notation = said.size() > 2 && said.starts_with('/') && said.ends_with('/');
+    if (notation) {
+      rule.shown = said;
+    } else {
+      rule.phones = phonesOf(said);
+    }
+    if (std::string fault = ruleFault(rule); !fault.empty()) {
+      problems.add(where, std::move(fault));
+      continue;
+    }
+    rules.push_back(std::move(rule));
+  }
+  return rules;
+}
+
+std::vector<PronunciationRule> readPronunciations(const std::filesystem::path& path,
+                                                  Problems& problems) {
+  const auto text = readWhole(path);
+  return text ? parsePronunciations(*text, path.string(), problems)
+              : std::vector<PronunciationRule>{};
+}
+
+} // namespace talvora::pack

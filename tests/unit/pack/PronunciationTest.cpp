@@ -1,0 +1,117 @@
+// How words are said: the source, the notation, and what the voice is told.
+#include "pack/PhonesReport.h"
+#include "pack/Pronouncer.h"
+#include "pack/StreamText.h"
+
+#include <gtest/gtest.h>
+
+namespace talvora::pack {
+namespace {
+
+std::vector<PronunciationRule> rulesOf(std::string_view text) {
+  Problems problems;
+  auto rules = parsePronunciations(text, "p.txt", problems);
+  EXPECT_TRUE(problems.none());
+  return rules;
+}
+
+std::string problemOf(std::string_view text) {
+  Problems problems;
+  static_cast<void>(parsePronunciations(text, "p.txt", problems));
+  return problems.all().size() == 1 ? describe(problems.all()[0]) : "(not one)";
+}
+
+TEST(PronunciationSource, ReadsWordsClassesPhrasesAndNotations) {
+  const auto rules = rulesOf("// x\n\nHue = hh w ey1\nuse v. = y uw1 z\n"
+                             "lives = l ih1 v z : she lives nearby\nthe = /ðə/\n");
+  ASSERT_EQ(rules.size(), 4U);
+  EXPECT_EQ(rules[0].word, "Hue");
+  EXPECT_EQ(rules[0].phones, (Phones{"hh", "w", "ey1"}));
+  EXPECT_EQ(rules[1].wordClass, WordClass::Verb);
+  EXPECT_EQ(rules[2].phrase, "she lives nearby");
+  EXPECT_EQ(rules[3].shown, "/ðə/");
+}
+
+TEST(PronunciationSource, ReportsWhatIsWrong) {
+  EXPECT_EQ(problemOf("Hue\n"),
+            "p.txt:1:1: a pronunciation must be \"word = phones\" or \"word = /notation/\"");
+  EXPECT_EQ(problemOf("Hue = hh w eh\n"), "p.txt:1:1: \"eh\" is no phone");
+  EXPECT_EQ(problemOf("Hue = hh w ey2\n"), "p.txt:1:1: \"ey2\" is no phone");
+  EXPECT_EQ(problemOf("Hue = hh w\n"), "p.txt:1:1: a word needs a vowel");
+  EXPECT_EQ(problemOf("live = l ih1 v : she lives\n"),
+            "p.txt:1:1: the phrase does not have the word");
+  EXPECT_EQ(problemOf("Hoi An = hh oy1\n"), "p.txt:1:1: one word at a time can have phones");
+  EXPECT_EQ(problemOf("the = /ð₫/\n"), "p.txt:1:1: the notation has a letter that cannot be shown");
+}
+
+TEST(Phonetics, WritesWhatSchoolDictionariesWrite) {
+  const auto shown = [](std::string_view phones, std::string_view word) {
+    return phoneticOf(phonesOf(phones), word);
+  };
+  EXPECT_EQ(shown("g ow1", "go"), "/gou/");
+  EXPECT_EQ(shown("w ao1 t er0", "water"), "/'wo:tə/");
+  EXPECT_EQ(shown("hh aa1 t", "hot"), "/hot/");
+  EXPECT_EQ(shown("f aa1 dh er0", "father"), "/'fa:ðə/");
+  EXPECT_EQ(shown("k aa1 r", "car"), "/ka:/");
+  EXPECT_EQ(shown("hh ih1 r", "here"), "/hiə/");
+  EXPECT_EQ(shown("dh eh1 r", "there"), "/ðeə/");
+  EXPECT_EQ(shown("v eh1 r iy0", "very"), "/'veri/");
+  EXPECT_EQ(shown("p eh1 r ax0 n t", "parent"), "/'peərənt/");
+  EXPECT_EQ(shown("s t uw1 d ax0 n t", "student"), "/'stju:dənt/");
+  EXPECT_EQ(shown("w er1 iy0", "worry"), "/'wʌri/");
+  EXPECT_EQ(shown("w aa1 n t ax0 d", "wanted"), "/'wontid/");
+  EXPECT_EQ(shown("t ey1 b ax0 l", "table"), "/'teibl/");
+  EXPECT_EQ(shown("l ae1 ng g w ax0 jh", "language"), "/'læŋgwidʒ/");
+  EXPECT_EQ(shown("v ih1 zh ax0 n", "vision"), "/'viʒən/");
+  EXPECT_EQ(shown("th ih1 ng", "thing"), "/θiŋ/");
+}
+
+TEST(Phonetics, OneSyllableHasTheMainStress) {
+  const auto shown = [](std::string_view phones, std::string_view word) {
+    return phoneticOf(phonesOf(phones), word);
+  };
+  EXPECT_EQ(shown("ah1 n d er0 s t ae1 n d", "understand"), "/ʌndə'stænd/");
+  EXPECT_EQ(shown("d ih1 k sh ax0 n eh1 r iy0", "dictionary"), "/'dikʃəneəri/");
+  EXPECT_EQ(shown("ih0 g z ae1 m ax0 n ey1 sh ax0 n", "examination"), "/igzæmi'neiʃən/");
+  EXPECT_EQ(shown("r eh1 s t er0 aa1 n t", "restaurant"), "/'restəra:nt/");
+}
+
+TEST(Pronouncer, AClassThatIsSaidInItsOwnWaySaysSo) {
+  Problems problems;
+  auto entries = parseDictionary("use A1\n  v. dùng\n  n. [u] cách dùng\n\n"
+                                 "walk\n  v. đi bộ\n  n. cuộc đi bộ\n",
+                                 "d.txt", problems);
+  Pronouncer({}).pronounce(entries);
+  EXPECT_EQ(utf8Of(headDetails(entries[0].block) + blockLines(entries[0].block)),
+            "/ju:z/ A1_#động từ #dùng_#danh từ, không đếm được #/ju:s/ cách dùng");
+  EXPECT_EQ(utf8Of(headDetails(entries[1].block) + blockLines(entries[1].block)),
+            "/wo:k/_#động từ #đi bộ_#danh từ #cuộc đi bộ");
+}
+
+TEST(Pronouncer, TheSourceGoesBeforeTheLexicon) {
+  const Pronouncer pronouncer(
+      rulesOf("Hue = hh w ey1\nuse n. = y uw1 z\nthe = /ðə/\nlive = l ay1 v : I live\n"));
+  EXPECT_EQ(pronouncer.shownOf("Hue", WordClass::Noun), "/hwei/");
+  EXPECT_EQ(pronouncer.shownOf("use", WordClass::Noun), "/ju:z/");
+  EXPECT_EQ(pronouncer.shownOf("the", WordClass::Determiner), "/ðə/");
+  EXPECT_EQ(pronouncer.shownOf("live", WordClass::Verb), "/liv/");
+  EXPECT_EQ(pronouncer.shownOf("ice-cream", WordClass::Noun), "/ais kri:m/");
+  EXPECT_EQ(pronouncer.shownOf("TV", WordClass::Noun), "/ti:'vi:/");
+  EXPECT_EQ(pronouncer.shownOf("she'd", WordClass::Phrase), "/ʃi:d/");
+}
+
+TEST(Pronouncer, AClickedHeadWordIsSaidAsItsCommonestClassIs) {
+  Problems problems;
+  const auto entries = parseDictionary("use\n  v. dùng\n  n. cách dùng\n\nwalk\n  v. đi bộ\n\n"
+                                       "Dr\n  abbr. bác sĩ\n",
+                                       "d.txt", problems);
+  const Pronouncer pronouncer(rulesOf("Dr abbr. = d aa1 k t er0\nlives = l ih1 v z : she lives\n"
+                                      "used v. = y uw1 z d\nHue = hh w ey1\nthe = /ðə/\n"));
+  EXPECT_EQ(pronouncer.correctionsFor(entries).write(),
+            "alone\tuse\ty uw1 z\nalone\tdr\td aa1 k t er0\n"
+            "within\tlives\tl ih1 v z\tshe lives\nalone\tused\ty uw1 z d\n"
+            "everywhere\thue\thh w ey1\n");
+}
+
+} // namespace
+} // namespace talvora::pack
