@@ -14,8 +14,10 @@
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
 #include "text/CharClass.h"
+#include "text/GlyphMap.h"
 #include "text/Text.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace talvora::pack {
@@ -24,9 +26,17 @@ namespace {
 
 constexpr CharClass wordCharacters("[a-zA-Z'-]");
 
+/// True for a letter that English lacks; typographic marks are none.
+bool isVietnameseLetter(char character) {
+  const char16_t letter = x1Letter(character);
+  return letter >= 0xC0 && letter < 0x2000;
+}
+
 void appendWords(std::vector<std::string>& words, std::string_view text) {
   std::string word;
   const auto finish = [&] {
+    // A word with a Vietnamese letter is not English, nor are the pieces around the letter.
+    if (std::any_of(word.begin(), word.end(), isVietnameseLetter)) word.clear();
     while (!word.empty() && !Letters.has(word.front()))
       word.erase(0, 1);
     while (!word.empty() && !Letters.has(word.back()))
@@ -35,7 +45,7 @@ void appendWords(std::vector<std::string>& words, std::string_view text) {
     word.clear();
   };
   for (const char character : text) {
-    if (wordCharacters.has(character)) {
+    if (wordCharacters.has(character) || isVietnameseLetter(character)) {
       word += character;
     } else {
       finish();

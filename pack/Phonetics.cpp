@@ -48,13 +48,15 @@ constexpr std::array<std::string_view, 41> openings = {
     "m y", "hh y", "s p r", "s p l", "s t r", "s k r", "s k w", "n y"};
 
 /// Endings that take the stress themselves, and openings of verbs that leave it to the end.
-constexpr std::array<std::string_view, 14> stressedEndings = {
-    "ese",  "ee",   "eer",  "oon",  "ette", "ique", "esque",
-    "duce", "mend", "tain", "pear", "zine", "gree", "lieve"};
+constexpr std::array<std::string_view, 15> stressedEndings = {
+    "ese",  "ee",   "eer",  "oon",  "ette", "ique",  "esque", "duce",
+    "mend", "tain", "pear", "zine", "gree", "lieve", "sent"};
 constexpr std::array<std::string_view, 3> verbOpenings = {"under", "over", "with"};
 /// Endings whose vowel is full and yet never has the main stress.
 constexpr std::array<std::string_view, 7> lightEndings = {"ary",  "ory",   "mony", "arily",
                                                           "ator", "ative", "paper"};
+
+constexpr std::array<std::string_view, 2> weakEndings = {"ary", "ory"};
 
 template <typename Names>
 std::optional<std::string_view> lettersOf(std::string_view phone, const Names& names) {
@@ -135,7 +137,9 @@ class PhoneticWriter {
     for (std::size_t place = 0; place < sounds_.size(); ++place)
       if (sounds_[place].stressed) stressed.push_back(place);
     if (stressed.size() < 2) return;
-    const bool endHasIt = spellingEndsIn(stressedEndings) || spellingOpensWith(verbOpenings);
+    const bool letters = spelling_.size() < stressed.size() + 2;
+    const bool endHasIt =
+        letters || spellingEndsIn(stressedEndings) || spellingOpensWith(verbOpenings);
     const bool onLast = std::none_of(sounds_.begin() + static_cast<long>(stressed.back()) + 1,
                                      sounds_.end(), [](const Sound& each) { return each.vowel; });
     const bool lesser = (onLast && !endHasIt) || spellingEndsIn(lightEndings);
@@ -223,7 +227,8 @@ class PhoneticWriter {
       text_ += "o";
     } else if (sound.phone == "aa" && group().ends_with('a') && afterW()) {
       text_ += "o";
-    } else if (sound.phone == "aa" && spelling_.find("ough") != std::string::npos) {
+    } else if (sound.phone == "aa" && (spelling_.find("ough") != std::string::npos ||
+                                       group() == "au" || group() == "ou")) {
       text_ += "o:";
     } else if (sound.phone == "ax" || (sound.phone == "ah" && !sound.stressed)) {
       writeWeakVowel();
@@ -287,6 +292,13 @@ class PhoneticWriter {
     const Sound& sound = sounds_[at_];
     const bool vowelFollows = isVowel(at_ + 2);
     const bool doubled = spelling_.find("rr") != std::string::npos;
+    // "January", "history": nothing is left of the vowel in an ending without the main stress.
+    const bool ending =
+        spellingEndsIn(weakEndings) && is(at_ + 2, "iy") && at_ + 3 == sounds_.size();
+    if (ending && !sound.main) {
+      text_ += "ə";
+      return true;
+    }
     const bool shortOne = vowelFollows && (doubled || isShortGroup());
     if (sound.phone == "ih" || sound.phone == "iy") {
       text_ += shortOne ? "i" : "iə";

@@ -124,11 +124,13 @@ Pronouncer::Pronouncer(std::vector<PronunciationRule> rules) : rules_(std::move(
 }
 
 // A rule for the class goes before one for all.
-const PronunciationRule* Pronouncer::ruleFor(const std::string& word, WordClass wordClass) const {
+const PronunciationRule* Pronouncer::ruleFor(const std::string& word, WordClass wordClass,
+                                             Gives gives) const {
   const auto found = byWord_.find(lower(word));
   if (found == byWord_.end()) return nullptr;
   const PronunciationRule* general = nullptr;
   for (const PronunciationRule* rule : found->second) {
+    if (rule->shown.empty() != (gives == Gives::Sounds)) continue;
     if (rule->wordClass == wordClass) return rule;
     if (!rule->wordClass) general = rule;
   }
@@ -136,8 +138,8 @@ const PronunciationRule* Pronouncer::ruleFor(const std::string& word, WordClass 
 }
 
 Phones Pronouncer::phonesOfWord(const std::string& word, WordClass wordClass) const {
-  const PronunciationRule* rule = ruleFor(word, wordClass);
-  if (rule != nullptr && !rule->phones.empty()) return rule->phones;
+  const PronunciationRule* rule = ruleFor(word, wordClass, Gives::Sounds);
+  if (rule != nullptr) return rule->phones;
   for (const ShortEnding& ending : shortEndings) {
     if (!word.ends_with(ending.spelling) || word.size() == ending.spelling.size()) continue;
     Phones phones = phonesOfWord(word.substr(0, word.size() - ending.spelling.size()), wordClass);
@@ -155,13 +157,13 @@ Phones Pronouncer::phonesOfWord(const std::string& word, WordClass wordClass) co
 }
 
 std::string Pronouncer::shownOf(std::string_view head, WordClass wordClass) const {
-  const PronunciationRule* whole = ruleFor(std::string(head), wordClass);
-  if (whole != nullptr && !whole->shown.empty()) return whole->shown;
+  const PronunciationRule* whole = ruleFor(std::string(head), wordClass, Gives::Notation);
+  if (whole != nullptr) return whole->shown;
   std::string shown;
   for (const std::string& part : partsOf(head)) {
-    const PronunciationRule* rule = ruleFor(part, wordClass);
+    const PronunciationRule* rule = ruleFor(part, wordClass, Gives::Notation);
     const Phones phones = phonesOfWord(part, wordClass);
-    const bool given = rule != nullptr && !rule->shown.empty();
+    const bool given = rule != nullptr;
     if (!given && !faultOf(phones).empty()) return {};
     const std::string notation = given ? rule->shown : phoneticOf(phones, part);
     shown += (shown.empty() ? "" : " ") + notation.substr(1, notation.size() - 2);
@@ -194,8 +196,8 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries) 
     if (entry.block.senses.empty() || spokenWordsOf(word) != std::vector{word}) continue;
     if (!heads.insert(word).second) continue;
     const WordClass wordClass = entry.block.senses.front().wordClass;
-    const PronunciationRule* rule = ruleFor(entry.head, wordClass);
-    const bool ruled = rule != nullptr && rule->wordClass && !rule->phones.empty();
+    const PronunciationRule* rule = ruleFor(entry.head, wordClass, Gives::Sounds);
+    const bool ruled = rule != nullptr && rule->wordClass;
     if (!ruled && !isSaidInSeveralWays(word)) continue;
     corrections.push_back({SpokenWhere::Alone, word, joined(phonesOfWord(entry.head, wordClass))});
   }

@@ -29,8 +29,9 @@ class Pronouncer {
   [[nodiscard]] Pronunciations correctionsFor(const std::vector<OwnEntry>& entries) const;
 
  private:
-  [[nodiscard]] const PronunciationRule* ruleFor(const std::string& word,
-                                                 WordClass wordClass) const;
+  enum class Gives { Sounds, Notation };
+  [[nodiscard]] const PronunciationRule* ruleFor(const std::string& word, WordClass wordClass,
+                                                 Gives gives) const;
 
   std::vector<PronunciationRule> rules_;
   std::unordered_map<std::string, std::vector<const PronunciationRule*>> byWord_;

@@ -81,7 +81,7 @@ struct Word {
 class WordList {
  public:
   /// `limit` is the number of lines that the list holds at most.
-  explicit WordList(std::size_t limit) : limit_(limit) {}
+  explicit WordList(std::size_t limit) : limit_(limit) { byForm_.reserve(limit); }
 
   [[nodiscard]] bool full() const noexcept { return words_.size() >= limit_; }
   [[nodiscard]] std::size_t size() const noexcept { return words_.size(); }

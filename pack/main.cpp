@@ -1,6 +1,7 @@
 // The command line of the content compiler.
 #include "pack/Check.h"
 #include "pack/Compiler.h"
+#include "pack/ContentCheck.h"
 #include "pack/CourseChecks.h"
 #include "pack/Dump.h"
 #include "pack/PhonesReport.h"
@@ -54,9 +55,21 @@ int build(Options options, const std::filesystem::path& out) {
   return 0;
 }
 
-int check(const Options& options, const std::vector<ContentKind>& only) {
+/// Tells what breaks a rule of the dictionary without being an error: how often, and where when the
+/// dictionary was asked for by name.
+void checkRules(const Options& options, const std::set<ContentKind>& only, Problems& problems) {
+  const bool named = only.contains(ContentKind::Dictionary);
+  if (!only.empty() && !named) return;
+  const auto findings = checkDictionaryAlone(options.source, {}, problems);
+  if (named) std::cout << warningsOf(findings);
+  std::cout << findingsReport(findings);
+  reportErrors(findings, problems);
+}
+
+int check(const Options& options, const std::set<ContentKind>& only) {
   Problems problems;
-  const std::string counted = checkContent(options, {only.begin(), only.end()}, problems, showStep);
+  const std::string counted = checkContent(options, only, problems, showStep);
+  if (problems.none()) checkRules(options, only, problems);
   if (problems.none() && only.empty()) {
     showStep("rules of texts and drills");
     for (const std::string& note : checkCourse(options.source, problems))
@@ -183,7 +196,7 @@ int run(int argumentCount, char** arguments) {
   if (buildCommand->parsed()) return build(options, out);
   if (planCommand->parsed())
     return plan(options.source, slot, known ? Detail::Full : Detail::Short);
-  if (checkCommand->parsed()) return check(options, only);
+  if (checkCommand->parsed()) return check(options, {only.begin(), only.end()});
   if (showCommand->parsed()) return showPlace(place);
   if (phonesCommand->parsed()) return phones(options.source, words);
   return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);

@@ -71,7 +71,7 @@ TEST(Phonetics, OneSyllableHasTheMainStress) {
     return phoneticOf(phonesOf(phones), word);
   };
   EXPECT_EQ(shown("ah1 n d er0 s t ae1 n d", "understand"), "/ʌndə'stænd/");
-  EXPECT_EQ(shown("d ih1 k sh ax0 n eh1 r iy0", "dictionary"), "/'dikʃəneəri/");
+  EXPECT_EQ(shown("d ih1 k sh ax0 n eh1 r iy0", "dictionary"), "/'dikʃənəri/");
   EXPECT_EQ(shown("ih0 g z ae1 m ax0 n ey1 sh ax0 n", "examination"), "/igzæmi'neiʃən/");
   EXPECT_EQ(shown("r eh1 s t er0 aa1 n t", "restaurant"), "/'restəra:nt/");
 }

@@ -1,0 +1,37 @@
+// The checks that go beyond what a build needs.
+#pragma once
+
+#include "pack/Compiler.h"
+#include "pack/DictionaryCheck.h"
+
+#include <string>
+#include <vector>
+
+namespace talvora::pack {
+
+/// Where the word lists of the checks are installed.
+struct CheckLists {
+  std::filesystem::path vietnamese = "/usr/share/hunspell/vi_VN.dic";
+  std::vector<std::filesystem::path> english = {"/usr/share/dict/british-english",
+                                                "/usr/share/dict/british-english-huge",
+                                                "/usr/share/dict/american-english-huge"};
+};
+
+/// What the dictionary of a content tree breaks. `entries` holds the normal forms of its word list.
+[[nodiscard]] std::vector<Finding> findingsIn(const std::filesystem::path& source,
+                                              const std::vector<OwnEntry>& own, WordSet entries,
+                                              const CheckLists& lists);
+
+/// The dictionary alone, without the databases: its own words and their forms, as far as the word
+/// lists know them.
+[[nodiscard]] std::vector<Finding> checkDictionaryAlone(const std::filesystem::path& source,
+                                                        const CheckLists& lists,
+                                                        Problems& problems);
+
+/// A line for each finding that is no error, with its place.
+[[nodiscard]] std::string warningsOf(const std::vector<Finding>& findings);
+
+/// Adds the findings that are errors to the problems.
+void reportErrors(const std::vector<Finding>& findings, Problems& problems);
+
+} // namespace talvora::pack

@@ -1,0 +1,288 @@
+// The rules of the dictionary, one procedure each.
+#include "pack/DictionaryCheck.h"
+
+#include "pack/SourceFile.h"
+#include "pack/StreamText.h"
+#include "sound/Pronunciations.h"
+#include "text/GlyphMap.h"
+#include "text/Text.h"
+#include "text/WordForm.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr std::size_t longestEntry = 450;
+constexpr std::size_t longestGloss = 24;
+
+std::string_view firstGloss(std::string_view text) {
+  text = text.substr(0, text.find(';'));
+  return trim(text.substr(0, text.find(" (")));
+}
+
+/// How many letters of an entry are shown: the marks are not, and a line has " - " ahead of it.
+std::size_t shownLetters(const OwnEntry& entry) {
+  const std::string text = headDetails(entry.block) + blockLines(entry.block);
+  std::size_t letters = entry.head.size() + 1;
+  for (const char character : text) {
+    if (character == '_') {
+      letters += 4;
+    } else if (character != '#' && character != '^') {
+      ++letters;
+    }
+  }
+  return letters;
+}
+
+/// The small letter of a Latin capital, the Vietnamese ones too.
+char32_t smallLetter(char32_t letter) {
+  if (letter < 0x80) return static_cast<unsigned char>(lower(static_cast<char>(letter)));
+  if (letter >= 0x1EA0 && letter <= 0x1EF9) return letter | 1U;
+  if (letter >= 0xC0 && letter <= 0xDD) return letter + 0x20;
+  const bool paired = std::u32string_view(U"ĂĐĨŨƠƯ").find(letter) != std::u32string_view::npos;
+  return paired ? letter + 1 : letter;
+}
+
+/// A syllable with its tone mark on the second vowel, where it stands on the first: "thỏa" and
+/// "thoả" are both in use, and a word list has one of them.
+std::string toneMovedBack(const std::string& syllable) {
+  struct Twin {
+    std::string_view ours;
+    std::string_view theirs;
+  };
+  static constexpr std::array<Twin, 15> twins = {{{"òa", "oà"},
+                                                  {"óa", "oá"},
+                                                  {"ỏa", "oả"},
+                                                  {"õa", "oã"},
+                                                  {"ọa", "oạ"},
+                                                  {"òe", "oè"},
+                                                  {"óe", "oé"},
+                                                  {"ỏe", "oẻ"},
+                                                  {"õe", "oẽ"},
+                                                  {"ọe", "oẹ"},
+                                                  {"ùy", "uỳ"},
+                                                  {"úy", "uý"},
+                                                  {"ủy", "uỷ"},
+                                                  {"ũy", "uỹ"},
+                                                  {"ụy", "uỵ"}}};
+  for (const Twin& twin : twins) {
+    if (syllable.ends_with(twin.ours))
+      return syllable.substr(0, syllable.size() - twin.ours.size()).append(twin.theirs);
+  }
+  return syllable;
+}
+
+/// Small letters of a UTF-8 text, the Vietnamese ones too.
+std::string smallUtf8(std::string_view text) {
+  std::string small;
+  for (std::size_t at = 0; at < text.size();) {
+    const auto letter = nextCodePoint(text, at);
+    if (!letter) return small;
+    appendUtf8(small, smallLetter(*letter));
+  }
+  return small;
+}
+
+/// The syllables of a Vietnamese text: stretches of letters, ASCII or not.
+std::vector<std::string> syllablesOf(std::string_view utf8) {
+  std::vector<std::string> syllables;
+  std::string syllable;
+  const auto finish = [&] {
+    if (!syllable.empty()) syllables.push_back(syllable);
+    syllable.clear();
+  };
+  for (const char character : utf8) {
+    const bool letter = static_cast<unsigned char>(character) >= 0x80 ||
+                        (lower(character) >= 'a' && lower(character) <= 'z');
+    if (letter) {
+      syllable += character;
+    } else {
+      finish();
+    }
+  }
+  finish();
+  return syllables;
+}
+
+class Checker {
+ public:
+  explicit Checker(const DictionaryMeasures& measures) : measures_(measures) {
+    for (const auto& verb : measures.irregularVerbs)
+      if (verb.size() == 3) verbs_[verb[0]] = {verb[1], verb[2]};
+  }
+
+  void check(const OwnEntry& entry) {
+    entry_ = &entry;
+    checkLength();
+    checkPhrases();
+    checkForms();
+    for (const Sense& sense : entry.block.senses)
+      checkSense(sense);
+    checkExamples();
+  }
+
+  std::vector<Finding> takeFindings() { return std::move(findings_); }
+
+ private:
+  void find(DictionaryRule rule, std::string message) {
+    findings_.push_back({rule, {entry_->where, utf8Of(entry_->head) + ": " + std::move(message)}});
+  }
+
+  void checkLength() {
+    const std::size_t letters = shownLetters(*entry_);
+    if (letters > longestEntry)
+      find(DictionaryRule::EntryTooLong, std::to_string(letters) + " letters are shown, at most " +
+                                             std::to_string(longestEntry) + " should be");
+  }
+
+  // A form of the head will do, and the rules alter no more than its end.
+  void checkPhrases() {
+    const std::string head = lower(entry_->head);
+    const std::string stem = head.size() > 3 ? head.substr(0, head.size() - 1) : head;
+    for (const FixedPhrase& phrase : entry_->block.phrases) {
+      const std::string english = lower(phrase.english);
+      const auto& forms = entry_->block.forms;
+      const bool holds = english.find(stem) != std::string::npos ||
+                         std::any_of(forms.begin(), forms.end(), [&](const std::string& form) {
+                           return english.find(form) != std::string::npos;
+                         });
+      if (!holds)
+        find(DictionaryRule::PhraseWithoutHead,
+             "the phrase \"" + utf8Of(phrase.english) + "\" does not have the word");
+    }
+  }
+
+  void checkForms() {
+    const auto verb = verbs_.find(entry_->head);
+    const auto& senses = entry_->block.senses;
+    const bool isVerb = std::any_of(senses.begin(), senses.end(), [](const Sense& sense) {
+      return sense.wordClass == WordClass::Verb;
+    });
+    if (verb == verbs_.end() || !isVerb) return;
+    const auto& forms = entry_->block.forms;
+    const auto lists = [](const std::string& form, const std::string& wanted) {
+      const auto all = alternativesOf(form);
+      return std::find(all.begin(), all.end(), wanted) != all.end();
+    };
+    if (forms.size() < 2 || !lists(forms[0], verb->second.first) ||
+        !lists(forms[1], verb->second.second))
+      find(DictionaryRule::FormsUnlikeLesson,
+           "the lesson has the forms " + verb->second.first + ", " + verb->second.second);
+  }
+
+  void checkSense(const Sense& sense) {
+    const std::string_view gloss = firstGloss(sense.text);
+    if (gloss.size() > longestGloss)
+      find(DictionaryRule::GlossTooLong,
+           "\"" + utf8Of(gloss) + "\" has " + std::to_string(gloss.size()) + " letters");
+    const std::size_t equals = sense.example.find(" = ");
+    const std::string english = sense.example.substr(0, equals);
+    checkEnglish(english);
+    checkEnglish(sense.pattern);
+    for (const std::string& word : spokenWordsOf(english)) {
+      if (!measures_.entries.empty() && !measures_.entries.contains(ChuanHoaTu(word)))
+        find(DictionaryRule::ExampleWordWithoutEntry, "\"" + word + "\" has no entry");
+    }
+    if (equals != std::string::npos) checkVietnamese(sense.example.substr(equals + 3));
+    checkVietnamese(sense.text);
+  }
+
+  void checkEnglish(const std::string& text) {
+    if (measures_.english.empty()) return;
+    for (const std::string& word : spokenWordsOf(text)) {
+      const std::string base = word.substr(0, word.find('\''));
+      if (!measures_.english.contains(word) && !measures_.english.contains(base) && word != "sb" &&
+          word != "sth")
+        find(DictionaryRule::EnglishWordUnknown, "\"" + word + "\" is in no word list");
+    }
+  }
+
+  // English words stand in translations too, as names and in remarks.
+  void checkVietnamese(const std::string& text) {
+    if (measures_.vietnamese.empty()) return;
+    for (const std::string& syllable : syllablesOf(utf8Of(text))) {
+      const std::string small = smallUtf8(syllable);
+      const bool name = syllable != small;
+      if (name || measures_.vietnamese.contains(small) ||
+          measures_.vietnamese.contains(toneMovedBack(small)) || measures_.english.contains(small))
+        continue;
+      find(DictionaryRule::UnknownSyllable, "\"" + syllable + "\" is in no word list");
+    }
+  }
+
+  void checkExamples() {
+    const EntryBlock& block = entry_->block;
+    if (block.level.empty() || block.level > "B1") return;
+    ClassSet with;
+    for (const Sense& sense : block.senses)
+      if (!sense.example.empty()) with.add(sense.wordClass);
+    ClassSet told;
+    for (const Sense& sense : block.senses) {
+      if (with.has(sense.wordClass) || told.has(sense.wordClass)) continue;
+      told.add(sense.wordClass);
+      find(DictionaryRule::LevelWithoutExample,
+           "no example for " +
+               std::string(ClassNames[static_cast<std::size_t>(sense.wordClass)].source));
+    }
+  }
+
+  const DictionaryMeasures& measures_;
+  std::unordered_map<std::string, std::pair<std::string, std::string>> verbs_;
+  const OwnEntry* entry_ = nullptr;
+  std::vector<Finding> findings_;
+};
+
+} // namespace
+
+std::vector<std::vector<std::string>> verbsOfLesson(std::string_view text) {
+  std::vector<std::vector<std::string>> verbs;
+  for (const SourceLine& line : linesOf(text)) {
+    if (!line.text.starts_with("> ")) continue;
+    std::string list(line.text.substr(2));
+    std::replace(list.begin(), list.end(), ';', ',');
+    for (const std::string& each : split(list, ',')) {
+      std::vector<std::string> forms;
+      for (const std::string& form : split(each, '-'))
+        forms.emplace_back(trim(form));
+      const bool single = std::all_of(forms.begin(), forms.end(), [](const std::string& form) {
+        return !form.empty() && form.find(' ') == std::string::npos;
+      });
+      if (forms.size() == 3 && single) verbs.push_back(std::move(forms));
+    }
+  }
+  return verbs;
+}
+
+WordSet wordSetOf(const std::filesystem::path& path) {
+  WordSet words;
+  const auto text = readWhole(path);
+  if (!text) return words;
+  for (const SourceLine& line : linesOf(*text))
+    words.insert(smallUtf8(line.text.substr(0, line.text.find('/'))));
+  return words;
+}
+
+std::vector<Finding> checkDictionary(const std::vector<OwnEntry>& entries,
+                                     const DictionaryMeasures& measures) {
+  Checker checker(measures);
+  for (const OwnEntry& entry : entries)
+    checker.check(entry);
+  return checker.takeFindings();
+}
+
+std::string findingsReport(const std::vector<Finding>& findings) {
+  std::string report;
+  for (const DictionaryRuleName& rule : DictionaryRules) {
+    const auto count =
+        std::count_if(findings.begin(), findings.end(),
+                      [&rule](const Finding& each) { return each.rule == rule.rule; });
+    if (count > 0) report += std::to_string(count) + " " + std::string(rule.name) + "\n";
+  }
+  return report;
+}
+
+} // namespace talvora::pack

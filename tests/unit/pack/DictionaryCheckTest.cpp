@@ -1,0 +1,96 @@
+// The rules of the dictionary: each is broken once and kept once.
+#include "pack/DictionaryCheck.h"
+
+#include "pack/ContentCheck.h"
+
+#include <gtest/gtest.h>
+
+namespace talvora::pack {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+Lines findingsOf(const std::string& source, const DictionaryMeasures& measures = {}) {
+  Problems problems;
+  const auto entries = parseDictionary(source, "d.txt", problems);
+  EXPECT_TRUE(problems.none());
+  Lines lines;
+  for (const Finding& finding : checkDictionary(entries, measures))
+    lines.push_back(finding.problem.message);
+  return lines;
+}
+
+TEST(DictionaryCheck, AnEntryHasItsLength) {
+  const std::string gloss = "go\n  v. đi: " + std::string(420, 'a') + "\n";
+  EXPECT_EQ(findingsOf(gloss), Lines{});
+  const Lines found = findingsOf(gloss + "  n. lượt chơi\n");
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_TRUE(found[0].ends_with(" letters are shown, at most 450 should be")) << found[0];
+}
+
+TEST(DictionaryCheck, APhraseHasItsHeadWordOrAForm) {
+  EXPECT_EQ(findingsOf("go\n  v. đi\n  phrases: go on = tiếp tục; went off = reo\n"
+                       "  forms: went, gone\n"),
+            Lines{});
+  EXPECT_EQ(findingsOf("make\n  v. làm\n  phrases: making up = bịa\n"), Lines{});
+  EXPECT_EQ(findingsOf("go\n  v. đi\n  phrases: set off = lên đường\n"),
+            Lines{"go: the phrase \"set off\" does not have the word"});
+}
+
+TEST(DictionaryCheck, TheFirstGlossFitsTheBar) {
+  EXPECT_EQ(findingsOf("owl\n  n. con cú (chim ăn đêm, mắt to); chim\n"), Lines{});
+  EXPECT_EQ(findingsOf("high school\n  n. trường trung học phổ thông\n"),
+            Lines{"high school: \"trường trung học phổ thông\" has 26 letters"});
+}
+
+TEST(DictionaryCheck, IrregularVerbsHaveTheLessonsForms) {
+  DictionaryMeasures measures;
+  measures.irregularVerbs = verbsOfLesson("> cut - cut - cut, learn - learnt - learnt\n"
+                                          "> be - was, were - been; go - went - gone\n");
+  ASSERT_EQ(measures.irregularVerbs.size(), 3U);
+  EXPECT_EQ(findingsOf("go\n  v. đi\n  forms: went, gone\n", measures), Lines{});
+  EXPECT_EQ(findingsOf("learn\n  v. học\n  forms: learned/learnt, learnt\n", measures), Lines{});
+  EXPECT_EQ(findingsOf("cut\n  n. vết cắt\n", measures), Lines{});
+  EXPECT_EQ(findingsOf("cut\n  v. cắt\n", measures),
+            Lines{"cut: the lesson has the forms cut, cut"});
+}
+
+TEST(DictionaryCheck, ACommonHeadHasAnExampleForEachClass) {
+  EXPECT_EQ(findingsOf("go A1\n  v. 1 đi\n  v. 2 trở nên\n    > I go. = Tôi đi.\n"), Lines{});
+  EXPECT_EQ(findingsOf("go C1\n  v. đi\n"), Lines{});
+  EXPECT_EQ(findingsOf("go A1\n  v. đi\n  n. lượt\n    > A go. = Một lượt.\n"),
+            Lines{"go: no example for v."});
+}
+
+TEST(DictionaryCheck, WordsOfExamplesHaveEntriesAndSpellings) {
+  DictionaryMeasures measures;
+  measures.entries = {"i", "go"};
+  measures.english = {"i", "go", "sell"};
+  measures.vietnamese = {"đi", "tôi", "thoả"};
+  EXPECT_EQ(findingsOf("go\n  v. đi; thỏa\n    > I go. = Tôi đi Đâu.\n", measures), Lines{});
+  EXPECT_EQ(findingsOf("go\n  v. đii: gq sth\n    > I sell. = Tôi đi.\n", measures),
+            (Lines{"go: \"gq\" is in no word list", "go: \"sell\" has no entry",
+                   "go: \"đii\" is in no word list"}));
+}
+
+TEST(DictionaryCheck, OnlyTheRulesThatHoldTodayAreErrors) {
+  Problems problems;
+  const std::vector<Finding> findings = {{DictionaryRule::GlossTooLong, {{}, "long"}},
+                                         {DictionaryRule::GlossTooLong, {{}, "long"}},
+                                         {DictionaryRule::PhraseWithoutHead, {{}, "strange"}}};
+  reportErrors(findings, problems);
+  ASSERT_EQ(problems.all().size(), 1U);
+  EXPECT_EQ(problems.all()[0].message, "strange");
+  EXPECT_EQ(findingsReport(findings), "1 phrases without their head word\n"
+                                      "2 first glosses of more than 24 letters\n");
+}
+
+TEST(DictionaryCheck, TheDictionaryOfTheRepositoryHasNoErrors) {
+  Problems problems;
+  reportErrors(checkDictionaryAlone(TALVORA_CONTENT, {}, problems), problems);
+  for (const Problem& problem : problems.all())
+    ADD_FAILURE() << describe(problem);
+}
+
+} // namespace
+} // namespace talvora::pack
