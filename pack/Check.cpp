@@ -1,6 +1,8 @@
 // Reading and counting of what is to be checked.
 #include "pack/Check.h"
 
+#include "pack/CourseRules.h"
+#include "pack/DictionaryStore.h"
 #include "pack/Guide.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
@@ -43,11 +45,12 @@ void count(std::string& list, std::size_t number, std::string_view one, std::str
 /// Reads the kinds that are wanted and those that they refer to.
 class Checker {
  public:
-  Checker(const Options& options, const std::set<ContentKind>& only, Problems& problems,
-          const Progress& progress)
-      : source_(options.source), only_(only), problems_(problems), progress_(progress) {}
+  Checker(const Options& options, const std::set<ContentKind>& only, Warnings warnings,
+          Problems& problems, const Progress& progress)
+      : source_(options.source), only_(only), warnings_(warnings), problems_(problems),
+        progress_(progress) {}
 
-  std::string run() {
+  CheckReport run() {
     checkReadings();
     if (wants(ContentKind::SpeakingTexts)) {
       const auto speaking = readSpeaking(source_ / "speaking", problems_);
@@ -64,7 +67,7 @@ class Checker {
       count(counted_, readDictionary(source_ / "dictionary", problems_).size(), "dictionary entry",
             "dictionary entries");
     }
-    return counted_;
+    return {counted_, told_};
   }
 
  private:
@@ -97,19 +100,41 @@ class Checker {
     const auto exercises = readExercises(source_, lessons, problems_);
     count(counted_, lessons.lessons.size(), "lesson", "lessons");
     count(counted_, itemsIn(exercises), "item", "items");
+    if (problems_.none()) checkRules(lessons, exercises);
+  }
+
+  void checkRules(const LessonSource& lessons, const ExerciseSource& exercises) {
+    progress_("rules of the course");
+    const auto items = courseItemsOf(exercises);
+    const WordList words = ownWordsOf(items);
+    told_ = settleRules(checkCourse({lessons, exercises, items, words}),
+                        warnings_ == Warnings::Listed, problems_);
+  }
+
+  /// Our entries and their forms; the items themselves confirm the regular ones. What is wrong with
+  /// the dictionary is told where that is checked.
+  [[nodiscard]] WordList ownWordsOf(const std::vector<CourseItem>& items) const {
+    Problems elsewhere;
+    WordSources words;
+    words.own = readDictionary(source_ / "dictionary", elsewhere);
+    for (const CourseItem& item : items)
+      words.known.insert(item.words.begin(), item.words.end());
+    return fillWordList(words, FullWordCount, Filling::OwnOnly, elsewhere);
   }
 
   const std::filesystem::path& source_;
   const std::set<ContentKind>& only_;
+  Warnings warnings_;
   Problems& problems_;
   const Progress& progress_;
   std::string counted_;
+  std::string told_;
 };
 
 } // namespace
 
-std::string checkContent(const Options& options, const std::set<ContentKind>& only,
-                         Problems& problems, const Progress& progress) {
+CheckReport checkContent(const Options& options, const std::set<ContentKind>& only,
+                         Warnings warnings, Problems& problems, const Progress& progress) {
   std::set<ContentKind> kinds = only;
   if (only.empty()) {
     static_cast<void>(compile(options, problems, progress));
@@ -117,7 +142,7 @@ std::string checkContent(const Options& options, const std::set<ContentKind>& on
     for (const ContentKindName& each : ContentKindNames)
       kinds.insert(each.kind);
   }
-  return Checker(options, kinds, problems, progress).run();
+  return Checker(options, kinds, warnings, problems, progress).run();
 }
 
 } // namespace talvora::pack

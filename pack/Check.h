@@ -37,9 +37,19 @@ inline constexpr std::array<ContentKindName, 8> ContentKindNames = {
      {ContentKind::Guide, "guide"},
      {ContentKind::Dictionary, "dictionary"}}};
 
-/// Checks some kinds, or everything for none, with what these refer to. Tells what was counted:
-/// "104 lessons, 1154 items".
-[[nodiscard]] std::string checkContent(const Options& options, const std::set<ContentKind>& only,
-                                       Problems& problems, const Progress& progress);
+/// What a check tells when all is well.
+struct CheckReport {
+  std::string counted;  ///< "104 lessons, 1154 items"
+  std::string warnings; ///< lines about rules with exceptions that pass
+};
+
+/// Whether warnings name their places.
+enum class Warnings { Counted, Listed };
+
+/// Checks some kinds, or everything for none, with what these refer to; the rules of the course are
+/// looked at when the sources can be read.
+[[nodiscard]] CheckReport checkContent(const Options& options, const std::set<ContentKind>& only,
+                                       Warnings warnings, Problems& problems,
+                                       const Progress& progress);
 
 } // namespace talvora::pack

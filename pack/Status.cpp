@@ -45,10 +45,6 @@ std::string slotReport(const Content& content) {
             std::to_string(lessons.headings.size()) + " headings, " +
             std::to_string(LessonSlots - filledLessons) + " open; " +
             std::to_string(content.exercises.lessons.size()) + " with items\n";
-  for (std::size_t bank = 0; bank < BankCount; ++bank) {
-    report += "  items of " + std::string(BankNames[bank]) + ": " +
-              std::to_string(content.exercises.banks[bank].size()) + "\n";
-  }
   const auto scripts = static_cast<int>(scriptsOf(readings).size());
   return report + "  recordings: " + std::to_string(scripts) + " scripts, " +
          std::to_string(RecordingCount - scripts) + " open\n";

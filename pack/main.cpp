@@ -3,6 +3,7 @@
 #include "pack/Compiler.h"
 #include "pack/ContentCheck.h"
 #include "pack/CourseChecks.h"
+#include "pack/CourseReport.h"
 #include "pack/Dump.h"
 #include "pack/PhonesReport.h"
 #include "pack/Planner.h"
@@ -57,7 +58,8 @@ int build(Options options, const std::filesystem::path& out) {
 
 /// Tells what breaks a rule of the dictionary without being an error: how often, and where when the
 /// dictionary was asked for by name.
-void checkRules(const Options& options, const std::set<ContentKind>& only, Problems& problems) {
+void checkDictionary(const Options& options, const std::set<ContentKind>& only,
+                     Problems& problems) {
   const bool named = only.contains(ContentKind::Dictionary);
   if (!only.empty() && !named) return;
   const auto findings = checkDictionaryAlone(options.source, {}, problems);
@@ -66,16 +68,19 @@ void checkRules(const Options& options, const std::set<ContentKind>& only, Probl
   reportErrors(findings, problems);
 }
 
-int check(const Options& options, const std::set<ContentKind>& only) {
+void checkTexts(const Options& options, Problems& problems) {
+  showStep("rules of texts and drills");
+  for (const std::string& note : checkCourse(options.source, problems))
+    std::cerr << "note: " << note << "\n";
+}
+
+int check(const Options& options, const std::set<ContentKind>& only, Warnings warnings) {
   Problems problems;
-  const std::string counted = checkContent(options, only, problems, showStep);
-  if (problems.none()) checkRules(options, only, problems);
-  if (problems.none() && only.empty()) {
-    showStep("rules of texts and drills");
-    for (const std::string& note : checkCourse(options.source, problems))
-      std::cerr << "note: " << note << "\n";
-  }
-  if (problems.none()) std::cout << counted << ": no errors\n";
+  const CheckReport report = checkContent(options, only, warnings, problems, showStep);
+  std::cout << report.warnings;
+  if (problems.none()) checkDictionary(options, only, problems);
+  if (problems.none() && only.empty()) checkTexts(options, problems);
+  if (problems.none()) std::cout << report.counted << ": no errors\n";
   return tell(problems);
 }
 
@@ -90,7 +95,8 @@ int status(const Options& options) {
   const Content content = readContent(options, problems, showStep);
   if (!problems.none()) return tell(problems);
   const WordList list = makeWordList(content, options, problems);
-  std::cout << statusReport(content, list);
+  std::cout << statusReport(content, list) << "\n"
+            << courseReport(content.exercises, content.lessons, list);
   return tell(problems);
 }
 
@@ -159,6 +165,8 @@ int run(int argumentCount, char** arguments) {
   std::vector<ContentKind> only;
   checkCommand->add_option("--only", only, "check these kinds alone, which takes a second or two")
       ->transform(CLI::CheckedTransformer(namedKinds()));
+  bool listed = false;
+  checkCommand->add_flag("--warnings", listed, "name the places of the warnings");
   std::string place;
   CLI::App* showCommand = application.add_subcommand(
       "show", "show an item, a lesson or a text of the sources as the learner will see it");
@@ -196,7 +204,10 @@ int run(int argumentCount, char** arguments) {
   if (buildCommand->parsed()) return build(options, out);
   if (planCommand->parsed())
     return plan(options.source, slot, known ? Detail::Full : Detail::Short);
-  if (checkCommand->parsed()) return check(options, {only.begin(), only.end()});
+  if (checkCommand->parsed()) {
+    return check(options, {only.begin(), only.end()},
+                 listed ? Warnings::Listed : Warnings::Counted);
+  }
   if (showCommand->parsed()) return showPlace(place);
   if (phonesCommand->parsed()) return phones(options.source, words);
   return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);

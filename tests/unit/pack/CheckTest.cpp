@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace talvora::pack {
 namespace {
 
@@ -18,15 +20,28 @@ Options optionsOf(const std::filesystem::path& source) {
   return options;
 }
 
+std::string countedOf(const std::set<ContentKind>& only, Problems& problems) {
+  const Options options = optionsOf(TALVORA_SMALL_CONTENT);
+  return checkContent(options, only, Warnings::Counted, problems, noProgress).counted;
+}
+
 TEST(Check, TellsWhatItCounted) {
   Problems problems;
-  const Options options = optionsOf(TALVORA_SMALL_CONTENT);
-  EXPECT_EQ(
-      checkContent(options, {ContentKind::Lessons, ContentKind::Exercises}, problems, noProgress),
-      "2 lessons, 29 items");
-  EXPECT_EQ(checkContent(options, {ContentKind::Guide}, problems, noProgress), "1 guide");
-  EXPECT_EQ(checkContent(options, {}, problems, noProgress).find("5 reading texts, "), 0U);
+  EXPECT_EQ(countedOf({ContentKind::Guide}, problems), "1 guide");
+  EXPECT_EQ(countedOf({ContentKind::ReadingTexts, ContentKind::Analyses}, problems).find("5 read"),
+            0U);
   EXPECT_TRUE(problems.none());
+  EXPECT_EQ(countedOf({ContentKind::Lessons, ContentKind::Exercises}, problems),
+            "2 lessons, 29 items");
+  EXPECT_EQ(countedOf({}, problems), "") << "what has problems is not counted";
+}
+
+TEST(Check, LooksAtTheRulesOfTheCourse) {
+  Problems problems;
+  static_cast<void>(countedOf({}, problems));
+  EXPECT_TRUE(std::any_of(problems.all().begin(), problems.all().end(), [](const Problem& each) {
+    return each.message == "the general explanation (\"explain:\") is missing";
+  })) << "the samples are not explained";
 }
 
 TEST(Check, LooksAtTheWantedKindsAlone) {
@@ -36,7 +51,7 @@ TEST(Check, LooksAtTheWantedKindsAlone) {
   const Options options = optionsOf(folder.path());
   const auto found = [&](ContentKind kind) {
     Problems problems;
-    static_cast<void>(checkContent(options, {kind}, problems, noProgress));
+    static_cast<void>(checkContent(options, {kind}, Warnings::Counted, problems, noProgress));
     return problems.all().size();
   };
   EXPECT_GT(found(ContentKind::Lessons), 0U);

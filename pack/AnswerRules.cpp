@@ -1,0 +1,213 @@
+// Rules about what could give an answer away, and about answers that must be accepted.
+#include "pack/AnswerStatistics.h"
+#include "pack/CourseRules.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr std::size_t leastOfAPosition = 20; ///< of 100
+constexpr std::size_t mostOfAPosition = 30;
+constexpr std::size_t mostLongest = 35;
+constexpr std::size_t leastBlueRight = 15;
+constexpr std::size_t mostBlueRight = 25;
+/// Fewer items make no share.
+constexpr std::size_t fewestForAShare = 10;
+/// Their heading asks for the full form.
+constexpr int fullFormHeading = 16;
+
+using Statistics = std::map<std::string, AnswerStatistics>;
+
+/// By bank, and for the lessons together.
+Statistics byGroup(const Course& course) {
+  Statistics all;
+  for (const CourseItem& each : course.items)
+    countAnswer(all[std::string(groupOf(each))], *each.item);
+  return all;
+}
+
+/// By unit of each bank: "toefl, unit 2".
+Statistics byUnit(const Course& course) {
+  Statistics all;
+  for (const CourseItem& each : course.items) {
+    if (!each.bank) continue;
+    countAnswer(all[std::string(groupOf(each)) + ", unit " + std::to_string(each.unit + 1)],
+                *each.item);
+  }
+  return all;
+}
+
+void checkPositions(const Statistics& all, RuleReport& report) {
+  for (const auto& [name, each] : all) {
+    // Rounded outwards, so that a few items are never judged by a fraction.
+    const std::size_t least = each.choices * leastOfAPosition / 100;
+    const std::size_t most = (each.choices * mostOfAPosition + 99) / 100;
+    for (std::size_t position = 0; position < each.positions.size(); ++position) {
+      const std::size_t count = each.positions[position];
+      if (count >= least && count <= most) continue;
+      report.found.push_back({{name},
+                              std::string(1, static_cast<char>('A' + position)) + " is right in " +
+                                  std::to_string(count) + " of " + std::to_string(each.choices) +
+                                  " choices"});
+    }
+  }
+}
+
+// -- Short forms.
+
+/// A blank, the word ahead of it and the text behind it.
+struct BlankInText {
+  std::string before;
+  std::string twoBefore;    ///< the word ahead of that one
+  bool behindBlank = false; ///< the subject stands right behind another blank
+  std::vector<std::string> forms;
+  std::string_view behind;
+};
+
+std::vector<BlankInText> blanksOf(const Item& item) {
+  std::vector<BlankInText> blanks;
+  const std::string_view text = item.question;
+  std::size_t from = 0;
+  for (std::size_t at = text.find('*'); at < text.size(); at = text.find('*', from)) {
+    const std::size_t end = std::min(text.find('_', at), text.size());
+    BlankInText blank;
+    const auto words = englishWordsOf(text.substr(from, at - from));
+    if (!words.empty() && at > 0 && text[at - 1] == ' ') blank.before = words.back();
+    blank.behindBlank = from > 0 && words.size() == 1;
+    if (words.size() > 1) blank.twoBefore = words[words.size() - 2];
+    const std::string_view key = text.substr(at + 1, end - at - 1);
+    const std::size_t part = std::min(key.find('\\'), key.size());
+    blank.forms.emplace_back(key.substr(0, part));
+    if (part < key.size()) blank.forms.emplace_back(key.substr(part + 1));
+    from = std::min(text.find_first_not_of('_', end), text.size());
+    blank.behind = text.substr(from);
+    blanks.push_back(std::move(blank));
+  }
+  return blanks;
+}
+
+struct ShortForms {
+  std::string_view subject;
+  std::string_view verbs; ///< each between blanks
+};
+
+constexpr std::array<ShortForms, 10> shortForms = {{{"i", " am have had will would "},
+                                                    {"you", " are have had will would "},
+                                                    {"he", " is has had will would "},
+                                                    {"she", " is has had will would "},
+                                                    {"it", " is has will "},
+                                                    {"we", " are have had will would "},
+                                                    {"they", " are have had will would "},
+                                                    {"there", " is "},
+                                                    {"who", " is has "},
+                                                    {"what", " is has "}}};
+
+constexpr std::string_view helpingVerbs = " do does did am is are was were have has had will would "
+                                          "can could shall should may might must ";
+
+/// Has, have and had are short when they help another verb.
+bool helpsAVerb(std::string_view verb, std::string_view behind) {
+  if (!verb.starts_with("ha")) return true;
+  const auto next = englishWordsOf(behind.substr(0, behind.find('\r')));
+  if (next.empty()) return false;
+  constexpr std::string_view signs = " been never already just ever not ";
+  return next.front().ends_with("ed") ||
+         signs.find(" " + next.front() + " ") != std::string_view::npos;
+}
+
+bool takesShortForm(const BlankInText& blank) {
+  if (blank.forms.size() != 1) return false;
+  const std::string key = lower(blank.forms.front());
+  const std::string verb = key.substr(0, key.find(' '));
+  const auto found =
+      std::find_if(shortForms.begin(), shortForms.end(),
+                   [&](const ShortForms& each) { return each.subject == blank.before; });
+  if (found == shortForms.end() || verb.empty()) return false;
+  if (found->verbs.find(" " + verb + " ") == std::string_view::npos) return false;
+  if (key.find(" not") != std::string::npos) return false;
+  // In a question the subject stands behind its helping verb: "would you have gone".
+  if (blank.behindBlank) return false;
+  if (!blank.twoBefore.empty() &&
+      helpingVerbs.find(" " + blank.twoBefore + " ") != std::string_view::npos)
+    return false;
+  if (verb != key) return true;
+  // At the end of a sentence the full form stands.
+  const bool goesOn = blank.behind.size() > 1 && blank.behind[0] == ' ';
+  return goesOn && helpsAVerb(verb, blank.behind);
+}
+
+} // namespace
+
+RuleReport positionsAreEven(const Course& course) {
+  RuleReport report{"right answers are not spread over the positions", {}, 0};
+  checkPositions(byGroup(course), report);
+  checkPositions(byUnit(course), report);
+  return report;
+}
+
+RuleReport positionsDoNotRun(const Course& course) {
+  RuleReport report{"three right answers in a row have one position", {}, 0};
+  std::string group;
+  std::pair<int, int> last{0, 0};
+  for (const CourseItem& each : course.items) {
+    if (each.item->form != ItemForm::Choice) continue;
+    const std::string own =
+        std::string(groupOf(each)) + std::to_string(each.unit) + std::to_string(each.lesson);
+    if (std::exchange(group, own) != own) last = {0, 0};
+    if (last.first == each.item->key && last.second == each.item->key) {
+      report.found.push_back({each.item->where, "the third right answer in a row at position " +
+                                                    std::to_string(each.item->key)});
+    }
+    last = {last.second, each.item->key};
+  }
+  return report;
+}
+
+RuleReport longestIsNoCue(const Course& course) {
+  RuleReport report{"the longest option is right too often", {}, 0};
+  for (const auto& [name, each] : byGroup(course)) {
+    if (each.choices < fewestForAShare || each.longestRight * 100 <= each.choices * mostLongest)
+      continue;
+    report.found.push_back({{name},
+                            "the longest option is right in " + std::to_string(each.longestRight) +
+                                " of " + std::to_string(each.choices) + " choices"});
+  }
+  return report;
+}
+
+RuleReport bluePhraseIsNoCue(const Course& course) {
+  RuleReport report{"the blue phrase is right too seldom or too often", {}, 0};
+  for (const auto& [name, each] : byGroup(course)) {
+    const std::size_t share = each.phraseRight * 100;
+    // The vocabulary banks ask for another word of the same meaning.
+    if (each.withPhrase < fewestForAShare || name.ends_with("vocabulary")) continue;
+    if (share >= each.withPhrase * leastBlueRight && share <= each.withPhrase * mostBlueRight)
+      continue;
+    report.found.push_back({{name},
+                            "the blue phrase is right in " + std::to_string(each.phraseRight) +
+                                " of " + std::to_string(each.withPhrase) +
+                                " choices that have one"});
+  }
+  return report;
+}
+
+RuleReport shortFormsAreAccepted(const Course& course) {
+  RuleReport report{"a short form is not accepted", {}, 0};
+  for (const CourseItem& each : course.items) {
+    if (each.item->form != ItemForm::Fill || each.item->heading == fullFormHeading) continue;
+    for (const BlankInText& blank : blanksOf(*each.item)) {
+      if (!takesShortForm(blank)) continue;
+      report.found.push_back({each.item->where, "\"" + blank.before + " " + blank.forms.front() +
+                                                    "\" has a short form that is not accepted"});
+    }
+  }
+  return report;
+}
+
+} // namespace talvora::pack

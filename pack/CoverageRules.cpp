@@ -1,0 +1,112 @@
+// Rules about what lessons and banks do for each other, and about the plan of the banks.
+#include "pack/CourseRules.h"
+#include "pack/StreamText.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+
+namespace talvora::pack {
+
+namespace {
+
+/// How many items of each kind a unit has.
+struct UnitPlan {
+  std::string_view bank;
+  std::size_t fill;
+  std::size_t choice;
+  std::size_t mistake;
+};
+
+constexpr std::array<UnitPlan, BankCount> plans = {{{"articles", 17, 4, 4},
+                                                    {"conditional", 15, 6, 4},
+                                                    {"tense", 16, 5, 4},
+                                                    {"preposition", 12, 11, 2},
+                                                    {"test-a", 6, 13, 6},
+                                                    {"test-b", 6, 13, 6},
+                                                    {"toefl", 0, 10, 15},
+                                                    {"toefl-vocabulary", 0, 25, 0},
+                                                    {"b-vocabulary", 0, 25, 0}}};
+
+/// The vocabulary banks practise words, which no lesson teaches.
+bool practisesWords(std::size_t bank) {
+  return BankNames[bank].ends_with("vocabulary");
+}
+
+std::set<std::string> lessonsOf(const Item& item) {
+  std::set<std::string> titles;
+  if (!item.about.title.empty()) titles.insert(item.about.title);
+  for (const auto& [number, lines] : item.explanations) {
+    for (const ExplanationLine& line : lines) {
+      if (line.refersTo) titles.insert(line.text.text);
+    }
+  }
+  return titles;
+}
+
+} // namespace
+
+RuleReport lessonsArePractised(const Course& course) {
+  RuleReport report{"a lesson has no item in a bank", {}, 0};
+  report.allowed = course.exercises.lessons.size() * 40 / 100;
+  std::set<std::string> practised;
+  for (const CourseItem& each : course.items) {
+    if (each.bank) practised.merge(lessonsOf(*each.item));
+  }
+  for (const auto& [slot, items] : course.exercises.lessons) {
+    const auto lesson = course.lessons.lessons.find(slot);
+    if (lesson == course.lessons.lessons.end()) continue;
+    if (practised.count(lesson->second.title) > 0) continue;
+    report.found.push_back({{"lesson " + std::to_string(slot)},
+                            "no item of a bank leads to \"" + utf8Of(lesson->second.title) + "\""});
+  }
+  return report;
+}
+
+RuleReport itemsHaveALesson(const Course& course) {
+  RuleReport report{"a bank item leads to no lesson", {}, 0};
+  // The fill items of two banks have no explanations that could lead anywhere.
+  report.allowed = course.items.size() * 7 / 100;
+  for (const CourseItem& each : course.items) {
+    if (!each.bank || practisesWords(*each.bank) || !lessonsOf(*each.item).empty()) continue;
+    report.found.push_back(
+        {each.item->where, "no explanation leads to a lesson; \"about: TITLE\" names one"});
+  }
+  return report;
+}
+
+RuleReport unitsHaveTheirKinds(const Course& course) {
+  RuleReport report{"a unit has other kinds of item than planned", {}, 14};
+  struct Kinds {
+    std::size_t fill = 0;
+    std::size_t choice = 0;
+    std::size_t mistake = 0;
+    std::size_t all = 0;
+  };
+  std::map<std::pair<std::size_t, std::size_t>, Kinds> units;
+  for (const CourseItem& each : course.items) {
+    if (!each.bank) continue;
+    Kinds& kinds = units[{*each.bank, each.unit}];
+    ++kinds.all;
+    kinds.fill += each.item->form == ItemForm::Fill ? 1 : 0;
+    kinds.choice += each.item->form == ItemForm::Choice ? 1 : 0;
+    kinds.mistake += each.item->form == ItemForm::Mistake ? 1 : 0;
+  }
+  for (const auto& [place, kinds] : units) {
+    const UnitPlan& plan = plans[place.first];
+    const bool whole = kinds.all == UnitSize;
+    if (whole && kinds.fill == plan.fill && kinds.choice == plan.choice &&
+        kinds.mistake == plan.mistake)
+      continue;
+    const auto number = [](std::size_t value) { return std::to_string(value); };
+    report.found.push_back({{std::string(plan.bank) + ", unit " + number(place.second + 1)},
+                            "fill " + number(kinds.fill) + ", choice " + number(kinds.choice) +
+                                ", mistake " + number(kinds.mistake) + "; planned are " +
+                                number(plan.fill) + ", " + number(plan.choice) + " and " +
+                                number(plan.mistake)});
+  }
+  return report;
+}
+
+} // namespace talvora::pack
