@@ -29,7 +29,8 @@ std::string settleRules(const std::vector<RuleReport>& reports, bool listed, Pro
       }
       continue;
     }
-    told += "warning: " + report.rule + ": " + std::to_string(count) + " places\n";
+    told += "warning: " + report.rule + ": " + std::to_string(count) +
+            (count == 1 ? " place\n" : " places\n");
     if (!listed) continue;
     for (const Problem& problem : report.found)
       told += "  " + describe(problem) + "\n";
