@@ -15,6 +15,7 @@ FLOORS = {
     "platform": 1,
     "surface": 2,
     "stores": 3,
+    "learner": 4,
     "shell": 4,
     "dictionary": 5,
     "sound": 5,

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace talvora {
 
@@ -13,20 +14,28 @@ namespace {
 // About sixty pictures a second, as most screens show.
 constexpr qint64 FrameNs = 16'666'667;
 
-/// Lets events run for a time, waiting for them where there are none.
-void runFor(int ms) {
-  QEventLoop loop;
+/// Lets events run in a loop for a time, waiting for them where there are none.
+void runFor(QEventLoop& loop, int ms) {
   QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
   loop.exec();
 }
 
 } // namespace
 
-void DesktopClock::Sleep(int ms) {
-  if (ms <= 0) return;
-  gate_.shut();
-  runFor(ms);
-  gate_.open();
+Flow DesktopClock::Sleep(int ms) {
+  if (ms > 0 && !closingIsWanted()) {
+    gate_.shut();
+    QEventLoop loop;
+    QEventLoop* const outer = std::exchange(sleeping_, &loop);
+    runFor(loop, ms);
+    sleeping_ = outer;
+    gate_.open();
+  }
+  return closingIsWanted() ? Flow::Interrupt : Flow::Continue;
+}
+
+void DesktopClock::wake() {
+  if (sleeping_ != nullptr) sleeping_->quit();
 }
 
 Flow DesktopEventLoop::letEventsRun() {
@@ -41,7 +50,8 @@ Flow DesktopEventLoop::letEventsRunUntilNextFrame() {
   const qint64 wait = std::clamp<qint64>(nextFrame_ - now, 0, FrameNs);
   nextFrame_ = now + wait + FrameNs;
   gate_.beginPump();
-  runFor(static_cast<int>(wait / 1'000'000));
+  QEventLoop loop;
+  runFor(loop, static_cast<int>(wait / 1'000'000));
   gate_.endPump();
   return flow();
 }

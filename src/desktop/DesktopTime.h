@@ -6,6 +6,7 @@
 #include "platform/EventLoop.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 
 #include <functional>
 
@@ -16,11 +17,17 @@ class DesktopClock final : public Clock {
   explicit DesktopClock(InputGate& gate) : gate_(gate) { timer_.start(); }
 
   [[nodiscard]] std::int64_t nowMs() const override { return timer_.elapsed(); }
-  void Sleep(int ms) override;
+  [[nodiscard]] Flow Sleep(int ms) override;
+  /// Ends the sleep that is on, so that a wish is heard.
+  void wake();
+
+  /// Whether the program is wanted closed; set by the window.
+  std::function<bool()> closingIsWanted = [] { return false; };
 
  private:
   InputGate& gate_;
   QElapsedTimer timer_;
+  QEventLoop* sleeping_ = nullptr; ///< the loop of the sleep that is on
 };
 
 class DesktopEventLoop final : public EventLoop {

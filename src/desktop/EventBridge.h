@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/FatalFailure.h"
+#include "platform/Files.h"
 
 #include <exception>
 #include <functional>
@@ -23,6 +24,8 @@ class EventBridge {
     if (failed_) return;
     try {
       deed();
+      const std::string shrunk = takeShrunkFile();
+      if (!shrunk.empty()) throw FatalFailure(shrunkFileProblem(shrunk));
     } catch (const FatalFailure& failure) {
       fail(failure.what());
     } catch (const std::exception& fault) {

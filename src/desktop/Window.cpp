@@ -23,6 +23,8 @@ constexpr int TwipsPerPixel = 15;
 const QColor LetterboxColour(0x12, 0x22, 0x2E);
 // How long the start may wait for the window system to show the window.
 constexpr int ExposeMs = 200;
+// A log-out that has not come by then was called off.
+constexpr qint64 SessionEndMs = 60'000;
 
 } // namespace
 
@@ -57,8 +59,13 @@ void Window::connectMachine() {
   machine_.screen.refresh = [this] { refresh(); };
   machine_.gate.opened = [this] {
     machine_.input.deliverSent();
-    if (closeWanted_) askToClose();
+    if (endWanted_) {
+      closeAtOnce();
+    } else if (closeWanted_) {
+      askToClose();
+    }
   };
+  machine_.clock.closingIsWanted = [this] { return closeWanted_ || endWanted_; };
   machine_.boxes.owner = this;
   machine_.boxes.opening = [this] { view_->endPress(); };
   machine_.narrator.window = this;
@@ -211,10 +218,35 @@ void Window::closeEvent(QCloseEvent* event) {
   askToClose();
 }
 
+bool Window::waitsFor(bool& wish) {
+  wish = machine_.gate.isShut();
+  if (wish) machine_.clock.wake();
+  return wish;
+}
+
 void Window::askToClose() {
-  closeWanted_ = machine_.gate.isShut();
-  if (closeWanted_) return;
+  if (sessionEnd_.isValid() && !sessionEnd_.hasExpired(SessionEndMs)) {
+    closeAtOnce();
+    return;
+  }
+  if (waitsFor(closeWanted_)) return;
   bridge_.deliver([this] { program_.closeWindow(); });
+}
+
+void Window::closeAtOnce() {
+  if (waitsFor(endWanted_)) return;
+  bridge_.deliver([this] { program_.closeAtOnce(); });
+}
+
+void Window::sessionEnds() {
+  sessionEnd_.start();
+  bridge_.deliver([this] { program_.keep(); });
+}
+
+void Window::comeUp() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
 }
 
 } // namespace talvora

@@ -8,6 +8,7 @@
 #include "desktop/FormView.h"
 #include "program/Program.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 namespace talvora {
@@ -15,6 +16,15 @@ namespace talvora {
 class Window final : public QWidget {
  public:
   Window(DesktopMachine& machine, Program& program, EventBridge& bridge);
+
+  /// The system wants the program to end: it ends, without a question, as soon as what it is doing
+  /// has come to its end.
+  void closeAtOnce();
+  /// The system's session is about to end: what the learner has done is stored, and being asked to
+  /// close within the next minute is no question any more.
+  void sessionEnds();
+  /// Brings the window to the front.
+  void comeUp();
 
   /// The pixel of the virtual screen that shows a point of the form.
   [[nodiscard]] PixelPoint pixelOf(SurfacePoint point) const;
@@ -36,6 +46,8 @@ class Window final : public QWidget {
   void showOnScreen();
   void arrange();
   void askToClose();
+  /// Notes a wish while the program sleeps, and wakes it; true when it was asleep.
+  bool waitsFor(bool& wish);
   /// Animates the button that has the focus and the pointer, if it is not animated yet.
   void settleHover();
   void clickAt(MouseButton button, SurfacePoint point);
@@ -54,6 +66,8 @@ class Window final : public QWidget {
   double scale_ = 1;              ///< real pixels to a virtual one
   QPointF origin_;                ///< of the virtual screen in the window
   bool closeWanted_ = false;      ///< the window was closed while the program slept
+  QElapsedTimer sessionEnd_;      ///< since the session was about to end
+  bool endWanted_ = false;        ///< the system wanted the program ended while it slept
 };
 
 } // namespace talvora

@@ -1,55 +1,37 @@
 // talvora: the tutor in its window.
 
+#include "desktop/CommandLine.h"
 #include "desktop/DesktopMachine.h"
 #include "desktop/DisplayGuard.h"
+#include "desktop/EndSignals.h"
 #include "desktop/EventBridge.h"
 #include "desktop/Fonts.h"
+#include "desktop/RunningProgram.h"
 #include "desktop/StateTrace.h"
 #include "desktop/Window.h"
+#include "learner/LearnerLock.h"
+#include "program/FindFolders.h"
 #include "program/Program.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
+#include <QDir>
 #include <QScreen>
+#include <QSessionManager>
+#include <QStandardPaths>
 #include <QTimer>
 
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <random>
+#include <utility>
 
 namespace {
 
-struct Options {
-  std::filesystem::path directory;
-  std::string trace;
-};
-
-Options readOptions(const QCoreApplication& application) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription(
-      QStringLiteral("A tutor of English for speakers of Vietnamese."));
-  parser.addHelpOption();
-  parser.addVersionOption();
-  const QCommandLineOption directory(
-      QStringLiteral("dir"), QStringLiteral("The content pack; the current directory without it."),
-      QStringLiteral("folder"));
-  const QCommandLineOption trace(
-      QStringLiteral("trace"),
-      QStringLiteral("Write a line for each change of what is shown, for a report of a fault."),
-      QStringLiteral("file"));
-  parser.addOptions({directory, trace});
-  parser.process(application);
-  Options options;
-  options.directory = parser.isSet(directory)
-                          ? std::filesystem::path(parser.value(directory).toStdString())
-                          : std::filesystem::current_path();
-  if (parser.isSet(trace)) {
-    options.trace = std::filesystem::absolute(parser.value(trace).toStdString()).string();
-  }
-  return options;
-}
+constexpr int Failed = 1;
+constexpr int BadUse = 2;
 
 /// Size of the screen in its own pixels, whatever a logical pixel is.
 QSize realScreenSize() {
@@ -57,32 +39,96 @@ QSize realScreenSize() {
   return (QSizeF(screen.size()) * screen.devicePixelRatio()).toSize();
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-  auto guard = std::make_optional<talvora::DisplayGuard>();
-  QApplication application(argc, argv);
-  guard.reset();
-  QApplication::setApplicationName(QStringLiteral("talvora"));
-  QApplication::setApplicationVersion(QStringLiteral(TALVORA_VERSION));
-  QApplication::setQuitOnLastWindowClosed(false);
-  const Options options = readOptions(application);
-  std::error_code missing;
-  std::filesystem::current_path(options.directory, missing);
-  if (missing) {
-    std::cerr << options.directory.string() << ": " << missing.message() << '\n';
-    return 2;
+/// The arguments that are left for the toolkit, which takes out what it knows.
+class ToolkitArguments {
+ public:
+  ToolkitArguments(const char* program, std::vector<std::string> rest) : words_(std::move(rest)) {
+    words_.insert(words_.begin(), program);
+    for (std::string& word : words_)
+      pointers_.push_back(word.data());
+    count_ = static_cast<int>(pointers_.size());
+    pointers_.push_back(nullptr);
   }
-  talvora::loadFonts();
 
+  [[nodiscard]] int& count() noexcept { return count_; }
+  [[nodiscard]] char** values() noexcept { return pointers_.data(); }
+  /// What nobody knew; null when there is nothing.
+  [[nodiscard]] const char* unknown() const noexcept { return count_ > 1 ? pointers_[1] : nullptr; }
+
+ private:
+  std::vector<std::string> words_;
+  std::vector<char*> pointers_;
+  int count_ = 0;
+};
+
+talvora::FoundFolders findFolders(const talvora::CommandLine& line) {
+  talvora::FolderSearch search;
+  search.pack = line.pack;
+  search.learner = line.learner;
+  search.current = std::filesystem::current_path().string();
+  search.program = QCoreApplication::applicationDirPath().toStdString();
+  for (const QString& folder :
+       QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation).mid(1)) {
+    search.sharedFolders.push_back(folder.toStdString());
+  }
+  search.ownData =
+      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
+  return talvora::findFolders(talvora::systemFiles(), search);
+}
+
+int tellOfMissingPack(const std::vector<std::string>& lookedIn) {
+  std::string message = "Không tìm thấy bộ bài học. Chương trình đã tìm ở:\n";
+  for (const std::string& folder : lookedIn)
+    message += "  " + folder + "\n";
+  message += "Hãy chỉ thư mục của bộ bài học: talvora --pack THƯ_MỤC";
+  std::cerr << message << std::endl;
+  talvora::showFailure(message, nullptr);
+  return Failed;
+}
+
+/// Another program has the learner's folder: its window comes up instead of a second one.
+int yieldToRunningProgram(const std::string& learner) {
+  if (talvora::raiseRunningProgram(learner)) return 0;
+  const std::string message = "Talvora đang chạy rồi.";
+  std::cerr << message << std::endl;
+  talvora::showFailure(message, nullptr);
+  return 0;
+}
+
+/// A display that is lost ends the process through `exit`: what is in memory is kept even then.
+class KeepAtExit {
+ public:
+  explicit KeepAtExit(talvora::Program& program) {
+    kept = &program;
+    std::atexit([] {
+      if (kept != nullptr) kept->keep();
+    });
+  }
+  KeepAtExit(const KeepAtExit&) = delete;
+  KeepAtExit& operator=(const KeepAtExit&) = delete;
+  ~KeepAtExit() { kept = nullptr; }
+
+ private:
+  // A function that is called at the exit is given nothing.
+  static inline talvora::Program* kept = nullptr;
+};
+
+int runProgram(const talvora::Folders& folders, const std::string& traceFile) {
+  talvora::loadFonts();
   talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
-                                  std::random_device{}(), std::filesystem::current_path());
-  talvora::Program program(machine.platform, std::filesystem::current_path().string());
+                                  std::random_device{}(), folders.pack);
+  talvora::Program program(machine.platform, folders);
+  const KeepAtExit keepAtExit(program);
   talvora::EventBridge bridge;
   talvora::Window window(machine, program, bridge);
+  const talvora::RaiseCalls raiseCalls(folders.learner, [&] { window.comeUp(); });
+  const talvora::EndSignals endSignals([&] { window.closeAtOnce(); });
+  QObject::connect(
+      qApp, &QGuiApplication::commitDataRequest, &window,
+      [&](QSessionManager&) { window.sessionEnds(); }, Qt::DirectConnection);
   std::unique_ptr<talvora::StateTrace> trace;
-  if (!options.trace.empty()) {
-    trace = std::make_unique<talvora::StateTrace>(options.trace, program);
+  if (!traceFile.empty()) {
+    trace = std::make_unique<talvora::StateTrace>(traceFile, program);
     trace->onScreen = [&](talvora::SurfacePoint point) { return window.pixelOf(point); };
   }
 
@@ -98,5 +144,38 @@ int main(int argc, char** argv) {
   QTimer::singleShot(0, &window, [&] { bridge.deliver([&] { program.Main(); }); });
   QTimer::singleShot(1000, &window, [] { talvora::warmFonts(); });
   QApplication::exec();
-  return program.ending() == talvora::Ending::Failure ? 1 : 0;
+  return program.ending() == talvora::Ending::Failure ? Failed : 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const talvora::CommandLine line = talvora::readCommandLine(argc, argv, TALVORA_VERSION);
+  if (line.over) return *line.over;
+  ToolkitArguments arguments(argv[0], line.rest);
+  auto guard = std::make_optional<talvora::DisplayGuard>();
+  const QApplication application(arguments.count(), arguments.values());
+  guard.reset();
+  if (arguments.unknown() != nullptr) {
+    std::cerr << "talvora: unknown argument: " << arguments.unknown() << '\n';
+    return BadUse;
+  }
+  QApplication::setApplicationName(QStringLiteral("talvora"));
+  QApplication::setApplicationVersion(QStringLiteral(TALVORA_VERSION));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  const talvora::FoundFolders found = findFolders(line);
+  if (!found.folders) return tellOfMissingPack(found.lookedIn);
+  const talvora::LearnerLock lock(talvora::systemFiles(), found.folders->learner);
+  if (lock.state() == talvora::LearnerLock::State::Taken) {
+    return yieldToRunningProgram(found.folders->learner);
+  }
+  // The pack's folder is the program's directory.
+  std::error_code missing;
+  std::filesystem::current_path(found.folders->pack, missing);
+  if (missing) {
+    std::cerr << found.folders->pack << ": " << missing.message() << '\n';
+    return BadUse;
+  }
+  return runProgram({std::filesystem::current_path().string(), found.folders->learner}, line.trace);
 }

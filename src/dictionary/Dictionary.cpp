@@ -19,8 +19,8 @@ constexpr std::string_view WordCharacters =
 
 Dictionary::Dictionary(Form& form, Controls& controls, SharedState& state, Stores& stores,
                        Shell& shell, Speech& speech)
-    : controls_(controls), state_(state), shell_(shell), lookUp_(words_, stores, state.word),
-      popup_(form, controls, state, shell, speech),
+    : controls_(controls), state_(state), stores_(stores), shell_(shell),
+      lookUp_(words_, stores, state.word), popup_(form, controls, state, shell, speech),
       list_(form, controls, state, shell, words_, lookUp_) {
   shell_.upward.DongNghia = [this] { popup_.DongNghia(); };
   list_.TraTuGan = [this] { TraTuGan(); };
@@ -28,7 +28,8 @@ Dictionary::Dictionary(Form& form, Controls& controls, SharedState& state, Store
 }
 
 void Dictionary::NapTuDien() {
-  words_.NapTuDien(state_.places.ThuMuc, [this] { shell_.menu.TienTrinhNap(); });
+  words_.NapTuDien(
+      state_.places.ThuMuc, [this] { shell_.menu.TienTrinhNap(); }, stores_.fileSystem());
 }
 
 // -- Looking up.

@@ -51,6 +51,7 @@ class Dictionary {
 
   Controls& controls_;
   SharedState& state_;
+  const Stores& stores_;
   Shell& shell_;
   WordList words_;
   LookUp lookUp_;

@@ -35,13 +35,13 @@ std::vector<std::string> linesOf(std::string_view text, std::size_t most) {
 void VietnameseSide::NapTuD(EventLoop& events) {
   // The list is an extra: without it the program does everything else.
   try {
-    const auto words = MappedFile::open(pathBelow(state_.places.ThuMuc, "\\datatuD.txt"));
+    const auto words = stores_.hold("\\datatuD.txt");
     for (std::string& line : linesOf(words->text(), EntryCount)) {
       Chu_.push_back(std::move(line));
       if (Chu_.size() % LinesBetweenEvents == 0) events.letEventsRun();
     }
     ViTriNghia_.resize(Chu_.size());
-    const RecordFile positions(MappedFile::open(pathBelow(state_.places.ThuMuc, "\\dataD.vt")));
+    const RecordFile positions(stores_.hold("\\dataD.vt"));
     for (std::size_t index = 1; index < Chu_.size(); ++index) {
       ViTriNghia_[index] = positions.integer(static_cast<std::int64_t>(index));
     }

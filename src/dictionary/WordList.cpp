@@ -23,10 +23,12 @@ constexpr std::size_t PieceSize = 1 << 16;
 
 } // namespace
 
-void WordList::NapTuDien(const std::string& directory, const std::function<void()>& TienTrinhNap) {
-  NapViTriTu(directory, TienTrinhNap);
+void WordList::NapTuDien(const std::string& directory, const std::function<void()>& TienTrinhNap,
+                         FileSystem& files) {
+  positions_ = RecordFile(MappedFile::open(pathBelow(directory, "\\data.mtd"), files));
+  NapViTriTu(TienTrinhNap);
   const std::string path = pathBelow(directory, "\\datatu.txt");
-  file_ = MappedFile::open(path);
+  file_ = MappedFile::open(path, files);
   text_ = file_->text();
   findLines(path);
   findLetters(path, TienTrinhNap);
@@ -34,8 +36,7 @@ void WordList::NapTuDien(const std::string& directory, const std::function<void(
   file_->letMemoryGo();
 }
 
-void WordList::NapViTriTu(const std::string& directory, const std::function<void()>& TienTrinhNap) {
-  positions_ = RecordFile(MappedFile::open(pathBelow(directory, "\\data.mtd")));
+void WordList::NapViTriTu(const std::function<void()>& TienTrinhNap) {
   risingTo_ = 0;
   TienTrinhNap();
   // The records are read where they lie, when they are asked for; the pace stays.

@@ -32,7 +32,8 @@ class WordList {
   /// Loads the whole list from a directory; `TienTrinhNap` is called at each tick of the progress.
   /// Throws FatalFailure naming the file when one is missing, and the line too when the list has
   /// more lines or more letter marks than there is room for.
-  void NapTuDien(const std::string& directory, const std::function<void()>& TienTrinhNap);
+  void NapTuDien(const std::string& directory, const std::function<void()>& TienTrinhNap,
+                 FileSystem& files = systemFiles());
 
   /// Number of lines of the list.
   [[nodiscard]] int count() const noexcept { return count_; }
@@ -50,6 +51,9 @@ class WordList {
   /// The first word from 1 whose `ViTriDanhSach` lies behind a caret; `WordCount` if there is none.
   [[nodiscard]] int lineAt(int caret) const;
 
+  /// The file of the lines.
+  [[nodiscard]] const std::shared_ptr<const MappedFile>& file() const noexcept { return file_; }
+
   void declare(Variables& variables) const;
 
   /// Slot k holds the number of the line on which the section of letter k, from 0, begins; the last
@@ -66,7 +70,7 @@ class WordList {
     if (i < 1 || i > WordCount) return 0;
     return positions_.integer(std::int64_t{PartsOfRecord} * (i - 1) + part + 1);
   }
-  void NapViTriTu(const std::string& directory, const std::function<void()>& TienTrinhNap);
+  void NapViTriTu(const std::function<void()>& TienTrinhNap);
   void findLines(const std::string& path);
   void findLetters(const std::string& path, const std::function<void()>& TienTrinhNap);
 

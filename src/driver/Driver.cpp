@@ -2,6 +2,7 @@
 
 #include "surface/Button.h"
 #include "surface/Surface.h"
+#include "text/Bytes.h"
 
 #include <exception>
 #include <utility>
@@ -113,8 +114,10 @@ const std::map<std::string, Driver::Entry>& Driver::commands() {
   return all;
 }
 
-Driver::Driver(const ScriptedOptions& options, const std::string& directory)
-    : machine_(options), program_(machine_.platform, directory), learner_(machine_, program_) {}
+Driver::Driver(const ScriptedOptions& options, const Folders& folders,
+               std::optional<LearnerLock> lock)
+    : machine_(options), lock_(std::move(lock)), program_(machine_.platform, folders),
+      learner_(machine_, program_) {}
 
 std::string Driver::answer(std::string_view line) {
   Json reply;
@@ -135,6 +138,7 @@ Json Driver::replyTo(const Command& command) {
   Json reply = {{"ok", true}};
   reply.update((this->*entry->second.handler)(command));
   addEnding(reply);
+  if (!program_.running()) lock_.reset();
   return reply;
 }
 
@@ -158,7 +162,11 @@ void Driver::addEnding(Json& reply) const {
 Json Driver::start(const Command&) {
   if (started_) throw CommandError("the program has been started already");
   started_ = true;
-  learner_.start();
+  if (lock_ && lock_->state() == LearnerLock::State::Taken) {
+    learner_.fail(std::string("Talvora ðang chäy rÒi."_bytes));
+  } else {
+    learner_.start();
+  }
   return {{"running", program_.running()}};
 }
 
@@ -239,7 +247,11 @@ Json Driver::queueAnswer(const Command& command) {
   return Json::object();
 }
 
-Json Driver::close(const Command&) {
+Json Driver::close(const Command& command) {
+  if (command.has("after")) {
+    machine_.clock.wantClosing(lengthField(command, "after"));
+    return {{"running", program_.running()}};
+  }
   learner_.close();
   return {{"running", program_.running()}};
 }

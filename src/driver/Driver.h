@@ -4,10 +4,12 @@
 #include "driver/Command.h"
 #include "driver/Json.h"
 #include "driver/Learner.h"
+#include "learner/LearnerLock.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,8 +17,10 @@ namespace talvora {
 
 class Driver {
  public:
-  /// `directory` is the current directory, where the program finds its stores.
-  Driver(const ScriptedOptions& options, const std::string& directory);
+  /// `lock` is on the learner's folder; it goes when the program has ended. When another program
+  /// has the folder, the start fails.
+  Driver(const ScriptedOptions& options, const Folders& folders,
+         std::optional<LearnerLock> lock = std::nullopt);
 
   /// Carries out one command and gives its reply. A command that cannot be understood changes
   /// nothing; a fatal failure of the program is a reply.
@@ -66,6 +70,7 @@ class Driver {
   [[nodiscard]] Control* targetField(const Command& command);
 
   ScriptedMachine machine_;
+  std::optional<LearnerLock> lock_;
   Program program_;
   Learner learner_;
   bool started_ = false;

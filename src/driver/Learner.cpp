@@ -1,6 +1,7 @@
 #include "driver/Learner.h"
 
 #include "platform/FatalFailure.h"
+#include "platform/Files.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
 
@@ -54,17 +55,28 @@ void Learner::perform(const std::function<void()>& deed) {
   try {
     deed();
     deliver([this] { deliverPointerMove(); });
+    // The wish that ended a wait is delivered when whatever waited is done.
+    if (machine_.clock.takeWish()) deliver([this] { program_.closeWindow(); });
+    tellOfShrunkFile();
   } catch (const FatalFailure& failure) {
-    failure_ = failure.what();
-    program_.fail();
+    fail(failure.what());
   } catch (const std::exception& defect) {
-    failure_ = std::string("a defect: ") + defect.what();
-    program_.fail();
+    fail(std::string("a defect: ") + defect.what());
   }
+}
+
+void Learner::tellOfShrunkFile() {
+  const std::string file = takeShrunkFile();
+  if (!file.empty()) throw FatalFailure(shrunkFileProblem(file));
 }
 
 void Learner::start() {
   perform([this] { deliver([this] { program_.Main(); }); });
+}
+
+void Learner::fail(const std::string& reason) {
+  failure_ = reason;
+  program_.fail();
 }
 
 void Learner::close() {

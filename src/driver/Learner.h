@@ -57,11 +57,15 @@ class Learner {
   /// Whole strokes, one after the other; only the first gives `on` the keyboard.
   void type(const std::vector<ScriptedKey>& keys, Control* on);
 
+  /// Ends the program for a reason of the machine's own.
+  void fail(const std::string& reason);
   /// What ended the program, or an empty text.
   [[nodiscard]] const std::string& failure() const noexcept { return failure_; }
 
  private:
   void perform(const std::function<void()>& deed);
+  /// Throws FatalFailure when a file of the pack became shorter while it was read.
+  static void tellOfShrunkFile();
   /// Delivers one input event, unless the program has ended, and what the program sends in answer.
   void deliver(const std::function<void()>& event);
   void deliverSynthetic();

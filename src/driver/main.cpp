@@ -17,6 +17,7 @@ constexpr int LargestScreen = 16384;
 
 struct Arguments {
   std::string directory;
+  std::string learner;
   std::string screen = "1024x768";
   std::string metrics = "fixed";
   talvora::ScriptedOptions options;
@@ -40,6 +41,8 @@ void declare(CLI::App& app, Arguments& arguments) {
   app.add_option("--dir", arguments.directory, "The program's directory: a content pack")
       ->required()
       ->check(CLI::ExistingDirectory);
+  app.add_option("--learner", arguments.learner,
+                 "The learner's own folder; without it the program's directory is that too");
   app.add_option("--screen", arguments.screen, "Screen in pixels")->capture_default_str();
   app.add_option("--seed", arguments.options.seed, "Start of the random stream")
       ->capture_default_str();
@@ -65,6 +68,9 @@ int run(int argc, char** argv) {
     if (!readScreen(arguments.screen, arguments.options)) {
       throw CLI::ValidationError("--screen", "not a size such as 1024x768: " + arguments.screen);
     }
+    if (!arguments.learner.empty()) {
+      arguments.learner = std::filesystem::absolute(arguments.learner).string();
+    }
     std::filesystem::current_path(arguments.directory);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : BadOptions;
@@ -73,7 +79,10 @@ int run(int argc, char** argv) {
     return BadOptions;
   }
 
-  talvora::Driver driver(arguments.options, std::filesystem::current_path().string());
+  const std::string pack = std::filesystem::current_path().string();
+  const std::string own = arguments.learner.empty() ? pack : arguments.learner;
+  talvora::Driver driver(arguments.options, {pack, own},
+                         talvora::LearnerLock(talvora::systemFiles(), own));
   std::string line;
   while (std::getline(std::cin, line))
     std::cout << driver.answer(line) << std::endl;

@@ -20,7 +20,7 @@ std::int16_t countAt(std::span<const unsigned char> bytes, std::size_t record) {
 
 void ItemStore::DocSoCau(EventLoop& events) {
   if (TongCau_ > 0) return;
-  const auto counts = MappedFile::open(pathBelow(places_.ThuMuc, "\\data.Muc"));
+  const auto counts = stores_.hold("\\data.Muc");
   for (std::size_t section = 1; section <= Sections; ++section) {
     events.letEventsRun();
     SoCau_[section] = countAt(counts->bytes(), section);

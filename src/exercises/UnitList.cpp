@@ -50,7 +50,7 @@ void UnitList::wireEvents() {
 
 void UnitList::HienBT(int SoCauBT) {
   Surface& Rchon = controls_.Rchon;
-  Rchon.LoadFile(pathBelow(state_.places.ThuMuc, "\\dataABCD.rtf"));
+  Rchon.LoadFile(stores_.hold("\\dataABCD.rtf"));
   Rchon.SelStart(0);
   Rchon.SelLength(Rchon.TextLength());
   Rchon.SelBold(true);

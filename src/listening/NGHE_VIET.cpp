@@ -243,7 +243,8 @@ void NGHE_VIET::GoKyTu(char c) {
   }
   Rviet.SelText('.');
   form_.Refresh();
-  clock_.Sleep(SentenceDoneMs);
+  // The next sentence comes up in any case: whoever wants the program closed may change the mind.
+  static_cast<void>(clock_.Sleep(SentenceDoneMs));
   QuaCauViet(1);
 }
 
@@ -251,7 +252,7 @@ void NGHE_VIET::NhayDo(Surface& surface) {
   const Colour before = surface.BackColor();
   surface.BackColor(Red);
   form_.Refresh();
-  clock_.Sleep(FlashMs);
+  static_cast<void>(clock_.Sleep(FlashMs));
   surface.BackColor(before);
   form_.Refresh();
 }

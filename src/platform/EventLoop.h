@@ -1,10 +1,9 @@
 // An event loop hands pending events to the program.
 #pragma once
 
-namespace talvora {
+#include "platform/Flow.h"
 
-/// Whether a loop that lets events run may go on.
-enum class Flow { Continue, Interrupt };
+namespace talvora {
 
 class EventLoop {
  public:

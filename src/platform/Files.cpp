@@ -2,57 +2,97 @@
 
 #include "platform/FatalFailure.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <algorithm>
+#include <array>
+#include <random>
 
 namespace talvora {
 
 namespace {
 
-[[noreturn]] void fail(const std::string& path, const std::string& what) {
-  throw FatalFailure(path + ": " + what + ": " + std::strerror(errno));
+constexpr std::string_view NewSuffix = ".new";
+constexpr std::size_t RandomLetters = 12;
+// A name that is taken is tried anew so often.
+constexpr int MostNames = 16;
+
+/// A name that nobody can have laid in wait for.
+std::string randomPart() {
+  constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz012345";
+  std::random_device random;
+  std::string part;
+  for (std::size_t letter = 0; letter < RandomLetters; ++letter)
+    part += letters[random() % letters.size()];
+  return part;
 }
 
-/// Closes a handle at the end of a scope.
-class OpenHandle {
+/// A new file beside the one that it is to replace; removed with this object unless it was renamed.
+class Beside {
  public:
-  explicit OpenHandle(int handle) : handle_(handle) {}
-  OpenHandle(const OpenHandle&) = delete;
-  OpenHandle& operator=(const OpenHandle&) = delete;
-  ~OpenHandle() {
-    if (handle_ >= 0) ::close(handle_);
+  Beside(FileSystem& files, const std::string& target) : files_(files) {
+    for (int attempt = 0; attempt < MostNames; ++attempt) {
+      path_ = target + "." + randomPart() + std::string(NewSuffix);
+      file_ = files.open(path_, OpenFor::CreatingNew, error);
+      if (error != std::errc::file_exists) return;
+    }
   }
-  [[nodiscard]] int get() const { return handle_; }
+  Beside(const Beside&) = delete;
+  Beside& operator=(const Beside&) = delete;
+  ~Beside() {
+    if (file_ == nullptr && !written_) return;
+    file_.reset();
+    if (!renamed_) static_cast<void>(files_.remove(path_));
+  }
+
+  [[nodiscard]] bool isOpen() const noexcept { return file_ != nullptr; }
+  std::error_code fill(std::span<const unsigned char> content, const FileStatus& old) {
+    if (old.kind == FileStatus::Kind::File) {
+      if (const auto problem = file_->dressAs(old)) return problem;
+    }
+    if (const auto problem = file_->write(0, content)) return problem;
+    if (const auto problem = file_->sync()) return problem;
+    written_ = true;
+    file_.reset();
+    return {};
+  }
+  std::error_code renameTo(const std::string& target) {
+    const auto problem = files_.rename(path_, target);
+    renamed_ = !problem;
+    return problem;
+  }
+
+  std::error_code error; ///< why it is not open
 
  private:
-  int handle_;
+  FileSystem& files_;
+  std::string path_;
+  std::unique_ptr<OpenFile> file_;
+  bool written_ = false;
+  bool renamed_ = false;
 };
 
-std::size_t sizeOf(int handle, const std::string& path) {
-  struct stat status {};
-  if (::fstat(handle, &status) != 0) fail(path, "cannot be examined");
-  if (S_ISDIR(status.st_mode)) throw FatalFailure(path + ": is a directory");
-  return static_cast<std::size_t>(status.st_size);
+std::optional<std::vector<unsigned char>> readAll(OpenFile& file, std::size_t size,
+                                                  std::error_code& error) {
+  std::vector<unsigned char> content(size);
+  content.resize(file.read(0, content, error));
+  if (error) return std::nullopt;
+  return content;
 }
 
 } // namespace
 
-namespace {
+bool TonTaiFile(const std::string& path, FileSystem& files) {
+  std::error_code error;
+  const FileStatus status = files.status(path, error);
+  return !error && status.kind != FileStatus::Kind::Missing &&
+         status.kind != FileStatus::Kind::Folder;
+}
 
-bool writeAll(int handle, std::span<const unsigned char> content) {
-  while (!content.empty()) {
-    const ssize_t put = ::write(handle, content.data(), content.size());
-    if (put < 0 && errno == EINTR) continue;
-    if (put < 0) return false;
-    content = content.subspan(static_cast<std::size_t>(put));
-  }
-  return true;
+std::string fileProblem(const std::string& path, std::string_view what,
+                        const std::error_code& error) {
+  return path + ": " + std::string(what) + ": " + error.message();
+}
+
+std::string shrunkFileProblem(const std::string& path) {
+  return path + ": has become shorter while the program was reading it";
 }
 
 std::string folderOf(const std::string& path) {
@@ -61,93 +101,61 @@ std::string folderOf(const std::string& path) {
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-void syncFolder(const std::string& folder) {
-  const OpenHandle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (handle.get() >= 0) ::fsync(handle.get());
+bool isLeftOver(std::string_view entry, std::string_view name) {
+  const std::size_t length = name.size() + 1 + RandomLetters + NewSuffix.size();
+  return entry.size() == length && entry.starts_with(name) && entry[name.size()] == '.' &&
+         entry.ends_with(NewSuffix);
 }
 
-} // namespace
+std::optional<std::vector<unsigned char>> readWhole(FileSystem& files, const std::string& path,
+                                                    std::error_code& error) {
+  const auto file = files.open(path, OpenFor::Reading, error);
+  if (file == nullptr) return std::nullopt;
+  const FileStatus status = file->status(error);
+  if (!error && status.kind != FileStatus::Kind::File)
+    error = std::make_error_code(std::errc::invalid_argument);
+  if (error) return std::nullopt;
+  return readAll(*file, status.size, error);
+}
 
-std::optional<std::string> replaceFile(const std::string& path,
+std::optional<std::string> replaceFile(FileSystem& files, const std::string& path,
                                        std::span<const unsigned char> content) {
-  const std::string beside = path + ".new";
-  const auto problem = [&](const char* what) {
-    std::string text = path + ": " + what + ": " + std::strerror(errno);
-    ::unlink(beside.c_str());
-    return text;
-  };
-  {
-    const OpenHandle handle(::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
-    if (handle.get() < 0) return problem("cannot be written");
-    if (!writeAll(handle.get(), content)) return problem("cannot be written");
-    if (::fsync(handle.get()) != 0) return problem("cannot be synced");
+  std::error_code error;
+  const std::string target = files.followLinks(path, error);
+  if (error) return fileProblem(path, "cannot be followed", error);
+  const FileStatus old = files.status(target, error);
+  if (error) return fileProblem(path, "cannot be examined", error);
+  if (old.kind == FileStatus::Kind::Folder || old.kind == FileStatus::Kind::Other) {
+    return path + ": is not a file";
   }
-  if (::rename(beside.c_str(), path.c_str()) != 0) return problem("cannot be replaced");
-  syncFolder(folderOf(path));
+  Beside beside(files, target);
+  if (!beside.isOpen()) return fileProblem(path, "cannot be written", beside.error);
+  if ((error = beside.fill(content, old))) return fileProblem(path, "cannot be written", error);
+  if ((error = beside.renameTo(target))) return fileProblem(path, "cannot be replaced", error);
+  if ((error = files.syncFolder(folderOf(target)))) {
+    return fileProblem(path, "cannot be synced", error);
+  }
   return std::nullopt;
 }
 
-bool TonTaiFile(const std::string& path) noexcept {
-  struct stat status {};
-  return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
-}
-
-std::shared_ptr<const MappedFile> MappedFile::open(const std::string& path) {
-  const OpenHandle handle(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-  if (handle.get() < 0) fail(path, "cannot be opened");
-  const std::size_t size = sizeOf(handle.get(), path);
-  const unsigned char* data = nullptr;
-  if (size > 0) {
-    void* mapped = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, handle.get(), 0);
-    if (mapped == MAP_FAILED) fail(path, "cannot be mapped");
-    data = static_cast<const unsigned char*>(mapped);
+std::shared_ptr<const MappedFile> MappedFile::open(const std::string& path, FileSystem& files) {
+  std::error_code error;
+  const auto fail = [&](std::string_view what) {
+    throw FatalFailure(fileProblem(path, what, error));
+  };
+  const auto file = files.open(path, OpenFor::Reading, error);
+  if (file == nullptr) fail("cannot be opened");
+  const FileStatus status = file->status(error);
+  if (error) fail("cannot be examined");
+  if (status.kind == FileStatus::Kind::Folder) throw FatalFailure(path + ": is a directory");
+  if (status.size < LargeFile) {
+    auto content = readAll(*file, status.size, error);
+    if (!content) fail("cannot be read");
+    return std::make_shared<const MappedFile>(std::move(*content));
   }
-  return std::shared_ptr<const MappedFile>(new MappedFile(data, size));
-}
-
-void MappedFile::letMemoryGo() const noexcept {
-  if (data_ != nullptr) ::madvise(const_cast<unsigned char*>(data_), size_, MADV_DONTNEED);
-}
-
-MappedFile::~MappedFile() {
-  if (data_ != nullptr) ::munmap(const_cast<unsigned char*>(data_), size_);
-}
-
-ReadWriteFile::ReadWriteFile(const std::string& path)
-    : path_(path), handle_(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644)) {
-  if (handle_ < 0) fail(path, "cannot be opened for writing");
-}
-
-ReadWriteFile::~ReadWriteFile() {
-  ::close(handle_);
-}
-
-std::size_t ReadWriteFile::size() const {
-  return sizeOf(handle_, path_);
-}
-
-void ReadWriteFile::read(std::size_t offset, std::span<unsigned char> into) const {
-  std::fill(into.begin(), into.end(), static_cast<unsigned char>(0));
-  std::size_t done = 0;
-  while (done < into.size()) {
-    const ssize_t got =
-        ::pread(handle_, into.data() + done, into.size() - done, static_cast<off_t>(offset + done));
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) fail(path_, "cannot be read");
-    if (got == 0) return;
-    done += static_cast<std::size_t>(got);
-  }
-}
-
-void ReadWriteFile::write(std::size_t offset, std::span<const unsigned char> bytes) {
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t put = ::pwrite(handle_, bytes.data() + done, bytes.size() - done,
-                                 static_cast<off_t>(offset + done));
-    if (put < 0 && errno == EINTR) continue;
-    if (put < 0) fail(path_, "cannot be written");
-    done += static_cast<std::size_t>(put);
-  }
+  auto mapping = file->map(status.size, error);
+  if (mapping == nullptr) fail("cannot be mapped");
+  return std::make_shared<const MappedFile>(std::move(mapping));
 }
 
 } // namespace talvora

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "platform/Boxes.h"
+#include "platform/Calendar.h"
 #include "platform/Clock.h"
 #include "platform/Desk.h"
 #include "platform/EventLoop.h"
+#include "platform/FileSystem.h"
 #include "platform/Input.h"
 #include "platform/LineLayout.h"
 #include "platform/Random.h"
@@ -29,6 +31,8 @@ struct Platform {
   Installation& installation;
   Narrator& narrator;
   Random& random;
+  FileSystem& files = systemFiles();
+  const Calendar& calendar = systemCalendar();
 };
 
 } // namespace talvora

@@ -16,25 +16,29 @@ namespace talvora {
 namespace {
 
 constexpr std::string_view DesignCaption = "TALVORA 2.4";
+constexpr int NotStoringMs = 4000;
 
-SharedState startingIn(std::string directory) {
+SharedState startingIn(Folders folders) {
   SharedState state;
-  state.places.ThuMuc = std::move(directory);
+  state.places.ThuMuc = std::move(folders.pack);
+  if (folders.learner != state.places.ThuMuc) state.places.learner = std::move(folders.learner);
   return state;
 }
 
 } // namespace
 
-E::E(Platform& platform, std::string directory)
+E::E(Platform& platform, Folders folders)
     : platform_(platform), form_(platform.screen, platform.metrics),
-      controls_(form_, platform.layout), state_(startingIn(std::move(directory))),
-      stores_(state_.places), shell_(platform, form_, controls_, state_),
-      voice_(state_.places, platform.wave, shell_.messages),
+      controls_(form_, platform.layout), state_(startingIn(std::move(folders))),
+      stores_(state_.places, platform.files),
+      own_(state_.places.learnerFolder(), stores_, platform.files, platform.calendar),
+      shell_(platform, form_, controls_, state_),
+      voice_(state_.places, platform.wave, shell_.messages, platform.files),
       speech_(state_, platform, shell_.steering, voice_),
       dictionary_(form_, controls_, state_, stores_, shell_, speech_),
       vietnameseSide_(controls_, state_, stores_, shell_, speech_, dictionary_.lookUp()),
       sections_(platform, form_, controls_, state_, stores_, shell_,
-                PageServices{dictionary_, vietnameseSide_, speech_, voice_}) {
+                PageServices{dictionary_, vietnameseSide_, speech_, voice_}, own_) {
   form_.Caption(std::string(DesignCaption));
   declareAll();
   registerProcedures();
@@ -72,8 +76,9 @@ void E::registerProcedures() {
   procedures_.addOfText("TimBaiHoc", [this](const std::string& title) {
     return VariableValue(sections_.TimBaiHoc(title));
   });
-  procedures_.addOfText("TonTaiFile",
-                        [](const std::string& s) { return VariableValue(TonTaiFile(s)); });
+  procedures_.addOfText("TonTaiFile", [this](const std::string& s) {
+    return VariableValue(TonTaiFile(s, platform_.files));
+  });
   registerSearches();
 }
 
@@ -120,7 +125,8 @@ VariableValue E::search(const std::string& key, LayNghia layNghia) {
 // -- Start-up.
 
 void E::Main() {
-  if (KiemTraCaiDat(state_.places.ThuMuc, platform_.installation, platform_.boxes) ==
+  own_.words.open();
+  if (KiemTraCaiDat(state_.places, platform_.files, platform_.installation, platform_.boxes) ==
       FirstRun::DoneNow) {
     end(Ending::FirstRun);
     return;
@@ -144,19 +150,28 @@ void E::Main() {
   vietnameseSide_.NapTuD(platform_.events);
   sections_.loadExerciseCounts();
   form_.Refresh();
+  if (ending_ != Ending::None) return;
   loadEnglishSide();
+  // Somebody may have closed the window while it loaded.
+  if (ending_ != Ending::None) return;
   shell_.steering.XepChuot();
   shell_.setup.measureCard();
   shell_.setup.parkPlate();
   state_.places.waitkd = false;
   state_.places.DangBan = false;
+  if (!own_.words.storing()) {
+    shell_.messages.ThongBao("Không ghi ðŸ¢c vào thŸ müc cûa bän: lÌn này không lŸu gì."_bytes,
+                             NotStoringMs);
+  }
   shell_.steering.pointAtButton(1);
   shell_.hover.NutSang(controls_.but(1));
 }
 
 void E::loadEnglishSide() {
   dictionary_.NapTuDien();
+  if (ending_ != Ending::None) return;
   stores_.MoDuLieu();
+  own_.takePack(stores_);
   state_.measures.KieuTruot = 5;
   speech_.setUp(stores_);
   shell_.setup.adjustSlideStep();
@@ -191,23 +206,35 @@ void E::HoiThoat() {
 
 void E::closeWindow() {
   if (frameVisible()) {
-    end(Ending::Quit);
+    if (mayLeave()) end(Ending::Quit);
   } else {
     HoiThoat();
   }
 }
 
+bool E::mayLeave() {
+  keep();
+  if (own_.words.safe() || !own_.words.storing()) return true;
+  return shell_.messages.XacNhan("TÙ vÜng chŸa ghi ðŸ¢c vào ðña. VÑn thoát?"_bytes, "no");
+}
+
 void E::quit() {
+  if (!mayLeave()) return;
   int& DemChay = shell_.hints.DemChay;
   DemChay = nextRunCount(DemChay);
   stores_.writeSetting(setting::RunCounter, DemChay);
   end(Ending::Quit);
 }
 
+void E::keep() {
+  if (stores_.areOpen()) sections_.keep();
+}
+
 void E::end(Ending ending) {
   if (ending_ != Ending::None) return;
-  stores_.closeAll();
   ending_ = ending;
+  keep();
+  stores_.closeAll();
 }
 
 } // namespace talvora

@@ -4,6 +4,7 @@
 
 #include "dictionary/Dictionary.h"
 #include "dictionary/VietnameseSide.h"
+#include "learner/LearnerData.h"
 #include "platform/Platform.h"
 #include "program/Procedures.h"
 #include "program/Program.h"
@@ -16,8 +17,6 @@
 #include "surface/State.h"
 #include "surface/Variables.h"
 
-#include <string>
-
 namespace talvora {
 
 /// The run counter after one more run: it goes on from 2 to 20, and anything else becomes 1.
@@ -27,7 +26,7 @@ namespace talvora {
 
 class E {
  public:
-  E(Platform& platform, std::string directory);
+  E(Platform& platform, Folders folders);
 
   /// The start-up, every step in its order.
   void Main();
@@ -36,6 +35,9 @@ class E {
   /// The close box: the quit question, or with a section open the end without a question and
   /// without the run counter.
   void closeWindow();
+  /// Stores what the learner has done so far, as leaving the section would.
+  void keep();
+  /// Ends the program, whatever is open; what is in memory is kept.
   void end(Ending ending);
 
   [[nodiscard]] Ending ending() const noexcept { return ending_; }
@@ -58,12 +60,15 @@ class E {
   [[nodiscard]] bool frameVisible() const;
   /// The end that the learner asked for: the run counter goes on, all files are closed.
   void quit();
+  /// Whether the program may end: words that are on no disk stand in the way with a question.
+  [[nodiscard]] bool mayLeave();
 
   Platform& platform_;
   Form form_;
   Controls controls_;
   SharedState state_;
   Stores stores_;
+  LearnerData own_;
   Shell shell_;
   RecordedVoice voice_;
   Speech speech_;

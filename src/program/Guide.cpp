@@ -7,8 +7,8 @@
 
 namespace talvora {
 
-Guide::Guide(Controls& controls, const SharedState& state, Shell& shell)
-    : controls_(controls), state_(state), shell_(shell) {
+Guide::Guide(Controls& controls, const SharedState& state, const Stores& stores, Shell& shell)
+    : controls_(controls), state_(state), stores_(stores), shell_(shell) {
   wireEvents();
 }
 
@@ -17,7 +17,7 @@ void Guide::open() {
   Rcachhoc.FontSize(state_.measures.CoChu);
   Rcachhoc.TabIndex(Controls::ButtonCount + 1);
   Rcachhoc.Locked(false);
-  Rcachhoc.FileName(pathBelow(state_.places.ThuMuc, "\\readme.rtf"));
+  Rcachhoc.LoadFile(stores_.hold("\\readme.rtf"));
   shell_.transitions.MoRan(Rcachhoc, controls_.Frame1);
   shell_.curtain.KeoMan(Rcachhoc);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/Shell.h"
+#include "stores/Stores.h"
 #include "surface/Controls.h"
 #include "surface/State.h"
 
@@ -9,7 +10,7 @@ namespace talvora {
 
 class Guide {
  public:
-  Guide(Controls& controls, const SharedState& state, Shell& shell);
+  Guide(Controls& controls, const SharedState& state, const Stores& stores, Shell& shell);
 
   /// Shows the guide behind the curtain. Throws FatalFailure when its file is missing.
   void open();
@@ -19,6 +20,7 @@ class Guide {
 
   Controls& controls_;
   const SharedState& state_;
+  const Stores& stores_;
   Shell& shell_;
 };
 

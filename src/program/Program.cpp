@@ -7,13 +7,13 @@
 namespace talvora {
 
 struct Program::Parts {
-  Parts(Platform& platform, std::string directory) : e(platform, std::move(directory)) {}
+  Parts(Platform& platform, Folders folders) : e(platform, std::move(folders)) {}
 
   E e;
 };
 
-Program::Program(Platform& platform, std::string directory)
-    : parts_(std::make_unique<Parts>(platform, std::move(directory))) {}
+Program::Program(Platform& platform, Folders folders)
+    : parts_(std::make_unique<Parts>(platform, std::move(folders))) {}
 
 Program::~Program() = default;
 
@@ -23,6 +23,14 @@ void Program::Main() {
 
 void Program::closeWindow() {
   parts_->e.closeWindow();
+}
+
+void Program::keep() {
+  parts_->e.keep();
+}
+
+void Program::closeAtOnce() {
+  parts_->e.end(Ending::Quit);
 }
 
 void Program::fail() {

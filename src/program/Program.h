@@ -9,16 +9,27 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace talvora {
 
 /// Why the program is no longer running.
 enum class Ending { None, Quit, FirstRun, Failure };
 
+/// Where the program finds what it shows, and where it keeps what is the learner's.
+struct Folders {
+  /// One folder for both.
+  Folders(std::string both) : pack(both), learner(std::move(both)) {} // NOLINT: one is the usual
+  Folders(std::string packFolder, std::string learnerFolder)
+      : pack(std::move(packFolder)), learner(std::move(learnerFolder)) {}
+
+  std::string pack;    ///< only read
+  std::string learner; ///< made when it is missing
+};
+
 class Program {
  public:
-  /// `directory` is the current directory at the moment of start.
-  Program(Platform& platform, std::string directory);
+  Program(Platform& platform, Folders folders);
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
   ~Program();
@@ -28,7 +39,11 @@ class Program {
   void Main();
   /// The close box of the window: asks, and ends the program unless the answer is No.
   void closeWindow();
-  /// Ends the program after a fatal failure; what the learner owns is left untouched.
+  /// Stores what the learner has done so far; the program goes on.
+  void keep();
+  /// Ends the program without a question, as the system wants it.
+  void closeAtOnce();
+  /// Ends the program after a fatal failure; what the learner has taken is kept.
   void fail();
 
   [[nodiscard]] Ending ending() const noexcept;

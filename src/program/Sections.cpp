@@ -7,10 +7,10 @@
 namespace talvora {
 
 Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedState& state,
-                   Stores& stores, Shell& shell, PageServices services)
+                   Stores& stores, Shell& shell, PageServices services, LearnerData& own)
     : platform_(platform), controls_(controls), state_(state), stores_(stores), shell_(shell),
       soundSettings_(controls, state, platform, stores, shell, services.speech),
-      reading_(controls, state, stores, shell, services, platform.clock),
+      reading_(controls, state, stores, shell, services, platform.clock, own),
       lessons_(controls, state, stores, shell, services),
       exercises_(form, controls, state, stores, shell, services, lessons_, platform.random),
       ordering_(controls, state, stores, shell, services, platform.random, exercises_.item.links),
@@ -18,7 +18,7 @@ Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedSta
                  exercises_.scoring, exercises_.item),
       dictation_(form, controls, state, stores, shell, services, platform.clock),
       writing_(form, controls, state, stores, shell, services, ordering_),
-      analysis_(state, stores, shell, exercises_.item), guide_(controls, state, shell) {
+      analysis_(state, stores, shell, exercises_.item), guide_(controls, state, stores, shell) {
   wireFocus();
   wireOrdering();
   wireDictation();

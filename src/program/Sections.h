@@ -26,13 +26,16 @@ namespace talvora {
 class Sections {
  public:
   Sections(Platform& platform, Form& form, Controls& controls, SharedState& state, Stores& stores,
-           Shell& shell, PageServices services);
+           Shell& shell, PageServices services, LearnerData& own);
 
   /// Opens the section of a menu button, 1 to 18. While the program is busy only the closed section
   /// answers.
   void open(int button);
   /// Reads the counts of the exercises, once.
   void loadExerciseCounts() { exercises_.store.DocSoCau(platform_.events); }
+
+  /// Stores what leaving the open section would store.
+  void keep() { reading_.keep(); }
 
   void declare(Variables& variables) const;
 

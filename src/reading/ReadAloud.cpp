@@ -25,7 +25,7 @@ void ReadAloud::DocCa() {
     if (silent()) {
       readOne(progress);
     } else {
-      clock_.Sleep(10);
+      rest(10, progress);
     }
     if (progress.quit > 0) break;
     if (progress.sentence >= lastSentence()) {
@@ -62,8 +62,12 @@ void ReadAloud::readOne(Progress& progress) {
     state_.word.ViTriCaret = target;
     sentences_.ChonCau(R2_, target);
   }
-  clock_.Sleep(20);
-  speech_.ChoDoc(s, progress.quit);
+  rest(20, progress);
+  if (progress.quit == 0) speech_.ChoDoc(s, progress.quit);
+}
+
+void ReadAloud::rest(int ms, Progress& progress) {
+  if (clock_.Sleep(ms) == Flow::Interrupt) progress.quit = 1;
 }
 
 void ReadAloud::scrollOn(Progress& progress) {

@@ -40,6 +40,8 @@ class ReadAloud {
   [[nodiscard]] int pageEndFrom(int sentence) const;
   [[nodiscard]] bool silent() const;
   void readOne(Progress& progress);
+  /// Waits; when closing is wanted the reading is over.
+  void rest(int ms, Progress& progress);
   void scrollOn(Progress& progress);
 
   Surface& R2_;

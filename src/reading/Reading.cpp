@@ -25,10 +25,11 @@ constexpr int GreyedTo = 47;
 } // namespace
 
 Reading::Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-                 PageServices services, Clock& clock)
+                 PageServices services, Clock& clock, LearnerData& own)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
-      text_(stores, state.text, state.word), page_(controls, state, shell, services, text_, clock),
-      vocabulary_(controls, state, stores, shell, services, text_) {
+      own_(own), text_(stores, state.text, state.word),
+      page_(controls, state, shell, services, text_, clock),
+      vocabulary_(controls, state, stores, shell, services, text_, own.words) {
   wireEvents();
 }
 
@@ -123,14 +124,26 @@ void Reading::ExitR1() {
     return;
   }
   vocabulary_.LuuTuVung();
-  ViTriDanhSachBai = controls_.R1.SelStart();
-  stores_.writeSetting(caretRecord(), ViTriDanhSachBai);
+  storeCaret();
   DaNapDanhSach = false;
   shell_.transitions.DongRan(controls_.R1, controls_.Frame1);
   controls_.Frame2.Visible(false);
   controls_.Frame3.Visible(false);
   const int section = state_.places.MucMenu;
   if (section == 1 || section == 5 || section == 6 || section == 7) focusButton(section);
+}
+
+void Reading::storeCaret() {
+  ViTriDanhSachBai = controls_.R1.SelStart();
+  own_.lists.store(caretRecord(), ViTriDanhSachBai, state_.list.SoBaiChon);
+}
+
+void Reading::keep() {
+  vocabulary_.keep();
+  const int section = state_.places.MucMenu;
+  const bool listOpen =
+      section == section::Reading || section == section::Analysis || section == section::Speaking;
+  if (DaNapDanhSach && listOpen) storeCaret();
 }
 
 void Reading::GoiR2() {

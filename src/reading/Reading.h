@@ -2,6 +2,7 @@
 // line of it to the text on `R2`.
 #pragma once
 
+#include "learner/LearnerData.h"
 #include "reading/ReadingPage.h"
 #include "reading/ReadingText.h"
 #include "reading/TuVungChon.h"
@@ -18,12 +19,14 @@ namespace talvora {
 class Reading {
  public:
   Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-          PageServices services, Clock& clock);
+          PageServices services, Clock& clock, LearnerData& own);
 
   /// Common opening of the sections that begin with a title list.
   void BatdauBut();
   /// Leaves the list, or first the text that was opened from it.
   void ExitR1();
+  /// Stores what leaving the list would store, and leaves nothing: the program ends.
+  void keep();
   /// Takes the text off and goes back to its line of the list.
   void ExitR2();
   /// Opens the text of the current line.
@@ -58,6 +61,7 @@ class Reading {
   void styleHeading(int caret);
   void showList();
   [[nodiscard]] int caretRecord() const;
+  void storeCaret();
   [[nodiscard]] bool lineOpens() const;
   void jumpToNextHeading();
   void jumpToPreviousHeading();
@@ -74,6 +78,7 @@ class Reading {
   Stores& stores_;
   Shell& shell_;
   PageServices services_;
+  LearnerData& own_;
   ReadingText text_;
   ReadingPage page_;
   TuVungChon vocabulary_;

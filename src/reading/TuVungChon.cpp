@@ -16,7 +16,6 @@ namespace {
 constexpr Colour BodyColour = 0x750000;
 constexpr Colour Red = 255;
 constexpr Colour ScrollBarColour = 0x80000000;
-constexpr int ProblemMs = 10000;
 
 } // namespace
 
@@ -31,9 +30,9 @@ bool CoSoVaChu(std::string_view text) {
 }
 
 TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-                       PageServices services, ReadingText& text)
+                       PageServices services, ReadingText& text, LearnerWords& words)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
-      text_(text), file_(stores.vocabularyPath()) {
+      text_(text), words_(words) {
   wireEvents();
 }
 
@@ -41,17 +40,32 @@ TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, S
 
 void TuVungChon::NapTuVung() {
   // What could not be written stays here until it can.
-  if (!DaDoiTuVung_) TuVung_ = file_.read();
+  if (DaDoiTuVung_) return;
+  if (auto words = words_.read()) {
+    TuVung_ = std::move(*words);
+  } else if (!TuVung_.empty()) {
+    store();
+  }
 }
 
 void TuVungChon::LuuTuVung() {
+  keep();
+  tellOfProblem();
+}
+
+void TuVungChon::keep() {
   if (DaDoiTuVung_) store();
 }
 
 void TuVungChon::store() {
-  const auto problem = file_.write(TuVung_);
-  DaDoiTuVung_ = problem.has_value();
-  if (problem) shell_.messages.ThongBao(*problem, ProblemMs);
+  DaDoiTuVung_ = words_.write(TuVung_).has_value();
+}
+
+// Where nothing could be stored from the start, that has been told.
+void TuVungChon::tellOfProblem() {
+  if (!DaDoiTuVung_ || !words_.storing()) return;
+  shell_.messages.tell(
+      "ChŸa ghi ðŸ¢c tÙ vÜng vào ðña. ChŸ×ng trình giØ các tÙ và sç ghi läi sau."_bytes);
 }
 
 bool TuVungChon::CoTuVung() {
@@ -76,6 +90,7 @@ void TuVungChon::ThemTuVung() {
   const bool speaking = stores_.FileChiSo == file::SpeakingPositions;
   TuVung_.push_back(
       {paddedWord(word.front() == 'I' ? word : lower(word)), speaking ? -place : place});
+  words_.noteAdded(TuVung_.back());
 }
 
 // -- The section.
@@ -189,14 +204,9 @@ void TuVungChon::XemCau() {
 void TuVungChon::DocCauTuVung() {
   const std::int32_t place = TuVungDangXem_.ViTriCauTu;
   const int stream = place < 0 ? file::SpeakingTexts : file::Texts;
-  ChuoiCau_.clear();
-  PieceReader reader(stores_.fileOf(stream), std::abs(static_cast<std::int64_t>(place)));
-  while (const auto piece = reader.next()) {
-    // One byte can hold two marks.
-    if (piece->front() == '_' || *piece == "`" || *piece == "@" || *piece == "\r") break;
-    if (*piece == "\t") continue;
-    ChuoiCau_ += *piece == "|" ? " " : *piece;
-  }
+  ChuoiCau_ = sentenceAt(stores_.fileOf(stream), std::abs(static_cast<std::int64_t>(place)));
+  // A sentence that is in the pack no more is shown as it was.
+  if (place == 0) ChuoiCau_ = words_.keptSentence(TuVungDangXem_);
   state_.word.NghiaHienTai = ChuoiCau_;
   state_.word.TuHienTai = ChuoiCau_;
 }
@@ -232,8 +242,10 @@ void TuVungChon::XoaTuVung() {
 
 void TuVungChon::removeRows(int first, int last) {
   const auto at = [this](int row) { return TuVung_.begin() + std::clamp(row, 0, SoTuVung()); };
+  words_.noteRemoved({at(first - 1), at(last)});
   TuVung_.erase(at(first - 1), at(last));
   store();
+  tellOfProblem();
   if (TuVung_.empty()) {
     ExitRChon();
     return;

@@ -2,11 +2,11 @@
 // listed on `Rchon`.
 #pragma once
 
+#include "learner/LearnerWords.h"
 #include "reading/ReadingPage.h"
 #include "reading/SentencePick.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "stores/VocabularyFile.h"
 #include "surface/Controls.h"
 #include "surface/State.h"
 
@@ -24,14 +24,17 @@ namespace talvora {
 class TuVungChon {
  public:
   TuVungChon(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-             PageServices services, ReadingText& text);
+             PageServices services, ReadingText& text, LearnerWords& words);
 
-  /// Reads the list from disk.
+  /// Reads the list from disk. What is not there to be read is made again from memory.
   void NapTuVung();
-  /// Writes the list when words were added. What goes wrong is shown; the list stays in memory and
-  /// is written with the next change.
+  /// Writes the list when words were added. What goes wrong is told; the list stays in memory and
+  /// is written later.
   void LuuTuVung();
-  /// Adds `TuHienTai` with its sentence; a word that is there already or too long is refused.
+  /// The same without a word about it, for the end of the program.
+  void keep();
+  /// Adds `TuHienTai` with its sentence; a word that is there already or too long is refused. Its
+  /// place in the journal makes it outlive whatever ends the program.
   void ThemTuVung();
   /// Whether the list holds `TuHienTai`; then `TuVungDangXem` takes it.
   bool CoTuVung();
@@ -67,6 +70,7 @@ class TuVungChon {
   void removeRows(int first, int last);
   [[nodiscard]] int rowOf(int caret) const;
   void store();
+  void tellOfProblem();
 
   Controls& controls_;
   SharedState& state_;
@@ -74,7 +78,7 @@ class TuVungChon {
   Shell& shell_;
   PageServices services_;
   ReadingText& text_;
-  VocabularyFile file_;
+  LearnerWords& words_;
   std::vector<VocabularyWord> TuVung_; ///< element i is word i + 1
   VocabularyWord TuVungDangXem_;       ///< the word that is being looked at
   std::string ChuoiCau_;               ///< its sentence

@@ -21,8 +21,7 @@ void Curtain::KeoManNgang(Surface& surface) {
   const int extra = measures_.RongMH > WideScreen ? measures_.RongMH / 60 : 0;
   const int k = controls_.FC1.Width() / 100 + extra;
   steering_.ChuotGoc();
-  clock_.Sleep(PauseMs);
-  open(k);
+  if (clock_.Sleep(PauseMs) == Flow::Continue) open(k);
   controls_.FC1.Visible(false);
   controls_.FC2.Visible(false);
   form_.Refresh();

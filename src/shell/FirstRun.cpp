@@ -5,11 +5,14 @@
 
 namespace talvora {
 
-FirstRun KiemTraCaiDat(const std::string& ThuMuc, Installation& installation, Boxes& boxes) {
-  const std::string marker = pathBelow(ThuMuc, "\\Yes1");
-  if (TonTaiFile(marker)) return FirstRun::AlreadyDone;
+FirstRun KiemTraCaiDat(const Places& places, FileSystem& files, Installation& installation,
+                       Boxes& boxes) {
+  const std::string& ThuMuc = places.ThuMuc;
+  const std::string marker = pathBelow(places.learnerFolder(), "\\Yes1");
+  if (TonTaiFile(marker, files)) return FirstRun::AlreadyDone;
+  std::error_code error;
+  if (files.open(marker, OpenFor::Writing, error) == nullptr) return FirstRun::AlreadyDone;
   installation.installFonts();
-  const ReadWriteFile created(marker);
   if (!installation.speechEngineInstalled()) installation.run(ThuMuc + "\\s1.exe");
   boxes.tell("Neu chuong trinh bi loi thi xem muc <Huong dan cach hoc> Hoac doc file README trong "
              "thu muc: " +

@@ -3,8 +3,8 @@
 
 #include "platform/Boxes.h"
 #include "platform/Desk.h"
-
-#include <string>
+#include "platform/FileSystem.h"
+#include "surface/State.h"
 
 namespace talvora {
 
@@ -13,8 +13,9 @@ enum class FirstRun { AlreadyDone, DoneNow };
 
 /// Does the first-run work when its marker file is absent: fonts, the marker, the speech engine's
 /// installers where it or its voice is missing. After `DoneNow` the process ends, in every case:
-/// the user starts the program a second time.
-/// Throws FatalFailure when the marker cannot be written.
-FirstRun KiemTraCaiDat(const std::string& ThuMuc, Installation& installation, Boxes& boxes);
+/// the user starts the program a second time. The marker lies with what the learner owns; where it
+/// cannot be written there would be no second time, and nothing is done.
+FirstRun KiemTraCaiDat(const Places& places, FileSystem& files, Installation& installation,
+                       Boxes& boxes);
 
 } // namespace talvora

@@ -29,7 +29,8 @@ void Messages::ThongBao(std::string_view text, int ms) {
   narrator_.messageShown(std::string(text), ms);
   form_.Refresh();
   if (ms <= 0) return;
-  clock_.Sleep(ms);
+  // Cut short or not, the message goes.
+  static_cast<void>(clock_.Sleep(ms));
   TatThongBao();
 }
 

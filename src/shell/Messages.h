@@ -27,6 +27,8 @@ class Messages {
   void TatThongBao();
   /// Fits the red plate behind the popup.
   void VeKhung();
+  /// Tells something in a box of its own: the window lives on, and the learner closes the box.
+  void tell(std::string_view text) { boxes_.tell(text); }
   /// A question box with Yes and No; `defaultAnswer` "yes", in any case of letters, makes Yes the
   /// default button. True when Yes was pressed.
   bool XacNhan(std::string_view question, std::string_view defaultAnswer);

@@ -59,8 +59,8 @@ int Transitions::closingStep() const {
   return measures_.KieuTruot == 4 ? measures_.BuocTruot : Round(measures_.RongMH * 2 / 150.0);
 }
 
-void Transitions::pause() {
-  if (TreTruot() != 0) clock_.Sleep(TreTruot());
+Flow Transitions::pause() {
+  return TreTruot() == 0 ? Flow::Continue : clock_.Sleep(TreTruot());
 }
 
 void Transitions::MoRan(Surface& surface, Frame& frame) {
@@ -104,7 +104,7 @@ void Transitions::slideIn(Surface& surface, int targetLeft, int targetTop) {
     surface.Top(up.at);
     surface.Left(across.at);
     surface.Visible(true);
-    pause();
+    if (pause() == Flow::Interrupt) return;
   }
 }
 
@@ -129,36 +129,32 @@ void Transitions::slideOut(Surface& surface) {
   const int step = closingStep();
   const int W = measures_.RongMH;
   const int H = measures_.CaoMH;
-  const auto beforeMove = [this] {
+  // Whoever calls hides the surface, wherever it has come to.
+  Flow flow = Flow::Continue;
+  const auto mayMove = [&] {
     form_.Refresh();
-    pause();
+    if (flow == Flow::Continue) flow = pause();
+    return flow == Flow::Continue;
   };
   const auto down = [&] {
-    while (surface.Top() + surface.Height() < H) {
-      beforeMove();
+    while (surface.Top() + surface.Height() < H && mayMove())
       surface.Top(surface.Top() + step);
-    }
   };
   const auto towardsOne = [&](int at) { return at - step < 0 ? 1 : at - step; };
 
   down();
-  while (surface.Left() + surface.Width() < W) {
-    beforeMove();
+  while (surface.Left() + surface.Width() < W && mayMove())
     surface.Left(surface.Left() + step);
-  }
-  while (surface.Top() >= 1) {
-    beforeMove();
+  while (surface.Top() >= 1 && mayMove()) {
     surface.Top(towardsOne(surface.Top()));
     if (surface.Top() == 1) break;
   }
-  while (surface.Left() >= 1) {
-    beforeMove();
+  while (surface.Left() >= 1 && mayMove()) {
     surface.Left(towardsOne(surface.Left()));
     if (surface.Left() == 1) break;
   }
   down();
-  for (int counter = H; counter > 0 && surface.Left() < W; counter -= step) {
-    beforeMove();
+  for (int counter = H; counter > 0 && surface.Left() < W && mayMove(); counter -= step) {
     surface.Top(surface.Top() - step);
     surface.Left(surface.Left() + step);
   }

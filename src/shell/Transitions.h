@@ -32,7 +32,7 @@ class Transitions {
   [[nodiscard]] int TreTruot() const noexcept;
   void slideIn(Surface& surface, int targetLeft, int targetTop);
   void slideOut(Surface& surface);
-  void pause();
+  Flow pause();
 
   Form& form_;
   const Measures& measures_;

@@ -33,7 +33,7 @@ std::int64_t firstMarkOf(const RecordFile& marks, std::int64_t records, int n) {
 
 bool RecordedVoice::TonTaiAm(std::string_view name) {
   TenAm = std::string(trim(name)) + ".wav";
-  return TonTaiFile(wavePath());
+  return TonTaiFile(wavePath(), files_);
 }
 
 std::string RecordedVoice::wavePath() const {
@@ -69,7 +69,7 @@ void RecordedVoice::DongAm() {
 
 void RecordedVoice::NapMoc(int n) {
   const std::string path = pathBelow(places_.ThuMuc, MarksName);
-  const auto mapped = MappedFile::open(path);
+  const auto mapped = MappedFile::open(path, files_);
   const RecordFile marks(mapped);
   const auto records = static_cast<std::int64_t>(mapped->bytes().size() / IntegerSize);
   // Marks of a longer recording before this one must not sound behind its end.

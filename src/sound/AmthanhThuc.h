@@ -2,6 +2,7 @@
 // played sentence by sentence.
 #pragma once
 
+#include "platform/FileSystem.h"
 #include "platform/WavePlayer.h"
 #include "shell/Messages.h"
 #include "surface/State.h"
@@ -20,8 +21,9 @@ class RecordedVoice {
   /// The most sentences that a recording can have.
   static constexpr int MaxMarks = 300;
 
-  RecordedVoice(const Places& places, WavePlayer& wave, Messages& messages)
-      : places_(places), wave_(wave), messages_(messages) {}
+  RecordedVoice(const Places& places, WavePlayer& wave, Messages& messages,
+                FileSystem& files = systemFiles())
+      : places_(places), wave_(wave), messages_(messages), files_(files) {}
 
   /// Sets `TenAm` from the name of a recording and tells whether its file exists.
   bool TonTaiAm(std::string_view name);
@@ -59,6 +61,7 @@ class RecordedVoice {
   const Places& places_;
   WavePlayer& wave_;
   Messages& messages_;
+  FileSystem& files_;
 };
 
 } // namespace talvora

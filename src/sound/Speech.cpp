@@ -98,27 +98,32 @@ bool Speech::sentenceIsOver() const {
 }
 
 Speech::Wait Speech::waitARound(int& position, int& quit) {
-  clock_.Sleep(PollMs);
+  if (clock_.Sleep(PollMs) == Flow::Interrupt) return giveUp(quit);
   if (isDown(key::Left)) stepBack(position);
   if (isDown(key::Up)) return Wait::Up;
   if (isDown(key::Right) || isDown(key::Down)) {
-    clock_.Sleep(PauseMs);
+    static_cast<void>(clock_.Sleep(PauseMs));
     LuiCau = false;
     return Wait::Over;
   }
-  clock_.Sleep(PollMs);
+  if (clock_.Sleep(PollMs) == Flow::Interrupt) return giveUp(quit);
   if (isDown(key::Esc)) quit = 1;
   return quit == 1 || sentenceIsOver() ? Wait::Over : Wait::GoOn;
 }
 
+Speech::Wait Speech::giveUp(int& quit) {
+  quit = 1;
+  return Wait::Over;
+}
+
 void Speech::stepBack(int& position) {
-  clock_.Sleep(PauseMs);
+  static_cast<void>(clock_.Sleep(PauseMs));
   if (position > 0) position = std::max(position - 1, 1);
   LuiCau = true;
 }
 
 void Speech::repeat(int& position) {
-  clock_.Sleep(PauseMs);
+  static_cast<void>(clock_.Sleep(PauseMs));
   if (position > 0) position -= 2;
   if (LuiCau) position = savedSentence - 1;
   position = std::max(position, 1);

@@ -60,6 +60,8 @@ class Speech {
   [[nodiscard]] bool sentenceIsOver() const;
   /// One round of the waiting loop: two sleeps, and what the keys say between them.
   Wait waitARound(int& position, int& quit);
+  /// Closing is wanted: no sentence is waited for any more.
+  static Wait giveUp(int& quit);
   void stepBack(int& position);
   void repeat(int& position);
   bool isDown(int keyCode) { return input_.GetAsyncKeyState(keyCode); }

@@ -29,10 +29,6 @@ constexpr StoreFile readOnlyFiles[] = {
     {file::Analyses, "\\dataPt.v"},
 };
 
-std::size_t settingOffset(int record) {
-  return static_cast<std::size_t>(record - 1) * IntegerSize;
-}
-
 } // namespace
 
 std::int32_t RecordFile::integer(std::int64_t record) const noexcept {
@@ -66,18 +62,30 @@ void Stores::MoDuLieu() {
   for (const StoreFile& each : readOnlyFiles) {
     files_[static_cast<std::size_t>(each.number)] = open(each.name);
   }
-  settings_ = std::make_unique<ReadWriteFile>(pathBelow(places_.ThuMuc, "\\data.Kcu"));
+  // Beside a pack that is the learner's own, settings that are missing begin empty.
+  settings_.open(pathBelow(places_.learnerFolder(), "\\data.Kcu"),
+                 places_.learner.empty() ? std::vector<std::int32_t>() : firstSettings());
   // The word list is written whole, so that it is only made sure that it is there.
-  const ReadWriteFile created(vocabularyPath());
+  std::error_code ignored;
+  static_cast<void>(
+      fileSystem_.open(pathBelow(places_.learnerFolder(), "\\data.c"), OpenFor::Writing, ignored));
+}
+
+std::shared_ptr<const MappedFile> Stores::hold(std::string_view storedName) const {
+  return MappedFile::open(pathBelow(places_.ThuMuc, storedName), fileSystem_);
+}
+
+bool Stores::has(std::string_view storedName) const {
+  return TonTaiFile(pathBelow(places_.ThuMuc, storedName), fileSystem_);
 }
 
 RecordFile Stores::open(std::string_view storedName) {
-  return RecordFile(MappedFile::open(pathBelow(places_.ThuMuc, storedName)), &ChuoiByte);
+  return RecordFile(hold(storedName), &ChuoiByte);
 }
 
 void Stores::closeAll() {
   files_.fill(RecordFile());
-  settings_.reset();
+  settings_.close();
 }
 
 void Stores::ChonKho(int positionsFile) {
@@ -98,23 +106,16 @@ void Stores::NapViTriBai() {
   }
 }
 
-std::string Stores::vocabularyPath() const {
-  return pathBelow(places_.ThuMuc, "\\data.c");
-}
-
 const RecordFile& Stores::fileOf(int number) const {
   return files_.at(static_cast<std::size_t>(number));
 }
 
 std::int32_t Stores::readSetting(int record) const {
-  if (settings_ == nullptr) return 0;
-  std::array<unsigned char, IntegerSize> bytes{};
-  settings_->read(settingOffset(record), bytes);
-  return integerAt(bytes.data());
+  return settings_.read(record);
 }
 
 void Stores::writeSetting(int record, std::int32_t value) {
-  if (settings_ != nullptr) settings_->write(settingOffset(record), bytesOf(value));
+  settings_.write(record, value);
 }
 
 void Stores::declare(Variables& variables) const {

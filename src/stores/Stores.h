@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Files.h"
+#include "stores/SettingsFile.h"
 #include "surface/State.h"
 
 #include <array>
@@ -59,6 +60,11 @@ class RecordFile {
   [[nodiscard]] unsigned char byte(std::int64_t record) const noexcept;
   /// True when a 1-byte record of that number exists.
   [[nodiscard]] bool holdsByte(std::int64_t record) const noexcept;
+  /// The same file for a reader that is nobody's business: what it reads is not noted.
+  [[nodiscard]] RecordFile quiet() const { return RecordFile(mapped_); }
+  [[nodiscard]] std::span<const unsigned char> bytes() const noexcept {
+    return mapped_ ? mapped_->bytes() : std::span<const unsigned char>();
+  }
   /// Tells that a reader has come upon a piece.
   void notePiece(std::string_view piece) const noexcept {
     if (lastPiece_ != nullptr) *lastPiece_ = piece;
@@ -104,14 +110,21 @@ class Stores {
   static constexpr int SpeakingTexts = 2025;
   static constexpr int AnalysedTexts = 14;
 
-  explicit Stores(const Places& places) : places_(places) {}
+  explicit Stores(const Places& places, FileSystem& files = systemFiles())
+      : places_(places), fileSystem_(files), settings_(files) {}
   Stores(const Stores&) = delete;
   Stores& operator=(const Stores&) = delete;
 
   /// Closes every open file, then opens all that stay open for the run.
-  /// Throws FatalFailure naming a read-only file that is missing; the learner's files are created.
+  /// Throws FatalFailure naming a read-only file that is missing. The learner's files are created,
+  /// or where that cannot be, done without.
   void MoDuLieu();
   void closeAll();
+  [[nodiscard]] bool areOpen() const noexcept { return files_[file::Texts].isOpen(); }
+  /// Holds a file of the pack. Throws FatalFailure naming it when it is missing.
+  [[nodiscard]] std::shared_ptr<const MappedFile> hold(std::string_view storedName) const;
+  /// Whether the pack has a file of that name.
+  [[nodiscard]] bool has(std::string_view storedName) const;
   /// Opens a file that does not stay open for the run. Throws FatalFailure naming it when it is
   /// missing.
   [[nodiscard]] RecordFile open(std::string_view storedName);
@@ -126,13 +139,12 @@ class Stores {
   /// Number of texts whose titles and translations the current store's table holds.
   [[nodiscard]] int textsInTable() const noexcept;
   [[nodiscard]] const RecordFile& fileOf(int number) const;
-
-  /// Path of the learner's word list.
-  [[nodiscard]] std::string vocabularyPath() const;
+  /// What all files are read and written with.
+  [[nodiscard]] FileSystem& fileSystem() const noexcept { return fileSystem_; }
 
   /// A record of data.Kcu; 0 past its end.
   [[nodiscard]] std::int32_t readSetting(int record) const;
-  /// Written through at once.
+  /// Holds at once, and is written through; what cannot be written is forgotten with the run.
   void writeSetting(int record, std::int32_t value);
 
   void declare(Variables& variables) const;
@@ -149,8 +161,9 @@ class Stores {
   static constexpr int FileCount = 26;
 
   const Places& places_;
+  FileSystem& fileSystem_;
   std::array<RecordFile, FileCount> files_;
-  std::unique_ptr<ReadWriteFile> settings_;
+  SettingsFile settings_;
 };
 
 } // namespace talvora

@@ -15,10 +15,16 @@ namespace talvora {
 
 /// Where the program is.
 struct Places {
-  std::string ThuMuc;   ///< program directory: the current directory at the moment of start
+  std::string ThuMuc;   ///< program directory, where the pack is
+  std::string learner;  ///< the learner's own folder; empty where that is the program directory
   int MucMenu = 0;      ///< section last entered, 1 to 18; it stays when the section is left
   bool DangBan = false; ///< busy: start-up or dictation runs, and menu clicks fall away
   bool waitkd = false;  ///< loading is in progress, the hover animation is idle
+
+  /// The folder of what the learner owns.
+  [[nodiscard]] const std::string& learnerFolder() const noexcept {
+    return learner.empty() ? ThuMuc : learner;
+  }
 
   void declare(Variables& variables) const;
 };

@@ -86,8 +86,7 @@ void Surface::format(const StyledText& text) {
   }
 }
 
-void Surface::LoadFile(const std::string& path) {
-  const auto file = MappedFile::open(path);
+void Surface::LoadFile(const std::shared_ptr<const MappedFile>& file) {
   if (looksLikeRichText(file->text())) {
     TextRTF(readRichText(file->text(), Font()));
   } else {

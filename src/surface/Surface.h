@@ -61,10 +61,8 @@ class Surface final : public Control {
   [[nodiscard]] StyledText TextRTF() const;
   void TextRTF(const StyledText& text);
   /// Loads a rich-text or a plain-text file whole; the caret goes to 0. A plain text is kept as it
-  /// stands, line ends included, and shares the mapped file's memory until it is first changed.
-  /// Throws FatalFailure when the file is missing.
-  void LoadFile(const std::string& path);
-  void FileName(const std::string& path) { LoadFile(path); }
+  /// stands, line ends included, and shares the file's memory until it is first changed.
+  void LoadFile(const std::shared_ptr<const MappedFile>& file);
 
   // -- Defaults for new text.
 

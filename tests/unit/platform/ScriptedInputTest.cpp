@@ -33,17 +33,17 @@ TEST(ScriptedInput, APollClearsThePressWhileTheKeyIsDown) {
 
 TEST(ScriptedInput, AHoldCountsFromTheMomentItWasQueued) {
   ScriptedMachine machine;
-  machine.clock.Sleep(1000);
+  static_cast<void>(machine.clock.Sleep(1000));
   machine.input.hold(key::Right, 50, 20);
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Right));
-  machine.clock.Sleep(49);
+  static_cast<void>(machine.clock.Sleep(49));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Right));
-  machine.clock.Sleep(1);
+  static_cast<void>(machine.clock.Sleep(1));
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Right));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Left));
-  machine.clock.Sleep(19);
+  static_cast<void>(machine.clock.Sleep(19));
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Right));
-  machine.clock.Sleep(1);
+  static_cast<void>(machine.clock.Sleep(1));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Right));
 }
 
@@ -51,9 +51,9 @@ TEST(ScriptedInput, SeveralHoldsAreKept) {
   ScriptedMachine machine;
   machine.input.hold(key::Esc, 200, 10);
   machine.input.hold(key::Left, 100, 10);
-  machine.clock.Sleep(100);
+  static_cast<void>(machine.clock.Sleep(100));
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Left));
-  machine.clock.Sleep(100);
+  static_cast<void>(machine.clock.Sleep(100));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Left));
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Esc));
 }
@@ -62,9 +62,9 @@ TEST(ScriptedInput, GivesUpWithEscButNotAheadOfAHold) {
   ScriptedMachine machine;
   machine.input.giveUpAt(100);
   machine.input.hold(key::Left, 200, 10);
-  machine.clock.Sleep(150);
+  static_cast<void>(machine.clock.Sleep(150));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Esc));
-  machine.clock.Sleep(60);
+  static_cast<void>(machine.clock.Sleep(60));
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Esc));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Left));
 }
@@ -74,7 +74,7 @@ TEST(ScriptedInput, GivingUpLetsGoOfEveryOtherKey) {
   machine.input.keyDown(key::Down);
   machine.input.giveUpAt(100);
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Down));
-  machine.clock.Sleep(100);
+  static_cast<void>(machine.clock.Sleep(100));
   EXPECT_FALSE(machine.input.GetAsyncKeyState(key::Down));
   EXPECT_TRUE(machine.input.GetAsyncKeyState(key::Esc));
 }

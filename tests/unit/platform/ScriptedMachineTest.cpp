@@ -13,8 +13,8 @@ std::string textOf(const LogEntry& entry, std::string_view field) {
 
 TEST(ScriptedClock, SleepLetsVirtualTimePassAndLogsItsBeginning) {
   ScriptedMachine machine;
-  machine.clock.Sleep(600);
-  machine.clock.Sleep(20);
+  static_cast<void>(machine.clock.Sleep(600));
+  static_cast<void>(machine.clock.Sleep(20));
   EXPECT_EQ(machine.clock.nowMs(), 620);
   const LogEntry second{600, "sleep", {{"ms", logNumber(20)}}};
   EXPECT_EQ(machine.log.entries().back(), second);
@@ -22,8 +22,8 @@ TEST(ScriptedClock, SleepLetsVirtualTimePassAndLogsItsBeginning) {
 
 TEST(ScriptedClock, TimeNeverGoesBack) {
   ScriptedMachine machine;
-  machine.clock.Sleep(5);
-  machine.clock.Sleep(-3);
+  static_cast<void>(machine.clock.Sleep(5));
+  static_cast<void>(machine.clock.Sleep(-3));
   EXPECT_EQ(machine.clock.nowMs(), 5);
 }
 
@@ -40,9 +40,9 @@ TEST(ScriptedSpeech, ASecondTextQueuesBehindTheFirst) {
   ScriptedMachine machine(options);
   machine.speech.Speak("abc");
   machine.speech.Speak("de");
-  machine.clock.Sleep(49);
+  static_cast<void>(machine.clock.Sleep(49));
   EXPECT_TRUE(machine.speech.IsSpeaking());
-  machine.clock.Sleep(1);
+  static_cast<void>(machine.clock.Sleep(1));
   EXPECT_FALSE(machine.speech.IsSpeaking());
 }
 
@@ -53,7 +53,7 @@ TEST(ScriptedSpeech, StoppingEmptiesTheQueue) {
   machine.speech.StopSpeaking();
   EXPECT_FALSE(machine.speech.IsSpeaking());
   machine.speech.Speak("a");
-  machine.clock.Sleep(60);
+  static_cast<void>(machine.clock.Sleep(60));
   EXPECT_FALSE(machine.speech.IsSpeaking());
 }
 
@@ -76,9 +76,9 @@ TEST(ScriptedWave, AStretchTakesItsLength) {
   machine.wave.Open("sound/1.wav");
   EXPECT_EQ(machine.wave.Mode(), WavePlayer::Stopped);
   machine.wave.Play(100, 350);
-  machine.clock.Sleep(249);
+  static_cast<void>(machine.clock.Sleep(249));
   EXPECT_EQ(machine.wave.Mode(), WavePlayer::Playing);
-  machine.clock.Sleep(1);
+  static_cast<void>(machine.clock.Sleep(1));
   EXPECT_EQ(machine.wave.Mode(), WavePlayer::Stopped);
 }
 

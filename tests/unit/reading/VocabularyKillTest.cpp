@@ -1,6 +1,8 @@
 // The learner's words survive a kill at any moment: data.c is always the old list or the new one.
+#include "learner/LearnerWords.h"
 #include "support/ProgramRun.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -123,11 +125,18 @@ TEST_F(VocabularyKillTest, AtAnyMomentTheFileIsTheOldListOrTheNewOne) {
   EXPECT_GT(longerSeen, 0);
 }
 
-TEST_F(VocabularyKillTest, TheListIsWholeAgainAfterAKilledWrite) {
+TEST_F(VocabularyKillTest, WhatKilledWritesHaveLeftIsClearedAtTheNextStart) {
   run.folder.write("data.c.new", "a new list that was never finis");
-  add();
-  EXPECT_EQ(run.folder.read("data.c"), longer);
+  run.folder.write("data.c.abcdefghijkl.new", "another one");
+  run.folder.write("words.txt.abcdefghijkl.new", "and one of sentences");
+  run.folder.write("data.c.old.new", "somebody's own");
+  LearnerWords words(run.folder.path(), systemFiles(), systemCalendar());
+  words.open();
+  EXPECT_EQ(run.folder.read("data.c"), kept);
+  EXPECT_THAT(run.folder.names(),
+              testing::Not(testing::Contains(testing::HasSubstr("abcdefghijkl"))));
   EXPECT_FALSE(run.folder.has("data.c.new"));
+  EXPECT_TRUE(run.folder.has("data.c.old.new"));
 }
 
 } // namespace

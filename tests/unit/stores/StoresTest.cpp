@@ -1,14 +1,10 @@
 #include "stores/Stores.h"
 
 #include "platform/FatalFailure.h"
-#include "stores/VocabularyFile.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace talvora {
 namespace {
@@ -135,84 +131,6 @@ TEST_F(StoresTest, Section5ReadsTheWholePositionTable) {
   EXPECT_EQ(stores.ViTriBai[1], 1);
   EXPECT_EQ(stores.ViTriBai[817], 817);
   EXPECT_EQ(stores.ViTriBai[818], 0);
-}
-
-TEST(VocabularyFileTest, RecordsComeBackAsTheyWereWritten) {
-  TestFolder folder;
-  folder.write("data.c", "");
-  VocabularyFile file(folder.pathOf("data.c"));
-  EXPECT_TRUE(file.read().empty());
-  const std::vector<VocabularyWord> words = {{paddedWord("word"), 7},
-                                             {paddedWord("twentycharacters1234"), -9}};
-  EXPECT_EQ(file.write(words), std::nullopt);
-  EXPECT_EQ(folder.read("data.c").size(), 48U);
-  EXPECT_EQ(file.read(), words);
-  EXPECT_FALSE(folder.has("data.c.new"));
-}
-
-TEST(VocabularyFileTest, OddBytesAreKeptBehindTheRecords) {
-  TestFolder folder;
-  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4) + "odd");
-  VocabularyFile file(folder.pathOf("data.c"));
-  auto words = file.read();
-  ASSERT_EQ(words.size(), 1U);
-  words.push_back({paddedWord("two"), 2});
-  EXPECT_EQ(file.write(words), std::nullopt);
-  EXPECT_EQ(folder.read("data.c").size(), 51U);
-  EXPECT_EQ(folder.read("data.c").substr(48), "odd");
-  EXPECT_EQ(file.read(), words);
-}
-
-TEST(VocabularyFileTest, AListThatCannotBeWrittenIsReportedAndTheOldOneStands) {
-  TestFolder folder;
-  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4));
-  VocabularyFile file(folder.pathOf("data.c"));
-  (void)file.read();
-  // A folder in the way of the new file.
-  folder.write("data.c.new/in-the-way", "");
-  const auto problem = file.write({});
-  ASSERT_TRUE(problem);
-  EXPECT_THAT(*problem, testing::HasSubstr("data.c"));
-  EXPECT_EQ(file.read().size(), 1U);
-}
-
-/// Files grow to so many bytes and no further, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit before_{};
-  void (*handler_)(int) = SIG_DFL;
-};
-
-TEST(VocabularyFileTest, ADiskThatFillsUpLeavesTheOldList) {
-  TestFolder folder;
-  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4));
-  VocabularyFile file(folder.pathOf("data.c"));
-  const auto old = file.read();
-  for (const rlim_t room : {rlim_t{0}, rlim_t{1}, rlim_t{24}, rlim_t{47}}) {
-    std::optional<std::string> problem;
-    {
-      const FullDisk full(room);
-      problem = file.write({{paddedWord("one"), 1}, {paddedWord("two"), 2}});
-    }
-    ASSERT_TRUE(problem) << room;
-    EXPECT_THAT(*problem, testing::HasSubstr("data.c"));
-    EXPECT_EQ(file.read(), old) << room;
-    EXPECT_FALSE(folder.has("data.c.new")) << room;
-  }
 }
 
 } // namespace

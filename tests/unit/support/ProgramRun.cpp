@@ -6,9 +6,19 @@
 namespace talvora::test {
 
 ProgramRun::ProgramRun(const ScriptedOptions& options)
-    : machine(options), program(machine.platform, folder.path()) {
+    : machine(options), platform_(platform()), program(platform_, folder.path()) {
   folder.writeEmptyStores();
   folder.write("Yes1", "");
+}
+
+ProgramRun::ProgramRun(const Folders& folders, const ScriptedOptions& options)
+    : machine(options), platform_(platform()), program(platform_, folders) {}
+
+Platform ProgramRun::platform() {
+  const Platform& own = machine.platform;
+  return {own.clock,        own.events,   own.input,  own.speech, own.wave,
+          own.metrics,      own.layout,   own.boxes,  own.screen, own.clipboard,
+          own.installation, own.narrator, own.random, files};
 }
 
 void ProgramRun::writeTexts(const std::vector<StoredText>& texts, bool speaking) const {

@@ -3,6 +3,7 @@
 
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
+#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
 
 #include <optional>
@@ -21,6 +22,8 @@ struct StoredText {
 class ProgramRun {
  public:
   explicit ProgramRun(const ScriptedOptions& options = {});
+  /// On folders that are there already; nothing is written to them.
+  explicit ProgramRun(const Folders& folders, const ScriptedOptions& options = {});
 
   /// Writes the stores data.vt and data.av, or the speaking ones, with these texts; other slots
   /// have the title "slot N".
@@ -47,7 +50,15 @@ class ProgramRun {
   [[nodiscard]] std::string focus();
 
   TestFolder folder;
+  FaultyFiles files;
   ScriptedMachine machine;
+
+ private:
+  [[nodiscard]] Platform platform();
+
+  Platform platform_; ///< the machine's, with the files of this run
+
+ public:
   Program program;
 
  private:

@@ -3,6 +3,7 @@
 #include "stores/ByteCode.h"
 #include "stores/Integers.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -45,6 +46,14 @@ void TestFolder::remove(std::string_view name) const {
 
 bool TestFolder::has(std::string_view name) const {
   return std::filesystem::exists(pathOf(name));
+}
+
+std::vector<std::string> TestFolder::names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 void TestFolder::writeEmptyStores() const {

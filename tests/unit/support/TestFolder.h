@@ -24,6 +24,8 @@ class TestFolder {
   [[nodiscard]] std::string read(std::string_view name) const;
   void remove(std::string_view name) const;
   [[nodiscard]] bool has(std::string_view name) const;
+  /// What lies in the folder, sorted.
+  [[nodiscard]] std::vector<std::string> names() const;
 
   /// Empty files for every store that stays open for the run, so that the program can start.
   void writeEmptyStores() const;

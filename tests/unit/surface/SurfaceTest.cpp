@@ -215,7 +215,7 @@ TEST_F(SurfaceTest, ACopyKeepsCaretsAndColours) {
 TEST_F(SurfaceTest, APlainFileIsKeptAsItStands) {
   test::TestFolder folder;
   folder.write("list.txt", "one\r\ntwo\nthree\rfour");
-  surface.LoadFile(folder.pathOf("list.txt"));
+  surface.LoadFile(MappedFile::open(folder.pathOf("list.txt")));
   EXPECT_EQ(surface.Text(), "one\r\ntwo\nthree\rfour");
   EXPECT_EQ(surface.paragraphCount(), 4);
   EXPECT_EQ(surface.paragraphStart(1), 5);
@@ -229,7 +229,7 @@ TEST_F(SurfaceTest, APlainFileIsKeptAsItStands) {
 }
 
 TEST_F(SurfaceTest, AMissingFileIsNamed) {
-  EXPECT_THROW(surface.LoadFile("/nowhere/readme.rtf"), FatalFailure);
+  EXPECT_THROW(surface.LoadFile(MappedFile::open("/nowhere/readme.rtf")), FatalFailure);
 }
 
 TEST_F(SurfaceTest, LockedTextIsNotChangedByKeys) {

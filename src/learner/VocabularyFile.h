@@ -2,8 +2,11 @@
 // blanks, then the place of its sentence.
 #pragma once
 
+#include "platform/FileSystem.h"
+
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -12,10 +15,15 @@ namespace talvora {
 /// One word of the learner's list.
 struct VocabularyWord {
   static constexpr std::size_t LongestWord = 20;
+  static constexpr std::size_t RecordSize = LongestWord + 4;
 
   std::string Tu; ///< padded with blanks to 20 characters
-  /// Record number of the sentence's first byte: positive in data.av, its negative in datasp.av.
+  /// Record number of the sentence's first byte: positive in data.av, its negative in datasp.av;
+  /// 0 when the sentence is in the pack no more.
   std::int32_t ViTriCauTu = 0;
+
+  /// The word without its padding.
+  [[nodiscard]] std::string word() const;
 
   friend bool operator==(const VocabularyWord&, const VocabularyWord&) = default;
 };
@@ -23,19 +31,34 @@ struct VocabularyWord {
 /// A word padded with blanks to its field; what is longer is cut.
 [[nodiscard]] std::string paddedWord(std::string word);
 
+/// What data.c holds.
+struct VocabularyContent {
+  std::vector<VocabularyWord> words;
+  std::vector<unsigned char> oddBytes; ///< at its end, too few for a record
+};
+
+[[nodiscard]] VocabularyContent vocabularyFrom(std::span<const unsigned char> bytes);
+
 class VocabularyFile {
  public:
-  explicit VocabularyFile(std::string path) : path_(std::move(path)) {}
+  explicit VocabularyFile(std::string path, FileSystem& files = systemFiles())
+      : files_(files), path_(std::move(path)) {}
 
   /// All whole records. A length that is no multiple of 24 is read as far as it goes; the odd bytes
-  /// stay at the file's end.
-  /// Throws FatalFailure when the file is missing or cannot be read.
+  /// stay at the file's end. Nothing when the file is missing or cannot be read; `error` tells
+  /// which.
+  [[nodiscard]] std::optional<std::vector<VocabularyWord>> read(std::error_code& error);
+  /// The same; throws FatalFailure when the file is missing or cannot be read.
   [[nodiscard]] std::vector<VocabularyWord> read();
   /// Replaces all records at once; odd bytes that were read are kept behind them. Returns what went
   /// wrong, or nothing; then the old list stands.
   [[nodiscard]] std::optional<std::string> write(const std::vector<VocabularyWord>& words);
 
+  /// The odd bytes that were read are not written again.
+  void dropOddBytes() { oddBytes_.clear(); }
+
  private:
+  FileSystem& files_;
   std::string path_;
   std::vector<unsigned char> oddBytes_;
 };

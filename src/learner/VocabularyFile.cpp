@@ -1,7 +1,9 @@
-#include "stores/VocabularyFile.h"
+#include "learner/VocabularyFile.h"
 
+#include "platform/FatalFailure.h"
 #include "platform/Files.h"
 #include "stores/Integers.h"
+#include "text/Text.h"
 
 #include <utility>
 
@@ -9,7 +11,8 @@ namespace talvora {
 
 namespace {
 
-constexpr std::size_t RecordSize = VocabularyWord::LongestWord + IntegerSize;
+constexpr std::size_t RecordSize = VocabularyWord::RecordSize;
+static_assert(RecordSize == VocabularyWord::LongestWord + IntegerSize);
 
 VocabularyWord wordFrom(std::span<const unsigned char, RecordSize> record) {
   return {std::string(record.begin(), record.begin() + VocabularyWord::LongestWord),
@@ -25,21 +28,38 @@ void append(std::vector<unsigned char>& content, const VocabularyWord& word) {
 
 } // namespace
 
+std::string VocabularyWord::word() const {
+  return std::string(trim(Tu));
+}
+
 std::string paddedWord(std::string word) {
   word.resize(VocabularyWord::LongestWord, ' ');
   return word;
 }
 
-std::vector<VocabularyWord> VocabularyFile::read() {
-  const auto mapped = MappedFile::open(path_);
-  auto bytes = mapped->bytes();
-  std::vector<VocabularyWord> words;
+VocabularyContent vocabularyFrom(std::span<const unsigned char> bytes) {
+  VocabularyContent content;
   while (bytes.size() >= RecordSize) {
-    words.push_back(wordFrom(bytes.first<RecordSize>()));
+    content.words.push_back(wordFrom(bytes.first<RecordSize>()));
     bytes = bytes.subspan(RecordSize);
   }
-  oddBytes_.assign(bytes.begin(), bytes.end());
-  return words;
+  content.oddBytes.assign(bytes.begin(), bytes.end());
+  return content;
+}
+
+std::optional<std::vector<VocabularyWord>> VocabularyFile::read(std::error_code& error) {
+  const auto bytes = readWhole(files_, path_, error);
+  if (!bytes) return std::nullopt;
+  VocabularyContent content = vocabularyFrom(*bytes);
+  oddBytes_ = std::move(content.oddBytes);
+  return std::move(content.words);
+}
+
+std::vector<VocabularyWord> VocabularyFile::read() {
+  std::error_code error;
+  auto words = read(error);
+  if (!words) throw FatalFailure(fileProblem(path_, "cannot be read", error));
+  return std::move(*words);
 }
 
 std::optional<std::string> VocabularyFile::write(const std::vector<VocabularyWord>& words) {
@@ -48,7 +68,7 @@ std::optional<std::string> VocabularyFile::write(const std::vector<VocabularyWor
   for (const VocabularyWord& word : words)
     append(content, word);
   content.insert(content.end(), oddBytes_.begin(), oddBytes_.end());
-  return replaceFile(path_, content);
+  return replaceFile(files_, path_, content);
 }
 
 } // namespace talvora

@@ -1,0 +1,44 @@
+#include "desktop/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+
+namespace talvora {
+
+namespace {
+
+constexpr int BadUse = 2;
+
+void makeAbsolute(std::string& path) {
+  if (!path.empty()) path = std::filesystem::absolute(path).lexically_normal().string();
+}
+
+} // namespace
+
+CommandLine readCommandLine(int argc, char** argv, const std::string& version) {
+  CommandLine line;
+  std::string both;
+  CLI::App app("A tutor of English for speakers of Vietnamese.", "talvora");
+  app.set_version_flag("--version", "talvora " + version);
+  CLI::Option* const pack = app.add_option("--pack", line.pack, "Folder of the content pack");
+  CLI::Option* const learner =
+      app.add_option("--learner", line.learner, "The learner's own folder: words and settings");
+  app.add_option("--dir", both, "One folder for both")->excludes(pack)->excludes(learner);
+  app.add_option("--trace", line.trace,
+                 "Write a line for each change of what is shown, for a report of a fault");
+  app.allow_extras();
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    line.over = app.exit(error) == 0 ? 0 : BadUse;
+    return line;
+  }
+  if (!both.empty()) line.pack = line.learner = both;
+  for (std::string* path : {&line.pack, &line.learner, &line.trace})
+    makeAbsolute(*path);
+  line.rest = app.remaining();
+  return line;
+}
+
+} // namespace talvora

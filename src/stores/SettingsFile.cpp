@@ -1,0 +1,88 @@
+#include "stores/SettingsFile.h"
+
+#include "platform/Files.h"
+#include "stores/Integers.h"
+
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr std::size_t SettingRecords = 19;
+constexpr std::size_t SoundOnRecord = 2;
+constexpr std::size_t SpeedRecord = 4;
+constexpr std::int32_t MiddleSpeed = 5;
+/// More records than anybody has are another file's.
+constexpr std::size_t MostRecords = 4096;
+
+std::vector<std::int32_t> recordsOf(std::span<const unsigned char> bytes) {
+  std::vector<std::int32_t> records;
+  while (bytes.size() >= IntegerSize && records.size() < MostRecords) {
+    records.push_back(integerAt(bytes.data()));
+    bytes = bytes.subspan(IntegerSize);
+  }
+  return records;
+}
+
+} // namespace
+
+std::vector<std::int32_t> firstSettings() {
+  std::vector<std::int32_t> records(SettingRecords);
+  records[SoundOnRecord - 1] = 1;
+  records[SpeedRecord - 1] = MiddleSpeed;
+  return records;
+}
+
+void SettingsFile::open(std::string path, std::vector<std::int32_t> ifMissing) {
+  path_ = std::move(path);
+  std::error_code error;
+  const auto content = readWhole(files_, path_, error);
+  mayWrite_ = content.has_value() || error == std::errc::no_such_file_or_directory;
+  if (content) {
+    records_ = recordsOf(*content);
+    return;
+  }
+  records_ = mayWrite_ ? std::move(ifMissing) : firstSettings();
+  store(0);
+}
+
+void SettingsFile::close() {
+  path_.clear();
+  records_.clear();
+}
+
+std::int32_t SettingsFile::read(int record) const {
+  const auto at = static_cast<std::size_t>(record - 1);
+  return record >= 1 && at < records_.size() ? records_[at] : 0;
+}
+
+void SettingsFile::write(int record, std::int32_t value) {
+  if (path_.empty() || record < 1) return;
+  const auto at = static_cast<std::size_t>(record - 1);
+  if (at >= records_.size()) records_.resize(at + 1);
+  records_[at] = value;
+  store(at);
+}
+
+// A file that somebody took away meanwhile is made again, whole.
+void SettingsFile::store(std::size_t fromRecord) {
+  if (!mayWrite_) return;
+  std::error_code error;
+  const auto file = files_.open(path_, OpenFor::Writing, error);
+  if (file == nullptr) return;
+  const FileStatus status = file->status(error);
+  if (error || status.kind != FileStatus::Kind::File) return;
+  const bool whole = status.size < fromRecord * IntegerSize;
+  const std::size_t from = whole ? 0 : fromRecord;
+  const std::size_t to = whole || fromRecord == 0 ? records_.size() : fromRecord + 1;
+  std::vector<unsigned char> bytes;
+  for (std::size_t record = from; record < to; ++record) {
+    const auto integer = bytesOf(records_[record]);
+    bytes.insert(bytes.end(), integer.begin(), integer.end());
+  }
+  // A setting that stays behind is as it was: that is all.
+  if (!bytes.empty()) static_cast<void>(file->write(from * IntegerSize, bytes));
+}
+
+} // namespace talvora

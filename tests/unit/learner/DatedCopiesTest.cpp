@@ -1,0 +1,163 @@
+// Dated copies of what the learner owns.
+#include "learner/DatedCopies.h"
+
+#include "support/FaultyFiles.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace talvora {
+namespace {
+
+using test::FaultyFiles;
+using test::TestFolder;
+using Names = std::vector<std::string>;
+
+class TestCalendar final : public Calendar {
+ public:
+  [[nodiscard]] Moment now() const override { return moment; }
+
+  Moment moment{2026, 3, 31, 18, 5, 9};
+};
+
+Names namesOf(const std::vector<DatedCopy>& copies) {
+  Names names;
+  for (const DatedCopy& each : copies)
+    names.push_back(each.name);
+  return names;
+}
+
+class DatedCopiesTest : public testing::Test {
+ protected:
+  void writeWords(int count) const {
+    folder.write("data.c", std::string(static_cast<std::size_t>(count) * 24, 'w'));
+  }
+
+  TestFolder folder;
+  FaultyFiles files;
+  TestCalendar calendar;
+  DatedCopies copies{folder.path(), files, calendar};
+};
+
+TEST_F(DatedCopiesTest, ACopyIsNamedAfterItsMoment) {
+  writeWords(2);
+  folder.write("words.txt", "rows");
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  ASSERT_EQ(namesOf(copies.all()), Names{"2026-03-31_18-05-09"});
+  EXPECT_EQ(copies.all()[0].words, 2U);
+  EXPECT_EQ(copies.read("2026-03-31_18-05-09", "data.c"), folder.read("data.c"));
+  EXPECT_EQ(copies.read("2026-03-31_18-05-09", "words.txt"), "rows");
+  EXPECT_EQ(copies.read("2026-03-31_18-05-09", "data.Kcu"), std::nullopt);
+}
+
+TEST_F(DatedCopiesTest, WhatHasNotChangedIsNotCopiedAgain) {
+  writeWords(1);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  calendar.moment.day = 30;
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_EQ(copies.all().size(), 1U);
+  writeWords(2);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_EQ(copies.all().size(), 2U);
+}
+
+TEST_F(DatedCopiesTest, NoWordIsNothingToCopy) {
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  writeWords(0);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_TRUE(copies.all().empty());
+}
+
+TEST_F(DatedCopiesTest, TwoOfOneMomentHaveTwoNames) {
+  for (int words = 1; words <= 3; ++words) {
+    writeWords(words);
+    EXPECT_EQ(copies.keep(), std::nullopt);
+  }
+  EXPECT_EQ(namesOf(copies.all()),
+            (Names{"2026-03-31_18-05-09", "2026-03-31_18-05-09-02", "2026-03-31_18-05-09-03"}));
+}
+
+TEST_F(DatedCopiesTest, HalfACopyIsNoneAtWhateverCallItBrokeOff) {
+  writeWords(1);
+  folder.write("words.txt", "rows");
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  const int calls = files.calls;
+  EXPECT_GE(calls, 8);
+  for (int call = 1; call <= calls; ++call) {
+    writeWords(call + 1);
+    calendar.moment.second = call % 60;
+    calendar.moment.minute = 30;
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_TRUE(copies.keep()) << call;
+    files.failNever();
+    for (const DatedCopy& each : copies.all())
+      EXPECT_EQ(each.name, "2026-03-31_18-05-09") << call;
+  }
+}
+
+TEST_F(DatedCopiesTest, FoldersOfOtherNamesAreLeftAlone) {
+  writeWords(1);
+  folder.write("backups/mine/data.c", std::string(24, 'm'));
+  folder.write("backups/2026-13-31_18-05-09/data.c", std::string(24, 'm'));
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_EQ(copies.all().size(), 1U);
+  EXPECT_TRUE(folder.has("backups/mine/data.c"));
+}
+
+/// A copy a day over so many days, the newest last.
+std::vector<DatedCopy> daily(int days) {
+  std::vector<DatedCopy> copies;
+  int year = 2024;
+  int month = 1;
+  int day = 1;
+  const int lengths[] = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  for (int number = 0; number < days; ++number) {
+    char name[64];
+    std::snprintf(name, sizeof name, "%04d-%02d-%02d_12-00-00", year, month, day);
+    copies.push_back({name, 10});
+    if (++day > lengths[month - 1]) {
+      day = 1;
+      if (++month > 12) {
+        month = 1;
+        ++year;
+      }
+    }
+  }
+  return copies;
+}
+
+TEST(Thinning, LeavesSevenDaysFourWeeksAndTwelveMonths) {
+  const auto stay = thinned(daily(600));
+  EXPECT_EQ(stay.size(), 7U + 4U + 12U);
+  const auto all = daily(600);
+  for (std::size_t day = 1; day <= 7; ++day) {
+    EXPECT_EQ(stay[stay.size() - day].name, all[all.size() - day].name);
+  }
+  EXPECT_EQ(namesOf(thinned(stay)), namesOf(stay)) << "what stays goes on staying";
+}
+
+TEST(Thinning, ThinsNothingOfAFewDays) {
+  EXPECT_EQ(thinned(daily(7)).size(), 7U);
+  EXPECT_TRUE(thinned({}).empty());
+}
+
+TEST(Thinning, OfADayTheCopyWithTheMostWordsStays) {
+  const auto stay = thinned({{"2026-03-01_08-00-00", 5},
+                             {"2026-03-01_09-00-00", 9},
+                             {"2026-03-01_10-00-00", 2},
+                             {"2026-03-02_08-00-00", 2},
+                             {"2026-03-02_09-00-00", 1}});
+  EXPECT_EQ(namesOf(stay),
+            (Names{"2026-03-01_09-00-00", "2026-03-02_08-00-00", "2026-03-02_09-00-00"}))
+      << "of the newest day all";
+}
+
+TEST(Thinning, ALongPauseCostsNothing) {
+  auto copies = daily(10);
+  copies.push_back({"2031-01-01_08-00-00", 10});
+  EXPECT_GE(thinned(copies).size(), 8U);
+}
+
+} // namespace
+} // namespace talvora

@@ -1,0 +1,476 @@
+// No word that was taken is lost and none comes twice, whatever ends the program and whichever pack
+// it is given next. Each test goes through the program as a learner does.
+#include "learner/LearnerWords.h"
+
+#include "platform/Files.h"
+#include "support/ProgramRun.h"
+#include "text/Bytes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace talvora {
+namespace {
+
+using namespace literals;
+using test::ProgramRun;
+using test::StoredText;
+using test::TestFolder;
+using Texts = std::vector<std::string>;
+
+StoredText bankText(int slot) {
+  return {slot, "Our town\r_\tThe old bank stands. _A river runs here.\r", "_Mot._Hai."};
+}
+
+std::string record(const std::string& word, std::int32_t place) {
+  std::string bytes = paddedWord(word);
+  for (int shift = 0; shift < 32; shift += 8)
+    bytes += static_cast<char>(static_cast<std::uint32_t>(place) >> shift & 0xFFU);
+  return bytes;
+}
+
+/// A program on a pack and a learner's folder that outlive it.
+class Learning {
+ public:
+  Learning(const TestFolder& pack, const TestFolder& own) : run({pack.path(), own.path()}) {}
+
+  void openText() {
+    run.clickButton(1);
+    run.controls().RDOS.Visible(false);
+    Surface& R1 = run.controls().R1;
+    R1.SelStart(static_cast<int>(R1.Text().find("Our town")));
+    R1.releaseMouse(MouseButton::Left, shift::None, {});
+  }
+  void add(const std::string& word) {
+    Surface& R2 = run.controls().R2;
+    run.click(R2, static_cast<int>(R2.Text().find(word)) + 1);
+    run.key(key::Enter);
+  }
+  void leaveText() {
+    while (run.controls().R1.Visible() || run.controls().R2.Visible())
+      run.key(key::Esc);
+  }
+  /// Deletes the first word of the list.
+  void removeFirst() {
+    run.clickButton(2);
+    Surface& Rchon = run.controls().Rchon;
+    run.machine.boxes.answer(BoxAnswer::Yes);
+    Rchon.SelStart(0);
+    Rchon.SelLength(static_cast<int>(Rchon.Text().find('\r')));
+    Rchon.releaseMouse(MouseButton::Left, shift::None, {});
+    while (Rchon.Visible())
+      run.key(key::Esc);
+  }
+  [[nodiscard]] Texts words() {
+    run.clickButton(2);
+    Texts words;
+    std::string word;
+    for (const char each : run.controls().Rchon.Text()) {
+      if (each == '\r') words.push_back(std::exchange(word, {}));
+      if (each == '\t') word.clear();
+      if (each != '\r' && each != '\t') word += each;
+    }
+    while (run.controls().Rchon.Visible())
+      run.key(key::Esc);
+    return words;
+  }
+  [[nodiscard]] Texts boxes() const {
+    Texts texts;
+    for (const LogEntry& entry : run.machine.log.entries()) {
+      if (entry.what == "box") texts.push_back(std::get<std::string>(*entry.find("text")));
+    }
+    return texts;
+  }
+
+  ProgramRun run;
+};
+
+class LearnerWordsTest : public testing::Test {
+ protected:
+  LearnerWordsTest() {
+    ProgramRun writer;
+    writer.writeTexts({bankText(4)});
+    std::filesystem::copy(writer.folder.path(), pack.path(),
+                          std::filesystem::copy_options::recursive |
+                              std::filesystem::copy_options::overwrite_existing);
+    own.write("Yes1", "");
+  }
+  /// Writes the pack anew.
+  void writeTexts(const std::vector<StoredText>& texts) {
+    ProgramRun writer;
+    writer.writeTexts(texts);
+    for (const char* name : {"data.vt", "data.av"})
+      pack.write(name, writer.folder.read(name));
+  }
+  /// The words at the next start.
+  Texts wordsNextTime() {
+    Learning next(pack, own);
+    next.run.start();
+    return next.words();
+  }
+
+  TestFolder pack;
+  TestFolder own;
+};
+
+// -- Two folders.
+
+TEST_F(LearnerWordsTest, ThePackIsOnlyReadAndTheLearnersFolderIsWritten) {
+  const auto before = pack.names();
+  const std::string settings = pack.read("data.Kcu");
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  learning.leaveText();
+  learning.run.program.closeWindow();
+  EXPECT_EQ(pack.names(), before);
+  EXPECT_EQ(pack.read("data.Kcu"), settings);
+  EXPECT_EQ(own.read("data.c").size(), 24U);
+  EXPECT_EQ(own.read("data.Kcu").substr(4, 4), std::string("\x01\0\0\0", 4)) << "sound is on";
+  EXPECT_THAT(own.read("words.txt"), testing::HasSubstr("Our town\tThe old bank stands. \n"));
+}
+
+TEST_F(LearnerWordsTest, TheFirstRunMarksTheLearnersFolderOnly) {
+  own.remove("Yes1");
+  std::filesystem::remove(pack.pathOf("Yes1"));
+  Learning learning(pack, own);
+  learning.run.start();
+  EXPECT_EQ(learning.run.program.ending(), Ending::FirstRun);
+  EXPECT_TRUE(own.has("Yes1"));
+  EXPECT_FALSE(pack.has("Yes1"));
+}
+
+// -- The journal.
+
+TEST_F(LearnerWordsTest, AWordOutlivesAProgramThatWasKilledWithItsTextOpen) {
+  {
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.openText();
+    learning.add("bank");
+    learning.add("river");
+    EXPECT_EQ(own.read("data.c"), "") << "the list is written when reading is left";
+  }
+  EXPECT_EQ(wordsNextTime(), (Texts{"bank", "river"}));
+  EXPECT_EQ(own.read("data.c").size(), 48U) << "merged at the start";
+  EXPECT_EQ(own.read("words.journal"), "");
+  EXPECT_EQ(wordsNextTime(), (Texts{"bank", "river"})) << "and once only";
+}
+
+TEST_F(LearnerWordsTest, AWordThatIsInTheListAlreadyIsNotMergedAgain) {
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  const std::string journal = own.read("words.journal");
+  EXPECT_NE(journal, "");
+  learning.leaveText();
+  EXPECT_EQ(own.read("words.journal"), "");
+  own.write("words.journal", journal);
+  EXPECT_EQ(wordsNextTime(), Texts{"bank"});
+}
+
+TEST_F(LearnerWordsTest, AWordThatWasTakenAndDeletedStaysDeleted) {
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  learning.add("river");
+  learning.run.files.counts = [](const std::string&, const std::string& path) {
+    return path.find("data.c") != std::string::npos;
+  };
+  learning.run.files.failAlways();
+  learning.leaveText();
+  learning.removeFirst();
+  EXPECT_EQ(wordsNextTime(), Texts{"river"});
+}
+
+TEST_F(LearnerWordsTest, EveryWayToEndStoresWhatLeavingStores) {
+  int caret = 0;
+  const std::function<void(Program&)> ways[] = {
+      [](Program& each) { each.closeWindow(); }, [](Program& each) { each.closeAtOnce(); },
+      [](Program& each) { each.keep(); }, [](Program& each) { each.fail(); }};
+  for (const auto& way : ways) {
+    own.remove("data.c");
+    own.remove("data.Kcu");
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.openText();
+    learning.add("bank");
+    caret = learning.run.controls().R1.SelStart();
+    way(learning.run.program);
+    EXPECT_EQ(own.read("data.c").size(), 24U);
+    EXPECT_EQ(own.read("words.journal"), "");
+    EXPECT_EQ(static_cast<unsigned char>(own.read("data.Kcu")[0]), caret & 0xFF);
+  }
+  EXPECT_GT(caret, 0);
+}
+
+// -- A device that fails.
+
+TEST_F(LearnerWordsTest, AFolderThatMayNotBeWrittenIsToldOfInOneSentenceAndTheProgramWorks) {
+  Learning learning(pack, own);
+  learning.run.files.readOnly = true;
+  learning.run.files.failAlways(std::errc::read_only_file_system);
+  learning.run.start();
+  ASSERT_TRUE(learning.run.program.running());
+  EXPECT_EQ(learning.run.machine.log.count("message"), 1);
+  learning.openText();
+  learning.add("bank");
+  learning.leaveText();
+  EXPECT_EQ(learning.words(), Texts{"bank"}) << "for this run";
+  learning.run.program.closeWindow();
+  EXPECT_FALSE(learning.run.program.running());
+  EXPECT_EQ(learning.boxes(), Texts{"Do you want to quit?"}) << "nobody is troubled again";
+  EXPECT_EQ(own.names(), Texts{"Yes1"});
+}
+
+TEST_F(LearnerWordsTest, WithoutAFirstRunMarkThatCanBeWrittenTheMenuStillComes) {
+  own.remove("Yes1");
+  Learning learning(pack, own);
+  learning.run.files.readOnly = true;
+  learning.run.files.failAlways(std::errc::read_only_file_system);
+  learning.run.start();
+  EXPECT_TRUE(learning.run.program.running());
+}
+
+TEST_F(LearnerWordsTest, ADiskThatIsFullIsToldOfAtTheStart) {
+  Learning learning(pack, own);
+  learning.run.files.counts = [](const std::string& call, const std::string&) {
+    return call == "write";
+  };
+  learning.run.files.failAlways();
+  learning.run.start();
+  EXPECT_TRUE(learning.run.program.running());
+  EXPECT_EQ(learning.run.machine.log.count("message"), 1);
+}
+
+TEST_F(LearnerWordsTest, WordsThatAreOnNoDiskStandInTheWayOfQuittingWithOneQuestion) {
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.run.files.failAlways(std::errc::io_error);
+  learning.add("bank");
+  static_cast<void>(learning.run.machine.log.take());
+  learning.run.program.closeWindow();
+  EXPECT_TRUE(learning.run.program.running()) << "No is the default";
+  EXPECT_EQ(learning.boxes(),
+            Texts{std::string("TÙ vÜng chŸa ghi ðŸ¢c vào ðña. VÑn thoát?"_bytes)});
+  learning.run.files.failNever();
+  static_cast<void>(learning.run.machine.log.take());
+  learning.run.program.closeWindow();
+  EXPECT_FALSE(learning.run.program.running());
+  EXPECT_EQ(learning.boxes(), Texts{}) << "there is room again";
+  EXPECT_EQ(wordsNextTime(), Texts{"bank"});
+}
+
+TEST_F(LearnerWordsTest, WordsThatAreInTheJournalAreSafeAndAskNothing) {
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  learning.run.files.failAlways(std::errc::io_error);
+  static_cast<void>(learning.run.machine.log.take());
+  learning.run.program.closeWindow();
+  EXPECT_FALSE(learning.run.program.running());
+  EXPECT_EQ(learning.boxes(), Texts{});
+  EXPECT_EQ(wordsNextTime(), Texts{"bank"});
+}
+
+TEST_F(LearnerWordsTest, ASettingThatCannotBeWrittenEndsNothingAndHoldsForTheRun) {
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.run.files.failAlways(std::errc::io_error);
+  learning.leaveText();
+  EXPECT_TRUE(learning.run.program.running());
+  EXPECT_EQ(learning.boxes(), Texts{});
+  learning.run.clickButton(1);
+  EXPECT_GT(learning.run.controls().R1.SelStart(), 0);
+}
+
+TEST_F(LearnerWordsTest, AListThatIsTakenAwayInMidRunIsMadeAgain) {
+  own.write("data.c", record("bank", 1));
+  Learning learning(pack, own);
+  learning.run.start();
+  EXPECT_EQ(learning.words(), Texts{"bank"});
+  own.remove("data.c");
+  EXPECT_EQ(learning.words(), Texts{"bank"});
+  EXPECT_EQ(own.read("data.c").size(), 24U);
+}
+
+TEST_F(LearnerWordsTest, AListThatCannotBeReadIsNotWrittenOver) {
+  std::filesystem::create_directory(own.pathOf("data.c"));
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  learning.leaveText();
+  EXPECT_TRUE(std::filesystem::is_directory(own.pathOf("data.c")));
+  std::filesystem::remove(own.pathOf("data.c"));
+  own.write("data.c", record("river", 1));
+  learning.openText();
+  learning.add("old");
+  learning.leaveText();
+  EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
+}
+
+// -- A kill at each call.
+
+/// Goes through a learner's evening; tells after each deed what must be kept from then on.
+void goThroughAnEvening(Learning& learning, const std::function<void(char)>& tell) {
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  tell('b');
+  learning.add("river");
+  tell('r');
+  learning.leaveText();
+  learning.removeFirst();
+  tell('B');
+  learning.openText();
+  learning.add("stands");
+  tell('s');
+  learning.run.program.closeWindow();
+}
+
+TEST_F(LearnerWordsTest, AKillAtAnyCallOfTheEveningLosesNoWordAndDoublesNone) {
+  int kills = 0;
+  for (int call = 1;; ++call) {
+    for (const std::string& name : own.names())
+      std::filesystem::remove_all(own.pathOf(name));
+    own.write("Yes1", "");
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+      Learning learning(pack, own);
+      learning.run.files.before = [call](int number) {
+        if (number == call) ::kill(::getpid(), SIGKILL);
+      };
+      goThroughAnEvening(learning, [&](char deed) {
+        if (::write(ends[1], &deed, 1) != 1) ::_exit(2);
+      });
+      ::_exit(0);
+    }
+    ::close(ends[1]);
+    std::string told;
+    char deed = 0;
+    while (::read(ends[0], &deed, 1) == 1)
+      told += deed;
+    ::close(ends[0]);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    const Texts words = wordsNextTime();
+    const auto has = [&](const char* word) {
+      return std::count(words.begin(), words.end(), word) == 1;
+    };
+    const auto hasNot = [&](const char* word) {
+      return std::count(words.begin(), words.end(), word) == 0;
+    };
+    const auto did = [&](char which) { return told.find(which) != std::string::npos; };
+    EXPECT_TRUE(has("bank") || hasNot("bank")) << "call " << call;
+    EXPECT_TRUE(!did('b') || did('r') || has("bank")) << "call " << call;
+    EXPECT_TRUE(!did('r') || has("river")) << "call " << call;
+    EXPECT_TRUE(!did('B') || hasNot("bank")) << "call " << call;
+    EXPECT_TRUE(!did('s') || has("stands")) << "call " << call;
+    EXPECT_LE(words.size(), 3U) << "call " << call;
+    if (WIFEXITED(status)) break;
+    ++kills;
+  }
+  EXPECT_GT(kills, 40) << "the evening makes many calls";
+}
+
+// -- Another pack.
+
+TEST_F(LearnerWordsTest, AWordFindsItsSentenceInAPackThatHasNewTextsAheadOfIt) {
+  {
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.openText();
+    learning.add("river");
+    learning.leaveText();
+  }
+  writeTexts({{1, "A new text\r_\tWith a sentence. _And one more.\r", "_Mot._Hai."}, bankText(7)});
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.run.clickButton(2);
+  learning.run.doubleClick(learning.run.controls().Rchon, 3);
+  EXPECT_EQ(learning.run.text("ChuoiCau"), "A river runs here.");
+  EXPECT_TRUE(own.has("backups")) << "the old list is kept";
+}
+
+TEST_F(LearnerWordsTest, AWordWhoseSentenceIsGoneStillShowsIt) {
+  {
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.openText();
+    learning.add("river");
+    learning.leaveText();
+  }
+  const std::string before = own.read("data.c");
+  writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}});
+  {
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.run.clickButton(2);
+    learning.run.doubleClick(learning.run.controls().Rchon, 3);
+    EXPECT_EQ(learning.run.text("ChuoiCau"), "A river runs here.");
+    EXPECT_EQ(own.read("data.c"), record("river", 0));
+  }
+  writeTexts({bankText(4)});
+  EXPECT_EQ(wordsNextTime(), Texts{"river"});
+  EXPECT_EQ(own.read("data.c"), before) << "it is back, and so is the place";
+}
+
+TEST_F(LearnerWordsTest, AWordInTheJournalFindsItsSentenceInANewPackToo) {
+  {
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.openText();
+    learning.add("river");
+  }
+  writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}, bankText(7)});
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.run.clickButton(2);
+  learning.run.doubleClick(learning.run.controls().Rchon, 3);
+  EXPECT_EQ(learning.run.text("ChuoiCau"), "A river runs here.");
+}
+
+TEST_F(LearnerWordsTest, ThePlaceInAListGoesWithItsTitle) {
+  {
+    Learning learning(pack, own);
+    learning.run.start();
+    learning.openText();
+    learning.leaveText();
+  }
+  writeTexts({{1, "A much longer title than before\r_\tWith a sentence.\r", "_Mot."}, bankText(9)});
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.run.clickButton(1);
+  EXPECT_EQ(learning.run.controls().R1.SelText(), "\tOur town\r");
+  EXPECT_EQ(learning.run.number("SoBaiChon"), 9);
+}
+
+// -- Copies.
+
+TEST_F(LearnerWordsTest, ADeletionLeavesACopyOfTheListAsItWas) {
+  own.write("data.c", record("bank", 1) + record("river", 2));
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.removeFirst();
+  EXPECT_EQ(own.read("data.c"), record("river", 2));
+  DatedCopies copies(own.path(), systemFiles(), systemCalendar());
+  ASSERT_EQ(copies.all().size(), 1U);
+  EXPECT_EQ(copies.read(copies.all()[0].name, "data.c"), record("bank", 1) + record("river", 2));
+}
+
+} // namespace
+} // namespace talvora

@@ -1,0 +1,139 @@
+// Lines of the side file and of the journal: what is written comes back, what is broken does not.
+#include "learner/WordJournal.h"
+
+#include "platform/Files.h"
+#include "support/FaultyFiles.h"
+#include "support/TestFolder.h"
+#include "text/Bytes.h"
+
+#include <gtest/gtest.h>
+
+namespace talvora {
+namespace {
+
+using namespace literals;
+using test::FaultyFiles;
+using test::TestFolder;
+
+WordRow rowOf(const std::string& word, std::int32_t place, const std::string& sentence) {
+  WordRow row;
+  row.word = word;
+  row.pack = "0123456789abcdef";
+  row.where = {
+      place < 0 ? TextKind::Speaking : TextKind::Reading, 4, 2, "The bank", sentence, place};
+  return row;
+}
+
+TEST(WordRow, ComesBackAsItWasWritten) {
+  for (const WordRow& row : {rowOf("bank", 17, "It stands by the river. "), rowOf("I'm", -5, ""),
+                             rowOf("well-known", 0, "A \"well-known\" man.")}) {
+    EXPECT_EQ(rowFrom(lineOf(row)), row);
+  }
+}
+
+TEST(WordRow, IsWrittenAsPeopleReadIt) {
+  WordRow row = rowOf("bank", 17, "");
+  row.where.title = "Không tìm thÍy"_bytes;
+  EXPECT_EQ(lineOf(row), "bank\t17\t0123456789abcdef\treading\t4\t2\tKhông tìm thấy\t");
+  EXPECT_EQ(rowFrom(lineOf(row)), row);
+}
+
+TEST(WordRow, HasNoTabsOrLineEndsOfItsOwn) {
+  WordRow row = rowOf("bank", 17, "one\ttwo\nthree\rfour");
+  const auto back = rowFrom(lineOf(row));
+  ASSERT_TRUE(back);
+  EXPECT_EQ(back->where.words, "one two three four");
+}
+
+TEST(WordRow, IsRefusedWhenItIsNone) {
+  const std::string good = lineOf(rowOf("bank", 17, "Here."));
+  for (const std::string& line :
+       {std::string(), std::string("bank"), good + "\tmore",
+        "\t" + good.substr(good.find('\t') + 1), std::string("bank\tx\t0\treading\t1\t1\tT\tS"),
+        std::string("bank\t1\t0\tother\t1\t1\tT\tS"),
+        std::string("bank\t99999999999\t0\treading\t1\t1\tT\tS"),
+        std::string("abcdefghijklmnopqrstu\t1\t0\treading\t1\t1\tT\tS")}) {
+    EXPECT_FALSE(rowFrom(line)) << line;
+  }
+}
+
+TEST(WordRow, AFileOfThemIsReadPastWhatIsBroken) {
+  const std::vector<WordRow> rows = {rowOf("bank", 17, "Here."), rowOf("go", 18, "There.")};
+  std::string content = fileOf(rows);
+  content.insert(content.find('\n') + 1, "\xFF\xFE nonsense\n\n");
+  EXPECT_EQ(rowsFrom(content), rows);
+}
+
+class Journal : public testing::Test {
+ protected:
+  static WordDeed added(const std::string& word) {
+    return {WordDeed::Kind::Added, rowOf(word, 17, "It stands by the river. ")};
+  }
+  static WordDeed removed(const std::string& word) {
+    return {WordDeed::Kind::Removed, rowOf(word, 17, "It stands by the river. ")};
+  }
+
+  TestFolder folder;
+  FaultyFiles files;
+  WordJournal journal{folder.pathOf("words.journal"), files};
+};
+
+using Deeds = std::vector<WordDeed>;
+
+TEST_F(Journal, HoldsTheDeedsInTheirOrder) {
+  EXPECT_EQ(journal.read(), Deeds{});
+  EXPECT_FALSE(journal.append({added("bank")}));
+  EXPECT_FALSE(journal.append({added("go"), removed("bank")}));
+  EXPECT_EQ(journal.read(), (Deeds{added("bank"), added("go"), removed("bank")}));
+  EXPECT_FALSE(journal.clear());
+  EXPECT_EQ(journal.read(), Deeds{});
+  EXPECT_FALSE(journal.append({added("go")}));
+  EXPECT_EQ(journal.read(), Deeds{added("go")});
+}
+
+TEST_F(Journal, CutOffAnywhereKeepsEveryDeedThatIsWhole) {
+  EXPECT_FALSE(journal.append({added("bank")}));
+  const std::size_t whole = folder.read("words.journal").size();
+  EXPECT_FALSE(journal.append({added("go")}));
+  const std::string content = folder.read("words.journal");
+  for (std::size_t length = 0; length < content.size() - 1; ++length) {
+    folder.write("words.journal", content.substr(0, length));
+    const Deeds left = journal.read();
+    EXPECT_EQ(left, length < whole - 1 ? Deeds{} : Deeds{added("bank")}) << length;
+    // What comes behind half a line is whole.
+    EXPECT_FALSE(journal.append({added("river")}));
+    ASSERT_FALSE(journal.read().empty());
+    EXPECT_EQ(journal.read().back(), added("river")) << length;
+  }
+}
+
+TEST_F(Journal, ADeedWhoseBytesHaveChangedCountsForNothing) {
+  EXPECT_FALSE(journal.append({added("bank")}));
+  const std::string content = folder.read("words.journal");
+  for (std::size_t at = 1; at + 1 < content.size(); ++at) {
+    std::string changed = content;
+    changed[at] = static_cast<char>(changed[at] ^ 1);
+    folder.write("words.journal", changed);
+    EXPECT_EQ(journal.read(), Deeds{}) << at;
+  }
+}
+
+TEST_F(Journal, AFailureAtAnyCallLeavesItAsItWas) {
+  EXPECT_FALSE(journal.append({added("bank")}));
+  files.calls = 0;
+  EXPECT_FALSE(journal.append({added("go")}));
+  const int calls = files.calls;
+  EXPECT_GE(calls, 3);
+  for (int call = 1; call <= calls; ++call) {
+    EXPECT_FALSE(journal.clear());
+    EXPECT_FALSE(journal.append({added("bank")}));
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_TRUE(journal.append({added("go")})) << call;
+    files.failNever();
+    EXPECT_EQ(journal.read(), Deeds{added("bank")}) << call;
+  }
+}
+
+} // namespace
+} // namespace talvora
