@@ -5,11 +5,13 @@
 #include "pack/CourseChecks.h"
 #include "pack/CourseReport.h"
 #include "pack/Dump.h"
+#include "pack/KeptWords.h"
 #include "pack/PhonesReport.h"
 #include "pack/Planner.h"
 #include "pack/Recordings.h"
 #include "pack/Show.h"
 #include "pack/Status.h"
+#include "pack/WordsCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -42,17 +44,29 @@ int failWith(const std::string& message) {
   return usageOrDiskErrors;
 }
 
+/// Words that kept their places need no telling.
+void tellOf(const talvora::Carried& carried) {
+  const int anew = carried.inTheirText + carried.nearest + carried.inAnotherText + carried.alike;
+  if (anew + carried.gone == 0) return;
+  std::cerr << "words of the learner: " << carried.inTheirText << " found in their texts, "
+            << carried.nearest << " in a changed sentence, " << carried.inAnotherText
+            << " in another text, " << carried.alike << " in one like it, " << carried.gone
+            << " kept as text only\n";
+}
+
 int build(Options options, const std::filesystem::path& out) {
   Problems problems;
   options.earlierPack = out;
   const auto files = compile(options, problems, showStep);
   if (!problems.none()) return tell(problems);
+  KeptWords words(out.string());
   for (const PackFile& file : files) {
     showStep(file.name);
     std::filesystem::create_directories((out / file.name).parent_path());
     if (const auto failure = store(file, out)) return failWith(*failure);
     if (file.name == "DataS") removeUnmarkedRecordings(out, file.bytes);
   }
+  if (const auto carried = words.carry()) tellOf(*carried);
   return 0;
 }
 
@@ -175,6 +189,7 @@ int run(int argumentCount, char** arguments) {
   CLI::App* dumpCommand = application.add_subcommand("dump", "decode the pack PACK into sources");
   dumpCommand->add_option("PACK", pack, "folder of the pack")->required();
   dumpCommand->add_option("OUT", out, "folder for the sources")->required();
+  const WordsCommand words(application);
   CLI::App* statusCommand =
       application.add_subcommand("status", "tell what SOURCE holds and still lacks: slots, "
                                            "scripts to record, words, the Vietnamese side");
@@ -201,6 +216,7 @@ int run(int argumentCount, char** arguments) {
   } catch (const CLI::ParseError& error) {
     return application.exit(error) == 0 ? 0 : usageOrDiskErrors;
   }
+  if (words.given()) return words.run();
   if (buildCommand->parsed()) return build(options, out);
   if (planCommand->parsed())
     return plan(options.source, slot, known ? Detail::Full : Detail::Short);

@@ -2,7 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <filesystem>
+#include <iostream>
 
 namespace talvora {
 
@@ -38,6 +40,13 @@ CommandLine readCommandLine(int argc, char** argv, const std::string& version) {
   for (std::string* path : {&line.pack, &line.learner, &line.trace})
     makeAbsolute(*path);
   line.rest = app.remaining();
+  // The toolkit's own begin with one dash.
+  const auto unknown = std::find_if(line.rest.begin(), line.rest.end(),
+                                    [](const std::string& word) { return word.starts_with("--"); });
+  if (unknown != line.rest.end()) {
+    std::cerr << "talvora: unknown argument: " << *unknown << '\n';
+    line.over = BadUse;
+  }
   return line;
 }
 

@@ -68,6 +68,16 @@ TEST_F(Dictation, TheTranslationStandsAboveTheTypingLine) {
   EXPECT_EQ(run.controls().Rnen3.BackColor(), 255U);
 }
 
+TEST_F(Dictation, ItsWaitsEndWhenTheProgramIsWantedClosed) {
+  openThree();
+  run.base.machine.clock.wantClosing(0);
+  const std::int64_t from = run.base.machine.time.nowMs();
+  run.type('x');
+  while (number("CauViet") == 2)
+    run.key(key::Right);
+  EXPECT_EQ(run.base.machine.time.nowMs(), from);
+}
+
 class WideDictation : public Dictation {
  protected:
   WideDictation() : Dictation(wide()) {}

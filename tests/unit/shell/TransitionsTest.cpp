@@ -54,6 +54,21 @@ TEST_P(SlidingMode, EndsAtTheSamePlaceAndSleepsAfterEachStep) {
   }
 }
 
+TEST_P(SlidingMode, IsOverAtOnceWhenTheProgramIsWantedClosed) {
+  ShellRun run;
+  run.state.measures.KieuTruot = GetParam();
+  run.shell.setup.adjustSlideStep();
+  Surface& R1 = run.controls.R1;
+  run.machine.clock.wantClosing(0);
+  run.shell.transitions.MoRan(R1, run.controls.Frame1);
+  EXPECT_EQ(R1.Left(), 1843);
+  EXPECT_EQ(R1.Top(), 1118);
+  EXPECT_LE(run.machine.log.count("sleep"), 1);
+  run.shell.transitions.DongRan(R1, run.controls.Frame1);
+  EXPECT_FALSE(R1.Visible());
+  EXPECT_LE(run.machine.log.count("sleep"), 2);
+}
+
 INSTANTIATE_TEST_SUITE_P(Modes, SlidingMode, testing::Values(1, 2, 3, 4));
 
 TEST(Transitions, SlidingEndsOnEveryScreen) {

@@ -1,0 +1,242 @@
+#include "pack/LearnersList.h"
+
+#include "learner/LearnerFiles.h"
+#include "learner/LearnerLock.h"
+#include "learner/LearnerWords.h"
+#include "learner/SentenceFinder.h"
+#include "platform/Files.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <ostream>
+#include <set>
+
+namespace talvora::pack {
+
+namespace {
+
+using Words = std::vector<VocabularyWord>;
+
+LearnerWords wordsOf(const LearnersList& list) {
+  return {list.folder, list.files, list.calendar};
+}
+
+ListResult tellUnreadable(const LearnersList& list, std::ostream& out) {
+  out << "Không đọc được từ vựng trong " << list.folder << "\n";
+  return ListResult::Impossible;
+}
+
+ListResult tellRunning(std::ostream& out) {
+  out << "Talvora đang chạy rồi.\n";
+  return ListResult::Impossible;
+}
+
+std::set<std::string> spellingsOf(const Words& words) {
+  std::set<std::string> spellings;
+  for (const VocabularyWord& word : words)
+    spellings.insert(lower(word.word()));
+  return spellings;
+}
+
+void tellRow(const WordRow& row, std::ostream& out) {
+  out << readableText(row.word);
+  if (!row.where.title.empty()) out << "\t" << readableText(row.where.title);
+  if (!row.where.words.empty()) out << "\t" << readableText(trim(row.where.words));
+  if (row.where.place == 0) out << "\t(câu này không còn trong bài học)";
+  out << "\n";
+}
+
+/// The rows of a copy for the words that a list has not.
+std::vector<WordRow> missingRows(const LearnersList& list, const DatedCopies& copies,
+                                 const std::string& copy, const Words& there) {
+  const auto content = copies.read(copy, learnerfile::Words);
+  if (!content) return {};
+  std::vector<WordRow> known =
+      rowsFrom(copies.read(copy, learnerfile::Rows).value_or(std::string()));
+  std::set<std::string> spellings = spellingsOf(there);
+  std::vector<WordRow> rows;
+  for (const VocabularyWord& word : vocabularyFrom(bytesOfText(*content)).words) {
+    if (word.word().empty() || !spellings.insert(lower(word.word())).second) continue;
+    const auto row = std::find_if(known.begin(), known.end(), [&](const WordRow& each) {
+      return each.record().ViTriCauTu == word.ViTriCauTu && each.word == asWritten(word.word());
+    });
+    // Without its sentence a word's place belongs to nobody knows which pack.
+    rows.push_back(row != known.end() ? *row : WordRow{word.word(), {}, {}});
+  }
+  static_cast<void>(list);
+  return rows;
+}
+
+std::string newestWithMissing(const LearnersList& list, const DatedCopies& copies,
+                              const Words& there) {
+  const auto all = copies.all();
+  for (auto copy = all.rbegin(); copy != all.rend(); ++copy) {
+    if (!missingRows(list, copies, copy->name, there).empty()) return copy->name;
+  }
+  return {};
+}
+
+/// What is odd in a list.
+struct Oddities {
+  std::size_t oddBytes = 0;
+  std::vector<std::size_t> empty;  ///< places in the list, from 0
+  std::vector<std::size_t> twice;  ///< the second and further ones of a word
+  std::vector<std::size_t> astray; ///< without a sentence at their place
+};
+
+bool isEmpty(const VocabularyWord& word) {
+  const std::string text = word.word();
+  return text.empty() || std::any_of(text.begin(), text.end(), [](char each) {
+           return static_cast<unsigned char>(each) < ' ';
+         });
+}
+
+Oddities odditiesOf(const VocabularyContent& content, const TextCatalogue* catalogue) {
+  Oddities found;
+  found.oddBytes = content.oddBytes.size();
+  std::set<std::string> seen;
+  for (std::size_t at = 0; at < content.words.size(); ++at) {
+    const VocabularyWord& word = content.words[at];
+    if (isEmpty(word)) {
+      found.empty.push_back(at);
+    } else if (!seen.insert(lower(word.word())).second) {
+      found.twice.push_back(at);
+    } else if (catalogue != nullptr && word.ViTriCauTu != 0) {
+      const auto sentence = catalogue->at(word.ViTriCauTu);
+      const bool holds =
+          sentence && lower(sentence->words).find(lower(word.word())) != std::string::npos;
+      if (!holds) found.astray.push_back(at);
+    }
+  }
+  return found;
+}
+
+bool tell(const Oddities& found, const VocabularyContent& content, std::ostream& out) {
+  if (found.oddBytes != 0) out << "Cuối tệp thừa " << found.oddBytes << " byte.\n";
+  for (const std::size_t at : found.empty)
+    out << "Dòng " << at + 1 << " không có từ.\n";
+  const auto name = [&](std::size_t at) { return readableText(content.words[at].word()); };
+  for (const std::size_t at : found.twice)
+    out << "Dòng " << at + 1 << ": từ " << name(at) << " đã có ở trên.\n";
+  for (const std::size_t at : found.astray)
+    out << "Dòng " << at + 1 << ": câu của từ " << name(at) << " không ở đúng chỗ.\n";
+  return found.oddBytes != 0 || !found.empty.empty() || !found.twice.empty() ||
+         !found.astray.empty();
+}
+
+/// The list without what is odd; a word whose place is wrong belongs to no pack from here on.
+Words mended(const VocabularyContent& content, const Oddities& found, LearnerWords& words) {
+  std::set<std::size_t> going(found.empty.begin(), found.empty.end());
+  going.insert(found.twice.begin(), found.twice.end());
+  const std::set<std::size_t> astray(found.astray.begin(), found.astray.end());
+  Words left;
+  for (std::size_t at = 0; at < content.words.size(); ++at) {
+    if (going.contains(at)) continue;
+    left.push_back(content.words[at]);
+    if (!astray.contains(at)) continue;
+    WordRow row = words.rowsOf({content.words[at]}).front();
+    row.pack.clear();
+    words.adopt({row});
+  }
+  return left;
+}
+
+} // namespace
+
+ListResult listWords(const LearnersList& list, std::ostream& out) {
+  LearnerWords words = wordsOf(list);
+  const auto there = words.peek();
+  if (!there) return tellUnreadable(list, out);
+  std::size_t gone = 0;
+  for (const WordRow& row : words.rowsOf(*there)) {
+    tellRow(row, out);
+    if (row.where.place == 0) ++gone;
+  }
+  out << there->size() << " từ";
+  if (gone > 0) out << ", " << gone << " từ có câu không còn trong bài học";
+  out << "\n";
+  return ListResult::Fine;
+}
+
+ListResult listBackups(const LearnersList& list, std::ostream& out) {
+  const DatedCopies copies(list.folder, list.files, list.calendar);
+  const auto all = copies.all();
+  for (const DatedCopy& copy : all)
+    out << copy.name << "\t" << copy.words << " từ\n";
+  if (all.empty()) out << "Chưa có bản sao nào.\n";
+  return ListResult::Fine;
+}
+
+ListResult restoreWords(const LearnersList& list, const std::string& copy, Doing doing,
+                        std::ostream& out) {
+  const LearnerLock lock(list.files, list.folder);
+  if (doing == Doing::Do && lock.state() == LearnerLock::State::Taken) return tellRunning(out);
+  LearnerWords words = wordsOf(list);
+  auto there = words.peek();
+  if (!there) there.emplace();
+  const DatedCopies copies(list.folder, list.files, list.calendar);
+  const std::string from = copy.empty() ? newestWithMissing(list, copies, *there) : copy;
+  if (!copy.empty() && !copies.read(copy, learnerfile::Words)) {
+    out << "Không có bản sao " << copy << ".\n";
+    return ListResult::Impossible;
+  }
+  const auto rows = missingRows(list, copies, from, *there);
+  if (rows.empty()) {
+    out << "Không có từ nào để lấy lại.\n";
+    return ListResult::Fine;
+  }
+  out << "Từ bản sao " << from << ":\n";
+  for (const WordRow& row : rows)
+    tellRow(row, out);
+  if (doing == Doing::Show) {
+    out << rows.size() << " từ sẽ được lấy lại nếu thêm --yes.\n";
+    return ListResult::Found;
+  }
+  words.open();
+  static_cast<void>(words.copies().keep());
+  words.adopt(rows);
+  for (const WordRow& row : rows)
+    there->push_back(row.record());
+  if (const auto problem = words.write(*there)) {
+    out << "Không ghi được: " << *problem << "\n";
+    return ListResult::Impossible;
+  }
+  out << "Đã lấy lại " << rows.size() << " từ.\n";
+  return ListResult::Fine;
+}
+
+ListResult checkWords(const LearnersList& list, const std::optional<std::string>& pack, Doing doing,
+                      std::ostream& out) {
+  const LearnerLock lock(list.files, list.folder);
+  if (doing == Doing::Do && lock.state() == LearnerLock::State::Taken) return tellRunning(out);
+  std::error_code error;
+  const auto bytes =
+      readWhole(list.files, list.folder + "/" + std::string(learnerfile::Words), error);
+  if (!bytes) return tellUnreadable(list, out);
+  std::optional<TextCatalogue> catalogue;
+  if (pack) catalogue.emplace(*pack, list.files);
+  const VocabularyContent content = vocabularyFrom(*bytes);
+  const Oddities found = odditiesOf(content, catalogue ? &*catalogue : nullptr);
+  if (!tell(found, content, out)) {
+    out << content.words.size() << " từ, không có gì lạ.\n";
+    return ListResult::Fine;
+  }
+  if (doing == Doing::Show) {
+    out << "Thêm --mend để sửa.\n";
+    return ListResult::Found;
+  }
+  LearnerWords words = wordsOf(list);
+  words.open();
+  static_cast<void>(words.copies().keep());
+  words.dropOddBytes();
+  auto problem = words.write(mended(content, found, words));
+  if (!problem && catalogue) static_cast<void>(words.carry(*catalogue));
+  if (problem) {
+    out << "Không ghi được: " << *problem << "\n";
+    return ListResult::Impossible;
+  }
+  out << "Đã sửa.\n";
+  return ListResult::Fine;
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,88 @@
+"""A driver of the program, commanded line by line, and the list that it has stored."""
+
+import argparse
+import json
+import subprocess
+
+
+def arguments(description):
+    parser = argparse.ArgumentParser(description=description)
+    parser.add_argument("--driver", required=True, help="the program talvora-driver")
+    parser.add_argument("--pack", required=True, help="a pack with the small content")
+    parser.add_argument("--long", action="store_true", help="as thoroughly as one can wait for")
+    return parser.parse_args()
+
+
+class Ended(Exception):
+    """The driver has gone before it answered."""
+
+
+class Driver:
+    def __init__(self, program, pack, learner):
+        self.process = subprocess.Popen(
+            [program, "--dir", pack, "--learner", learner],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8")
+
+    def do(self, what, **fields):
+        try:
+            self.process.stdin.write(json.dumps({"do": what, **fields}) + "\n")
+            self.process.stdin.flush()
+            line = self.process.stdout.readline()
+        except OSError as error:
+            raise Ended from error
+        if not line:
+            raise Ended
+        reply = json.loads(line)
+        if not reply["ok"]:
+            raise AssertionError(f"{what} {fields}: {reply}")
+        return reply
+
+    def key(self, name):
+        return self.do("key", key=name)
+
+    def get(self, name):
+        return self.do("get", names=[name])["values"][name]
+
+    def words(self):
+        """The words in memory; those of the disk once a list was built."""
+        return [word["Tu"].rstrip() for word in self.get("TuVung")[1:]]
+
+    def open_text(self):
+        self.do("click", button="but1")
+        self.key("Home")
+        while not self.do("surface", name="R2")["visible"]:
+            self.key("Down")
+            self.key("Enter")
+
+    def text(self):
+        return self.do("surface", name="R2")["text"]
+
+    def leave_text(self):
+        while self.do("state")["visible"]:
+            self.key("Esc")
+
+    def list_words(self):
+        """Goes through the section of the words and tells what it shows."""
+        self.do("click", button="but2")
+        shown = self.do("surface", name="Rchon")
+        rows = shown["text"].split("\r")[:-1] if shown["visible"] else []
+        if shown["visible"]:
+            self.key("Esc")
+        return [row.split("\t")[-1] for row in rows]
+
+    def remove_first(self):
+        self.do("click", button="but2")
+        end = self.do("surface", name="Rchon")["text"].find("\r")
+        self.do("answer", **{"with": "yes"})
+        self.do("mouse", surface="Rchon", at=0, to=end)
+        if self.do("surface", name="Rchon")["visible"]:
+            self.key("Esc")
+
+    def kill(self):
+        self.process.kill()
+        self.process.communicate()
+
+    def end(self):
+        self.process.stdin.close()
+        self.process.wait()
+        self.process.stdout.close()
