@@ -1,6 +1,6 @@
 // Which letter a byte shows in each of the program's fonts, and back. Only a front, which draws
-// glyphs, and the pack compiler, which reads UTF-8 sources, use this; the program's own logic never
-// converts its texts.
+// glyphs, the pack compiler, which reads UTF-8 sources, and the learner's files that people read
+// use this; the program's own logic never converts its texts.
 #pragma once
 
 #include <optional>

@@ -6,9 +6,15 @@ import subprocess
 
 
 def arguments(description):
+    return arguments_with(description, "--pack")
+
+
+def arguments_with(description, *more):
+    """The driver, what else a test needs, and whether it is to be thorough."""
     parser = argparse.ArgumentParser(description=description)
     parser.add_argument("--driver", required=True, help="the program talvora-driver")
-    parser.add_argument("--pack", required=True, help="a pack with the small content")
+    for each in more:
+        parser.add_argument(each, required=True)
     parser.add_argument("--long", action="store_true", help="as thoroughly as one can wait for")
     return parser.parse_args()
 
