@@ -1,6 +1,5 @@
 #include "OpenTutor.h"
 
-#include "desktop/Fonts.h"
 #include "text/CharClass.h"
 
 #include <QApplication>
@@ -21,9 +20,11 @@ namespace talvora::bench {
 
 namespace {
 
-constexpr int RestMs = 400;      ///< behind which nothing of the start is under way any more
-constexpr int MostPaintMs = 100; ///< a deed that has led to no painting by then leads to none
-constexpr int WheelNotch = 120;  ///< of Qt's angle units
+constexpr int RestMs = 400;       ///< behind which nothing of the start is under way any more
+constexpr int MostPaintMs = 100;  ///< a deed that has led to no painting by then leads to none
+constexpr int PauseMs = 600;      ///< that the curtain hangs still
+constexpr int LeastPauseMs = 550; ///< a gap of that length between two paintings is that pause
+constexpr int WheelNotch = 120;   ///< of Qt's angle units
 constexpr int TitleIndent = 3;
 
 [[noreturn]] void giveUp(const std::string& what) {
@@ -62,6 +63,26 @@ double OpenTutor::timeToPicture(const std::function<void()>& deed) {
   return paints_.seen() ? since(begin) : -1;
 }
 
+OpenTutor::Opening OpenTutor::timeOpening() {
+  using Clock = std::chrono::steady_clock;
+  const auto ms = [](Clock::duration duration) {
+    return std::chrono::duration<double, std::milli>(duration).count();
+  };
+  key(Qt::Key_Escape, '\x1B');
+  settle();
+  refreshed_.clear();
+  const auto begin = Clock::now();
+  key(Qt::Key_Return, '\r');
+  settle();
+  Opening opening;
+  for (std::size_t each = 1; each < refreshed_.size(); ++each) {
+    if (ms(refreshed_[each] - refreshed_[each - 1]) < LeastPauseMs) continue;
+    opening.text = ms(refreshed_[each - 1] - begin);
+    opening.curtain = ms(refreshed_.back() - refreshed_[each - 1]) - PauseMs;
+  }
+  return opening;
+}
+
 void OpenTutor::settle() {
   for (int round = 0; round < 3; ++round) {
     QCoreApplication::processEvents();
@@ -75,6 +96,10 @@ OpenTutor::OpenTutor(const std::filesystem::path& pack, int text)
     : pack_(pack), machine_(virtualScreenFor(screenSize()), 1),
       program_(machine_.platform, pack_.path()), window_(machine_, program_, bridge_) {
   bridge_.onFailure = [](const std::string& message) { giveUp(message); };
+  machine_.screen.refresh = [this, paint = machine_.screen.refresh] {
+    paint();
+    refreshed_.push_back(std::chrono::steady_clock::now());
+  };
   startUp();
   openText(text);
 }
@@ -84,7 +109,7 @@ void OpenTutor::startUp() {
   QTimer::singleShot(RestMs, &window_, [this] { controls().but(2).SetFocus(); });
   bridge_.deliver([this] { program_.Main(); });
   if (!program_.running()) giveUp("the tutor has ended");
-  warmFonts();
+  window_.warmFontsNow();
   settle();
 }
 

@@ -13,9 +13,11 @@
 #include <QObject>
 #include <QPoint>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace talvora::bench {
 
@@ -52,6 +54,14 @@ class OpenTutor {
   /// Milliseconds from a deed to the end of the painting that follows it; below 0 when it changes
   /// no picture.
   double timeToPicture(const std::function<void()>& deed);
+  /// How long the opening of a text of the reading list takes up to the pause under the curtain,
+  /// and how long the curtain then takes, both in milliseconds; below 0 when it did not open. The
+  /// list is on show before and behind.
+  struct Opening {
+    double text = -1;
+    double curtain = -1;
+  };
+  Opening timeOpening();
 
  private:
   void startUp();
@@ -65,6 +75,8 @@ class OpenTutor {
   EventBridge bridge_;
   Window window_;
   PaintWatch paints_;
+  /// When the program last asked for a painting and had it, since the list was forgotten.
+  std::vector<std::chrono::steady_clock::time_point> refreshed_;
 };
 
 /// What this process holds in memory, in MB.

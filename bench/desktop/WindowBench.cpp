@@ -201,6 +201,25 @@ void caretJump(benchmark::State& state, OpenTutor& tutor) {
   state.SetLabel("from one end of 385,082 lines to the other; limit 1 ms");
 }
 
+void openText(benchmark::State& state, OpenTutor& tutor) {
+  Times text;
+  std::vector<double> curtains;
+  for (auto _ : state) {
+    const OpenTutor::Opening opening = tutor.timeOpening();
+    if (opening.text < 0) {
+      state.SkipWithError("the text did not open");
+      break;
+    }
+    text.add(state, opening.text);
+    curtains.push_back(opening.curtain);
+  }
+  text.report(state);
+  if (!curtains.empty()) {
+    state.counters["curtain_ms"] = *std::max_element(curtains.begin(), curtains.end());
+  }
+  state.SetLabel("up to the curtain, limit 100 ms at any size; the longest curtain beside it");
+}
+
 void memory(benchmark::State& state, OpenTutor& tutor) {
   for (auto _ : state) {
     openList(tutor);
@@ -261,6 +280,7 @@ void addAll(OpenTutor& tutor, const Paths& paths) {
   add("KeyInLookUpList", Samples, [&](State& state) { keyInList(state, tutor); });
   add("ScrollStep", Samples, [&](State& state) { scrollStep(state, tutor); });
   add("CaretJump", Samples, [&](State& state) { caretJump(state, tutor); });
+  add("OpenText", Openings, [&](State& state) { openText(state, tutor); });
   add("FirstOpeningOfTheList", Openings, [&](State& state) { firstOpening(state, paths); });
 }
 
@@ -271,6 +291,7 @@ int main(int argc, char** argv) {
     std::cerr << "talvora-bench-Window PACK_FOLDER [benchmark options]\n";
     return 2;
   }
+  keepLargeLetters();
   const QApplication application(argc, argv);
   loadFonts();
   const Paths paths{std::filesystem::absolute(argv[0]), std::filesystem::absolute(argv[1])};

@@ -13,14 +13,20 @@ ControlView::ControlView(const Control& control, QWidget* parent)
 void ControlView::place(double pixelsPerTwip) {
   if (scale_ != pixelsPerTwip) update();
   scale_ = pixelsPerTwip;
-  // Edges are rounded, not sizes: what adjoins in twips adjoins in pixels.
+  moveWidget();
+}
+
+QRect ControlView::place() const {
   const auto pixel = [&](int twips) { return qRound(twips * scale_); };
   const int left = pixel(control_.Left());
   const int top = pixel(control_.Top());
-  const QRect box(left, top, pixel(control_.Left() + control_.Width()) - left,
-                  pixel(control_.Top() + control_.Height()) - top);
+  return {left, top, pixel(control_.Left() + control_.Width()) - left,
+          pixel(control_.Top() + control_.Height()) - top};
+}
+
+void ControlView::moveWidget() {
   const int beyond = overhang();
-  setGeometry(box.adjusted(-beyond, -beyond, beyond, beyond));
+  setGeometry(place().adjusted(-beyond, -beyond, beyond, beyond));
 }
 
 QRectF ControlView::body() const {

@@ -13,7 +13,7 @@ class ControlView : public QWidget {
  public:
   ControlView(const Control& control, QWidget* parent);
 
-  /// Moves the widget to its control's place.
+  /// Brings the widget to its control's place.
   void place(double pixelsPerTwip);
   /// Marks for repainting what is out of date. Called once for any number of changes of the
   /// control, before the next painting.
@@ -23,6 +23,11 @@ class ControlView : public QWidget {
   [[nodiscard]] double pixelsPerTwip() const noexcept { return scale_; }
   /// The control's rectangle in the widget, in pixels.
   [[nodiscard]] QRectF body() const;
+  /// The control's rectangle in pixels of the form. Edges are rounded, not sizes: what adjoins in
+  /// twips adjoins in pixels.
+  [[nodiscard]] QRect place() const;
+  /// Moves the widget to where its control has come.
+  virtual void moveWidget();
   /// Pixels that the widget reaches beyond its control on every side, for a shadow.
   [[nodiscard]] virtual int overhang() const { return 0; }
 

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QProcess>
+#include <QThread>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +20,9 @@ namespace {
 constexpr int VirtualHeight = 768;
 constexpr int NarrowestScreen = 1024;
 constexpr int WidestScreen = 1366;
+// Sixty pictures a second, as most screens show.
+constexpr qint64 StepNs = 16'666'667;
+constexpr qint64 LongestMovementPauseNs = 200'000'000;
 
 QString shown(std::string_view bytes, Encoding encoding) {
   return QString::fromStdU16String(toUnicode(bytes, encoding));
@@ -31,6 +35,21 @@ QSize virtualScreenFor(QSize realScreen) {
   const double shape = static_cast<double>(realScreen.width()) / realScreen.height();
   const int width = static_cast<int>(std::lround(VirtualHeight * shape));
   return {std::clamp(width, NarrowestScreen, WidestScreen), VirtualHeight};
+}
+
+void DesktopScreen::RefreshStep() {
+  // A step that comes much later than the one before begins a movement of its own.
+  const bool goesOn = sinceFirstStep_.isValid() &&
+                      sinceFirstStep_.nsecsElapsed() < nextStep_ + LongestMovementPauseNs;
+  if (!goesOn) {
+    sinceFirstStep_.start();
+    nextStep_ = 0;
+  }
+  const qint64 due = std::exchange(nextStep_, nextStep_ + StepNs);
+  const qint64 now = sinceFirstStep_.nsecsElapsed();
+  if (now > due + StepNs) return;
+  if (now < due) QThread::usleep(static_cast<unsigned long>((due - now) / 1000));
+  refresh();
 }
 
 void DesktopClipboard::clear() {

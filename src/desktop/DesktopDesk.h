@@ -4,6 +4,7 @@
 #include "platform/Boxes.h"
 #include "platform/Desk.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QSize>
 #include <QWidget>
@@ -23,12 +24,15 @@ class DesktopScreen final : public Screen {
   [[nodiscard]] int pixelWidth() const override { return size_.width(); }
   [[nodiscard]] int pixelHeight() const override { return size_.height(); }
   void Refresh() override { refresh(); }
+  void RefreshStep() override;
 
   /// Paints at once what has changed; set by the window.
   std::function<void()> refresh = [] {};
 
  private:
   QSize size_;
+  QElapsedTimer sinceFirstStep_; ///< invalid until something has moved
+  qint64 nextStep_ = 0;          ///< ns since the first step of the movement
 };
 
 /// Whoever filled it. It is cleared with every key, but the window system is troubled only when

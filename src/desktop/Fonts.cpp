@@ -5,11 +5,9 @@
 #include <QFontDatabase>
 #include <QResource>
 #include <QStringList>
-#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 // The resource's initialiser stands outside every namespace.
 static void initFontResource() {
@@ -82,17 +80,6 @@ QFont makeFont(const FontSpec& font, bool italic) {
   return result;
 }
 
-/// Every letter that a text of the program can show.
-QString everyLetter() {
-  std::string bytes;
-  for (int code = ' '; code < 256; ++code)
-    bytes += static_cast<char>(code);
-  QString letters = QString::fromStdU16String(toUnicode(bytes, Encoding::X1));
-  // No face has those; they would be sought in every font of the machine.
-  letters.removeIf([](QChar letter) { return !letter.isPrint(); });
-  return letters;
-}
-
 } // namespace
 
 void loadFonts() {
@@ -110,20 +97,10 @@ QFont fontFor(const CharStyle& style) {
   return font;
 }
 
-void warmFonts() {
-  const QString letters = everyLetter();
-  CharStyle plain;
-  plain.font = {"x1", 13, false};
-  CharStyle bold = plain;
-  bold.font.bold = true;
-  CharStyle italic = plain;
-  italic.italic = true;
-  for (const CharStyle& style : {plain, bold, italic}) {
-    QTextLayout layout(letters, fontFor(style));
-    layout.beginLayout();
-    layout.createLine();
-    layout.endLayout();
-  }
+void keepLargeLetters() {
+  constexpr const char* Setting = "QT_MAX_CACHED_GLYPH_SIZE";
+  // A letter of a heading on a screen of 8K is less than 200 pixels high.
+  if (!qEnvironmentVariableIsSet(Setting)) qputenv(Setting, "200");
 }
 
 } // namespace talvora

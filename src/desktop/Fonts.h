@@ -16,8 +16,8 @@ void loadFonts();
 [[nodiscard]] QFont fontFor(const FontSpec& font);
 [[nodiscard]] QFont fontFor(const CharStyle& style);
 
-/// Loads the three faces of an entry's popup and shapes the Vietnamese letters in each, so that the
-/// first click does not wait for it. Takes some tens of milliseconds: for an idle moment.
-void warmFonts();
+/// Lets Qt keep the pictures of letters at every size that the program paints on a large screen,
+/// instead of drawing their outlines each time. To be called ahead of the application.
+void keepLargeLetters();
 
 } // namespace talvora

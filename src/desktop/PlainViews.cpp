@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace talvora {
 
@@ -77,7 +78,25 @@ void LabelView::paintEvent(QPaintEvent* event) {
 void PanelView::paintEvent(QPaintEvent* event) {
   QColor colour = colourOf(panel_.BackColor());
   colour.setAlpha(std::clamp(panel_.Alpha(), 0, 255));
-  QPainter(this).fillRect(event->rect(), colour);
+  QPainter(this).fillRect(event->rect() & shown_.translated(-pos()), colour);
+}
+
+void PanelView::moveWidget() {
+  const QRect before = std::exchange(shown_, place());
+  if (!isVisible()) {
+    setGeometry(shown_);
+  } else if (!geometry().contains(shown_)) {
+    // The right half goes on to the right; room for all of its way is made once.
+    QRect room = shown_;
+    room.setRight(parentWidget()->width());
+    setGeometry(room);
+  } else {
+    update((QRegion(before) ^ QRegion(shown_)).translated(-pos()));
+  }
+}
+
+void PanelView::refresh() {
+  update(shown_.translated(-pos()));
 }
 
 // -- The background.

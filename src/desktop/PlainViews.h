@@ -31,15 +31,21 @@ class LabelView final : public ControlView {
   const Label& label_;
 };
 
+/// Its widget stays where it is while the panel shrinks and moves inside it, so that a step paints
+/// no more than what it uncovers and covers anew.
 class PanelView final : public ControlView {
  public:
   PanelView(const Panel& panel, QWidget* parent) : ControlView(panel, parent), panel_(panel) {}
 
+  void refresh() override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void moveWidget() override;
 
  private:
   const Panel& panel_;
+  QRect shown_; ///< the panel, in pixels of the form, as it was marked for painting last
 };
 
 class ImageView final : public ControlView {

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -25,6 +26,8 @@ const QColor LetterboxColour(0x12, 0x22, 0x2E);
 constexpr int ExposeMs = 200;
 // A log-out that has not come by then was called off.
 constexpr qint64 SessionEndMs = 60'000;
+// Letters are made ready when the menu stands.
+constexpr int WarmAfterMs = 700;
 
 } // namespace
 
@@ -115,6 +118,16 @@ void Window::showOnScreen() {
   while (windowHandle() != nullptr && !windowHandle()->isExposed() && waited.elapsed() < ExposeMs) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
   }
+  QTimer::singleShot(WarmAfterMs, this, [this] { warmFonts(); });
+}
+
+void Window::warmFonts() {
+  warmer_.warm(stylesOf(program_.controls()), pixelsPerTwip() * devicePixelRatioF());
+}
+
+void Window::warmFontsNow() {
+  warmFonts();
+  warmer_.finish();
 }
 
 int Window::captionTwips() const {

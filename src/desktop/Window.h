@@ -5,6 +5,7 @@
 #include "desktop/CaptionStrip.h"
 #include "desktop/DesktopMachine.h"
 #include "desktop/EventBridge.h"
+#include "desktop/FontWarmer.h"
 #include "desktop/FormView.h"
 #include "program/Program.h"
 
@@ -25,6 +26,8 @@ class Window final : public QWidget {
   void sessionEnds();
   /// Brings the window to the front.
   void comeUp();
+  /// Makes the letters of the pages ready at once, which the window else does bit by bit.
+  void warmFontsNow();
 
   /// The pixel of the virtual screen that shows a point of the form.
   [[nodiscard]] PixelPoint pixelOf(SurfacePoint point) const;
@@ -44,6 +47,8 @@ class Window final : public QWidget {
   /// Paints at once what has changed; the first time it brings the window up.
   void refresh();
   void showOnScreen();
+  /// Makes the letters of the pages ready, bit by bit.
+  void warmFonts();
   void arrange();
   void askToClose();
   /// Notes a wish while the program sleeps, and wakes it; true when it was asleep.
@@ -63,11 +68,12 @@ class Window final : public QWidget {
   EventBridge& bridge_;
   FormView* view_ = nullptr;      ///< owned by this widget
   CaptionStrip* strip_ = nullptr; ///< owned by this widget
-  double scale_ = 1;              ///< real pixels to a virtual one
-  QPointF origin_;                ///< of the virtual screen in the window
-  bool closeWanted_ = false;      ///< the window was closed while the program slept
-  QElapsedTimer sessionEnd_;      ///< since the session was about to end
-  bool endWanted_ = false;        ///< the system wanted the program ended while it slept
+  FontWarmer warmer_;
+  double scale_ = 1;         ///< real pixels to a virtual one
+  QPointF origin_;           ///< of the virtual screen in the window
+  bool closeWanted_ = false; ///< the window was closed while the program slept
+  QElapsedTimer sessionEnd_; ///< since the session was about to end
+  bool endWanted_ = false;   ///< the system wanted the program ended while it slept
 };
 
 } // namespace talvora

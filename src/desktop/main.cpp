@@ -142,7 +142,6 @@ int runProgram(const talvora::Folders& folders, const std::string& traceFile) {
     talvora::showFailure(message, window.isVisible() ? &window : nullptr);
   };
   QTimer::singleShot(0, &window, [&] { bridge.deliver([&] { program.Main(); }); });
-  QTimer::singleShot(1000, &window, [] { talvora::warmFonts(); });
   QApplication::exec();
   return program.ending() == talvora::Ending::Failure ? Failed : 0;
 }
@@ -153,6 +152,7 @@ int main(int argc, char** argv) {
   const talvora::CommandLine line = talvora::readCommandLine(argc, argv, TALVORA_VERSION);
   if (line.over) return *line.over;
   ToolkitArguments arguments(argv[0], line.rest);
+  talvora::keepLargeLetters();
   auto guard = std::make_optional<talvora::DisplayGuard>();
   const QApplication application(arguments.count(), arguments.values());
   guard.reset();

@@ -4,6 +4,7 @@ set(TALVORA_VIEW_SOURCES
   BackgroundArt.cpp
   ButtonArt.cpp
   ControlView.cpp
+  FontWarmer.cpp
   Fonts.cpp
   FormMouse.cpp
   FormView.cpp

@@ -16,6 +16,9 @@ class Screen {
   [[nodiscard]] virtual int pixelHeight() const = 0;
   /// Paints at once what has changed.
   virtual void Refresh() = 0;
+  /// Paints a step of a movement. A front paces the steps by its clock, so that a movement takes
+  /// the same time everywhere, and passes over a picture for which it comes too late.
+  virtual void RefreshStep() { Refresh(); }
 };
 
 class Clipboard {

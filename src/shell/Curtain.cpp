@@ -62,7 +62,7 @@ bool Curtain::part(int distance) {
   if (left.Width() <= distance) return false;
   left.Width(left.Width() - distance);
   right.Left(right.Left() + distance);
-  form_.Refresh();
+  form_.RefreshStep();
   return true;
 }
 

@@ -50,6 +50,8 @@ class Form final : public ControlHost {
   }
   /// Paints at once what has changed.
   void Refresh() { screen_.Refresh(); }
+  /// The same for a step of a movement, at the pace of the screen.
+  void RefreshStep() { screen_.RefreshStep(); }
 
   /// Adds a control in front of those added before. The form does not own it.
   void add(Control& control) { controls_.push_back(&control); }

@@ -1,0 +1,85 @@
+#include "desktop/FontWarmer.h"
+
+#include "desktop/Fonts.h"
+#include "text/Bytes.h"
+#include "text/GlyphMap.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace talvora {
+
+namespace {
+
+constexpr int StepMs = 12; ///< between two steps, for whatever else is to be done
+constexpr int LettersAtOnce = 24;
+
+/// Every letter that a text of the program can show.
+QString everyLetter() {
+  std::string bytes;
+  for (int code = ' '; code < 256; ++code)
+    bytes += chr(code);
+  QString letters = QString::fromStdU16String(toUnicode(bytes, Encoding::X1));
+  // No face has those; they would be sought in every font of the machine.
+  letters.removeIf([](QChar letter) { return !letter.isPrint(); });
+  return letters;
+}
+
+} // namespace
+
+std::vector<CharStyle> stylesOf(const Controls& controls) {
+  std::vector<CharStyle> styles;
+  const auto add = [&](const FontSpec& font, bool italic) {
+    CharStyle style;
+    style.font = font;
+    style.italic = italic;
+    if (std::find(styles.begin(), styles.end(), style) == styles.end()) styles.push_back(style);
+  };
+  for (const Surface* page : {&controls.RHD, &controls.R2, &controls.R1, &controls.RDOS}) {
+    FontSpec font = page->Font();
+    add(font, false);
+    font.bold = !font.bold;
+    add(font, false);
+  }
+  add(controls.RHD.Font(), true);
+  return styles;
+}
+
+void FontWarmer::warm(std::vector<CharStyle> styles, double pixelsPerTwip) {
+  styles_ = std::move(styles);
+  scale_ = pixelsPerTwip;
+  letters_ = everyLetter();
+  style_ = 0;
+  letter_ = 0;
+  pace_.setSingleShot(true);
+  QObject::connect(&pace_, &QTimer::timeout, this, [this] { step(); });
+  pace_.start(StepMs);
+}
+
+void FontWarmer::step() {
+  if (style_ == styles_.size()) return;
+  // What is painted is thrown away; the pictures of the letters stay with the face.
+  QImage somewhere(64, 64, QImage::Format_RGB32);
+  QPainter painter(&somewhere);
+  painter.scale(scale_, scale_);
+  painter.setFont(fontFor(styles_[style_]));
+  painter.drawText(QPointF(0, 0), letters_.mid(letter_, LettersAtOnce));
+  letter_ += LettersAtOnce;
+  if (letter_ >= letters_.size()) {
+    letter_ = 0;
+    ++style_;
+  }
+  pace_.start(StepMs);
+}
+
+void FontWarmer::finish() {
+  while (style_ < styles_.size())
+    step();
+  pace_.stop();
+}
+
+} // namespace talvora

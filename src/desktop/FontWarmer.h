@@ -1,0 +1,38 @@
+// Makes the letters of the pages ready ahead of their first use.
+#pragma once
+
+#include "platform/TextStyle.h"
+#include "surface/Controls.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <vector>
+
+namespace talvora {
+
+/// The styles that pages are mostly written in: first those of the popup, which a click waits for.
+[[nodiscard]] std::vector<CharStyle> stylesOf(const Controls& controls);
+
+/// Loads faces, shapes the Vietnamese letters and has Qt draw their pictures in the scale of the
+/// screen, a few letters at a time, so that no click waits for that.
+class FontWarmer final : public QObject {
+ public:
+  /// Goes from style to style in the order given.
+  void warm(std::vector<CharStyle> styles, double pixelsPerTwip);
+  /// All that is left, at once.
+  void finish();
+
+ private:
+  void step();
+
+  std::vector<CharStyle> styles_;
+  QString letters_;
+  double scale_ = 1;
+  std::size_t style_ = 0;
+  qsizetype letter_ = 0;
+  QTimer pace_;
+};
+
+} // namespace talvora
