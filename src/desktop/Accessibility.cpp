@@ -1,13 +1,25 @@
 #include "desktop/Accessibility.h"
 
+#include "desktop/ButtonMeaning.h"
+#include "desktop/DeedEvent.h"
+#include "desktop/FormView.h"
+#include "desktop/HintBarView.h"
 #include "desktop/MenuButtonView.h"
+#include "desktop/PageNames.h"
+#include "desktop/Palette.h"
 #include "desktop/SurfaceView.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWindow>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <string>
 #include <utility>
 
 namespace talvora {
@@ -16,18 +28,71 @@ namespace {
 
 // Of a longer text changes are not told, since finding them would take too long.
 constexpr int LongestTold = 100000;
+constexpr int LongestAnnounced = 600;
 
-/// The letters between two carets, one UTF-16 unit a caret.
+/// The letters between two carets, one UTF-16 unit a caret; line ends are line ends.
 QString lettersOf(const Surface& surface, int from, int to) {
-  return unitsOf(surface.TextBetween(from, to), surface.Font().name);
+  const std::string bytes = surface.TextBetween(from, to);
+  QString letters = unitsOf(bytes, surface.Font().name);
+  for (std::size_t at = bytes.find('\r'); at < bytes.size(); at = bytes.find('\r', at + 1)) {
+    letters[static_cast<qsizetype>(at)] = QLatin1Char('\n');
+  }
+  return letters;
+}
+
+/// Asks for a deed as a key or a click would: it waits while the program sleeps.
+void ask(QWidget& view, std::function<void()> deed) {
+  QCoreApplication::postEvent(view.parentWidget(), new DeedEvent(std::move(deed))); // NOLINT
+}
+
+/// Sends a click to the middle of a view.
+void click(const QWidget& view) {
+  QWidget* const form = view.parentWidget();
+  const QPoint at = view.geometry().center();
+  for (const QEvent::Type half : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    const Qt::MouseButtons down = half == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QCoreApplication::postEvent(form, new QMouseEvent(half, at, form->mapToGlobal(at), // NOLINT
+                                                      Qt::LeftButton, down, Qt::NoModifier));
+  }
+}
+
+/// Sends a stroke to the window.
+void strike(const QWidget& view, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QWindow* const window = view.window()->windowHandle();
+  if (window == nullptr) return;
+  for (const QEvent::Type half : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QCoreApplication::postEvent(window, new QKeyEvent(half, key, modifiers)); // NOLINT
+  }
+}
+
+/// A text with a letter that English does not have is Vietnamese.
+bool isVietnamese(const QString& text) {
+  constexpr char16_t LastOfLatin = 0x7F;
+  constexpr char16_t FirstOfPunctuation = 0x2000;
+  return std::any_of(text.begin(), text.end(), [](QChar letter) {
+    return letter.unicode() > LastOfLatin && letter.unicode() < FirstOfPunctuation &&
+           letter.isLetter();
+  });
+}
+
+QString attributesOf(const CharStyle& style, const QString& text) {
+  const QColor colour = colourOf(style.color);
+  QString attributes = QStringLiteral("color:rgb(%1,%2,%3);font-weight:%4;language:%5;")
+                           .arg(colour.red())
+                           .arg(colour.green())
+                           .arg(colour.blue())
+                           .arg(style.font.bold ? QLatin1String("bold") : QLatin1String("normal"))
+                           .arg(isVietnamese(text) ? QLatin1String("vi") : QLatin1String("en"));
+  if (style.italic) attributes += QLatin1String("font-style:italic;");
+  if (style.underline) attributes += QLatin1String("text-underline-style:solid;");
+  return attributes;
 }
 
 /// A surface's text as assistive technology reads it; its offsets are carets.
 class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit SurfaceAccessible(SurfaceView& view)
-      : QAccessibleWidget(&view, QAccessible::EditableText,
-                          QString::fromStdString(view.surface().Name())),
+      : QAccessibleWidget(&view, QAccessible::EditableText, pageName(view.surface().Name())),
         view_(view) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
@@ -54,10 +119,14 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
   }
   int selectionCount() const override { return surface().SelLength() > 0 ? 1 : 0; }
   void addSelection(int startOffset, int endOffset) override {
-    surface().SelStart(startOffset);
-    surface().SelLength(endOffset - startOffset);
+    ask(view_, [&surface = surface(), startOffset, endOffset] {
+      surface.SelStart(startOffset);
+      surface.SelLength(endOffset - startOffset);
+    });
   }
-  void removeSelection(int) override { surface().SelLength(0); }
+  void removeSelection(int) override {
+    ask(view_, [&surface = surface()] { surface.SelLength(0); });
+  }
   void setSelection(int, int startOffset, int endOffset) override {
     addSelection(startOffset, endOffset);
   }
@@ -65,7 +134,9 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
   // -- The caret.
 
   int cursorPosition() const override { return surface().SelStart(); }
-  void setCursorPosition(int position) override { surface().SelStart(position); }
+  void setCursorPosition(int position) override {
+    ask(view_, [&surface = surface(), position] { surface.SelStart(position); });
+  }
 
   // -- The text.
 
@@ -74,10 +145,19 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
     return lettersOf(surface(), startOffset, endOffset);
   }
   int characterCount() const override { return surface().TextLength(); }
-  QString attributes(int, int* startOffset, int* endOffset) const override {
-    *startOffset = 0;
-    *endOffset = surface().TextLength();
-    return {};
+  /// Those of the run that holds an offset; a run ends with its paragraph.
+  QString attributes(int offset, int* startOffset, int* endOffset) const override {
+    const int number = surface().paragraphOf(offset);
+    const ParagraphContent content = surface().paragraph(number);
+    const int start = surface().paragraphStart(number);
+    std::size_t run = 0;
+    while (run + 1 < content.runStarts.size() && start + content.runStarts[run + 1] <= offset)
+      ++run;
+    const bool last = run + 1 >= content.runStarts.size();
+    *startOffset = start + content.runStarts[run];
+    *endOffset = last ? std::max(surface().paragraphStart(number + 1), offset)
+                      : start + content.runStarts[run + 1];
+    return attributesOf(content.styles[run], lettersOf(surface(), *startOffset, *endOffset));
   }
 
   // -- Places.
@@ -93,7 +173,15 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
     const QPointF twips = QPointF(view_.mapFromGlobal(point)) / view_.twipsToPixels();
     return surface().caretAt({static_cast<int>(twips.x()), static_cast<int>(twips.y())});
   }
-  void scrollToSubstring(int startIndex, int) override { surface().SelStart(startIndex); }
+  void scrollToSubstring(int startIndex, int) override { setCursorPosition(startIndex); }
+
+  // -- What a mouse would do at the caret.
+
+  QStringList actionNames() const override { return {pressAction(), showMenuAction()}; }
+  void doAction(const QString& name) override {
+    const bool right = name == showMenuAction();
+    strike(view_, Qt::Key_F10, right ? Qt::ShiftModifier : Qt::NoModifier);
+  }
 
  private:
   [[nodiscard]] Surface& surface() const { return view_.surface(); }
@@ -106,6 +194,16 @@ class ButtonAccessible final : public QAccessibleWidget {
   explicit ButtonAccessible(MenuButtonView& view)
       : QAccessibleWidget(&view, QAccessible::Button, view.caption()), view_(view) {}
 
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Description) return meaningOf(view_.button());
+    return QAccessibleWidget::text(kind);
+  }
+
+  QStringList actionNames() const override { return {pressAction()}; }
+  void doAction(const QString& name) override {
+    if (name == pressAction()) click(view_);
+  }
+
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
     state.focusable = true;
@@ -117,8 +215,62 @@ class ButtonAccessible final : public QAccessibleWidget {
   MenuButtonView& view_;
 };
 
+/// The hint bar says its text.
+class HintAccessible final : public QAccessibleWidget {
+ public:
+  explicit HintAccessible(HintBarView& view)
+      : QAccessibleWidget(&view, QAccessible::StaticText), view_(view) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? view_.text() : QAccessibleWidget::text(kind);
+  }
+
+ private:
+  HintBarView& view_;
+};
+
+/// The form offers what says something: no plate, no picture, no curtain.
+class FormAccessible final : public QAccessibleWidget {
+ public:
+  explicit FormAccessible(FormView& form)
+      : QAccessibleWidget(&form, QAccessible::Pane, QStringLiteral("Talvora")), form_(form) {}
+
+  int childCount() const override { return static_cast<int>(offered().size()); }
+  QAccessibleInterface* child(int index) const override {
+    const QList<QWidget*> children = offered();
+    return index >= 0 && index < children.size()
+               ? QAccessible::queryAccessibleInterface(children[index])
+               : nullptr;
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    return static_cast<int>(offered().indexOf(qobject_cast<QWidget*>(child->object())));
+  }
+
+ private:
+  [[nodiscard]] QList<QWidget*> offered() const {
+    QList<QWidget*> widgets;
+    for (QObject* const each : form_.children()) {
+      auto* const widget = qobject_cast<QWidget*>(each);
+      if (widget == nullptr || widget->isHidden()) continue;
+      const auto* const surface = dynamic_cast<SurfaceView*>(widget);
+      const bool speaks = surface != nullptr ? !pageName(surface->surface().Name()).isEmpty()
+                                             : dynamic_cast<MenuButtonView*>(widget) != nullptr ||
+                                                   dynamic_cast<HintBarView*>(widget) != nullptr;
+      if (speaks) widgets.append(widget);
+    }
+    return widgets;
+  }
+
+  FormView& form_;
+};
+
 QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
   // Qt's cache takes the interface over.
+  if (auto* form = dynamic_cast<FormView*>(object)) return new FormAccessible(*form);
+  if (auto* hint = dynamic_cast<HintBarView*>(object)) return new HintAccessible(*hint);
+  if (auto* announcer = dynamic_cast<Announcer*>(object)) {
+    return new QAccessibleWidget(announcer, QAccessible::AlertMessage);
+  }
   if (auto* surface = dynamic_cast<SurfaceView*>(object)) return new SurfaceAccessible(*surface);
   if (auto* button = dynamic_cast<MenuButtonView*>(object)) return new ButtonAccessible(*button);
   return nullptr;
@@ -143,13 +295,31 @@ void TextTeller::tell() {
     revision_ = surface.revision();
     tellText();
   }
-  if (caret_ != surface.SelStart() || selected_ != surface.SelLength()) {
-    caret_ = surface.SelStart();
-    selected_ = surface.SelLength();
+  const bool caretMoved = std::exchange(caret_, surface.SelStart()) != surface.SelStart();
+  const int selectedBefore = std::exchange(selected_, surface.SelLength());
+  if (selected_ != selectedBefore || (caretMoved && selected_ > 0)) {
     QAccessibleTextSelectionEvent event(&view_, caret_, caret_ + selected_);
     event.setCursorPosition(caret_);
     QAccessible::updateAccessibility(&event);
   }
+  if (caretMoved) {
+    QAccessibleTextCursorEvent event(&view_, caret_);
+    QAccessible::updateAccessibility(&event);
+  }
+}
+
+void Announcer::tell(const QString& text) {
+  if (!QAccessible::isActive() || text.trimmed().isEmpty()) return;
+  setAccessibleName(text.trimmed().left(LongestAnnounced));
+  // A note that comes up anew is read out.
+  for (const QAccessible::Event kind : {QAccessible::ObjectHide, QAccessible::ObjectShow}) {
+    QAccessibleEvent event(this, kind);
+    QAccessible::updateAccessibility(&event);
+  }
+}
+
+QString announcementOf(const Surface& surface) {
+  return lettersOf(surface, 0, std::min(surface.TextLength(), LongestAnnounced));
 }
 
 void TextTeller::tellText() {

@@ -1,97 +1,167 @@
 #include "desktop/CaptionStrip.h"
 
 #include "desktop/Fonts.h"
+#include "desktop/Palette.h"
+#include "desktop/StripButton.h"
 
-#include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
+
+#include <utility>
 
 namespace talvora {
 
 namespace {
 
-const QColor StripColour(0x1F, 0x3A, 0x4D);
-const QColor StripText(0xF4, 0xF1, 0xE8);
-const QColor HotClose(0xB3, 0x3A, 0x2E);
 // The program pads its title with blanks to bring it to the middle of the strip.
 constexpr int FewestPadding = 20;
-constexpr double PaddingShare = 0.44;
+constexpr int NewsMs = 2000;
+constexpr double TextPart = 0.72; ///< of the strip's height
+const QString TypingMark = QStringLiteral("\u258F");
 
-/// A caption in the two pieces that its padding parts; without padding all is in the first.
+/// A caption in the two pieces that its padding parts; without padding all is the title.
 struct CaptionPieces {
-  QString head;
-  QString tail;
+  QString typed;
+  QString title;
 };
 
 CaptionPieces piecesOf(const QString& caption) {
   const auto padding = caption.indexOf(QString(FewestPadding, QLatin1Char(' ')));
-  if (padding < 0) return {caption, {}};
-  return {caption.left(padding), caption.mid(padding).trimmed()};
+  if (padding < 0) return {{}, caption.simplified()};
+  return {caption.left(padding), caption.mid(padding).simplified()};
 }
 
 } // namespace
 
-CaptionStrip::CaptionStrip(QWidget* parent) : QWidget(parent) {
-  setMouseTracking(true);
+CaptionStrip::CaptionStrip(QWidget* parent)
+    : QWidget(parent), typed_(makeText(palette::StripAmber)),
+      notice_(makeText(palette::StripAmber)), title_(makeText(palette::StripText)),
+      back_(makeButton(StripSign::None, {}, goBack)),
+      hint_(makeButton(StripSign::None, QStringLiteral("Gợi ý về chuột và phím, F2"), showHint)),
+      minimise_(makeButton(StripSign::Minimise, QStringLiteral("Thu nhỏ cửa sổ"), minimiseWindow)),
+      close_(makeButton(StripSign::Close, QStringLiteral("Đóng chương trình"), closeWindow)) {
   setFocusPolicy(Qt::NoFocus);
   setAccessibleName(QStringLiteral("Talvora"));
+  hint_->setText(QStringLiteral("Gợi ý (F2)"));
+  title_->setAlignment(Qt::AlignCenter);
+  for (QTimer* timer : {&emphasis_, &noticeEnd_}) {
+    timer->setSingleShot(true);
+    timer->setInterval(NewsMs);
+  }
+  QObject::connect(&emphasis_, &QTimer::timeout, this, [this] { emphasise(false); });
+  QObject::connect(&noticeEnd_, &QTimer::timeout, this, [this] {
+    notice_->clear();
+    arrange();
+  });
+  setPlace(StripPlace::Menu);
+}
+
+StripButton* CaptionStrip::makeButton(StripSign sign, const QString& name,
+                                      std::function<void()>& deed) {
+  auto* const button = new StripButton(sign, name, this); // NOLINT: Qt owns it
+  QObject::connect(button, &QAbstractButton::clicked, this, [&deed] { deed(); });
+  return button;
+}
+
+QLabel* CaptionStrip::makeText(QRgb colour) {
+  auto* const label = new QLabel(this); // NOLINT: Qt owns it
+  label->setTextFormat(Qt::PlainText);
+  QPalette colours;
+  colours.setColor(QPalette::WindowText, QColor(colour));
+  label->setPalette(colours);
+  return label;
+}
+
+void CaptionStrip::setPlace(StripPlace place) {
+  const bool menu = place == StripPlace::Menu;
+  back_->setText(menu ? QStringLiteral("Thoát (Esc)") : QStringLiteral("‹ Quay lại (Esc)"));
+  back_->setAccessibleName(menu ? QStringLiteral("Thoát chương trình, Esc")
+                                : QStringLiteral("Quay lại, Esc"));
+  hint_->setVisible(!menu);
+  arrange();
 }
 
 void CaptionStrip::setCaption(const QString& caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  update();
+  const CaptionPieces pieces = piecesOf(caption);
+  typed_->setText(pieces.typed.isEmpty() ? QString() : pieces.typed + TypingMark);
+  typed_->setAccessibleName(pieces.typed);
+  setTitle(pieces.title);
+  arrange();
 }
 
-QRect CaptionStrip::closeBox() const {
-  const int side = height();
-  return {width() - side * 3 / 2, 0, side * 3 / 2, side};
-}
-
-void CaptionStrip::setHot(bool hot) {
-  if (hot_ == hot) return;
-  hot_ = hot;
-  update(closeBox());
-}
-
-void CaptionStrip::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillRect(rect(), StripColour);
-  QFont font = fontFor(FontSpec{"x1", 10, false});
-  font.setPixelSize(qMax(height() * 6 / 10, 1));
-  painter.setFont(font);
-  painter.setPen(StripText);
-  const CaptionPieces pieces = piecesOf(caption_);
-  const int margin = height() / 2;
-  const int tailAt = qRound(margin + painter.fontMetrics().horizontalAdvance(pieces.head) +
-                            PaddingShare * width());
-  const auto draw = [&](int left, const QString& text) {
-    painter.drawText(rect().adjusted(left, 0, -closeBox().width(), 0),
-                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
-  };
-  draw(margin, pieces.head);
-  draw(tailAt, pieces.tail);
-
-  if (hot_) painter.fillRect(closeBox(), HotClose);
-  const QPointF middle = QRectF(closeBox()).center();
-  const double arm = height() * 0.2;
-  painter.setPen(QPen(StripText, qMax(height() / 16.0, 1.2), Qt::SolidLine, Qt::RoundCap));
-  painter.drawLine(middle + QPointF(-arm, -arm), middle + QPointF(arm, arm));
-  painter.drawLine(middle + QPointF(-arm, arm), middle + QPointF(arm, -arm));
-}
-
-void CaptionStrip::mouseMoveEvent(QMouseEvent* event) {
-  setHot(closeBox().contains(event->position().toPoint()));
-}
-
-void CaptionStrip::leaveEvent(QEvent*) {
-  setHot(false);
-}
-
-void CaptionStrip::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && closeBox().contains(event->position().toPoint())) {
-    closeClicked();
+void CaptionStrip::setTitle(const QString& title) {
+  const QString before = title_->text();
+  if (title == before) return;
+  title_->setText(title);
+  if (firstTitle_.isEmpty()) {
+    firstTitle_ = title;
+    return;
   }
+  const bool news = title != firstTitle_;
+  // A score that the next item's number replaces at once is still to be read.
+  if (news && emphasis_.isActive() && before != firstTitle_) notice(before);
+  emphasise(news);
+  if (!news) return;
+  emphasis_.start();
+  told(title);
+}
+
+void CaptionStrip::notice(const QString& text) {
+  notice_->setText(text);
+  noticeEnd_.start();
+  arrange();
+  told(text);
+}
+
+void CaptionStrip::emphasise(bool emphasised) {
+  QPalette colours = title_->palette();
+  colours.setColor(QPalette::WindowText,
+                   QColor(emphasised ? palette::StripAmber : palette::StripText));
+  title_->setPalette(colours);
+  if (!emphasised) emphasis_.stop();
+}
+
+QFont CaptionStrip::textFont(bool bold) const {
+  QFont font = fontFor(FontSpec{"x1", 10, bold});
+  font.setPixelSize(qMax(qRound(height() * TextPart), 1));
+  return font;
+}
+
+void CaptionStrip::resizeEvent(QResizeEvent*) {
+  arrange();
+}
+
+void CaptionStrip::arrange() {
+  if (height() <= 0) return;
+  int right = width();
+  for (StripButton* button : {close_, minimise_, hint_, back_}) {
+    button->setFont(textFont(false));
+    if (button->isHidden()) continue;
+    const int wide = button->widthIn(height());
+    right -= wide;
+    button->setGeometry(right, 0, wide, height());
+  }
+  // A typed word goes before a notice.
+  const bool typing = !typed_->text().isEmpty();
+  typed_->setVisible(typing);
+  notice_->setVisible(!typing && !notice_->text().isEmpty());
+  const int margin = height() / 2;
+  int left = margin;
+  for (QLabel* label : {typed_, notice_}) {
+    label->setFont(textFont(true));
+    if (label->isHidden()) continue;
+    const int wide = label->fontMetrics().horizontalAdvance(label->text()) + margin;
+    label->setGeometry(left, 0, qMin(wide, right - left), height());
+    left += wide;
+  }
+  title_->setFont(textFont(true));
+  const int wide = title_->fontMetrics().horizontalAdvance(title_->text()) + margin;
+  const int middle = (width() - wide) / 2;
+  title_->setGeometry(qMax(left, qMin(middle, right - wide)), 0, wide, height());
+}
+
+void CaptionStrip::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), QColor(palette::Strip));
 }
 
 } // namespace talvora

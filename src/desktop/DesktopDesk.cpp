@@ -1,11 +1,10 @@
 #include "desktop/DesktopDesk.h"
 
+#include "desktop/MessageCard.h"
 #include "text/GlyphMap.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QProcess>
 #include <QThread>
 
@@ -17,9 +16,13 @@ namespace talvora {
 
 namespace {
 
+// What the buttons of a box answer; Esc refuses.
+constexpr int Refused = 0;
+constexpr int Agreed = 1;
 constexpr int VirtualHeight = 768;
 constexpr int NarrowestScreen = 1024;
 constexpr int WidestScreen = 1366;
+constexpr int LongestShown = 20; // letters of a word that is too long
 // Sixty pictures a second, as most screens show.
 constexpr qint64 StepNs = 16'666'667;
 constexpr qint64 LongestMovementPauseNs = 200'000'000;
@@ -69,30 +72,43 @@ void DesktopInstallation::run(const std::string& program) {
 
 BoxAnswer DesktopBoxes::ask(std::string_view text, std::string_view title, BoxAnswer byDefault) {
   opening();
-  QMessageBox box(QMessageBox::Question, shown(title, Encoding::Windows1252),
-                  shown(text, Encoding::X1), QMessageBox::Yes | QMessageBox::No, owner);
-  box.setDefaultButton(byDefault == BoxAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
-  box.setEscapeButton(QMessageBox::No);
-  return box.exec() == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+  MessageCard box(shown(title, Encoding::Windows1252), shown(text, Encoding::X1), {}, owner);
+  const auto isDefault = [&](BoxAnswer answer) {
+    return answer == byDefault ? MessageCard::IsDefault::Yes : MessageCard::IsDefault::No;
+  };
+  box.addButton(QStringLiteral("Có"), Agreed, isDefault(BoxAnswer::Yes));
+  box.addButton(QStringLiteral("Không"), Refused, isDefault(BoxAnswer::No));
+  return box.exec() == Agreed ? BoxAnswer::Yes : BoxAnswer::No;
 }
 
 void DesktopBoxes::tell(std::string_view text) {
   opening();
-  QMessageBox box(QMessageBox::Information, QString(), shown(text, Encoding::X1), QMessageBox::Ok,
-                  owner);
+  MessageCard box(QStringLiteral("Talvora"), shown(text, Encoding::X1), {}, owner);
+  box.addButton(QStringLiteral("OK"), Agreed, MessageCard::IsDefault::Yes);
   box.exec();
 }
 
-void DesktopNarrator::messageShown(const std::string& text, int) {
-  if (!QAccessible::isActive() || window == nullptr) return;
-  window->setAccessibleDescription(shown(text, Encoding::X1));
-  QAccessibleEvent event(window, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+void DesktopNarrator::wordTaken(const std::string& word, WordTaken outcome, int count) {
+  const QString letters = shown(word, Encoding::X1);
+  switch (outcome) {
+  case WordTaken::Stored:
+    sign(QStringLiteral("Đã lưu: %1 (%2)").arg(letters).arg(count));
+    break;
+  case WordTaken::WasThere:
+    sign(QStringLiteral("Đã có: %1 (%2)").arg(letters).arg(count));
+    break;
+  case WordTaken::TooLong:
+    sign(QStringLiteral("Dài quá, không lưu được: %1…").arg(letters.left(LongestShown)));
+    break;
+  }
 }
 
 void showFailure(const std::string& message, QWidget* owner) {
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Talvora"), QString::fromStdString(message),
-                  QMessageBox::Ok, owner);
+  MessageCard box(QStringLiteral("Talvora"),
+                  QStringLiteral("Chương trình gặp lỗi nên phải dừng lại. Từ vựng bạn đã lưu vẫn "
+                                 "còn. Nếu lỗi lặp lại, hãy cài lại bộ dữ liệu."),
+                  QString::fromStdString(message), owner);
+  box.addButton(QStringLiteral("Đóng"), Agreed, MessageCard::IsDefault::Yes);
   box.exec();
 }
 

@@ -69,13 +69,14 @@ class DesktopBoxes final : public Boxes {
 
 class DesktopNarrator final : public Narrator {
  public:
-  void messageShown(const std::string& text, int ms) override;
+  void messageShown(const std::string&, int) override {}
   void messageTakenDown() override {}
   void frameShown(int, int) override {}
   void curtainOpened(const std::string&) override {}
+  void wordTaken(const std::string& word, WordTaken outcome, int count) override;
 
-  /// The window that a screen reader is told about; set by the window.
-  QWidget* window = nullptr;
+  /// Shows a short text for a moment where it is in nobody's way; set by the window.
+  std::function<void(const QString&)> sign = [](const QString&) {};
 };
 
 /// A message box with a text of the program's own bytes, on top of `owner`.

@@ -41,6 +41,8 @@ class DesktopEventLoop final : public EventLoop {
   std::function<bool()> programRuns = [] { return true; };
 
  private:
+  /// Waits without a picture, for as long as nothing is touched.
+  void rest();
   [[nodiscard]] Flow flow() const { return programRuns() ? Flow::Continue : Flow::Interrupt; }
 
   InputGate& gate_;

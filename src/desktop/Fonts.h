@@ -16,6 +16,10 @@ void loadFonts();
 [[nodiscard]] QFont fontFor(const FontSpec& font);
 [[nodiscard]] QFont fontFor(const CharStyle& style);
 
+/// Height of a line in a face: what the face asks for, and at least what Vietnamese capitals with
+/// their marks need.
+[[nodiscard]] double lineHeightOf(const QFont& font);
+
 /// Lets Qt keep the pictures of letters at every size that the program paints on a large screen,
 /// instead of drawing their outlines each time. To be called ahead of the application.
 void keepLargeLetters();

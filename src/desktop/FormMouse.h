@@ -42,9 +42,13 @@ class FormMouse {
 
   /// The control under the pointer, or null.
   [[nodiscard]] Control* hovered() const { return form_.controlAt(pointer_); }
+  /// Where the pointer is, in twips of the form.
+  [[nodiscard]] SurfacePoint pointer() const noexcept { return pointer_; }
+  /// A control was pressed and has not got its release yet.
+  [[nodiscard]] bool holdsPress() const noexcept { return pressed_ != nullptr; }
+  [[nodiscard]] SurfacePoint pointOf(QPointF pixels) const;
 
  private:
-  [[nodiscard]] SurfacePoint pointOf(QPointF pixels) const;
   void take(SurfacePoint point);
   /// What a press does to the program.
   void deliverPress(const std::function<void()>& deed);

@@ -1,13 +1,18 @@
 #include "desktop/FormView.h"
 
 #include "desktop/Accessibility.h"
+#include "desktop/ButtonMeaning.h"
+#include "desktop/DeedEvent.h"
+#include "desktop/HintBarView.h"
+#include "desktop/Links.h"
 #include "desktop/MenuButtonView.h"
 #include "desktop/Palette.h"
 #include "desktop/PlainViews.h"
 #include "desktop/SurfaceView.h"
 
 #include <QCoreApplication>
-#include <QEvent>
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include <algorithm>
 #include <memory>
@@ -26,7 +31,9 @@ ControlView* makeChild(Arguments&&... arguments) {
 } // namespace
 
 FormView::FormView(Form& form, EventBridge& bridge, QtLineLayout& layout, QWidget* parent)
-    : QWidget(parent), form_(form), layout_(layout), mouse_(form, bridge) {
+    : QWidget(parent), form_(form), bridge_(bridge), layout_(layout), mouse_(form, bridge),
+      scrollMouse_(bridge) {
+  scrollMouse_.viewAt = [this](QPointF point) { return barAt(point); };
   setFocusPolicy(Qt::NoFocus);
   setMouseTracking(true);
   setAutoFillBackground(true);
@@ -101,7 +108,22 @@ void FormView::settle() {
   if (std::exchange(focusMoved_, false) && focus_ != nullptr) {
     if (ControlView* const view = viewOf(*focus_)) tellFocus(*view);
   }
+  tellWhatCameUp();
   updateCursor();
+}
+
+void FormView::tellWhatCameUp() {
+  for (const char* name : {"RHD", "RHDBT", "RDOS"}) {
+    const auto* const surface = dynamic_cast<const Surface*>(form_.find(name));
+    if (surface == nullptr) continue;
+    if (!surface->Visible()) {
+      cameUp_.erase(surface);
+      continue;
+    }
+    const auto [told, isNew] = cameUp_.try_emplace(surface, surface->revision());
+    if (!isNew && std::exchange(told->second, surface->revision()) == surface->revision()) continue;
+    onCameUp(*surface);
+  }
 }
 
 void FormView::showForm() {
@@ -115,6 +137,9 @@ void FormView::settlePlace(Control& control) {
   view->place(scale_);
   if (view->isVisibleTo(this) == control.Visible()) return;
   view->setVisible(control.Visible());
+  if (auto* const surfaceView = dynamic_cast<SurfaceView*>(view)) {
+    if (!control.Visible()) scrollMouse_.forget(*surfaceView);
+  }
   if (!control.Visible()) return;
   // Qt itself would mark a widget that appears only when events run.
   view->update();
@@ -128,7 +153,9 @@ ControlView* FormView::viewOf(const Control& control) const {
 
 ControlView& FormView::makeView(Control& control) {
   ControlView* view = nullptr;
-  if (auto* surface = dynamic_cast<Surface*>(&control)) {
+  if (control.Name() == "RDOS") {
+    view = makeChild<HintBarView>(dynamic_cast<Surface&>(control), layout_, this);
+  } else if (auto* surface = dynamic_cast<Surface*>(&control)) {
     view = makeChild<SurfaceView>(*surface, layout_, form_, this);
   } else if (auto* button = dynamic_cast<Button*>(&control)) {
     view = makeChild<MenuButtonView>(*button, buttonArt_, form_, this);
@@ -144,6 +171,8 @@ ControlView& FormView::makeView(Control& control) {
     // Nothing is to be seen of any other control.
     view = makeChild<ControlView>(control, this);
   }
+  // Stacking makes Qt paint it: it must stand at its place by then.
+  view->place(scale_);
   if (ControlView* const front = nextInFront(control)) view->stackUnder(front);
   views_.emplace(&control, view);
   return *view;
@@ -160,31 +189,72 @@ ControlView* FormView::nextInFront(const Control& control) const {
 
 // -- The mouse.
 
+Qt::CursorShape FormView::cursorShape() const {
+  Control* const under = mouse_.hovered();
+  if (dynamic_cast<const Button*>(under) != nullptr) return Qt::PointingHandCursor;
+  const auto* const surface = dynamic_cast<const Surface*>(under);
+  if (surface == nullptr) return Qt::ArrowCursor;
+  const SurfacePoint at = mouse_.pointer();
+  if (isLink(*surface, {at.x - surface->Left(), at.y - surface->Top()})) {
+    return Qt::PointingHandCursor;
+  }
+  return surface->Locked() ? Qt::ArrowCursor : Qt::IBeamCursor;
+}
+
 void FormView::updateCursor() {
-  const Control* const under = mouse_.hovered();
-  const auto* surface = dynamic_cast<const Surface*>(under);
-  const Qt::CursorShape shape = dynamic_cast<const Button*>(under) != nullptr
-                                    ? Qt::PointingHandCursor
-                                : surface != nullptr && !surface->Locked() ? Qt::IBeamCursor
-                                                                           : Qt::ArrowCursor;
+  const Qt::CursorShape shape = cursorShape();
   if (cursor().shape() != shape) setCursor(shape);
 }
 
+SurfaceView* FormView::barAt(QPointF point) const {
+  Control* const under = form_.controlAt(mouse_.pointOf(point));
+  if (under == nullptr) return nullptr;
+  auto* const view = dynamic_cast<SurfaceView*>(viewOf(*under));
+  return view != nullptr && view->barHolds(point - view->pos()) ? view : nullptr;
+}
+
 void FormView::mousePressEvent(QMouseEvent* event) {
-  mouse_.press(*event);
+  if (!scrollMouse_.press(*event)) mouse_.press(*event);
 }
 
 void FormView::mouseReleaseEvent(QMouseEvent* event) {
-  mouse_.release(*event);
+  if (mouse_.holdsPress() || !scrollMouse_.release(*event)) mouse_.release(*event);
 }
 
 void FormView::mouseDoubleClickEvent(QMouseEvent* event) {
-  mouse_.doubleClick(*event);
+  if (!scrollMouse_.press(*event)) mouse_.doubleClick(*event);
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {
+  // A press on a text goes on with that text, wherever the pointer comes.
+  if (!mouse_.holdsPress() && scrollMouse_.move(*event)) {
+    setCursor(Qt::ArrowCursor);
+    return;
+  }
   mouse_.move(*event);
   updateCursor();
+}
+
+void FormView::leaveEvent(QEvent*) {
+  scrollMouse_.leave();
+}
+
+bool FormView::event(QEvent* event) {
+  if (event->type() == DeedEvent::type()) {
+    bridge_.deliver([event] { static_cast<DeedEvent*>(event)->perform(); });
+    return true;
+  }
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const auto* const button =
+      dynamic_cast<const Button*>(form_.controlAt(mouse_.pointOf(help.pos())));
+  const QString text = button == nullptr ? QString() : meaningOf(*button);
+  if (text.isEmpty()) {
+    QToolTip::hideText();
+  } else {
+    QToolTip::showText(help.globalPos(), text, this);
+  }
+  return true;
 }
 
 void FormView::wheelEvent(QWheelEvent* event) {

@@ -6,11 +6,13 @@
 #include "desktop/ControlView.h"
 #include "desktop/EventBridge.h"
 #include "desktop/FormMouse.h"
+#include "desktop/ScrollMouse.h"
 #include "desktop/TextShaper.h"
 #include "surface/Form.h"
 
 #include <QWidget>
 
+#include <cstdint>
 #include <functional>
 #include <unordered_map>
 #include <unordered_set>
@@ -38,6 +40,10 @@ class FormView final : public QWidget, public FormObserver {
   /// Ends a press whose release goes elsewhere.
   void endPress() { mouse_.endPress(); }
 
+  /// Called with a surface that came up over a page, or changed there, without getting the
+  /// keyboard.
+  std::function<void(const Surface&)> onCameUp = [](const Surface&) {};
+
   /// Places every child anew.
   void setScale(double pixelsPerTwip);
   /// Paints at once what has changed.
@@ -53,6 +59,8 @@ class FormView final : public QWidget, public FormObserver {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   /// Has `settle` called before the next painting.
@@ -60,16 +68,22 @@ class FormView final : public QWidget, public FormObserver {
   /// Brings the widgets in line with their controls and marks what is to be painted.
   void settle();
   void settlePlace(Control& control);
+  void tellWhatCameUp();
   void showForm();
   [[nodiscard]] ControlView* viewOf(const Control& control) const;
   ControlView& makeView(Control& control);
   /// The widget that already stands right in front of a control's place; null when none does.
   [[nodiscard]] ControlView* nextInFront(const Control& control) const;
   void updateCursor();
+  [[nodiscard]] Qt::CursorShape cursorShape() const;
+  /// The view of the surface whose scroll bar lies under a point; null when none does.
+  [[nodiscard]] SurfaceView* barAt(QPointF point) const;
 
   Form& form_;
+  EventBridge& bridge_;
   QtLineLayout& layout_;
   FormMouse mouse_;
+  ScrollMouse scrollMouse_;
   ButtonArt buttonArt_;
   double scale_ = 0;
   bool formShown_ = false;
@@ -79,6 +93,7 @@ class FormView final : public QWidget, public FormObserver {
   std::unordered_map<const Control*, ControlView*> views_; ///< owned by this widget
   std::unordered_set<Control*> moved_;
   std::unordered_set<const Control*> changed_;
+  std::unordered_map<const Surface*, std::uint64_t> cameUp_; ///< told, with their revisions
 };
 
 } // namespace talvora

@@ -1,5 +1,6 @@
 #include "desktop/InputGate.h"
 
+#include "desktop/DeedEvent.h"
 #include "desktop/KeyCodes.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,7 @@ namespace talvora {
 namespace {
 
 bool isInput(QEvent::Type type) {
+  if (type == DeedEvent::type()) return true;
   switch (type) {
   case QEvent::KeyPress:
   case QEvent::KeyRelease:
@@ -64,6 +66,7 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
     return false;
   }
   if (!isInput(event->type())) return false;
+  sinceInput_.restart();
   // A window passes its events on to its widgets; the key table takes each stroke once, as the
   // window gets it.
   if (qobject_cast<QWindow*>(watched) != nullptr) {
@@ -71,7 +74,7 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
     return false;
   }
   if (qobject_cast<QWidget*>(watched) == nullptr) return false;
-  if (!mustWait(*event)) {
+  if (!mustWait(*watched, *event)) {
     if (event->type() == QEvent::MouseMove) moveLetThrough_ = true;
     return false;
   }
@@ -91,7 +94,8 @@ void InputGate::watchKeys(const QEvent& event) {
   }
 }
 
-bool InputGate::mustWait(const QEvent& event) const {
+bool InputGate::mustWait(const QObject& watched, const QEvent& event) const {
+  if (awake_ != nullptr && (&watched == awake_ || watched.parent() == awake_)) return false;
   if (shut_ > 0) return true;
   if (event.type() != QEvent::MouseMove) return false;
   return (pumps_ > 0 && moveLetThrough_) || (holdMoves_ && keys_.arrowDown());

@@ -4,6 +4,7 @@
 
 #include "desktop/KeyTable.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
@@ -16,7 +17,7 @@ namespace talvora {
 
 class InputGate final : public QObject {
  public:
-  explicit InputGate(KeyTable& keys) : keys_(keys) {}
+  explicit InputGate(KeyTable& keys) : keys_(keys) { sinceInput_.start(); }
 
   /// While shut, input is held back; the key table goes on.
   void shut() { ++shut_; }
@@ -34,6 +35,13 @@ class InputGate final : public QObject {
   /// focus came to is animated when the arrow is let go.
   void holdMovesWhileArrowDown(bool hold) noexcept { holdMoves_ = hold; }
 
+  /// Input to the widgets inside that one is never held back: what they do is a key stroke or
+  /// concerns the window alone.
+  void neverHold(const QObject& parent) noexcept { awake_ = &parent; }
+
+  /// Milliseconds since the learner last touched anything.
+  [[nodiscard]] qint64 quietMs() const { return sinceInput_.elapsed(); }
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -43,11 +51,13 @@ class InputGate final : public QObject {
   };
 
   void watchKeys(const QEvent& event);
-  [[nodiscard]] bool mustWait(const QEvent& event) const;
+  [[nodiscard]] bool mustWait(const QObject& watched, const QEvent& event) const;
   void hold(QObject* watched, const QEvent& event);
   void letHeldThrough();
 
   KeyTable& keys_;
+  const QObject* awake_ = nullptr; ///< whose children get their input at once
+  QElapsedTimer sinceInput_;
   int shut_ = 0;
   bool holdMoves_ = false;
   int pumps_ = 0;

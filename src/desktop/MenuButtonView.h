@@ -13,6 +13,7 @@ class MenuButtonView final : public ControlView {
   MenuButtonView(const Button& button, ButtonArt& art, const Form& form, QWidget* parent)
       : ControlView(button, parent), button_(button), art_(art), form_(form) {}
 
+  [[nodiscard]] const Button& button() const noexcept { return button_; }
   /// The caption in letters.
   [[nodiscard]] QString caption() const;
   [[nodiscard]] bool buttonHasFocus() const noexcept { return form_.hasFocus(button_); }

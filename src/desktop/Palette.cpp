@@ -1,5 +1,8 @@
 #include "desktop/Palette.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace talvora {
 
 namespace {
@@ -42,7 +45,42 @@ QRgb systemColour(Colour number) {
   }
 }
 
+/// The light of one part of a colour, from 0 to 1.
+double lightOf(double part) {
+  return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double luminanceOf(const QColor& colour) {
+  return 0.2126 * lightOf(colour.redF()) + 0.7152 * lightOf(colour.greenF()) +
+         0.0722 * lightOf(colour.blueF());
+}
+
+QColor mixed(const QColor& one, const QColor& other, double part) {
+  const auto mix = [part](int from, int to) { return qRound(from + (to - from) * part); };
+  return {mix(one.red(), other.red()), mix(one.green(), other.green()),
+          mix(one.blue(), other.blue())};
+}
+
 } // namespace
+
+double contrastOf(const QColor& one, const QColor& other) {
+  const double first = luminanceOf(one) + 0.05;
+  const double second = luminanceOf(other) + 0.05;
+  return std::max(first, second) / std::min(first, second);
+}
+
+QColor readableOn(const QColor& text, const QColor& back) {
+  constexpr double Least = 4.5;
+  constexpr int Steps = 20;
+  if (contrastOf(text, back) >= Least) return text;
+  const bool onDark = contrastOf(Qt::white, back) > contrastOf(Qt::black, back);
+  const QColor end = onDark ? Qt::white : Qt::black;
+  for (int step = 1; step < Steps; ++step) {
+    const QColor tone = mixed(text, end, static_cast<double>(step) / Steps);
+    if (contrastOf(tone, back) >= Least) return tone;
+  }
+  return end;
+}
 
 QColor colourOf(Colour colour) {
   if ((colour & SystemColour) != 0) return QColor(systemColour(colour & ~SystemColour));

@@ -3,6 +3,7 @@
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/Palette.h"
+#include "desktop/Shadow.h"
 #include "desktop/TextShaper.h"
 
 #include <QFontMetricsF>
@@ -18,8 +19,6 @@ namespace {
 
 constexpr int ShadowReach = 150; // twips
 constexpr int CardRadius = 120;  // twips
-constexpr int ShadowSteps = 7;
-constexpr int ShadowOpacity = 9; // of one step, from 0 to 255
 
 } // namespace
 
@@ -41,16 +40,7 @@ void FrameView::paintEvent(QPaintEvent* event) {
     return;
   }
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  QColor shadow(palette::Shadow);
-  shadow.setAlpha(ShadowOpacity);
-  painter.setBrush(shadow);
-  for (int step = ShadowSteps; step > 0; --step) {
-    const double spread = overhang() * 0.7 * step / ShadowSteps;
-    const double drop = overhang() * 0.25;
-    const QRectF box = card.adjusted(-spread, -spread + drop, spread, spread + drop);
-    painter.drawRoundedRect(box, radius + spread, radius + spread);
-  }
+  paintShadow(painter, card, radius, overhang());
   painter.setBrush(back);
   painter.drawRoundedRect(card, radius, radius);
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/Palette.h"
 
+#include <QLinearGradient>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -12,28 +13,27 @@ namespace talvora {
 
 namespace {
 
-constexpr int PlateRadius = 90;      // twips
-constexpr int CaretWidth = 20;       // twips
-constexpr int ScrollMarkWidth = 60;  // twips
-constexpr int ScrollMarkGap = 30;    // twips to the right edge
-constexpr int LeastScrollMark = 360; // twips
-constexpr int SelectionRadius = 40;  // twips
-constexpr int SelectionBorder = 12;  // twips
-// A text of so few paragraphs is measured exactly; of a longer one the paragraphs are counted.
-constexpr int MostMeasured = 60;
-constexpr int Beyond = 2; // pixels
+constexpr int PlateRadius = 90;     // twips
+constexpr int CaretWidth = 20;      // twips
+constexpr int ThumbWidth = 100;     // twips
+constexpr int HotThumbWidth = 165;  // twips
+constexpr int ThumbGap = 30;        // twips to the right edge
+constexpr int CurrentLineEdge = 75; // twips
+constexpr int SelectionRadius = 40; // twips
+constexpr int SelectionBorder = 12; // twips
+constexpr int Beyond = 2;           // pixels
 constexpr int DarkBelow = 128;
 
 } // namespace
 
 SurfaceView::SurfaceView(Surface& surface, QtLineLayout& layout, const Form& form, QWidget* parent)
     : ControlView(surface, parent), surface_(surface), layout_(layout), form_(form),
-      teller_(*this) {
+      bar_(surface, layout), look_(lookOf(surface)), teller_(*this) {
   if (!isRounded()) setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 bool SurfaceView::isRounded() const {
-  return surface_.Name().starts_with("Rnen") || surface_.Name() == "RDOS";
+  return surface_.Name().starts_with("Rnen");
 }
 
 const ShapedParagraph& SurfaceView::shaped(int paragraph) const {
@@ -64,8 +64,10 @@ SurfaceView::Piece SurfaceView::pieceOf(int paragraph, const ShapedParagraph& sh
   const int to = from + surface_.SelLength();
   piece.selectedFrom = std::clamp(from - start, 0, length);
   piece.selectedTo = std::clamp(to - start, 0, length);
-  const bool caretShows = surface_.SelLength() == 0 && surfaceHasFocus();
-  if (caretShows && surface_.paragraphOf(from) == paragraph) piece.caret = from - start;
+  if (surface_.paragraphOf(from) != paragraph) return piece;
+  piece.current = look_.isList;
+  const bool caretShows = surface_.SelLength() == 0 && surfaceHasFocus() && look_.showsCaret;
+  if (caretShows) piece.caret = from - start;
   return piece;
 }
 
@@ -75,39 +77,51 @@ SurfaceView::Picture SurfaceView::picture() const {
   eachInView([&](int number, const ShapedParagraph& paragraph, int top) {
     result.pieces.push_back(pieceOf(number, paragraph, top));
   });
-  result.scrollMark = scrollMark(result.pieces);
+  result.thumb = thumbOf(result.pieces);
+  result.barHot = barHot_;
   return result;
 }
 
-QRect SurfaceView::scrollMark(const std::vector<Piece>& pieces) const {
-  const ScrollPlace scroll = surface_.scroll();
-  const int count = surface_.paragraphCount();
-  const bool endInView = scroll.paragraph + static_cast<int>(pieces.size()) == count &&
-                         !pieces.empty() &&
-                         pieces.back().top + pieces.back().height <= surface_.Height();
-  if (endInView && scroll == ScrollPlace{}) return {};
+// -- The scroll bar.
 
-  double above = scroll.paragraph;
-  double inView = static_cast<double>(pieces.size());
-  double all = count;
-  if (count <= MostMeasured) {
-    above = scroll.offset;
-    inView = surface_.Height();
-    all = 0;
-    for (int each = 0; each < count; ++each) {
-      if (each == scroll.paragraph) above += all;
-      all += shaped(each).shape().height;
-    }
-  }
-  const double height = surface_.Height();
-  const double length = std::clamp(inView / all, 0.0, 1.0) * height;
-  const double shown = std::min(std::max<double>(length, LeastScrollMark), height);
-  const double place = all > inView ? std::clamp(above / (all - inView), 0.0, 1.0) : 0;
-  const double left = surface_.Width() - ScrollMarkGap - ScrollMarkWidth;
+ScrollBar::Extent SurfaceView::extentOf(const std::vector<Piece>& pieces) const {
+  if (pieces.empty()) return {};
+  return bar_.extent(static_cast<int>(pieces.size()), pieces.back().top + pieces.back().height);
+}
+
+QRect SurfaceView::thumbOf(const std::vector<Piece>& pieces) const {
+  const ScrollBar::Extent extent = extentOf(pieces);
+  if (!extent.scrolls) return {};
+  const ScrollBar::Thumb thumb = bar_.thumb(extent);
   const double scale = pixelsPerTwip();
-  return QRectF(left * scale, place * (height - shown) * scale, ScrollMarkWidth * scale,
-                shown * scale)
+  const double width = barHot_ ? HotThumbWidth : ThumbWidth;
+  return QRectF((surface_.Width() - ThumbGap - width) * scale, thumb.top * scale, width * scale,
+                thumb.length * scale)
       .toAlignedRect();
+}
+
+QRect SurfaceView::barStrip() const {
+  const int wide = qRound(ScrollBar::StripWidth * pixelsPerTwip());
+  return {width() - wide, 0, wide, height()};
+}
+
+bool SurfaceView::barHolds(QPointF point) const {
+  return barStrip().contains(point.toPoint()) && !picture().thumb.isEmpty();
+}
+
+QRectF SurfaceView::thumbRect() const {
+  const QRect thumb = picture().thumb;
+  return {static_cast<double>(barStrip().left()), static_cast<double>(thumb.top()),
+          static_cast<double>(barStrip().width()), static_cast<double>(thumb.height())};
+}
+
+void SurfaceView::setBarHot(bool hot) {
+  barHot_ = hot;
+  refresh();
+}
+
+void SurfaceView::bringThumbTo(double top) {
+  bar_.bringThumbTo(top / pixelsPerTwip(), extentOf(picture().pieces));
 }
 
 // -- What is to be painted.
@@ -138,10 +152,7 @@ void SurfaceView::refresh() {
       if (old != nullptr) updatePiece(*old);
       if (fresh != nullptr) updatePiece(*fresh);
     }
-    if (marked_->scrollMark != now.scrollMark) {
-      update(marked_->scrollMark);
-      update(now.scrollMark);
-    }
+    if (marked_->thumb != now.thumb || marked_->barHot != now.barHot) update(barStrip());
   }
   marked_ = std::move(now);
   teller_.tell();
@@ -176,14 +187,10 @@ void SurfaceView::paintEvent(QPaintEvent* event) {
     if (top + piece.height < dirty.top() || top > dirty.bottom()) return;
     paintPiece(painter, paragraph, piece, dirty);
   });
-  now.scrollMark = scrollMark(now.pieces);
-  if (!now.scrollMark.isEmpty()) {
-    const double radius = now.scrollMark.width() / 2.0;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgba(palette::ScrollBar));
-    painter.drawRoundedRect(now.scrollMark, radius, radius);
-  }
+  now.thumb = thumbOf(now.pieces);
+  now.barHot = barHot_;
+  paintFade(painter, now.pieces);
+  paintBar(painter, now);
   // A part was painted ahead of its marking: what was marked no longer tells what is on the screen.
   if (marked_ && *marked_ != now) marked_.reset();
 }
@@ -206,19 +213,69 @@ void SurfaceView::paintPiece(QPainter& painter, const ShapedParagraph& shaped, c
   painter.save();
   painter.scale(pixelsPerTwip(), pixelsPerTwip());
   painter.translate(0, piece.top);
-  if (piece.selectedTo > piece.selectedFrom) {
-    const bool dark = qGray(colourOf(surface_.BackColor()).rgb()) < DarkBelow;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor::fromRgba(dark ? palette::DarkSelection : palette::SelectionEdge),
-                        SelectionBorder));
-    painter.setBrush(QColor::fromRgba(dark ? palette::DarkSelection : palette::Selection));
-    for (const QRectF& rect : shaped.rectsOf(piece.selectedFrom, piece.selectedTo)) {
-      painter.drawRoundedRect(rect, SelectionRadius, SelectionRadius);
-    }
-  }
-  shaped.paint(painter, dirty.translated(0, -piece.top));
+  if (piece.current) paintCurrentLine(painter, piece);
+  if (piece.selectedTo > piece.selectedFrom) paintSelection(painter, shaped, piece);
+  look_.paintMarks(painter, shaped);
+  shaped.paint(painter, dirty.translated(0, -piece.top), colourOf(surface_.BackColor()));
   painter.restore();
   if (piece.caret >= 0) paintCaret(painter, shaped.placeOf(piece.caret), piece.top);
+}
+
+void SurfaceView::paintCurrentLine(QPainter& painter, const Piece& piece) const {
+  const QRectF line(0, 0, surface_.Width(), piece.height);
+  painter.fillRect(line, QColor(palette::CurrentLine));
+  painter.fillRect(QRectF(0, 0, CurrentLineEdge, piece.height), QColor(palette::CurrentLineEdge));
+}
+
+void SurfaceView::paintSelection(QPainter& painter, const ShapedParagraph& shaped,
+                                 const Piece& piece) const {
+  // The whole line of a list says it already.
+  if (piece.current) return;
+  const bool dark = qGray(colourOf(surface_.BackColor()).rgb()) < DarkBelow;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor::fromRgba(dark ? palette::DarkSelection : palette::SelectionEdge),
+                      SelectionBorder));
+  painter.setBrush(QColor::fromRgba(dark ? palette::DarkSelection : palette::Selection));
+  for (const QRectF& rect : shaped.rectsOf(piece.selectedFrom, piece.selectedTo)) {
+    painter.drawRoundedRect(rect, SelectionRadius, SelectionRadius);
+  }
+}
+
+void SurfaceView::paintFade(QPainter& painter, const std::vector<Piece>& pieces) const {
+  if (pieces.empty() || isRounded()) return;
+  const Piece& last = pieces.back();
+  const int bottom = surface_.Height();
+  if (last.top + last.height <= bottom) return;
+  const int paragraph = surface_.scroll().paragraph + static_cast<int>(pieces.size()) - 1;
+  double cut = bottom;
+  for (const LineShape& line : shaped(paragraph).shape().lines) {
+    const int top = last.top + line.top;
+    if (top < bottom && top + line.height > bottom) cut = top;
+  }
+  if (cut >= bottom) return;
+  const double scale = pixelsPerTwip();
+  QColor back = colourOf(last.current ? Colour{0xFFFFFF} : surface_.BackColor());
+  if (last.current) back = QColor(palette::CurrentLine);
+  QLinearGradient fade(0, cut * scale, 0, bottom * scale);
+  QColor clear = back;
+  clear.setAlpha(0);
+  fade.setColorAt(0, clear);
+  fade.setColorAt(1, back);
+  painter.fillRect(QRectF(0, cut * scale, width(), height() - cut * scale), fade);
+}
+
+void SurfaceView::paintBar(QPainter& painter, const Picture& picture) const {
+  if (picture.thumb.isEmpty()) return;
+  const double radius = picture.thumb.width() / 2.0;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  if (picture.barHot) {
+    painter.setBrush(QColor::fromRgba(palette::ScrollTrough));
+    painter.drawRoundedRect(QRectF(picture.thumb.left(), 0, picture.thumb.width(), height()),
+                            radius, radius);
+  }
+  painter.setBrush(QColor::fromRgba(palette::ScrollBar));
+  painter.drawRoundedRect(picture.thumb, radius, radius);
 }
 
 void SurfaceView::paintCaret(QPainter& painter, const CaretPlace& place, int top) const {

@@ -1,13 +1,16 @@
-// The view of a surface: paints the paragraphs in view, the selection, the caret and a slim mark of
-// how far the text is scrolled.
+// The view of a surface: paints the paragraphs in view, the selection, the caret or the current
+// line, and the scroll bar.
 #pragma once
 
 #include "desktop/Accessibility.h"
 #include "desktop/ControlView.h"
+#include "desktop/PageLook.h"
+#include "desktop/ScrollBar.h"
 #include "desktop/TextShaper.h"
 #include "surface/Form.h"
 #include "surface/Surface.h"
 
+#include <QPointF>
 #include <QRect>
 
 #include <cstdint>
@@ -26,6 +29,17 @@ class SurfaceView final : public ControlView {
   /// A caret's rectangle in pixels of the widget; empty when it is out of view.
   [[nodiscard]] QRect caretRect(int caret) const;
 
+  // -- The scroll bar, in pixels of the widget.
+
+  /// Whether a point lies on the strip of the scroll bar; never when all of the text is in view.
+  [[nodiscard]] bool barHolds(QPointF point) const;
+  /// The thumb with all of its strip.
+  [[nodiscard]] QRectF thumbRect() const;
+  /// The bar is painted wider while the pointer is on it.
+  void setBarHot(bool hot);
+  void bringThumbTo(double top);
+  void page(int direction) { bar_.page(direction); }
+
   /// Marks the paragraphs that look different from what was marked last.
   void refresh() override;
 
@@ -40,13 +54,15 @@ class SurfaceView final : public ControlView {
     int height = 0; ///< twips
     int selectedFrom = 0;
     int selectedTo = 0;
-    int caret = -1; ///< offset in the paragraph; -1 when the caret is not painted in it
+    int caret = -1;       ///< offset in the paragraph; -1 when the caret is not painted in it
+    bool current = false; ///< the line of a list on which the keys act
 
     friend bool operator==(const Piece&, const Piece&) = default;
   };
   struct Picture {
     Colour back = 0;
-    QRect scrollMark; ///< pixels; empty when all of the text is in view
+    QRect thumb; ///< pixels; empty when all of the text is in view
+    bool barHot = false;
     std::vector<Piece> pieces;
 
     friend bool operator==(const Picture&, const Picture&) = default;
@@ -58,20 +74,30 @@ class SurfaceView final : public ControlView {
   [[nodiscard]] const ShapedParagraph& shaped(int paragraph) const;
   [[nodiscard]] Picture picture() const;
   [[nodiscard]] Piece pieceOf(int paragraph, const ShapedParagraph& shaped, int top) const;
-  [[nodiscard]] QRect scrollMark(const std::vector<Piece>& pieces) const;
+  [[nodiscard]] ScrollBar::Extent extentOf(const std::vector<Piece>& pieces) const;
+  [[nodiscard]] QRect thumbOf(const std::vector<Piece>& pieces) const;
+  [[nodiscard]] QRect barStrip() const;
   void updatePiece(const Piece& piece);
   [[nodiscard]] QRect rectOf(const Piece& piece) const;
 
   void paintBack(QPainter& painter, const QRect& dirty) const;
   void paintPiece(QPainter& painter, const ShapedParagraph& shaped, const Piece& piece,
                   const QRectF& dirty) const;
+  void paintCurrentLine(QPainter& painter, const Piece& piece) const;
+  void paintSelection(QPainter& painter, const ShapedParagraph& shaped, const Piece& piece) const;
+  /// The last line fades where only a part of it is in view.
+  void paintFade(QPainter& painter, const std::vector<Piece>& pieces) const;
+  void paintBar(QPainter& painter, const Picture& picture) const;
   void paintCaret(QPainter& painter, const CaretPlace& place, int top) const;
-  /// Plates and the hint bar stand free on the screen and have round corners.
+  /// Plates stand free on the screen and have round corners.
   [[nodiscard]] bool isRounded() const;
 
   Surface& surface_;
   QtLineLayout& layout_;
   const Form& form_;
+  ScrollBar bar_;
+  const PageLook look_;
+  bool barHot_ = false;
   /// What was marked for painting last; empty when everything is to be marked the next time.
   std::optional<Picture> marked_;
   TextTeller teller_;

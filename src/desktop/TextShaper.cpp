@@ -23,6 +23,21 @@ constexpr int TabCharacters = 4;
 constexpr std::size_t MostParagraphs = 1000;
 constexpr char16_t NoWidth = u'\u200B';    ///< a line may break here
 constexpr char16_t JoinsWords = u'\u2060'; ///< nothing to see, and no line breaks here
+/// The same in a face that has it, so that no other face adds its height to the line.
+constexpr char16_t NothingToSee = u'\u200D';
+
+/// A mark of a sentence stands beside the blank that is to be seen, ahead of a title or behind a
+/// tab: it takes no room there. Between two letters it is the only gap.
+void hideSentenceMarks(QString& text) {
+  constexpr QChar Mark = u'\u00A0';
+  const auto isGap = [&](qsizetype at) {
+    return at < 0 || at >= text.size() || text[at] == u' ' || text[at] == u'\t' ||
+           text[at] == NoWidth || text[at] == NothingToSee;
+  };
+  for (qsizetype at = text.indexOf(Mark); at >= 0; at = text.indexOf(Mark, at + 1)) {
+    if (isGap(at - 1) || isGap(at + 1)) text[at] = NothingToSee;
+  }
+}
 
 /// In the VNI rule two bytes may show one letter.
 std::u16string vniUnits(std::string_view bytes) {
@@ -129,6 +144,7 @@ void ShapedParagraph::setText(const ParagraphView& paragraph) {
     text += unitsOf(bytes, style.font.name);
     formats.append(formatOf(from, to, style));
   }
+  hideSentenceMarks(text);
   layout_.setText(text);
   layout_.setFont(fontFor(*paragraph.runs.front().style));
   layout_.setFormats(formats);
@@ -157,12 +173,25 @@ void ShapedParagraph::placeLines(const ParagraphView& paragraph) {
   layout_.beginLayout();
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
     line.setLineWidth(room);
-    line.setPosition({left, static_cast<double>(shape_.height)});
-    const int height = static_cast<int>(std::ceil(line.height()));
+    const int height = pitchOf(line);
+    line.setPosition({left, shape_.height + (height - line.height()) / 2});
     shape_.lines.push_back({line.textStart(), shape_.height, height});
     shape_.height += height;
   }
   layout_.endLayout();
+}
+
+int ShapedParagraph::pitchOf(const QTextLine& line) const {
+  double height = line.height();
+  const int end = line.textStart() + std::max(1, line.textLength());
+  for (const QTextLayout::FormatRange& range : layout_.formats()) {
+    const bool inLine = range.start < end && range.start + range.length > line.textStart();
+    if (inLine && range.format.hasProperty(QTextFormat::FontPixelSize)) {
+      height = std::max(height, lineHeightOf(range.format.font()));
+    }
+  }
+  if (length_ == 0) height = std::max(height, lineHeightOf(layout_.font()));
+  return static_cast<int>(std::ceil(height));
 }
 
 bool ShapedParagraph::widenTabs(std::string_view text, double least) {
@@ -226,18 +255,42 @@ std::vector<QRectF> ShapedParagraph::rectsOf(int from, int to) const {
   return rects;
 }
 
-void ShapedParagraph::paint(QPainter& painter, const QRectF& clip) const {
-  if (bullet_ && length_ > 0) paintBullet(painter);
-  layout_.draw(&painter, {0, 0}, {}, clip);
+std::vector<std::pair<int, int>> ShapedParagraph::rangesIn(const QColor& colour) const {
+  std::vector<std::pair<int, int>> ranges;
+  for (const QTextLayout::FormatRange& range : layout_.formats()) {
+    const bool coloured = range.format.hasProperty(QTextFormat::ForegroundBrush);
+    if (!coloured || range.format.foreground().color() != colour) continue;
+    int end = range.start + range.length;
+    while (end > range.start && layout_.text()[end - 1].isSpace())
+      --end;
+    if (end > range.start) ranges.emplace_back(range.start, end);
+  }
+  return ranges;
 }
 
-void ShapedParagraph::paintBullet(QPainter& painter) const {
+void ShapedParagraph::paint(QPainter& painter, const QRectF& clip, const QColor& back) const {
+  if (bullet_ && length_ > 0) paintBullet(painter, back);
+  QList<QTextLayout::FormatRange> toned;
+  for (const QTextLayout::FormatRange& range : layout_.formats()) {
+    if (!range.format.hasProperty(QTextFormat::ForegroundBrush)) continue;
+    const QColor own = range.format.foreground().color();
+    const QColor tone = readableOn(own, back);
+    if (tone == own) continue;
+    QTextLayout::FormatRange other = range;
+    other.format = {};
+    other.format.setForeground(tone);
+    toned.append(other);
+  }
+  layout_.draw(&painter, {0, 0}, toned, clip);
+}
+
+void ShapedParagraph::paintBullet(QPainter& painter, const QColor& back) const {
   const LineShape& line = shape_.lines.front();
   const double radius = line.height * BulletRadius;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(layout_.formats().front().format.foreground());
+  painter.setBrush(readableOn(layout_.formats().front().format.foreground().color(), back));
   painter.drawEllipse(QPointF(bulletX_, line.top + line.height * 0.55), radius, radius);
   painter.restore();
 }
@@ -250,7 +303,7 @@ int QtTextMetrics::TextWidth(std::string_view text, const FontSpec& font) const 
 }
 
 int QtTextMetrics::TextHeight(std::string_view, const FontSpec& font) const {
-  return static_cast<int>(std::ceil(QFontMetricsF(fontFor(font)).height()));
+  return static_cast<int>(std::ceil(lineHeightOf(fontFor(font))));
 }
 
 // -- Layout.

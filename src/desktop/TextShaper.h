@@ -6,6 +6,7 @@
 #include "platform/TextMetrics.h"
 #include "surface/StyledText.h"
 
+#include <QColor>
 #include <QRectF>
 #include <QString>
 #include <QTextLayout>
@@ -39,17 +40,22 @@ class ShapedParagraph {
   [[nodiscard]] int offsetAt(int x, int y) const;
   /// What the characters between two offsets cover, a rectangle a line.
   [[nodiscard]] std::vector<QRectF> rectsOf(int from, int to) const;
-  /// Paints the lines that reach into `clip`; the painter's origin is the paragraph's.
-  void paint(QPainter& painter, const QRectF& clip) const;
+  /// The stretches in one colour, each from its first offset to behind its last that is no blank.
+  [[nodiscard]] std::vector<std::pair<int, int>> rangesIn(const QColor& colour) const;
+  /// Paints the lines that reach into `clip`, or all when that is empty; the painter's origin is
+  /// the paragraph's. A colour that could not be read on `back` is shown in a tone that can.
+  void paint(QPainter& painter, const QRectF& clip, const QColor& back) const;
 
  private:
   [[nodiscard]] std::size_t lineOf(int offset) const;
   void setText(const ParagraphView& paragraph);
   void breakLines(const ParagraphView& paragraph);
   void placeLines(const ParagraphView& paragraph);
+  /// The height of a line, with room for the marks of its largest letters.
+  [[nodiscard]] int pitchOf(const QTextLine& line) const;
   /// Sends each tab that is narrower than `least` on to its next stop; false when there is none.
   bool widenTabs(std::string_view text, double least);
-  void paintBullet(QPainter& painter) const;
+  void paintBullet(QPainter& painter, const QColor& back) const;
 
   std::uint64_t serial_;
   QTextLayout layout_;

@@ -5,9 +5,10 @@
 #include "surface/Surface.h"
 #include "text/GlyphMap.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
@@ -21,6 +22,7 @@ namespace talvora {
 namespace {
 
 constexpr int TwipsPerPixel = 15;
+constexpr int LongestCaretSearch = 60; // pixels
 const QColor LetterboxColour(0x12, 0x22, 0x2E);
 // How long the start may wait for the window system to show the window.
 constexpr int ExposeMs = 200;
@@ -28,6 +30,23 @@ constexpr int ExposeMs = 200;
 constexpr qint64 SessionEndMs = 60'000;
 // Letters are made ready when the menu stands.
 constexpr int WarmAfterMs = 700;
+
+/// Ends a wait when the window system shows the window.
+class ExposeWatch final : public QObject {
+ public:
+  ExposeWatch(QWindow& window, QEventLoop& wait) : window_(window), wait_(wait) {
+    window_.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Expose && window_.isExposed()) wait_.quit();
+    return false;
+  }
+
+ private:
+  QWindow& window_;
+  QEventLoop& wait_;
+};
 
 } // namespace
 
@@ -39,7 +58,14 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   setFocusPolicy(Qt::StrongFocus);
   view_ = new FormView(program.form(), bridge, machine.layout, this); // NOLINT: Qt owns it
   strip_ = new CaptionStrip(this);                                    // NOLINT: Qt owns it
-  strip_->closeClicked = [this] { askToClose(); };
+  announcer_ = new Announcer(this);                                   // NOLINT: Qt owns it
+  announcer_->setGeometry(0, 0, 1, 1);
+  announcer_->lower();
+  strip_->closeWindow = [this] { askToClose(); };
+  strip_->goBack = [this] { sendStroke(Qt::Key_Escape); };
+  strip_->showHint = [this] { sendStroke(Qt::Key_F2); };
+  strip_->minimiseWindow = [this] { showMinimized(); };
+  machine.gate.neverHold(*strip_);
   view_->onCaptionChanged = [this] {
     strip_->setCaption(
         QString::fromStdU16String(toUnicode(program_.form().Caption(), Encoding::Windows1252)));
@@ -49,6 +75,7 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   view_->onFocusChanged = [this] {
     const Control* const focus = program_.form().ActiveControl();
     const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
+    strip_->setPlace(onMenu ? StripPlace::Menu : StripPlace::Page);
     machine_.gate.holdMovesWhileArrowDown(onMenu);
     if (onMenu) {
       QMetaObject::invokeMethod(
@@ -71,7 +98,11 @@ void Window::connectMachine() {
   machine_.clock.closingIsWanted = [this] { return closeWanted_ || endWanted_; };
   machine_.boxes.owner = this;
   machine_.boxes.opening = [this] { view_->endPress(); };
-  machine_.narrator.window = this;
+  machine_.narrator.sign = [this](const QString& text) { strip_->notice(text); };
+  strip_->told = [this](const QString& text) { announcer_->tell(text); };
+  view_->onCameUp = [this](const Surface& surface) {
+    if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
+  };
   machine_.events.programRuns = [this] { return program_.running() && !bridge_.failed(); };
   DesktopInput& input = machine_.input;
   input.toGlobal = [this](PixelPoint point) {
@@ -113,10 +144,11 @@ void Window::showOnScreen() {
   arrange();
   view_->onCaptionChanged();
   // The background is to be seen while the program loads.
-  QElapsedTimer waited;
-  waited.start();
-  while (windowHandle() != nullptr && !windowHandle()->isExposed() && waited.elapsed() < ExposeMs) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+  if (windowHandle() != nullptr && !windowHandle()->isExposed()) {
+    QEventLoop wait;
+    ExposeWatch exposed(*windowHandle(), wait);
+    QTimer::singleShot(ExposeMs, &wait, &QEventLoop::quit);
+    wait.exec();
   }
   QTimer::singleShot(WarmAfterMs, this, [this] { warmFonts(); });
 }
@@ -175,6 +207,7 @@ void Window::settleHover() {
 // -- Input.
 
 void Window::keyPressEvent(QKeyEvent* event) {
+  if (clickWithKey(*event)) return;
   const int code = keyCodeOf(*event);
   if (code == 0 && characterOf(*event) == 0) return;
   // A modifier's own stroke carries its bit while it goes down.
@@ -184,6 +217,50 @@ void Window::keyPressEvent(QKeyEvent* event) {
   bridge_.deliver([&] {
     program_.form().pressKey(code, shiftOf(event->modifiers()) | own, characterOf(*event));
   });
+}
+
+// Through the window system's door, so that a stroke counts also for loops that poll while the
+// program sleeps.
+void Window::sendStroke(Qt::Key key) {
+  if (windowHandle() == nullptr) return;
+  for (const QEvent::Type half : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QCoreApplication::postEvent(windowHandle(), new QKeyEvent(half, key, Qt::NoModifier)); // NOLINT
+  }
+}
+
+// A left click at the caret with F10, a right one with Shift+F10 or the Menu key: what the mouse
+// does in a section, the keys do too.
+bool Window::clickWithKey(const QKeyEvent& event) {
+  const bool menuKey = event.key() == Qt::Key_Menu;
+  if (!menuKey && event.key() != Qt::Key_F10) return false;
+  const auto* surface = dynamic_cast<const Surface*>(program_.form().ActiveControl());
+  if (surface == nullptr || event.isAutoRepeat()) return true;
+  const bool right = menuKey || event.modifiers().testFlag(Qt::ShiftModifier);
+  const PixelPoint at = pixelAtCaret(*surface);
+  machine_.input.SetCursorPos(at);
+  machine_.input.pointerCame(at);
+  bridge_.deliver([&] {
+    moveTo(formPointOf(at));
+    clickAt(right ? MouseButton::Right : MouseButton::Left, formPointOf(at));
+  });
+  return true;
+}
+
+PixelPoint Window::pixelAtCaret(const Surface& surface) const {
+  const int caret = surface.SelStart();
+  const SurfacePoint middle = surface.pointOf(caret);
+  const int y = std::clamp(middle.y, TwipsPerPixel, surface.Height() - TwipsPerPixel);
+  PixelPoint pixel = pixelOf({surface.Left() + middle.x, surface.Top() + y});
+  const auto caretOf = [&](PixelPoint each) {
+    const SurfacePoint point = formPointOf(each);
+    return surface.caretAt({point.x - surface.Left(), point.y - surface.Top()});
+  };
+  // The caret counts that is nearest to a point; the pointer goes to the near side of the letter.
+  for (int step = 0; step < LongestCaretSearch && caretOf(pixel) > caret; ++step)
+    --pixel.x;
+  for (int step = 0; step < LongestCaretSearch && caretOf(pixel) < caret; ++step)
+    ++pixel.x;
+  return pixel;
 }
 
 void Window::keyReleaseEvent(QKeyEvent* event) {

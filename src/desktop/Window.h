@@ -2,6 +2,7 @@
 // form, and the keyboard.
 #pragma once
 
+#include "desktop/Accessibility.h"
 #include "desktop/CaptionStrip.h"
 #include "desktop/DesktopMachine.h"
 #include "desktop/EventBridge.h"
@@ -53,6 +54,12 @@ class Window final : public QWidget {
   void askToClose();
   /// Notes a wish while the program sleeps, and wakes it; true when it was asleep.
   bool waitsFor(bool& wish);
+  /// Sends a whole stroke of a key to this window.
+  void sendStroke(Qt::Key key);
+  /// True when a key stands for a click at the caret, which then has been done.
+  bool clickWithKey(const QKeyEvent& event);
+  /// The pixel of the virtual screen at which a click goes to the caret of a surface.
+  [[nodiscard]] PixelPoint pixelAtCaret(const Surface& surface) const;
   /// Animates the button that has the focus and the pointer, if it is not animated yet.
   void settleHover();
   void clickAt(MouseButton button, SurfacePoint point);
@@ -66,8 +73,9 @@ class Window final : public QWidget {
   DesktopMachine& machine_;
   Program& program_;
   EventBridge& bridge_;
-  FormView* view_ = nullptr;      ///< owned by this widget
-  CaptionStrip* strip_ = nullptr; ///< owned by this widget
+  FormView* view_ = nullptr;       ///< owned by this widget
+  CaptionStrip* strip_ = nullptr;  ///< owned by this widget
+  Announcer* announcer_ = nullptr; ///< owned by this widget
   FontWarmer warmer_;
   double scale_ = 1;         ///< real pixels to a virtual one
   QPointF origin_;           ///< of the virtual screen in the window

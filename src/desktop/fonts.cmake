@@ -7,20 +7,22 @@ set(TALVORA_FONT_FOLDERS
   /usr/share/texlive/texmf-dist/fonts/opentype/public/tex-gyre
   /usr/share/fonts/opentype/tex-gyre
   /usr/share/fonts/tex-gyre
-  /usr/share/fonts/truetype/noto
-  /usr/share/fonts/google-noto
-  /usr/share/fonts/noto
+  /usr/share/fonts/truetype/lato
+  /usr/share/fonts/lato
+  /usr/share/fonts/TTF
+  /usr/share/texmf-dist/fonts/truetype/typoland/lato
+  /usr/share/texlive/texmf-dist/fonts/truetype/typoland/lato
 )
 
 set(TALVORA_FONT_ENTRIES "")
 foreach(face
     texgyreschola-regular.otf texgyreschola-bold.otf
-    NotoSans-Regular.ttf NotoSans-Bold.ttf NotoSans-Italic.ttf NotoSans-BoldItalic.ttf)
+    Lato-Regular.ttf Lato-Semibold.ttf Lato-Bold.ttf Lato-Italic.ttf Lato-SemiboldItalic.ttf)
   find_file(TALVORA_FONT_${face} ${face} PATHS ${TALVORA_FONT_FOLDERS} NO_DEFAULT_PATH)
   mark_as_advanced(TALVORA_FONT_${face})
   if(NOT TALVORA_FONT_${face})
     message(FATAL_ERROR "The font file ${face} was not found. Install fonts-texgyre and "
-      "fonts-noto-core, or set TALVORA_FONT_${face} to its path.")
+      "fonts-lato, or set TALVORA_FONT_${face} to its path.")
   endif()
   string(APPEND TALVORA_FONT_ENTRIES "<file alias=\"${face}\">${TALVORA_FONT_${face}}</file>\n")
 endforeach()

@@ -3,14 +3,22 @@ set(TALVORA_VIEW_SOURCES
   Accessibility.cpp
   BackgroundArt.cpp
   ButtonArt.cpp
+  ButtonMeaning.cpp
   ControlView.cpp
   FontWarmer.cpp
   Fonts.cpp
   FormMouse.cpp
   FormView.cpp
+  HintBarView.cpp
+  Links.cpp
   MenuButtonView.cpp
+  PageLook.cpp
+  PageNames.cpp
   Palette.cpp
   PlainViews.cpp
+  ScrollBar.cpp
+  ScrollMouse.cpp
+  Shadow.cpp
   SurfaceView.cpp
   TextShaper.cpp
   ${TALVORA_FONT_RESOURCES}

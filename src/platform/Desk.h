@@ -41,6 +41,9 @@ class Installation {
   virtual void run(const std::string& program) = 0;
 };
 
+/// What became of a word that the learner wanted to keep.
+enum class WordTaken { Stored, WasThere, TooLong };
+
 /// A narrator is told what the program shows, for those who do not see it: a screen reader, a log.
 class Narrator {
  public:
@@ -53,6 +56,8 @@ class Narrator {
   virtual void frameShown(int button, int frame) = 0;
   /// The curtain opens over the surface of that name.
   virtual void curtainOpened(const std::string& surface) = 0;
+  /// Enter was pressed on a word; `count` is how many words the list holds now.
+  virtual void wordTaken(const std::string& /*word*/, WordTaken /*outcome*/, int /*count*/) {}
 };
 
 } // namespace talvora

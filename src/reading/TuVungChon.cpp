@@ -82,7 +82,15 @@ bool TuVungChon::CoTuVung() {
 
 void TuVungChon::ThemTuVung() {
   const std::string& word = state_.word.TuHienTai;
-  if (word.empty() || word.size() > VocabularyWord::LongestWord || CoTuVung()) return;
+  if (word.empty()) return;
+  if (word.size() > VocabularyWord::LongestWord) {
+    shell_.messages.wordTaken(word, WordTaken::TooLong, SoTuVung());
+    return;
+  }
+  if (CoTuVung()) {
+    shell_.messages.wordTaken(word, WordTaken::WasThere, SoTuVung());
+    return;
+  }
   DaDoiTuVung_ = true;
   // The sentence's translation becomes the message at hand; that is meant.
   const int k = text_.CauTaiViTri(state_.word.ViTriCaret + 1);
@@ -91,6 +99,7 @@ void TuVungChon::ThemTuVung() {
   TuVung_.push_back(
       {paddedWord(word.front() == 'I' ? word : lower(word)), speaking ? -place : place});
   words_.noteAdded(TuVung_.back());
+  shell_.messages.wordTaken(word, WordTaken::Stored, SoTuVung());
 }
 
 // -- The section.

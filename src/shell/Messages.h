@@ -25,6 +25,11 @@ class Messages {
   /// `TatThongBao`. A text longer than the screen still centres by arithmetic.
   void ThongBao(std::string_view text, int ms);
   void TatThongBao();
+  /// What became of a word that the learner wanted to keep, for a front that shows it by a sign; the
+  /// surfaces say nothing of it.
+  void wordTaken(const std::string& word, WordTaken outcome, int count) {
+    narrator_.wordTaken(word, outcome, count);
+  }
   /// Fits the red plate behind the popup.
   void VeKhung();
   /// Tells something in a box of its own: the window lives on, and the learner closes the box.

@@ -1,0 +1,13 @@
+// What the menu's English captions mean, for tooltips and screen readers.
+#pragma once
+
+#include "surface/Button.h"
+
+#include <QString>
+
+namespace talvora {
+
+/// One line in Vietnamese on what a menu button opens.
+[[nodiscard]] QString meaningOf(const Button& button);
+
+} // namespace talvora

@@ -1,0 +1,12 @@
+// Which words of a page answer to a click by leading somewhere, so that the pointer becomes a hand.
+#pragma once
+
+#include "surface/Surface.h"
+
+namespace talvora {
+
+/// Whether a click at a point of a surface, in twips, opens, chooses or turns over something; a
+/// word that is merely looked up is no link.
+[[nodiscard]] bool isLink(const Surface& surface, SurfacePoint at);
+
+} // namespace talvora
