@@ -1,5 +1,7 @@
 #include "desktop/BackgroundArt.h"
 
+#include "desktop/Fonts.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -220,7 +222,39 @@ void paintBoat(QPainter& painter, QPointF at, double unit) {
   painter.restore();
 }
 
+/// The name and one line on the two keys that lead everywhere, in the empty sky over the menu.
+void paintName(QPainter& painter, QSizeF size) {
+  const double height = size.height();
+  const auto write = [&](const FontSpec& face, double part, double y, const QColor& colour,
+                         const QString& text) {
+    QFont font = fontFor(face);
+    font.setPixelSize(std::max(1, qRound(height * part)));
+    painter.setFont(font);
+    painter.setPen(colour);
+    painter.drawText(QRectF(0, height * y, size.width(), height * part * 1.6),
+                     Qt::AlignHCenter | Qt::AlignTop, text);
+  };
+  write({"Vni-centur", 12, true}, 0.085, 0.055, QColor(0xFF1F4A5C), QStringLiteral("Talvora"));
+  write({"x1", 12, true}, 0.031, 0.175, QColor(0xFF1B3F50),
+        QStringLiteral("Học tiếng Anh qua bài đọc   ·   F2: cách dùng   ·   Esc: quay lại"));
+}
+
 } // namespace
+
+QPixmap drawSign(int size) {
+  QPixmap picture(size, size);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QLinearGradient water(0, 0, 0, size);
+  water.setColorAt(0, QColor(0xFFD3E1E4));
+  water.setColorAt(1, QColor(0xFF6E9AA6));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(water);
+  painter.drawRoundedRect(QRectF(0, 0, size, size), size * 0.2, size * 0.2);
+  paintBoat(painter, {size * 0.5, size * 0.8}, size / 76.0);
+  return picture;
+}
 
 QPixmap drawLandscape(QSize size) {
   QPixmap picture(size);
@@ -233,6 +267,7 @@ QPixmap drawLandscape(QSize size) {
   const double unit = size.height() / 1000.0;
   paintBoat(painter, {size.width() * 0.265, size.height() * 0.885}, unit * 1.35);
   paintBoat(painter, {size.width() * 0.845, size.height() * 0.735}, unit * 0.5);
+  paintName(painter, size);
   return picture;
 }
 

@@ -14,7 +14,8 @@ namespace {
 constexpr int Radius = 90;       // twips
 constexpr int ShadowReach = 120; // twips
 constexpr int Edge = 15;         // twips
-constexpr double Padding = 45;   // twips above the first line and below the last
+constexpr double CardTop = 0.1;  ///< of the form's height
+constexpr double Padding = 30;   // twips above the first line and below the last
 constexpr double SidePadding = 150;
 constexpr double Narrowest = 0.77; ///< of the letters' own width
 /// The part of a line's height that letters with their marks fill.
@@ -48,14 +49,21 @@ void HintBarView::paintEvent(QPaintEvent*) {
   paintLines(painter);
 }
 
+int HintBarView::paintedHeight() const {
+  const double form = parentWidget()->height() / pixelsPerTwip();
+  const int cardTop = qRound(form * CardTop) - surface_.Top();
+  return std::clamp(cardTop, surface_.Height() / 2, surface_.Height());
+}
+
 void HintBarView::paintCard(QPainter& painter) const {
   const double radius = Radius * pixelsPerTwip();
-  paintShadow(painter, body(), radius, overhang());
+  QRectF card = body();
+  card.setHeight(paintedHeight() * pixelsPerTwip());
+  paintShadow(painter, card, radius, overhang());
   const double edge = std::max(1.0, Edge * pixelsPerTwip());
   painter.setPen(QPen(QColor(palette::HintEdge), edge));
   painter.setBrush(colourOf(surface_.BackColor()));
-  painter.drawRoundedRect(body().adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2), radius,
-                          radius);
+  painter.drawRoundedRect(card.adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2), radius, radius);
 }
 
 void HintBarView::paintLines(QPainter& painter) const {
@@ -71,7 +79,8 @@ void HintBarView::paintLines(QPainter& painter) const {
     natural += line.shape().height;
     widest = std::max(widest, widthOf(line, static_cast<int>(content.text.size())));
   }
-  const double high = surface_.Height() - 2 * Padding;
+  const int whole = paintedHeight();
+  const double high = whole - 2 * Padding;
   const double closer = std::min(1.0, high / std::max(1.0, natural));
   // Lines come closer first; letters become lower only where their marks would meet.
   const double lower = std::min(1.0, closer / InkPart);
@@ -79,7 +88,7 @@ void HintBarView::paintLines(QPainter& painter) const {
       lower, std::max(Narrowest, (surface_.Width() - 2 * SidePadding) / std::max(1.0, widest)));
   painter.translate(body().topLeft());
   painter.scale(pixelsPerTwip(), pixelsPerTwip());
-  double top = (surface_.Height() - natural * closer) / 2;
+  double top = (whole - natural * closer) / 2;
   for (int each = 0; each < count; ++each) {
     const ShapedParagraph& line = layout_.shaped(surface_.paragraph(each), surface_.Font(), room);
     const double height = line.shape().height;

@@ -21,6 +21,9 @@ class HintBarView final : public ControlView {
   int overhang() const override;
 
  private:
+  /// Height of what is painted, in twips: a bar of two lines would reach over the first line of the
+  /// page below, so it ends where the page's card begins.
+  [[nodiscard]] int paintedHeight() const;
   void paintCard(QPainter& painter) const;
   void paintLines(QPainter& painter) const;
 

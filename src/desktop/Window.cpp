@@ -1,5 +1,6 @@
 #include "desktop/Window.h"
 
+#include "desktop/BackgroundArt.h"
 #include "desktop/KeyCodes.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
@@ -53,6 +54,10 @@ class ExposeWatch final : public QObject {
 Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
     : machine_(machine), program_(program), bridge_(bridge) {
   setWindowTitle(QStringLiteral("Talvora"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128})
+    icon.addPixmap(drawSign(size));
+  setWindowIcon(icon);
   setWindowFlag(Qt::FramelessWindowHint);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);

@@ -1,7 +1,7 @@
 // Held keys and struck keys, as a window server reports them.
 #include "desktop/AutoRepeat.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -107,6 +107,6 @@ TEST_F(AutoRepeatTest, AWindowThatGoesTakesItsReleaseAlong) {
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
+  const QApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }

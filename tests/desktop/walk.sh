@@ -10,7 +10,7 @@
 set -u
 
 here=$(dirname "$(realpath "$0")")
-for part in frame start first_run menu reading words lessons exercises drills; do
+for part in frame start first_run menu reading words lessons exercises drills window; do
   # shellcheck source=/dev/null
   . "$here/walk/$part.sh"
 done
@@ -27,6 +27,8 @@ if [ "$platform" = xcb ]; then
   work_through_items
 fi
 practise
+use_the_mouse_alone
+use_the_keys_alone
 read_the_guide
 see_the_notice
 quit

@@ -64,12 +64,27 @@ class ScriptedNarrator final : public Narrator {
     log_.add("curtain", {{"surface", surface}});
   }
 
+  void wordTaken(const std::string& word, WordTaken outcome, int count) override {
+    lastTaken_ = {word, outcome, count};
+  }
+
+  /// What the learner last wanted to keep, and what became of it.
+  struct Taken {
+    std::string word;
+    WordTaken outcome = WordTaken::Stored;
+    int count = 0;
+
+    friend bool operator==(const Taken&, const Taken&) = default;
+  };
+  [[nodiscard]] const Taken& lastTaken() const noexcept { return lastTaken_; }
+
   /// Animation pictures shown so far.
   [[nodiscard]] std::int64_t framesShown() const noexcept { return framesShown_; }
 
  private:
   ScriptedLog& log_;
   std::int64_t framesShown_ = 0;
+  Taken lastTaken_;
 };
 
 } // namespace talvora

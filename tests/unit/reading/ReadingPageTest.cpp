@@ -230,6 +230,16 @@ TEST_F(OpenPage, EnterTakesAWordAndNoSentence) {
   EXPECT_EQ(run.number("SoTuVung"), 1);
 }
 
+TEST_F(OpenPage, EnterTellsWhatBecameOfTheWord) {
+  using Taken = ScriptedNarrator::Taken;
+  clickWord("bank");
+  run.key(key::Enter);
+  EXPECT_EQ(run.machine.narrator.lastTaken(), (Taken{"bank", WordTaken::Stored, 1}));
+  clickWord("bank");
+  run.key(key::Enter);
+  EXPECT_EQ(run.machine.narrator.lastTaken(), (Taken{"bank", WordTaken::WasThere, 1}));
+}
+
 TEST_F(OpenPage, NoKeyChangesTheText) {
   const std::string before = R2.Text();
   for (const char character : std::string_view("1;\b\r "))

@@ -1,0 +1,145 @@
+// What a page looks like beyond its text: faces, sentence marks, the scroll bar.
+#include "desktop/Fonts.h"
+#include "desktop/ScrollBar.h"
+#include "desktop/TextShaper.h"
+#include "surface/Form.h"
+#include "text/GlyphMap.h"
+
+#include <QFontMetricsF>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace talvora {
+namespace {
+
+class NoScreen final : public Screen {
+ public:
+  [[nodiscard]] int pixelWidth() const override { return 1024; }
+  [[nodiscard]] int pixelHeight() const override { return 768; }
+  void Refresh() override {}
+};
+
+class Page : public ::testing::Test {
+ protected:
+  Page() {
+    surface.Visible(true);
+    surface.Width(9000);
+    surface.Height(6000);
+    surface.FontName("x1");
+    surface.FontSize(20);
+  }
+
+  void writeLines(int count) {
+    std::string text;
+    for (int line = 1; line <= count; ++line)
+      text += "line " + std::to_string(line) + "\r";
+    surface.Text(text);
+    surface.SelStart(0);
+  }
+
+  /// The extent as a view would tell it.
+  [[nodiscard]] ScrollBar::Extent extent() {
+    int bottom = -surface.scroll().offset;
+    int count = 0;
+    for (int each = surface.scroll().paragraph;
+         each < surface.paragraphCount() && bottom < surface.Height(); ++each, ++count) {
+      bottom +=
+          layout.shaped(surface.paragraph(each), surface.Font(), surface.Width()).shape().height;
+    }
+    return bar.extent(count, bottom);
+  }
+
+  NoScreen screen;
+  QtTextMetrics metrics;
+  QtLineLayout layout;
+  Form form{screen, metrics};
+  Surface surface{"R2", form, layout};
+  ScrollBar bar{surface, layout};
+};
+
+TEST_F(Page, AShortTextHasNoBar) {
+  writeLines(3);
+  EXPECT_FALSE(extent().scrolls);
+}
+
+TEST_F(Page, TheThumbGoesFromEndToEnd) {
+  for (const int lines : {40, 5000}) {
+    writeLines(lines);
+    ASSERT_TRUE(extent().scrolls);
+    EXPECT_DOUBLE_EQ(bar.thumb(extent()).top, 0);
+    bar.bringThumbTo(surface.Height(), extent());
+    const ScrollBar::Thumb atEnd = bar.thumb(extent());
+    EXPECT_NEAR(atEnd.top + atEnd.length, surface.Height(), 60) << lines;
+    const int last = surface.pointOf(surface.TextLength()).y;
+    EXPECT_GT(last, surface.Height() * 3 / 4);
+    EXPECT_LT(last, surface.Height());
+    bar.bringThumbTo(-10, extent());
+    EXPECT_EQ(surface.scroll(), ScrollPlace{});
+  }
+}
+
+TEST_F(Page, AThumbThatIsPutDownInTheMiddleStaysThere) {
+  for (const int lines : {40, 5000}) {
+    writeLines(lines);
+    const double middle = (surface.Height() - bar.thumb(extent()).length) / 2;
+    bar.bringThumbTo(middle, extent());
+    EXPECT_NEAR(bar.thumb(extent()).top, middle, 60) << lines;
+  }
+}
+
+TEST_F(Page, ThePageKeysOfTheTroughMoveByNearlyAPage) {
+  writeLines(5000);
+  bar.page(1);
+  EXPECT_GT(surface.scroll().paragraph, 5);
+  bar.page(-1);
+  EXPECT_EQ(surface.scroll(), ScrollPlace{});
+}
+
+TEST_F(Page, ASentenceMarkBesideABlankTakesNoRoom) {
+  surface.Text("One.\xA0 Two");
+  const double marked = layout.shaped(surface.paragraph(0), surface.Font(), 9000).placeOf(7).x;
+  surface.Text("One. Two");
+  EXPECT_NEAR(marked, layout.shaped(surface.paragraph(0), surface.Font(), 9000).placeOf(6).x, 2);
+}
+
+TEST_F(Page, ASentenceMarkBetweenLettersIsTheirGap) {
+  surface.Text("One.\xA0Two");
+  const auto& marked = layout.shaped(surface.paragraph(0), surface.Font(), 9000);
+  EXPECT_GT(marked.placeOf(5).x, marked.placeOf(4).x + 50);
+}
+
+TEST_F(Page, MarksChangeNoLinesHeight) {
+  surface.Text("One.\xA0 Two");
+  const int marked = layout.shaped(surface.paragraph(0), surface.Font(), 9000).shape().height;
+  surface.Text("One. Two");
+  EXPECT_EQ(layout.shaped(surface.paragraph(0), surface.Font(), 9000).shape().height, marked);
+}
+
+TEST(Faces, HaveEveryVietnameseLetter) {
+  for (const bool bold : {false, true}) {
+    for (const bool italic : {false, true}) {
+      for (const double size : {20.0, 23.0}) {
+        CharStyle style;
+        style.font = {"x1", size, bold};
+        style.italic = italic;
+        const QFontMetricsF face(fontFor(style));
+        for (int code = 0x20; code < 0x100; ++code) {
+          const QChar letter(x1Letter(static_cast<char>(code)));
+          if (letter.isLetter()) {
+            EXPECT_TRUE(face.inFont(letter)) << code << bold << italic;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(Faces, TextIsSemiboldAndATitleBold) {
+  EXPECT_EQ(fontFor(FontSpec{"x1", 20, true}).weight(), QFont::DemiBold);
+  EXPECT_EQ(fontFor(FontSpec{"x1", 23, true}).weight(), QFont::Bold);
+  EXPECT_EQ(fontFor(FontSpec{"x1", 19, false}).weight(), QFont::Normal);
+}
+
+} // namespace
+} // namespace talvora
