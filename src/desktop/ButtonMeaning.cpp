@@ -5,6 +5,11 @@
 
 namespace talvora {
 
+bool hasEnglishCaption(const Button& button) {
+  constexpr int FirstOfRightColumn = 10;
+  return button.TabIndex() >= FirstOfRightColumn;
+}
+
 QString meaningOf(const Button& button) {
   static const std::array<const char16_t*, 18> meanings = {
       u"Đọc bài tiếng Anh, bấm vào từ để tra nghĩa và nghe",

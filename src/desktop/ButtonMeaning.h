@@ -10,4 +10,7 @@ namespace talvora {
 /// One line in Vietnamese on what a menu button opens.
 [[nodiscard]] QString meaningOf(const Button& button);
 
+/// The right column is captioned in English.
+[[nodiscard]] bool hasEnglishCaption(const Button& button);
+
 } // namespace talvora

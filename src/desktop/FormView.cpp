@@ -248,7 +248,8 @@ bool FormView::event(QEvent* event) {
   const auto& help = static_cast<const QHelpEvent&>(*event);
   const auto* const button =
       dynamic_cast<const Button*>(form_.controlAt(mouse_.pointOf(help.pos())));
-  const QString text = button == nullptr ? QString() : meaningOf(*button);
+  const bool needsOne = button != nullptr && hasEnglishCaption(*button);
+  const QString text = needsOne ? meaningOf(*button) : QString();
   if (text.isEmpty()) {
     QToolTip::hideText();
   } else {

@@ -77,7 +77,9 @@ char characterOf(const QKeyEvent& event) {
   const QString text = event.text();
   if (text.size() != 1) return '\0';
   const char16_t unit = text.front().unicode();
-  // English is typed; a letter beyond the single-byte range has no key in the program.
+  // English is typed, and the window asks for no input method: a Telex or VNI keyboard that the
+  // learner has on for other programs composes nothing here, so that "aa" stays two letters. A
+  // letter beyond the single-byte range has no key in the program.
   return unit >= 0x20 && unit <= 0xFF ? chr(unit) : '\0';
 }
 

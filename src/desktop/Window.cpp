@@ -1,6 +1,7 @@
 #include "desktop/Window.h"
 
 #include "desktop/BackgroundArt.h"
+#include "desktop/Fonts.h"
 #include "desktop/KeyCodes.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
@@ -14,15 +15,18 @@
 #include <QPainter>
 #include <QScreen>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace talvora {
 
 namespace {
 
 constexpr int TwipsPerPixel = 15;
+constexpr double TipSize = 16;         // pixels of the virtual screen
 constexpr int LongestCaretSearch = 60; // pixels
 const QColor LetterboxColour(0x12, 0x22, 0x2E);
 // How long the start may wait for the window system to show the window.
@@ -31,6 +35,10 @@ constexpr int ExposeMs = 200;
 constexpr qint64 SessionEndMs = 60'000;
 // Letters are made ready when the menu stands.
 constexpr int WarmAfterMs = 700;
+
+bool standsForClick(int key) {
+  return key == Qt::Key_F10 || key == Qt::Key_Menu;
+}
 
 /// Ends a wait when the window system shows the window.
 class ExposeWatch final : public QObject {
@@ -183,6 +191,9 @@ void Window::arrange() {
   view_->setGeometry(strip.x(), strip.bottom() + 1, strip.width(),
                      qRound(origin_.y() + virtualHeight * scale_) - strip.bottom() - 1);
   view_->setScale(pixelsPerTwip());
+  QFont tip = fontFor(FontSpec{"x1", 10, false});
+  tip.setPixelSize(std::max(1, qRound(TipSize * scale_)));
+  QToolTip::setFont(tip);
 }
 
 void Window::resizeEvent(QResizeEvent*) {
@@ -236,11 +247,11 @@ void Window::sendStroke(Qt::Key key) {
 // A left click at the caret with F10, a right one with Shift+F10 or the Menu key: what the mouse
 // does in a section, the keys do too.
 bool Window::clickWithKey(const QKeyEvent& event) {
-  const bool menuKey = event.key() == Qt::Key_Menu;
-  if (!menuKey && event.key() != Qt::Key_F10) return false;
+  if (!standsForClick(event.key())) return false;
   const auto* surface = dynamic_cast<const Surface*>(program_.form().ActiveControl());
   if (surface == nullptr || event.isAutoRepeat()) return true;
-  const bool right = menuKey || event.modifiers().testFlag(Qt::ShiftModifier);
+  shiftClicks_ = event.modifiers().testFlag(Qt::ShiftModifier);
+  const bool right = shiftClicks_ || event.key() == Qt::Key_Menu;
   const PixelPoint at = pixelAtCaret(*surface);
   machine_.input.SetCursorPos(at);
   machine_.input.pointerCame(at);
@@ -270,7 +281,9 @@ PixelPoint Window::pixelAtCaret(const Surface& surface) const {
 
 void Window::keyReleaseEvent(QKeyEvent* event) {
   const int code = keyCodeOf(*event);
-  if (event->isAutoRepeat() || code == 0) return;
+  if (event->isAutoRepeat() || code == 0 || standsForClick(event->key())) return;
+  // A page takes the release of any key as the end of what is shown: not of those that clicked.
+  if (code == key::Shift && std::exchange(shiftClicks_, false)) return;
   const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
   bridge_.deliver([&] { program_.form().releaseKey(code, shiftOf(event->modifiers()) & ~own); });
 }

@@ -79,6 +79,7 @@ class Window final : public QWidget {
   FontWarmer warmer_;
   double scale_ = 1;         ///< real pixels to a virtual one
   QPointF origin_;           ///< of the virtual screen in the window
+  bool shiftClicks_ = false; ///< Shift is down and was part of a click by key
   bool closeWanted_ = false; ///< the window was closed while the program slept
   QElapsedTimer sessionEnd_; ///< since the session was about to end
   bool endWanted_ = false;   ///< the system wanted the program ended while it slept

@@ -29,6 +29,7 @@ fi
 practise
 use_the_mouse_alone
 use_the_keys_alone
+let_the_menu_rest
 read_the_guide
 see_the_notice
 quit
