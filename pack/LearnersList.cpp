@@ -101,11 +101,8 @@ Oddities odditiesOf(const VocabularyContent& content, const TextCatalogue* catal
       found.empty.push_back(at);
     } else if (!seen.insert(lower(word.word())).second) {
       found.twice.push_back(at);
-    } else if (catalogue != nullptr && word.ViTriCauTu != 0) {
-      const auto sentence = catalogue->at(word.ViTriCauTu);
-      const bool holds =
-          sentence && lower(sentence->words).find(lower(word.word())) != std::string::npos;
-      if (!holds) found.astray.push_back(at);
+    } else if (catalogue != nullptr && word.ViTriCauTu != 0 && !catalogue->at(word.ViTriCauTu)) {
+      found.astray.push_back(at);
     }
   }
   return found;

@@ -34,7 +34,7 @@ enum class Doing { Show, Do };
 [[nodiscard]] ListResult restoreWords(const LearnersList& list, const std::string& copy,
                                       Doing doing, std::ostream& out);
 /// Tells what is odd in the list: bytes that are no record, records without a word, words that
-/// stand twice, and with a pack, places at which no sentence with the word begins. `Do` mends it.
+/// stand twice, and with a pack, places at which no sentence begins. `Do` mends it.
 [[nodiscard]] ListResult checkWords(const LearnersList& list,
                                     const std::optional<std::string>& pack, Doing doing,
                                     std::ostream& out);

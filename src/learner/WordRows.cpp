@@ -26,7 +26,8 @@ std::string bytesFrom(std::string_view utf8) {
     const auto letter = nextCodePoint(utf8, at);
     // Whoever edited the file with another program may have left anything in it.
     if (!letter) ++at;
-    bytes += letter ? x1Byte(*letter).value_or('?') : '?';
+    const char byte = letter ? x1Byte(*letter).value_or('?') : '?';
+    bytes += isControl(byte) ? ' ' : byte;
   }
   return bytes;
 }

@@ -35,7 +35,10 @@ class Sections {
   void loadExerciseCounts() { exercises_.store.DocSoCau(platform_.events); }
 
   /// Stores what leaving the open section would store.
-  void keep() { reading_.keep(); }
+  void keep() {
+    reading_.keep();
+    soundSettings_.keep();
+  }
 
   void declare(Variables& variables) const;
 

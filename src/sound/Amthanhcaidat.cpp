@@ -92,9 +92,17 @@ void Amthanhcaidat::writeCell(std::string_view text, Weight weight) {
   state_.list.BangViTri[static_cast<std::size_t>(SoCell)] = panel_.SelStart();
 }
 
-void Amthanhcaidat::ExitRAmThanh() {
+void Amthanhcaidat::store() {
   stores_.writeSetting(setting::SoundOn, speech_.AmThanhBat);
   stores_.writeSetting(setting::SpeedLevel, speech_.TocDoDoc);
+}
+
+void Amthanhcaidat::keep() {
+  if (panel_.Visible()) store();
+}
+
+void Amthanhcaidat::ExitRAmThanh() {
+  store();
   shell_.transitions.DongRan(panel_, controls_.Frame1);
   focusButton(section::Settings);
 }

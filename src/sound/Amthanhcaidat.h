@@ -31,6 +31,8 @@ class Amthanhcaidat {
   void DatMuc();
   /// Stores the settings and takes the panel off.
   void ExitRAmThanh();
+  /// Stores the settings of a panel that is open: the program ends.
+  void keep();
 
   void declare(Variables& variables) const;
 
@@ -44,6 +46,7 @@ class Amthanhcaidat {
  private:
   enum class Weight { Normal, Bold };
 
+  void store();
   void wireEvents();
   void writePanel();
   void writeCell(std::string_view text, Weight weight);

@@ -124,7 +124,7 @@ TEST_F(LearnersListTest, BackupsAreToldAndAWrongNameIsNone) {
 
 TEST_F(LearnersListTest, WhatIsOddIsToldAndMended) {
   run.folder.write("data.c", record("bank", Bank) + record("", 3) + record("Bank", 9) +
-                                 record("river", Bank) + "odd");
+                                 record("river", Bank + 1) + "odd");
   EXPECT_EQ(checkWords(list, run.folder.path(), Doing::Show, out), ListResult::Found);
   const std::string faults = told();
   EXPECT_THAT(faults, HasSubstr("Cuối tệp thừa 3 byte."));

@@ -90,6 +90,19 @@ TEST_F(Closing, EveryFurtherWaitIsOverAtOnce) {
   EXPECT_EQ(run.machine.time.nowMs(), from);
 }
 
+TEST_F(Closing, StoresTheSettingsOfAPanelThatIsOpen) {
+  const auto soundOn = [this] { return run.folder.read("data.Kcu").substr(4, 4); };
+  ASSERT_EQ(soundOn(), std::string("\x01\0\0\0", 4));
+  run.clickButton(8);
+  Surface& panel = run.controls().RAmthanh;
+  ASSERT_TRUE(panel.Visible());
+  run.click(panel, static_cast<int>(panel.Text().find("- T")) + 3);
+  ASSERT_LT(run.number("AmThanhBat"), 1);
+  EXPECT_EQ(soundOn(), std::string("\x01\0\0\0", 4)) << "not before the panel is left";
+  run.program.closeWindow();
+  EXPECT_NE(soundOn(), std::string("\x01\0\0\0", 4));
+}
+
 TEST_F(Closing, DuringTheLoadNothingIsOpenedAnyMore) {
   ProgramRun loading;
   loading.writeTexts({});
