@@ -309,8 +309,9 @@ void TextTeller::tell() {
 }
 
 void Announcer::tell(const QString& text) {
-  if (!QAccessible::isActive() || text.trimmed().isEmpty()) return;
+  if (text.trimmed().isEmpty()) return;
   setAccessibleName(text.trimmed().left(LongestAnnounced));
+  if (!QAccessible::isActive()) return;
   // A note that comes up anew is read out.
   for (const QAccessible::Event kind : {QAccessible::ObjectHide, QAccessible::ObjectShow}) {
     QAccessibleEvent event(this, kind);
