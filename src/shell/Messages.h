@@ -25,8 +25,8 @@ class Messages {
   /// `TatThongBao`. A text longer than the screen still centres by arithmetic.
   void ThongBao(std::string_view text, int ms);
   void TatThongBao();
-  /// What became of a word that the learner wanted to keep, for a front that shows it by a sign; the
-  /// surfaces say nothing of it.
+  /// What became of a word that the learner wanted to keep, for a front that shows it by a sign;
+  /// the surfaces say nothing of it.
   void wordTaken(const std::string& word, WordTaken outcome, int count) {
     narrator_.wordTaken(word, outcome, count);
   }
