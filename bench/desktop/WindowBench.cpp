@@ -291,7 +291,6 @@ int main(int argc, char** argv) {
     std::cerr << "talvora-bench-Window PACK_FOLDER [benchmark options]\n";
     return 2;
   }
-  keepLargeLetters();
   const QApplication application(argc, argv);
   loadFonts();
   const Paths paths{std::filesystem::absolute(argv[0]), std::filesystem::absolute(argv[1])};

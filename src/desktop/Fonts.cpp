@@ -121,10 +121,4 @@ double lineHeightOf(const QFont& font) {
   return std::max(QFontMetricsF(font).height(), font.pixelSize() * LinePitch);
 }
 
-void keepLargeLetters() {
-  constexpr const char* Setting = "QT_MAX_CACHED_GLYPH_SIZE";
-  // A letter of a heading on a screen of 8K is less than 200 pixels high.
-  if (!qEnvironmentVariableIsSet(Setting)) qputenv(Setting, "200");
-}
-
 } // namespace talvora

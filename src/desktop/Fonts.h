@@ -20,8 +20,4 @@ void loadFonts();
 /// their marks need.
 [[nodiscard]] double lineHeightOf(const QFont& font);
 
-/// Lets Qt keep the pictures of letters at every size that the program paints on a large screen,
-/// instead of drawing their outlines each time. To be called ahead of the application.
-void keepLargeLetters();
-
 } // namespace talvora

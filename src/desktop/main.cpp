@@ -152,7 +152,6 @@ int main(int argc, char** argv) {
   const talvora::CommandLine line = talvora::readCommandLine(argc, argv, TALVORA_VERSION);
   if (line.over) return *line.over;
   ToolkitArguments arguments(argv[0], line.rest);
-  talvora::keepLargeLetters();
   auto guard = std::make_optional<talvora::DisplayGuard>();
   const QApplication application(arguments.count(), arguments.values());
   guard.reset();

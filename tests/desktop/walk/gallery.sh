@@ -21,6 +21,7 @@ show_reading() {
   expect_note "focus=R2 "
   sleep 2
   shot 13-text
+  expect_ink 13-text R2 stands
   click_word R2 "bank[,.]?"
   expect_visible RHD
   shot 14-entry
