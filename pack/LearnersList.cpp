@@ -47,8 +47,8 @@ void tellRow(const WordRow& row, std::ostream& out) {
 }
 
 /// The rows of a copy for the words that a list has not.
-std::vector<WordRow> missingRows(const LearnersList& list, const DatedCopies& copies,
-                                 const std::string& copy, const Words& there) {
+std::vector<WordRow> missingRows(const DatedCopies& copies, const std::string& copy,
+                                 const Words& there) {
   const auto content = copies.read(copy, learnerfile::Words);
   if (!content) return {};
   std::vector<WordRow> known =
@@ -63,15 +63,13 @@ std::vector<WordRow> missingRows(const LearnersList& list, const DatedCopies& co
     // Without its sentence a word's place belongs to nobody knows which pack.
     rows.push_back(row != known.end() ? *row : WordRow{word.word(), {}, {}});
   }
-  static_cast<void>(list);
   return rows;
 }
 
-std::string newestWithMissing(const LearnersList& list, const DatedCopies& copies,
-                              const Words& there) {
+std::string newestWithMissing(const DatedCopies& copies, const Words& there) {
   const auto all = copies.all();
   for (auto copy = all.rbegin(); copy != all.rend(); ++copy) {
-    if (!missingRows(list, copies, copy->name, there).empty()) return copy->name;
+    if (!missingRows(copies, copy->name, there).empty()) return copy->name;
   }
   return {};
 }
@@ -172,12 +170,12 @@ ListResult restoreWords(const LearnersList& list, const std::string& copy, Doing
   auto there = words.peek();
   if (!there) there.emplace();
   const DatedCopies copies(list.folder, list.files, list.calendar);
-  const std::string from = copy.empty() ? newestWithMissing(list, copies, *there) : copy;
+  const std::string from = copy.empty() ? newestWithMissing(copies, *there) : copy;
   if (!copy.empty() && !copies.read(copy, learnerfile::Words)) {
     out << "Không có bản sao " << copy << ".\n";
     return ListResult::Impossible;
   }
-  const auto rows = missingRows(list, copies, from, *there);
+  const auto rows = missingRows(copies, from, *there);
   if (rows.empty()) {
     out << "Không có từ nào để lấy lại.\n";
     return ListResult::Fine;

@@ -197,6 +197,7 @@ WordRow LearnerWords::rowOf(const VocabularyWord& word) const {
 
 std::vector<WordRow> LearnerWords::rowsOf(const std::vector<VocabularyWord>& words) const {
   std::vector<WordRow> rows;
+  rows.reserve(words.size());
   for (const VocabularyWord& word : words)
     rows.push_back(rowOf(word));
   return rows;
@@ -226,6 +227,7 @@ void LearnerWords::noteAdded(const VocabularyWord& word) {
 void LearnerWords::noteRemoved(const std::vector<VocabularyWord>& words) {
   static_cast<void>(copies_.keep());
   std::vector<WordDeed> deeds;
+  deeds.reserve(words.size());
   for (const VocabularyWord& word : words)
     deeds.push_back({WordDeed::Kind::Removed, rowOf(word)});
   journal(std::move(deeds));

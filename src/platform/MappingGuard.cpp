@@ -41,8 +41,9 @@ void mend(int signal, siginfo_t* info, void*) {
     const std::uintptr_t from = each.from.load();
     if (from == 0 || at < from || at - from >= each.size.load()) continue;
     const std::uintptr_t page = at - at % pageSize.load();
-    void* const zeros = ::mmap(reinterpret_cast<void*>(page), pageSize.load(), PROT_READ,
-                               MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED, -1, 0);
+    void* const zeros =
+        ::mmap(reinterpret_cast<void*>(page), // NOLINT: a fault has a number
+               pageSize.load(), PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED, -1, 0);
     if (zeros == MAP_FAILED) break;
     each.shrunk.store(true);
     errno = before;

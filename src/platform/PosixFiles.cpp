@@ -202,7 +202,7 @@ std::string PosixFileSystem::followLinks(const std::string& path, std::error_cod
       return at;
     }
     const std::string target(to.data(), static_cast<std::size_t>(length));
-    at = target.starts_with('/') ? target : parentOf(at) + target;
+    at = target.starts_with('/') ? target : parentOf(at).append(target);
   }
   error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
   return path;
