@@ -205,11 +205,11 @@ int run(int argumentCount, char** arguments) {
       ->check(CLI::Range(1, ReadingSlots));
   planCommand->add_flag("--known", known, "list the known lemmas as well");
 
-  std::vector<std::string> words;
+  std::vector<std::string> saidWords;
   CLI::App* phonesCommand = application.add_subcommand(
       "phones", "tell how the head words of SOURCE are said, or the WORDs alone");
   phonesCommand->add_option("SOURCE", options.source, "folder of the content sources")->required();
-  phonesCommand->add_option("WORD", words, "words to tell of");
+  phonesCommand->add_option("WORD", saidWords, "words to tell of");
 
   try {
     application.parse(argumentCount, arguments);
@@ -225,7 +225,7 @@ int run(int argumentCount, char** arguments) {
                  listed ? Warnings::Listed : Warnings::Counted);
   }
   if (showCommand->parsed()) return showPlace(place);
-  if (phonesCommand->parsed()) return phones(options.source, words);
+  if (phonesCommand->parsed()) return phones(options.source, saidWords);
   return dumpCommand->parsed() ? dumpTo(pack, out) : status(options);
 }
 
