@@ -1,4 +1,4 @@
-# Shared by ./run and ./check: installs the packages that are missing and builds a preset.
+# Shared by ./run and ./check: installs the packages that are missing, builds a preset, makes a pack.
 # To be sourced from the repository's top folder.
 
 # Clones of the repository share what was compiled once.
@@ -6,35 +6,67 @@ export CCACHE_BASEDIR=$PWD
 
 say() { printf '\n== %s\n' "$*"; }
 
-as_root() {
-  if [ "$(id -u)" -eq 0 ]; then
-    "$@"
-  elif command -v sudo >/dev/null; then
-    sudo "$@"
-  else
-    echo "This needs root to install packages, and sudo is not there: $*" >&2
-    return 1
-  fi
+# Prints the names that packages have on a system; the arguments are its column in the table and the
+# purposes asked for.
+packages_for() {
+  local column=$1
+  shift
+  awk -F'\t' -v column="$column" -v purposes=" $* " '
+    /^#/ || $1 == "for" { next }
+    index(purposes, " " $1 " ") && $column != "-" { print $column }' tools/packages.tsv
 }
 
-# Prints the packages of the list that are not installed.
+# Prints the Debian packages for the purposes that are not installed.
 missing_packages() {
-  grep -v '^#' tools/debian-packages.txt | while read -r package; do
-    [ -n "$package" ] || continue
+  packages_for 2 "$@" | while read -r package; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
       printf '%s\n' "$package"
   done
 }
 
+# On another system than Debian: says what to install there, for somebody who knows that system.
+say_what_others_install() {
+  if [ "${TALVORA_PACKAGES:-}" = there ]; then return 0; fi
+  say "This is not Debian: the packages are yours to install"
+  if command -v dnf >/dev/null; then
+    printf 'sudo dnf install %s\n' "$(packages_for 3 "$@" | sort -u | tr '\n' ' ')"
+  elif command -v pacman >/dev/null; then
+    printf 'sudo pacman -S --needed %s\n' "$(packages_for 4 "$@" | sort -u | tr '\n' ' ')"
+  else
+    echo "Their names on Debian, Fedora and Arch stand in tools/packages.tsv."
+  fi
+  echo "When they are there, run this again with TALVORA_PACKAGES=there in the environment."
+  return 1
+}
+
+# Installs the packages for the purposes given; says first what that will fetch and take.
 install_packages() {
-  local missing
-  missing=$(missing_packages)
+  if ! command -v dpkg-query >/dev/null; then
+    say_what_others_install "$@"
+    return
+  fi
+  local missing command
+  missing=$(missing_packages "$@" | tr '\n' ' ')
   [ -n "$missing" ] || return 0
-  say "Installing packages:" $missing
-  as_root apt-get update -q
+  command="apt-get install -y --no-install-recommends $missing"
+  local as_root=
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null || ! sudo -v; then
+      echo "Some packages are missing and need an administrator. Ask for this line, then start again:" >&2
+      echo "    $command" >&2
+      return 1
+    fi
+    as_root=sudo
+  fi
+  say "Installing packages: $missing"
   # shellcheck disable=SC2086 # a word a package
-  as_root env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends $missing
+  {
+    $as_root apt-get update -q
+    LC_ALL=C $as_root apt-get install --assume-no --no-install-recommends $missing |
+      grep -E '^(Need to get|After this operation)' || echo "(apt did not say how much that is)"
+    $as_root env DEBIAN_FRONTEND=noninteractive \
+      apt-get install -y -q --no-install-recommends $missing
+  }
 }
 
 # Configures and builds a preset; more arguments go to the configuration.
@@ -42,7 +74,10 @@ build_preset() {
   local preset=$1
   shift
   say "Building ($preset)"
-  cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"build-$preset.log" 2>&1 || {
+  local launcher=
+  if command -v ccache >/dev/null; then launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+  # shellcheck disable=SC2086 # nothing or one word
+  cmake --preset "$preset" $launcher "$@" >"build-$preset.log" 2>&1 || {
     cat "build-$preset.log"
     rm -f "build-$preset.log"
     return 1
@@ -51,8 +86,8 @@ build_preset() {
   cmake --build --preset "$preset"
 }
 
-# Compiles content/ into the pack folder of the release build.
+# Compiles content/ into a pack folder with the compiler of a preset.
 make_pack() {
   say "Making the content pack"
-  build/release/pack/talvora-pack build content "$1"
+  "build/$1/pack/talvora-pack" build content "$2"
 }
