@@ -1,10 +1,13 @@
 # The compiler settings that every target of the project shares.
 add_library(talvora-settings INTERFACE)
 target_compile_options(talvora-settings INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wold-style-cast
-  -Woverloaded-virtual -Wduplicated-cond -Wlogical-op
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
+  -Wconversion -Wsign-conversion
   # g++ 12 sees overlapping copies in the joining of texts where there are none.
-  -Wno-restrict)
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wno-restrict>)
+if(TALVORA_WERROR)
+  target_compile_options(talvora-settings INTERFACE -Werror)
+endif()
 target_include_directories(talvora-settings INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
 if(TALVORA_SANITIZE)
   target_compile_options(talvora-settings INTERFACE

@@ -19,7 +19,6 @@ struct Affix {
 };
 
 constexpr ClassSet any{Noun, Verb, Adjective, Adverb};
-constexpr ClassSet descriptive{Adjective, Adverb};
 
 constexpr std::array prefixes = {
     Affix{"un-", {Adjective, Adverb, Verb}, {}, "không; làm ngược lại"},

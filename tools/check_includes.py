@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """Checks the order of the house: no include goes up a floor, and none goes in a circle.
 
-usage: check_includes.py SOURCE_FOLDER
+usage: check_includes.py [REPOSITORY]
 
+A component is a header and the source of the same name, taken as one: a circle between two
+components is a fault even where no file includes itself. Looked at are src, pack, tests and bench.
 Exit code 0 when all is well, 1 with a line `file:line: message` for each fault, 2 on a wrong call.
 """
 
@@ -10,6 +12,7 @@ import re
 import sys
 from pathlib import Path
 
+# The folders of src; a file includes from its own floor or a lower one.
 FLOORS = {
     "text": 0,
     "platform": 1,
@@ -28,24 +31,34 @@ FLOORS = {
     "desktop": 11,
     "driver": 11,
 }
+# Beside the house: the compiler knows the text, the surfaces' rich text and the stores' formats, and
+# asks the dictionary how the program would look a word up; tests and benchmarks see everything.
+PACK_FLOOR = 5
+FREE = ("tests", "bench")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+
+
+def floor_of(path):
+    """The floor a file stands on, or None where there is none for its folder."""
+    top = path.parts[0]
+    if top == "src":
+        return FLOORS.get(path.parts[1])
+    if top == "pack":
+        return PACK_FLOOR
+    return max(FLOORS.values()) + 1 if top in FREE else None
 
 
 def includes_of(path, root):
     """The project's own files that a file includes, with their lines."""
-    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), start=1):
+    for number, line in enumerate((root / path).read_text(encoding="utf-8").splitlines(), start=1):
         match = INCLUDE.match(line)
         if not match:
             continue
-        target = root / match.group(1)
-        if not target.exists():
-            target = path.parent / match.group(1)
-        if target.exists():
-            yield number, target.relative_to(root)
-
-
-def floor_of(path):
-    return FLOORS.get(path.parts[0])
+        name = match.group(1)
+        for base in (Path("src"), Path("."), path.parent, Path("tests/unit"), Path("tests")):
+            if (root / base / name).exists():
+                yield number, (base / name)
+                break
 
 
 def circle_from(start, graph):
@@ -54,7 +67,7 @@ def circle_from(start, graph):
     seen = set()
     while stack:
         node, way = stack.pop()
-        for target in graph.get(node, ()):
+        for target in sorted(graph.get(node, ())):
             if target == start:
                 return way + [start]
             if target not in seen:
@@ -63,31 +76,43 @@ def circle_from(start, graph):
     return None
 
 
+def circles_of(graph):
+    """One line for each circle, named by its first member."""
+    told = set()
+    for name in sorted(graph):
+        circle = circle_from(name, graph)
+        if circle and frozenset(circle) not in told:
+            told.add(frozenset(circle))
+            yield f"{name}: includes itself: " + " > ".join(map(str, circle))
+
+
 def main():
-    if len(sys.argv) != 2 or sys.argv[1] in ("-h", "--help"):
+    if len(sys.argv) > 2 or sys.argv[1:] in (["-h"], ["--help"]):
         print(__doc__.strip())
         return 0 if len(sys.argv) == 2 else 2
-    root = Path(sys.argv[1])
+    root = Path(sys.argv[1] if len(sys.argv) == 2 else ".")
     faults = []
-    graph = {}
-    for path in sorted(root.rglob("*")):
+    components = {}
+    files = 0
+    for path in sorted(p.relative_to(root) for top in ("src", "pack", *FREE) for p in (root / top).rglob("*")):
         if path.suffix not in (".h", ".cpp"):
             continue
-        name = path.relative_to(root)
-        floor = floor_of(name)
+        files += 1
+        floor = floor_of(path)
         if floor is None:
             faults.append(f"{path}:1: the folder stands on no floor; give it one in {__file__}")
             continue
-        graph[name] = []
+        component = components.setdefault(path.with_suffix(""), set())
         for number, target in includes_of(path, root):
-            graph[name].append(target)
-            if floor_of(target) is not None and floor_of(target) > floor:
+            if target.with_suffix("") != path.with_suffix(""):
+                component.add(target.with_suffix(""))
+            target_floor = floor_of(target)
+            if target_floor is not None and target_floor > floor:
                 faults.append(f"{path}:{number}: includes {target}, which stands on a higher floor")
-    for name in sorted(graph):
-        circle = circle_from(name, graph)
-        if circle:
-            faults.append(f"{root / name}:1: includes itself: " + " > ".join(map(str, circle)))
-    print("\n".join(faults) if faults else f"include order: {len(graph)} files, all in order")
+            if path.parts[0] == "src" and target.parts[0] != "src":
+                faults.append(f"{path}:{number}: includes {target}, which is no part of the program")
+    faults += circles_of(components)
+    print("\n".join(faults) if faults else f"include order: {files} files, all in order")
     return 1 if faults else 0
 
 

@@ -297,7 +297,7 @@ void TuVungChon::wireEvents() {
     state_.word.ViTriCaret = Rchon.SelStart();
     if (Rchon.Visible()) shell_.upward.DongNghia();
   };
-  Rchon.SelChange = [this, &Rchon, &word] {
+  Rchon.SelChange = [&Rchon, &word] {
     if (Rchon.SelLength() == 0) word.TuHienTai.clear();
   };
 }

@@ -81,12 +81,12 @@ void HintBar::NoiDungHD(Surface& surface) {
     }
     return false;
   };
-  const auto& hints = hintTexts();
+  const auto hints = hintTexts();
   const auto hint = std::find_if(hints.begin(), hints.end(), [&](const Hint& each) {
     return each.surface == surface.Name() && holds(each.when);
   });
   if (hint == hints.end()) return;
-  for (std::size_t line = 0; line < hint->lines.size(); ++line) {
+  for (std::size_t line = 0; line < hint->lines.size() && !hint->lines[line].empty(); ++line) {
     if (line > 0) RDOS.SelText('\r');
     RDOS.SelText(hint->lines[line]);
   }
