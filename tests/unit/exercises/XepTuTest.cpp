@@ -141,7 +141,7 @@ TEST_F(Ordering, ThreeWordsAreSkipped) {
 TEST_F(Ordering, AfterTwentyShortSentencesTheLastStands) {
   std::string body;
   for (int sentence = 1; sentence <= 30; ++sentence)
-    body += "_n" + std::string(sentence, 'x') + ".";
+    body += "_n" + std::string(static_cast<std::size_t>(sentence), 'x') + ".";
   openItem(body, "");
   // Sentence 1 is the empty one ahead of the first mark.
   EXPECT_EQ(drill.ChiSoCau, 20);

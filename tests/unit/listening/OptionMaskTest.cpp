@@ -20,7 +20,7 @@ TEST(OptionMask, TheInstructionAndTheRightOptionAreCovered) {
   const OptionMask mask(Options, 2, PageLength);
   EXPECT_EQ(mask.MatNaNghe().size(), static_cast<std::size_t>(PageLength - 3 + 200));
   EXPECT_EQ(mask.MatNaNghe().substr(0, 40), std::string(40, '0'));
-  for (int caret = 50; caret <= 58; ++caret)
+  for (std::size_t caret = 50; caret <= 58; ++caret)
     EXPECT_EQ(mask.MatNaNghe()[caret - 1], '0');
   EXPECT_EQ(mask.MatNaNghe()[43], ' ');
 }

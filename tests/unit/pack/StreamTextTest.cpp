@@ -51,7 +51,7 @@ TEST(StreamText, EveryTextOfStreamBytesComesBack) {
   std::mt19937 random(7);
   for (int round = 0; round < 2000; ++round) {
     std::string text;
-    for (unsigned length = random() % 40; length > 0; --length) {
+    for (auto length = random() % 40; length > 0; --length) {
       text += letters[random() % letters.size()];
     }
     const auto back = storedUntil(storedText(text + "@"), 0, '@');

@@ -34,7 +34,8 @@ TEST(ByteCode, ExpandsTheBytesOfTheTable) {
 }
 
 TEST(ByteCode, LeavesEveryOtherByteAsItsOwnCharacter) {
-  for (const unsigned char code : {9, 10, 13, 30, 65, 64, 95, 128, 160, 255}) {
+  constexpr unsigned char Plain[] = {9, 10, 13, 30, 65, 64, 95, 128, 160, 255};
+  for (const unsigned char code : Plain) {
     EXPECT_EQ(MoRongByte(code), std::string(1, static_cast<char>(code)));
   }
 }

@@ -89,7 +89,9 @@ TEST(Partitioning, EqualsAListOfNumbersThroughRandomEdits) {
   Dice dice;
   for (int step = 0; step < 3000; ++step) {
     const int part = dice(static_cast<int>(twin.size()) - 1);
-    const int end = part + 1 < static_cast<int>(twin.size()) ? twin[part + 1UL] : length;
+    const int end = part + 1 < static_cast<int>(twin.size())
+                        ? twin[static_cast<std::size_t>(part) + 1]
+                        : length;
     if (dice(2) == 0 && end - twin[static_cast<std::size_t>(part)] > 1) {
       const int place = twin[static_cast<std::size_t>(part)] + 1;
       parts.insert(part + 1, place);
