@@ -8,6 +8,8 @@
 #include "program/Program.h"
 #include "surface/Controls.h"
 
+#include "NoScreen.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <gtest/gtest.h>
@@ -16,13 +18,6 @@
 
 namespace talvora {
 namespace {
-
-class NoScreen final : public Screen {
- public:
-  [[nodiscard]] int pixelWidth() const override { return 1024; }
-  [[nodiscard]] int pixelHeight() const override { return 768; }
-  void Refresh() override {}
-};
 
 class OfferedForm : public ::testing::Test {
  protected:

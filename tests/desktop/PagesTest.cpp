@@ -5,6 +5,8 @@
 #include "surface/Form.h"
 #include "text/GlyphMap.h"
 
+#include "NoScreen.h"
+
 #include <QFontMetricsF>
 #include <gtest/gtest.h>
 
@@ -12,13 +14,6 @@
 
 namespace talvora {
 namespace {
-
-class NoScreen final : public Screen {
- public:
-  [[nodiscard]] int pixelWidth() const override { return 1024; }
-  [[nodiscard]] int pixelHeight() const override { return 768; }
-  void Refresh() override {}
-};
 
 class Page : public ::testing::Test {
  protected:

@@ -5,6 +5,7 @@
 #include "pack/PlanChecks.h"
 #include "pack/StreamText.h"
 #include "pack/TextChecks.h"
+#include "pack/Told.h"
 #include "pack/WordPhones.h"
 #include "support/TestFolder.h"
 
@@ -17,13 +18,6 @@ namespace {
 using test::TestFolder;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-std::vector<std::string> told(const Problems& problems) {
-  std::vector<std::string> lines;
-  for (const Problem& problem : problems.all())
-    lines.push_back(describe(problem));
-  return lines;
-}
 
 std::vector<std::string> problemsOf(const std::string& text, TextUse use = TextUse::Reading) {
   Problems problems;

@@ -4,6 +4,7 @@
 #include "pack/ListeningStore.h"
 #include "pack/SpeakingSource.h"
 #include "pack/StreamText.h"
+#include "pack/Told.h"
 #include "support/TestFolder.h"
 #include "surface/RichText.h"
 
@@ -14,13 +15,6 @@ namespace talvora::pack {
 namespace {
 
 using testing::ElementsAre;
-
-std::vector<std::string> told(const Problems& problems) {
-  std::vector<std::string> lines;
-  for (const Problem& problem : problems.all())
-    lines.push_back(describe(problem));
-  return lines;
-}
 
 constexpr std::string_view TwoItems = "// comment\n3: She sells bread.\n+ She sells it.\n"
                                       "- She buys it.\n- She eats it.\n- She hides it.\n\n"

@@ -2,6 +2,7 @@
 #include "pack/ItemSource.h"
 
 #include "pack/ExerciseSource.h"
+#include "pack/Told.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
@@ -14,13 +15,6 @@ using talvora::test::TestFolder;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-std::vector<std::string> told(const Problems& problems) {
-  std::vector<std::string> lines;
-  for (const Problem& problem : problems.all())
-    lines.push_back(describe(problem));
-  return lines;
-}
 
 std::vector<std::string> toldOf(std::string_view text, ItemPlace place = ItemPlace::Lesson) {
   Problems problems;

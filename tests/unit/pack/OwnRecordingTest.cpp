@@ -5,6 +5,7 @@
 #include "pack/Recordings.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeechLevel.h"
+#include "pack/Told.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
@@ -16,13 +17,6 @@ namespace {
 using test::TestFolder;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-std::vector<std::string> told(const Problems& problems) {
-  std::vector<std::string> lines;
-  for (const Problem& problem : problems.all())
-    lines.push_back(describe(problem));
-  return lines;
-}
 
 /// A wave file of so many milliseconds.
 std::string waveOf(int ms) {

@@ -1,6 +1,7 @@
 // The book of words and the sheets that texts are written against.
 #include "pack/Planner.h"
 
+#include "pack/Told.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
@@ -12,13 +13,6 @@ namespace {
 using test::TestFolder;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-std::vector<std::string> told(const Problems& problems) {
-  std::vector<std::string> lines;
-  for (const Problem& problem : problems.all())
-    lines.push_back(describe(problem));
-  return lines;
-}
 
 std::vector<std::string> textsOf(const std::vector<TextWord>& words) {
   std::vector<std::string> texts;
