@@ -4,6 +4,7 @@
 #include "pack/StreamText.h"
 #include "stores/SettingsFile.h"
 
+#include <cstdint>
 #include <string>
 
 namespace talvora::pack {
@@ -11,7 +12,7 @@ namespace talvora::pack {
 std::vector<PackFile> firstSettings() {
   std::string settings;
   for (const std::int32_t record : talvora::firstSettings())
-    appendInteger(settings, record);
+    appendInteger(settings, static_cast<std::uint32_t>(record));
   return {{"data.Kcu", std::move(settings), Owner::Learner}, {"data.c", "", Owner::Learner}};
 }
 
