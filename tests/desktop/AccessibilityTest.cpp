@@ -132,8 +132,8 @@ TEST(Announcer, SaysWhatItWasTold) {
 }
 
 TEST(Typing, NoInputMethodComposesInTheWindow) {
-  DesktopMachine machine({1024, 768}, 1);
-  Program program(machine.platform, ".");
+  DesktopMachine machine({1024, 768}, 1, ".");
+  Program program(machine.platform, std::string("."));
   EventBridge bridge;
   Window window(machine, program, bridge);
   EXPECT_FALSE(window.testAttribute(Qt::WA_InputMethodEnabled));
