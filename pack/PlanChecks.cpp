@@ -87,7 +87,7 @@ std::string openSlotNote(std::string_view name, const ReadingSource& texts, int 
       between += open;
       open = 0;
     } else if (texts.headings.count(slot) != 0) {
-      headed = open == 0;
+      if (open == 0) headed = true;
     } else {
       if (open == 0) headed = texts.headings.count(slot - 1) != 0;
       ++open;

@@ -115,6 +115,10 @@ std::string joined(const Phones& phones) {
   return text;
 }
 
+bool isStressed(const Phones& phones) {
+  return std::ranges::any_of(phones, [](const std::string& phone) { return phone.ends_with('1'); });
+}
+
 } // namespace
 
 Pronouncer::Pronouncer(std::vector<PronunciationRule> rules) : rules_(std::move(rules)) {
@@ -199,7 +203,9 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries) 
     const PronunciationRule* rule = ruleFor(entry.head, wordClass, Gives::Sounds);
     const bool ruled = rule != nullptr && rule->wordClass;
     if (!ruled && !isSaidInSeveralWays(word)) continue;
-    corrections.push_back({SpokenWhere::Alone, word, joined(phonesOfWord(entry.head, wordClass))});
+    // Small words without a stress of their own ("to", "in") are said well alone as it is.
+    const Phones phones = phonesOfWord(entry.head, wordClass);
+    if (isStressed(phones)) corrections.push_back({SpokenWhere::Alone, word, joined(phones)});
   }
   for (const PronunciationRule& rule : rules_) {
     const std::string word = lower(rule.word);

@@ -46,6 +46,11 @@ constexpr int SilenceRate = 16000;
 /// Samples from one call of the callback to the next: a twentieth of a second.
 constexpr int PartSamples = 800;
 
+const VoiceSource& sourceOf(int number) {
+  const auto beforeLast = static_cast<std::size_t>(VoiceNumbers - number);
+  return voices.at(voices.size() - 1 - beforeLast % voices.size());
+}
+
 struct DeleteUtterance {
   void operator()(cst_utterance* utterance) const { delete_utterance(utterance); }
 };
@@ -68,8 +73,7 @@ struct FliteSpeech::Stream {
 };
 
 cst_voice* loadFliteVoice(int number) {
-  const auto beforeLast = static_cast<std::size_t>(VoiceNumbers - number);
-  const VoiceSource& source = voices.at(voices.size() - 1 - beforeLast % voices.size());
+  const VoiceSource& source = sourceOf(number);
   // Never unloaded: the voice lives in it.
   void* const library = ::dlopen(source.library, RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return nullptr;
@@ -157,8 +161,7 @@ void FliteSpeech::synthesise(const Utterance& utterance, cst_voice& voice, std::
   // All voices have one lexicon; it is there with the first of them.
   if (!taught_) teach(*val_lexicon(feat_val(voice.features, "lexicon")), pronunciations_);
   taught_ = true;
-  const float gain = voices.at(static_cast<std::size_t>(utterance.voice - 1)).gain;
-  Stream stream{*this, stops, gain};
+  Stream stream{*this, stops, sourceOf(utterance.voice).gain};
   cst_audio_streaming_info* const info = new_audio_streaming_info();
   info->asc = Stream::take;
   info->min_buffsize = PartSamples;
