@@ -102,7 +102,8 @@ std::set<std::string> namesIn(const Course& course) {
 } // namespace
 
 RuleReport sentencesDiffer(const Course& course) {
-  RuleReport report{"two items have six words in a row in common", {}, 1};
+  // The pattern "if it had not been for" is itself six words long.
+  RuleReport report{"two items have six words in a row in common", {}, 2};
   std::unordered_map<std::string, std::size_t> firsts;
   for (std::size_t number = 0; number < course.items.size(); ++number) {
     const CourseItem& each = course.items[number];
