@@ -59,7 +59,6 @@ show_vocabulary() {
   shot 20-vocabulary
   click_word Rchon bank
   shot 21-vocabulary-entry
-  press Escape
   point_at_word Rchon bank
   xdotool click --repeat 2 --delay 60 1
   shot 22-vocabulary-sentence
