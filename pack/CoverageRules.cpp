@@ -58,6 +58,8 @@ RuleReport lessonsArePractised(const Course& course) {
     const auto lesson = course.lessons.lessons.find(slot);
     if (lesson == course.lessons.lessons.end()) continue;
     if (practised.count(lesson->second.title) > 0) continue;
+    // A practice unit recalls several lessons; no item leads to it.
+    if (lesson->second.title.starts_with(ownText("Luyện"))) continue;
     report.found.push_back({{"lesson " + std::to_string(slot)},
                             "no item of a bank leads to \"" + utf8Of(lesson->second.title) + "\""});
   }

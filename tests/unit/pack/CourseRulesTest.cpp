@@ -202,6 +202,8 @@ TEST_F(CourseRules, LessonsAndBanksBelongTogether) {
   addLesson(3, "title: Hai\n\nx\n");
   addItems(2, "item: fill, none\n\nShe {goes} home.\n");
   addItems(3, "item: fill, none\n\nHe {goes} out.\n");
+  addLesson(4, "title: Luyện: một và hai\n\nx\n");
+  addItems(4, "item: fill, none\n\nIt {goes} down.\n");
   addBank(testA, "item: fill, none\nabout: Một\n\nIt {goes} up.\n\n"
                  "item: fill, none\n\nThey {go} in.\n");
   EXPECT_THAT(found(lessonsArePractised),
