@@ -93,7 +93,7 @@ void OpenTutor::settle() {
 // -- Coming up.
 
 OpenTutor::OpenTutor(const std::filesystem::path& pack, int text)
-    : pack_(pack), machine_(virtualScreenFor(screenSize()), 1),
+    : pack_(pack), machine_(virtualScreenFor(screenSize()), 1, pack_.path()),
       program_(machine_.platform, pack_.path()), window_(machine_, program_, bridge_) {
   bridge_.onFailure = [](const std::string& message) { giveUp(message); };
   machine_.screen.refresh = [this, paint = machine_.screen.refresh] {

@@ -27,7 +27,7 @@ void inWindow(benchmark::State& state, Measured measured) {
   view.setScale(PixelsPerTwip);
   run.form.Show();
   view.show();
-  FontWarmer warmer;
+  FontWarmer warmer(shaper.letters());
   warmer.warm(stylesOf(run.controls), PixelsPerTwip);
   warmer.finish();
   QApplication::processEvents();

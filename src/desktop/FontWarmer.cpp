@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <string>
@@ -17,6 +18,8 @@ namespace {
 
 constexpr int StepMs = 12; ///< between two steps, for whatever else is to be done
 constexpr int LettersAtOnce = 24;
+/// One of so many parts of the atlas is left to the letters of what the learner opens.
+constexpr int FullParts = 4;
 
 /// Every letter that a text of the program can show.
 QString everyLetter() {
@@ -62,18 +65,34 @@ void FontWarmer::warm(std::vector<CharStyle> styles, double pixelsPerTwip) {
 
 void FontWarmer::step() {
   if (style_ == styles_.size()) return;
-  // What is painted is thrown away; the pictures of the letters stay with the face.
-  QImage somewhere(64, 64, QImage::Format_RGB32);
-  QPainter painter(&somewhere);
-  painter.scale(scale_, scale_);
-  painter.setFont(fontFor(styles_[style_]));
-  painter.drawText(QPointF(0, 0), letters_.mid(letter_, LettersAtOnce));
+  draw(letters_.mid(letter_, LettersAtOnce));
   letter_ += LettersAtOnce;
   if (letter_ >= letters_.size()) {
     letter_ = 0;
     ++style_;
   }
   pace_.start(StepMs);
+}
+
+void FontWarmer::draw(const QString& letters) {
+  const QFont font = fontFor(styles_[style_]);
+  QImage somewhere(64, 64, QImage::Format_RGB32);
+  QPainter painter(&somewhere);
+  painter.scale(scale_, scale_);
+  if (!LetterAtlas::serves(painter, font.pixelSize())) {
+    // What is painted is thrown away; the pictures of the letters stay with the face.
+    painter.setFont(font);
+    painter.drawText(QPointF(0, 0), letters);
+    return;
+  }
+  // What comes first would have to go when the last of it no longer fits.
+  if (atlas_.size() > atlas_.most() / FullParts * (FullParts - 1)) return;
+  QTextLayout layout(letters, font);
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  for (const QGlyphRun& run : layout.glyphRuns())
+    atlas_.warm(run, scale_);
 }
 
 void FontWarmer::finish() {

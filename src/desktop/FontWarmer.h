@@ -1,6 +1,7 @@
 // Makes the letters of the pages ready ahead of their first use.
 #pragma once
 
+#include "desktop/LetterAtlas.h"
 #include "platform/TextStyle.h"
 #include "surface/Controls.h"
 
@@ -19,6 +20,9 @@ namespace talvora {
 /// screen, a few letters at a time, so that no click waits for that.
 class FontWarmer final : public QObject {
  public:
+  /// Large letters become pictures of the atlas, which lives as long as this does.
+  explicit FontWarmer(LetterAtlas& letters) : atlas_(letters) {}
+
   /// Goes from style to style in the order given.
   void warm(std::vector<CharStyle> styles, double pixelsPerTwip);
   /// All that is left, at once.
@@ -26,7 +30,10 @@ class FontWarmer final : public QObject {
 
  private:
   void step();
+  /// Has pictures made of letters in the style that is being made ready.
+  void draw(const QString& letters);
 
+  LetterAtlas& atlas_;
   std::vector<CharStyle> styles_;
   QString letters_;
   double scale_ = 1;

@@ -96,7 +96,7 @@ void HintBarView::paintLines(QPainter& painter) const {
     painter.translate(surface_.Width() / 2.0, top + height * closer / 2);
     painter.scale(narrower, lower);
     painter.translate(-room / 2.0, -height / 2);
-    line.paint(painter, {}, back);
+    line.paint(painter, {}, back, layout_.letters());
     painter.restore();
     top += height * closer;
   }

@@ -216,7 +216,8 @@ void SurfaceView::paintPiece(QPainter& painter, const ShapedParagraph& shaped, c
   if (piece.current) paintCurrentLine(painter, piece);
   if (piece.selectedTo > piece.selectedFrom) paintSelection(painter, shaped, piece);
   look_.paintMarks(painter, shaped);
-  shaped.paint(painter, dirty.translated(0, -piece.top), colourOf(surface_.BackColor()));
+  shaped.paint(painter, dirty.translated(0, -piece.top), colourOf(surface_.BackColor()),
+               layout_.letters());
   painter.restore();
   if (piece.caret >= 0) paintCaret(painter, shaped.placeOf(piece.caret), piece.top);
 }

@@ -143,6 +143,7 @@ void ShapedParagraph::setText(const ParagraphView& paragraph) {
                                              static_cast<std::size_t>(std::max(0, to - from)));
     text += unitsOf(bytes, style.font.name);
     formats.append(formatOf(from, to, style));
+    largest_ = std::max(largest_, formats.back().format.font().pixelSize());
   }
   hideSentenceMarks(text);
   layout_.setText(text);
@@ -268,8 +269,17 @@ std::vector<std::pair<int, int>> ShapedParagraph::rangesIn(const QColor& colour)
   return ranges;
 }
 
-void ShapedParagraph::paint(QPainter& painter, const QRectF& clip, const QColor& back) const {
+void ShapedParagraph::paint(QPainter& painter, const QRectF& clip, const QColor& back,
+                            LetterAtlas& letters) const {
   if (bullet_ && length_ > 0) paintBullet(painter, back);
+  if (LetterAtlas::serves(painter, largest_)) {
+    paintLarge(painter, clip, back, letters);
+  } else {
+    paintByQt(painter, clip, back);
+  }
+}
+
+void ShapedParagraph::paintByQt(QPainter& painter, const QRectF& clip, const QColor& back) const {
   QList<QTextLayout::FormatRange> toned;
   for (const QTextLayout::FormatRange& range : layout_.formats()) {
     if (!range.format.hasProperty(QTextFormat::ForegroundBrush)) continue;
@@ -282,6 +292,43 @@ void ShapedParagraph::paint(QPainter& painter, const QRectF& clip, const QColor&
     toned.append(other);
   }
   layout_.draw(&painter, {0, 0}, toned, clip);
+}
+
+void ShapedParagraph::paintLarge(QPainter& painter, const QRectF& clip, const QColor& back,
+                                 LetterAtlas& letters) const {
+  painter.save();
+  for (int number = 0; number < layout_.lineCount(); ++number) {
+    const QTextLine line = layout_.lineAt(number);
+    const QRectF place = line.rect();
+    // Marks of a letter reach beyond its line.
+    const double beyond = place.height() / 2;
+    const bool above = place.bottom() + beyond < clip.top();
+    if (!clip.isEmpty() && (above || place.top() - beyond > clip.bottom())) continue;
+    for (const QTextLayout::FormatRange& range : layout_.formats())
+      paintRange(painter, line, range, back, letters);
+  }
+  painter.restore();
+}
+
+void ShapedParagraph::paintRange(QPainter& painter, const QTextLine& line,
+                                 const QTextLayout::FormatRange& range, const QColor& back,
+                                 LetterAtlas& letters) const {
+  if (!range.format.hasProperty(QTextFormat::ForegroundBrush)) return;
+  const int from = std::max(range.start, line.textStart());
+  const int to = std::min(range.start + range.length, line.textStart() + line.textLength());
+  if (from >= to) return;
+  const QColor colour = readableOn(range.format.foreground().color(), back);
+  QList<QGlyphRun> runs = line.glyphRuns(from, to - from);
+  if (!runs.isEmpty() && range.format.fontUnderline()) {
+    const QRawFont face = runs.front().rawFont();
+    const double y = line.y() + line.ascent() + face.underlinePosition();
+    painter.setPen(QPen(colour, face.lineThickness(), Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(QLineF(line.cursorToX(from), y, line.cursorToX(to), y));
+  }
+  for (QGlyphRun& run : runs) {
+    run.setUnderline(false);
+    letters.paint(painter, run, colour);
+  }
 }
 
 void ShapedParagraph::paintBullet(QPainter& painter, const QColor& back) const {

@@ -2,6 +2,7 @@
 // Layout and view look at the same paragraphs, so what is clicked is what is seen.
 #pragma once
 
+#include "desktop/LetterAtlas.h"
 #include "platform/LineLayout.h"
 #include "platform/TextMetrics.h"
 #include "surface/StyledText.h"
@@ -44,7 +45,7 @@ class ShapedParagraph {
   [[nodiscard]] std::vector<std::pair<int, int>> rangesIn(const QColor& colour) const;
   /// Paints the lines that reach into `clip`, or all when that is empty; the painter's origin is
   /// the paragraph's. A colour that could not be read on `back` is shown in a tone that can.
-  void paint(QPainter& painter, const QRectF& clip, const QColor& back) const;
+  void paint(QPainter& painter, const QRectF& clip, const QColor& back, LetterAtlas& letters) const;
 
  private:
   [[nodiscard]] std::size_t lineOf(int offset) const;
@@ -56,11 +57,18 @@ class ShapedParagraph {
   /// Sends each tab that is narrower than `least` on to its next stop; false when there is none.
   bool widenTabs(std::string_view text, double least);
   void paintBullet(QPainter& painter, const QColor& back) const;
+  void paintByQt(QPainter& painter, const QRectF& clip, const QColor& back) const;
+  void paintLarge(QPainter& painter, const QRectF& clip, const QColor& back,
+                  LetterAtlas& letters) const;
+  /// The part of a line that is in one format.
+  void paintRange(QPainter& painter, const QTextLine& line, const QTextLayout::FormatRange& range,
+                  const QColor& back, LetterAtlas& letters) const;
 
   std::uint64_t serial_;
   QTextLayout layout_;
   ParagraphShape shape_;
   int length_;
+  int largest_ = 0;    ///< size of the largest letters, in twips
   double bulletX_ = 0; ///< middle of the bullet
   bool bullet_;
 };
@@ -82,6 +90,8 @@ class QtLineLayout final : public LineLayout {
   [[nodiscard]] const ShapedParagraph& shaped(const ParagraphView& paragraph) const;
   [[nodiscard]] const ShapedParagraph& shaped(const ParagraphContent& content, const FontSpec& font,
                                               int width) const;
+  /// The pictures of large letters, which all paragraphs are painted with.
+  [[nodiscard]] LetterAtlas& letters() noexcept { return letters_; }
 
  private:
   struct Entry {
@@ -95,6 +105,7 @@ class QtLineLayout final : public LineLayout {
   mutable std::list<Entry> entries_; ///< the one asked for last is in front
   mutable std::unordered_map<std::string_view, std::list<Entry>::iterator> places_;
   mutable std::uint64_t lastSerial_ = 0;
+  LetterAtlas letters_;
 };
 
 } // namespace talvora

@@ -60,7 +60,7 @@ class ExposeWatch final : public QObject {
 } // namespace
 
 Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
-    : machine_(machine), program_(program), bridge_(bridge) {
+    : machine_(machine), program_(program), bridge_(bridge), warmer_(machine.layout.letters()) {
   setWindowTitle(QStringLiteral("Talvora"));
   QIcon icon;
   for (const int size : {16, 32, 48, 128})

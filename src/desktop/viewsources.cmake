@@ -10,6 +10,7 @@ set(TALVORA_VIEW_SOURCES
   FormMouse.cpp
   FormView.cpp
   HintBarView.cpp
+  LetterAtlas.cpp
   Links.cpp
   MenuButtonView.cpp
   PageLook.cpp
