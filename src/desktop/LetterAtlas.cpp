@@ -54,7 +54,7 @@ class Brush {
       to = std::transform(from, from + width, to, [this](uchar share) { return tones_[share]; });
     }
     return {reinterpret_cast<const uchar*>(pixels_.data()), width, height,
-            width * static_cast<int>(sizeof(QRgb)), QImage::Format_ARGB32_Premultiplied};
+            width * static_cast<qsizetype>(sizeof(QRgb)), QImage::Format_ARGB32_Premultiplied};
   }
 
  private:
@@ -128,8 +128,9 @@ LetterAtlas::Letter LetterAtlas::letterOf(const Key& key) {
   if (const Letter* const known = letters_.object(key)) return *known;
   ++made_;
   Letter letter = make(key);
-  constexpr qsizetype Record = 128; // bytes of a letter beside its pixels
-  letters_.insert(key, new Letter(letter), Record + letter.cover.sizeInBytes());
+  constexpr qsizetype Record = 128;        // bytes of a letter beside its pixels
+  letters_.insert(key, new Letter(letter), // NOLINT: the cache owns it
+                  Record + letter.cover.sizeInBytes());
   return letter;
 }
 

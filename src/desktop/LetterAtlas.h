@@ -64,7 +64,7 @@ class LetterAtlas {
   [[nodiscard]] Letter make(const Key& key) const;
 
   std::vector<QRawFont> faces_;
-  QCache<Key, Letter> letters_{24 * 1024 * 1024};
+  QCache<Key, Letter> letters_{qsizetype{24} * 1024 * 1024};
   std::uint64_t made_ = 0;
 };
 
