@@ -16,7 +16,7 @@ class ItemStore {
   static constexpr int Banks = 9;
   static constexpr int Sections = Banks + static_cast<int>(CurrentList::LessonCount);
 
-  ItemStore(const Places& places, const Stores& stores) : places_(places), stores_(stores) {}
+  explicit ItemStore(const Stores& stores) : stores_(stores) {}
 
   /// Loads data.Muc, once; pending events run before each record.
   /// Throws FatalFailure when the file is missing.
@@ -41,7 +41,6 @@ class ItemStore {
  private:
   [[nodiscard]] std::string record(std::int64_t number) const;
 
-  const Places& places_;
   const Stores& stores_;
   std::array<std::int16_t, Sections + 1> SoCau_{}; ///< element n: count of section n
   int TongCau_ = 0;                                ///< number of items in the store

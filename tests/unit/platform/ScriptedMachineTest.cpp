@@ -171,7 +171,7 @@ TEST(ScriptedNarrator, PicturesBearTheNameOfTheirButton) {
 
 TEST(ScriptedMachine, ThePlatformIsTheMachineItself) {
   ScriptedMachine machine;
-  machine.platform.clock.Sleep(5);
+  EXPECT_EQ(machine.platform.clock.Sleep(5), Flow::Continue);
   machine.platform.input.SetCursorPos({3, 4});
   EXPECT_EQ(machine.time.nowMs(), 5);
   EXPECT_EQ(machine.input.cursorPos(), (PixelPoint{3, 4}));
