@@ -34,7 +34,7 @@ std::vector<std::string> wordPhones(const std::string& word) {
       phone.pop_back();
     phones.push_back(std::move(phone));
   }
-  delete_val_list(found);
+  delete_val(found);
   return phones;
 }
 
