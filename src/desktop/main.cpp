@@ -20,18 +20,22 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <random>
+#include <thread>
 #include <utility>
 
 namespace {
 
 constexpr int Failed = 1;
 constexpr int BadUse = 2;
+/// How long the end may take when all is stored.
+constexpr std::chrono::seconds LettingGo(3);
 
 /// Size of the screen in its own pixels, whatever a logical pixel is.
 QSize realScreenSize() {
@@ -113,6 +117,15 @@ class KeepAtExit {
   static inline talvora::Program* kept = nullptr;
 };
 
+/// What the learner owns is stored; all that is left is to let go of the machine. The library of a
+/// sound server that has died may keep its thread for ever: the process does not wait for that.
+void endSoon(int code) {
+  std::thread([code] {
+    std::this_thread::sleep_for(LettingGo);
+    std::_Exit(code);
+  }).detach();
+}
+
 int runProgram(const talvora::Folders& folders, const std::string& traceFile) {
   talvora::loadFonts();
   talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
@@ -143,7 +156,9 @@ int runProgram(const talvora::Folders& folders, const std::string& traceFile) {
   };
   QTimer::singleShot(0, &window, [&] { bridge.deliver([&] { program.Main(); }); });
   QApplication::exec();
-  return program.ending() == talvora::Ending::Failure ? Failed : 0;
+  const int code = program.ending() == talvora::Ending::Failure ? Failed : 0;
+  endSoon(code);
+  return code;
 }
 
 } // namespace
