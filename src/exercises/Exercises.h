@@ -17,8 +17,7 @@ namespace talvora {
 struct Exercises {
   Exercises(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
             PageServices pageServices, VanPham& lessons, Random& random)
-      : store(stores), scoring(form, state.places, state.measures),
-        answer(controls, item),
+      : store(stores), scoring(form, state.places, state.measures), answer(controls, item),
         box(form, controls, state, shell, pageServices, item, answer, lessons.page()),
         units(controls, state, stores, shell, scoring),
         words(controls, state, shell, pageServices), services{controls, state,  shell, words,
