@@ -14,3 +14,8 @@ if(TALVORA_SANITIZE)
     -fsanitize=${TALVORA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(talvora-settings INTERFACE -fsanitize=${TALVORA_SANITIZE})
 endif()
+
+# For the programs that tell their version.
+function(talvora_knows_its_version program)
+  target_compile_definitions(${program} PRIVATE TALVORA_VERSION="${PROJECT_VERSION}")
+endfunction()

@@ -11,6 +11,9 @@ namespace talvora::pack {
 
 namespace {
 
+/// So many samples of a channel are copied at a time.
+constexpr std::size_t pieceFrames = 16384;
+
 /// A file in memory as libsndfile asks for one.
 class MemoryFile {
  public:
@@ -75,6 +78,28 @@ std::string waveFileOf(const Samples& samples, int samplesPerSecond) {
       throw std::runtime_error(std::string("no wave file can be made: ") + wave.strError());
   }
   return memory.takeBytes();
+}
+
+std::optional<std::string> flacFileOf(std::string bytes) {
+  SF_VIRTUAL_IO operations = MemoryFile::operations();
+  MemoryFile from(std::move(bytes));
+  SndfileHandle sound(operations, &from, SFM_READ);
+  const bool isWave = (sound.format() & SF_FORMAT_TYPEMASK) == SF_FORMAT_WAV &&
+                      (sound.format() & SF_FORMAT_SUBMASK) == SF_FORMAT_PCM_16;
+  if (sound.error() != SF_ERR_NO_ERROR || !isWave) return std::nullopt;
+  MemoryFile to;
+  {
+    SndfileHandle flac(operations, &to, SFM_WRITE, SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
+                       sound.channels(), sound.samplerate());
+    Samples part(pieceFrames * static_cast<std::size_t>(sound.channels()));
+    const auto wanted = static_cast<sf_count_t>(part.size());
+    for (sf_count_t count = wanted; flac && count == wanted;) {
+      count = sound.read(part.data(), wanted);
+      if (flac.write(part.data(), count) != count) flac = SndfileHandle();
+    }
+    if (!flac) throw std::runtime_error("no FLAC file can be made of a recording");
+  }
+  return to.takeBytes();
 }
 
 std::optional<std::int64_t> waveLengthMs(std::string bytes) {

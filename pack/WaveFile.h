@@ -14,6 +14,11 @@ using Samples = std::vector<std::int16_t>;
 /// The bytes of a wave file. Throws std::runtime_error when it cannot be made.
 [[nodiscard]] std::string waveFileOf(const Samples& samples, int samplesPerSecond);
 
+/// The same sound as a FLAC file, which is about half as long and loses nothing; empty when the
+/// bytes are no sound of 16 bits, or are FLAC already. Throws std::runtime_error when it cannot be
+/// made.
+[[nodiscard]] std::optional<std::string> flacFileOf(std::string bytes);
+
 /// How long a wave file is; empty when its bytes are none.
 [[nodiscard]] std::optional<std::int64_t> waveLengthMs(std::string bytes);
 

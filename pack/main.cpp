@@ -1,6 +1,7 @@
 // The command line of the content compiler.
 #include "pack/Check.h"
 #include "pack/Compiler.h"
+#include "pack/CompressRecordings.h"
 #include "pack/ContentCheck.h"
 #include "pack/CourseChecks.h"
 #include "pack/CourseReport.h"
@@ -140,6 +141,13 @@ int dumpTo(const std::filesystem::path& pack, const std::filesystem::path& out) 
   return tell(problems);
 }
 
+int compress(const std::filesystem::path& pack) {
+  const Compressed result = compressRecordings(pack);
+  std::cout << result.recordings << " recordings: " << result.before / 1024 << " KB became "
+            << result.after / 1024 << " KB\n";
+  return 0;
+}
+
 std::map<std::string, ContentKind> namedKinds() {
   std::map<std::string, ContentKind> kinds;
   for (const ContentKindName& each : ContentKindNames)
@@ -163,6 +171,7 @@ void addSourceOptions(CLI::App& command, Options& options) {
 
 int run(int argumentCount, char** arguments) {
   CLI::App application("Compiles content sources to the files that Talvora opens");
+  application.set_version_flag("--version", "talvora-pack " TALVORA_VERSION);
   application.require_subcommand(1);
   Options options;
   std::filesystem::path out;
@@ -189,6 +198,12 @@ int run(int argumentCount, char** arguments) {
   CLI::App* dumpCommand = application.add_subcommand("dump", "decode the pack PACK into sources");
   dumpCommand->add_option("PACK", pack, "folder of the pack")->required();
   dumpCommand->add_option("OUT", out, "folder for the sources")->required();
+  CLI::App* compressCommand = application.add_subcommand(
+      "compress", "put the recordings of the pack PACK into FLAC, half the size, to be sent or "
+                  "installed; the program reads both");
+  compressCommand->add_option("PACK", pack, "folder of the pack")
+      ->required()
+      ->check(CLI::ExistingDirectory);
   const WordsCommand words(application);
   CLI::App* statusCommand =
       application.add_subcommand("status", "tell what SOURCE holds and still lacks: slots, "
@@ -217,6 +232,7 @@ int run(int argumentCount, char** arguments) {
     return application.exit(error) == 0 ? 0 : usageOrDiskErrors;
   }
   if (words.given()) return words.run();
+  if (compressCommand->parsed()) return compress(pack);
   if (buildCommand->parsed()) return build(options, out);
   if (planCommand->parsed())
     return plan(options.source, slot, known ? Detail::Full : Detail::Short);

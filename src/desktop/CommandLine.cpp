@@ -27,6 +27,7 @@ CommandLine readCommandLine(int argc, char** argv, const std::string& version) {
   CLI::Option* const learner =
       app.add_option("--learner", line.learner, "The learner's own folder: words and settings");
   app.add_option("--dir", both, "One folder for both")->excludes(pack)->excludes(learner);
+  app.add_flag("--go-on", line.goOn, "Go on to the menu when the first start has set up and ended");
   app.add_option("--trace", line.trace,
                  "Write a line for each change of what is shown, for a report of a fault");
   app.allow_extras();

@@ -11,6 +11,7 @@ struct CommandLine {
   std::string pack;              ///< empty when nobody asked for one
   std::string learner;           ///< the same
   std::string trace;             ///< a file, or empty
+  bool goOn = false;             ///< to the menu, when the first run has set up
   std::vector<std::string> rest; ///< what may be the toolkit's
   /// The program is over with this exit code: help, the version or a mistake was told.
   std::optional<int> over;

@@ -12,7 +12,8 @@ add_library(talvora-desktop-sound STATIC
 )
 target_link_libraries(talvora-desktop-sound PUBLIC talvora Qt6::Core PRIVATE ${CMAKE_DL_LIBS})
 
-# The device is loaded with the first sound, from beside the program.
+# The device is loaded with the first sound: where it is installed, as seen from the program.
+target_compile_definitions(talvora-desktop-sound PRIVATE TALVORA_MODULES="${TALVORA_MODULES_FROM_BIN}")
 add_library(talvora-sound-device MODULE ${CMAKE_CURRENT_LIST_DIR}/QtPcmDevice.cpp)
 set_target_properties(talvora-sound-device PROPERTIES PREFIX "")
 target_include_directories(talvora-sound-device PRIVATE ${PROJECT_SOURCE_DIR}/src)

@@ -20,6 +20,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -27,7 +28,9 @@
 #include <memory>
 #include <optional>
 #include <random>
+#include <system_error>
 #include <thread>
+#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -126,7 +129,11 @@ void endSoon(int code) {
   }).detach();
 }
 
-int runProgram(const talvora::Folders& folders, const std::string& traceFile) {
+int exitCodeOf(talvora::Ending ending) {
+  return ending == talvora::Ending::Failure ? Failed : 0;
+}
+
+talvora::Ending runProgram(const talvora::Folders& folders, const std::string& traceFile) {
   talvora::loadFonts();
   talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
                                   std::random_device{}(), folders.pack);
@@ -156,9 +163,24 @@ int runProgram(const talvora::Folders& folders, const std::string& traceFile) {
   };
   QTimer::singleShot(0, &window, [&] { bridge.deliver([&] { program.Main(); }); });
   QApplication::exec();
-  const int code = program.ending() == talvora::Ending::Failure ? Failed : 0;
-  endSoon(code);
-  return code;
+  endSoon(exitCodeOf(program.ending()));
+  return program.ending();
+}
+
+/// Starts the program anew in this process's place; only a failure comes back.
+int startAgain(const char* name, const talvora::Folders& folders,
+               const talvora::CommandLine& line) {
+  std::vector<std::string> words = {name, "--pack", folders.pack, "--learner", folders.learner};
+  if (!line.trace.empty()) words.insert(words.end(), {"--trace", line.trace});
+  words.insert(words.end(), line.rest.begin(), line.rest.end());
+  std::vector<char*> pointers;
+  for (std::string& word : words)
+    pointers.push_back(word.data());
+  pointers.push_back(nullptr);
+  ::execv("/proc/self/exe", pointers.data());
+  std::cerr << "talvora: cannot go on: "
+            << std::error_code(errno, std::generic_category()).message() << '\n';
+  return Failed;
 }
 
 } // namespace
@@ -175,6 +197,7 @@ int main(int argc, char** argv) {
     return BadUse;
   }
   QApplication::setApplicationName(QStringLiteral("talvora"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.talvora.talvora"));
   QApplication::setApplicationVersion(QStringLiteral(TALVORA_VERSION));
   QApplication::setQuitOnLastWindowClosed(false);
 
@@ -191,5 +214,10 @@ int main(int argc, char** argv) {
     std::cerr << found.folders->pack << ": " << missing.message() << '\n';
     return BadUse;
   }
-  return runProgram({std::filesystem::current_path().string(), found.folders->learner}, line.trace);
+  const talvora::Folders folders(std::filesystem::current_path().string(), found.folders->learner);
+  const talvora::Ending ending = runProgram(folders, line.trace);
+  // The lock of the learner's folder and the display's connection end with the image that holds
+  // them.
+  if (line.goOn && ending == talvora::Ending::FirstRun) return startAgain(argv[0], folders, line);
+  return exitCodeOf(ending);
 }

@@ -61,6 +61,7 @@ void declare(CLI::App& app, Arguments& arguments) {
 int run(int argc, char** argv) {
   CLI::App app("Runs Talvora without a window. Reads one JSON command a line on standard input and "
                "writes one JSON reply a line on standard output.");
+  app.set_version_flag("--version", "talvora-driver " TALVORA_VERSION);
   Arguments arguments;
   declare(app, arguments);
   try {

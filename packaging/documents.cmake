@@ -1,0 +1,104 @@
+# Pages, licences, icons and metadata as they are installed.
+set(TALVORA_MAN_PAGES talvora.1 talvora-pack.1)
+if(TALVORA_DRIVER)
+  list(APPEND TALVORA_MAN_PAGES talvora-driver.1)
+endif()
+set(TALVORA_FORMAT_PAGES talvora-content.5 talvora-pack.5)
+
+find_program(GZIP gzip REQUIRED)
+set(documents "")
+
+# Compressed without a name and a time, so that two builds give the same bytes.
+function(talvora_compressed from to)
+  add_custom_command(OUTPUT ${to}
+    COMMAND sh -c "${GZIP} -9n < '${from}' > '${to}'" DEPENDS ${from} VERBATIM)
+  set(documents ${documents} ${to} PARENT_SCOPE)
+endfunction()
+
+file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/man/vi ${CMAKE_CURRENT_BINARY_DIR}/icons)
+foreach(page ${TALVORA_MAN_PAGES} ${TALVORA_FORMAT_PAGES} vi/talvora.1)
+  talvora_compressed(${CMAKE_CURRENT_SOURCE_DIR}/man/${page}
+    ${CMAKE_CURRENT_BINARY_DIR}/man/${page}.gz)
+endforeach()
+
+# The day of the release, for pages that must name one: the same in every build of one state.
+if(DEFINED ENV{SOURCE_DATE_EPOCH})
+  string(TIMESTAMP TALVORA_RELEASE_DATE "%Y-%m-%d" UTC)
+  string(TIMESTAMP TALVORA_RELEASE_TIME "%a, %d %b %Y %H:%M:%S +0000" UTC)
+else()
+  set(TALVORA_RELEASE_DATE 2026-11-22)
+  set(TALVORA_RELEASE_TIME "Sun, 22 Nov 2026 12:00:00 +0000")
+endif()
+configure_file(${TALVORA_ID}.metainfo.xml.in ${TALVORA_ID}.metainfo.xml @ONLY)
+configure_file(changelog.in changelog @ONLY)
+talvora_compressed(${CMAKE_CURRENT_BINARY_DIR}/changelog
+  ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz)
+
+file(READ ${CMAKE_SOURCE_DIR}/LICENSE licence)
+string(REGEX REPLACE "^MIT License\n\nCopyright[^\n]*\n\n" "" licence "${licence}")
+string(REGEX REPLACE "\n+$" "" licence "${licence}")
+string(REPLACE "\n\n" "\n.\n" licence "${licence}")
+string(REPLACE "\n" "\n " TALVORA_LICENCE_INDENTED " ${licence}")
+configure_file(copyright.in copyright @ONLY)
+
+# The learner's manual as a page and as a book.
+find_program(PANDOC pandoc)
+find_program(WEASYPRINT weasyprint)
+set(TALVORA_MANUAL "")
+set(manual ${CMAKE_SOURCE_DIR}/docs/manual)
+file(GLOB manual_pictures CONFIGURE_DEPENDS ${manual}/pictures/*.png)
+if(PANDOC)
+  set(page ${CMAKE_CURRENT_BINARY_DIR}/manual.html)
+  add_custom_command(OUTPUT ${page}
+    COMMAND ${PANDOC} --standalone --self-contained --toc --toc-depth=1 --css style.css
+      --metadata toc-title= -o ${page} manual.md
+    DEPENDS ${manual}/manual.md ${manual}/style.css ${manual_pictures}
+    WORKING_DIRECTORY ${manual} VERBATIM)
+  list(APPEND TALVORA_MANUAL ${page})
+  if(WEASYPRINT)
+    add_custom_command(OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/manual.pdf
+      COMMAND ${WEASYPRINT} -q ${page} ${CMAKE_CURRENT_BINARY_DIR}/manual.pdf
+      DEPENDS ${page} VERBATIM)
+    list(APPEND TALVORA_MANUAL ${CMAKE_CURRENT_BINARY_DIR}/manual.pdf)
+  endif()
+  list(APPEND documents ${TALVORA_MANUAL})
+endif()
+
+# The licences of what is carried along are read from where the machine that builds has them.
+function(talvora_licence list name)
+  find_file(TALVORA_LICENCE_${name} NAMES ${ARGN} NO_DEFAULT_PATH PATHS
+    /usr/share/doc /usr/share/licenses)
+  mark_as_advanced(TALVORA_LICENCE_${name})
+  if(NOT TALVORA_LICENCE_${name})
+    message(WARNING "The licence of ${name} was not found: it has to be added to a package by hand.")
+    return()
+  endif()
+  configure_file(${TALVORA_LICENCE_${name}} ${CMAKE_CURRENT_BINARY_DIR}/licences/${name} COPYONLY)
+  set(${list} ${${list}} ${CMAKE_CURRENT_BINARY_DIR}/licences/${name} PARENT_SCOPE)
+endfunction()
+if(TALVORA_DESKTOP)
+  talvora_licence(TALVORA_FONT_LICENCES lato
+    fonts-lato/copyright lato-fonts/OFL.txt ttf-lato/OFL.txt)
+  talvora_licence(TALVORA_FONT_LICENCES texgyre
+    fonts-texgyre/copyright texlive-tex-gyre/COPYING tex-gyre-fonts/LICENSE)
+endif()
+talvora_licence(TALVORA_COURSE_LICENCES wordnet
+  wordnet-base/copyright wordnet/LICENSE wordnet-common/LICENSE)
+talvora_licence(TALVORA_COURSE_LICENCES flite libflite1/copyright flite/COPYING)
+
+# One vector source, all sizes.
+set(TALVORA_ICON_SIZES "")
+find_program(RSVG_CONVERT rsvg-convert)
+if(RSVG_CONVERT AND TALVORA_DESKTOP)
+  set(TALVORA_ICON_SIZES 16 22 24 32 48 64 128 256 512)
+  foreach(size ${TALVORA_ICON_SIZES})
+    set(icon ${CMAKE_CURRENT_BINARY_DIR}/icons/${size}.png)
+    add_custom_command(OUTPUT ${icon}
+      COMMAND ${RSVG_CONVERT} -w ${size} -h ${size} -o ${icon}
+        ${CMAKE_CURRENT_SOURCE_DIR}/${TALVORA_ID}.svg
+      DEPENDS ${TALVORA_ID}.svg VERBATIM)
+    list(APPEND documents ${icon})
+  endforeach()
+endif()
+
+add_custom_target(talvora-documents ALL DEPENDS ${documents})
