@@ -28,14 +28,21 @@ done
 rm -rf "$root/plugins/platformthemes" "$root/plugins/platforms/"lib{qeglfs,qlinuxfb,qminimalegl,qvnc}*.so
 printf '[Paths]\nPrefix = ..\nPlugins = plugins\n' >"$root/bin/qt.conf"
 
-stays_out='^(ld-linux|libc\.|libm\.|libdl\.|libpthread\.|librt\.|libresolv\.|libstdc\+\+|libgcc_s|libGL\.|libEGL\.|libGLX|libOpenGL|libGLdispatch|libdrm|libgbm)'
-mkdir -p "$root/lib"
+stays_out='^(ld-linux|libc\.|libm\.|libdl\.|libpthread\.|librt\.|libresolv\.|libstdc\+\+|libgcc_s|libdrm|libgbm)'
+# What leads to the graphics driver comes along for systems without any, and stands behind their own.
+leads_to_driver='^(libGL\.|libEGL\.|libGLX|libOpenGL|libGLdispatch)'
+mkdir -p "$root/lib" "$root/lib-graphics"
 voices=$(find -L /usr/lib -maxdepth 2 -name 'libflite*.so.1')
 # shellcheck disable=SC2046,SC2086 # a word a file
 ldd "$root"/bin/talvora "$root"/bin/talvora-pack $(find "$root" -name '*.so') $voices 2>/dev/null |
   awk '$2 == "=>" && $3 ~ /^\// { print $3 }' | sort -u |
   while read -r library; do
-    basename "$library" | grep -Eq "$stays_out" || cp -L "$library" "$root/lib/"
+    name=$(basename "$library")
+    if grep -Eq "$leads_to_driver" <<<"$name"; then
+      cp -L "$library" "$root/lib-graphics/"
+    elif ! grep -Eq "$stays_out" <<<"$name"; then
+      cp -L "$library" "$root/lib/"
+    fi
   done
 # shellcheck disable=SC2086
 cp -L $voices "$root/lib/"
@@ -44,7 +51,10 @@ cat >"$root/talvora" <<'END'
 #!/bin/sh
 # Starts Talvora from this folder. What you collect lies in ~/.local/share/talvora.
 here=$(dirname "$(readlink -f "$0")")
-LD_LIBRARY_PATH=$here/lib${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}
+libraries=$here/lib
+PATH=$PATH:/sbin:/usr/sbin ldconfig -p 2>/dev/null | grep -q libEGL.so.1 ||
+  libraries=$libraries:$here/lib-graphics
+LD_LIBRARY_PATH=$libraries${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}
 export LD_LIBRARY_PATH
 exec "$here/bin/talvora" --go-on "$@"
 END
@@ -52,6 +62,6 @@ chmod 755 "$root/talvora"
 
 when=@${SOURCE_DATE_EPOCH:-$(git -C "$(dirname "$0")" log -1 --format=%ct)}
 tar --sort=name --owner=0 --group=0 --numeric-owner --mtime="$when" -C "$stage" -cf - talvora |
-  xz -T0 -6 >"$archive.part"
+  xz -T0 -3 >"$archive.part"
 mv "$archive.part" "$archive"
 echo "$archive: $(du -h "$archive" | cut -f 1)"

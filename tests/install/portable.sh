@@ -34,14 +34,15 @@ press Return
 expect_note "focus=but1 "
 click_button 1
 expect_note "focus=R1 "
-press Return
+click_word R1 Street
 expect_note "focus=R2 "
+sleep 2
 click_word R2 '[a-z][a-z][a-z][a-z]+'
 expect_visible RHD
 settle 01-entry
 grep -q 'no sound' "$work/program.log" && fail "the program has no sound device"
 press Escape
-leave_to but1
+leave_to_menu
 press Escape
 sleep 0.5
 press Return

@@ -226,6 +226,16 @@ leave_to() { # CONTROL
   expect_note "focus=$1 "
 }
 
+# Esc until the menu has the keyboard.
+leave_to_menu() {
+  for _ in 1 2 3 4 5 6; do
+    [[ "$(state)" == focus=but* ]] && return
+    press Escape
+    sleep 0.4
+  done
+  expect_note "focus=but"
+}
+
 running() {
   kill -0 "$program_id" 2>/dev/null
 }
