@@ -13,8 +13,8 @@
 #include "pack/Recordings.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
+#include "pack/StreamText.h"
 #include "text/CharClass.h"
-#include "text/GlyphMap.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -25,12 +25,6 @@ namespace talvora::pack {
 namespace {
 
 constexpr CharClass wordCharacters("[a-zA-Z'-]");
-
-/// True for a letter that English lacks; typographic marks are none.
-bool isVietnameseLetter(char character) {
-  const char16_t letter = x1Letter(character);
-  return letter >= 0xC0 && letter < 0x2000;
-}
 
 void appendWords(std::vector<std::string>& words, std::string_view text) {
   std::string word;

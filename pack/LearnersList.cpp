@@ -42,7 +42,9 @@ void tellRow(const WordRow& row, std::ostream& out) {
   out << readableText(row.word);
   if (!row.where.title.empty()) out << "\t" << readableText(row.where.title);
   if (!row.where.words.empty()) out << "\t" << readableText(trim(row.where.words));
-  if (row.where.place == 0) out << "\t(câu này không còn trong bài học)";
+  if (row.where.place == 0) {
+    out << (row.where.words.empty() ? "\t(không có câu)" : "\t(câu này không còn trong bài học)");
+  }
   out << "\n";
 }
 
@@ -145,7 +147,7 @@ ListResult listWords(const LearnersList& list, std::ostream& out) {
   std::size_t gone = 0;
   for (const WordRow& row : words.rowsOf(*there)) {
     tellRow(row, out);
-    if (row.where.place == 0) ++gone;
+    if (row.where.place == 0 && !row.where.words.empty()) ++gone;
   }
   out << there->size() << " từ";
   if (gone > 0) out << ", " << gone << " từ có câu không còn trong bài học";

@@ -127,6 +127,13 @@ std::string utf8Of(std::string_view bytes) {
   return utf8;
 }
 
+bool isVietnameseLetter(char byte) {
+  constexpr char16_t firstAccented = 0xC0;
+  constexpr char16_t firstMark = 0x2000;
+  const char16_t letter = x1Letter(byte);
+  return letter >= firstAccented && letter < firstMark;
+}
+
 void appendStored(std::string& stream, std::string_view text) {
   while (!text.empty()) {
     const Expansion* expansion = expansionAt(text);

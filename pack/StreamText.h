@@ -33,6 +33,9 @@ inline constexpr std::string_view StreamMarks = "_`@|";
 /// The UTF-8 of bytes in the text font.
 [[nodiscard]] std::string utf8Of(std::string_view bytes);
 
+/// True for the byte of a letter that English lacks; typographic marks are none.
+[[nodiscard]] bool isVietnameseLetter(char byte);
+
 /// Appends a text to a stream: the longest expansion at each place, then the byte code.
 void appendStored(std::string& stream, std::string_view text);
 

@@ -4,6 +4,7 @@
 #include <sndfile.hh>
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -65,19 +66,47 @@ class MemoryFile {
   sf_count_t at_ = 0;
 };
 
-} // namespace
+/// The forms of a sound file, as the library numbers them, the wanted ones first.
+struct SoundForm {
+  int format;
+  const char* extension;
+};
 
-std::string waveFileOf(const Samples& samples, int samplesPerSecond) {
+/// From 0, the best, to 1, the smallest: speech stays clear here.
+constexpr double Compression = 0.8;
+
+constexpr int waveForm = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+constexpr SoundForm smallForms[] = {{SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III, "mp3"},
+                                    {SF_FORMAT_OGG | SF_FORMAT_VORBIS, "ogg"},
+                                    {waveForm, "wav"}};
+
+std::string soundFileOf(const Samples& samples, int samplesPerSecond, int format) {
   MemoryFile memory;
   {
     SF_VIRTUAL_IO operations = MemoryFile::operations();
-    SndfileHandle wave(operations, &memory, SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1,
-                       samplesPerSecond);
+    SndfileHandle sound(operations, &memory, SFM_WRITE, format, 1, samplesPerSecond);
+    // What has no such choice passes it over.
+    double compression = Compression;
+    sound.command(SFC_SET_COMPRESSION_LEVEL, &compression, sizeof compression);
     const auto count = static_cast<sf_count_t>(samples.size());
-    if (!wave || wave.write(samples.data(), count) != count)
-      throw std::runtime_error(std::string("no wave file can be made: ") + wave.strError());
+    if (!sound || sound.write(samples.data(), count) != count)
+      throw std::runtime_error(std::string("no sound file can be made: ") + sound.strError());
   }
   return memory.takeBytes();
+}
+
+} // namespace
+
+std::string waveFileOf(const Samples& samples, int samplesPerSecond) {
+  return soundFileOf(samples, samplesPerSecond, waveForm);
+}
+
+SmallSound smallSoundOf(const Samples& samples, int samplesPerSecond) {
+  const auto* const form =
+      std::find_if(std::begin(smallForms), std::end(smallForms) - 1, [&](const SoundForm& each) {
+        return SndfileHandle::formatCheck(each.format, 1, samplesPerSecond) != 0;
+      });
+  return {soundFileOf(samples, samplesPerSecond, form->format), form->extension};
 }
 
 std::optional<std::string> flacFileOf(std::string bytes) {

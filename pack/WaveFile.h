@@ -1,4 +1,4 @@
-// Sound as a wave file.
+// Sound as a file.
 #pragma once
 
 #include <cstdint>
@@ -18,6 +18,15 @@ using Samples = std::vector<std::int16_t>;
 /// bytes are no sound of 16 bits, or are FLAC already. Throws std::runtime_error when it cannot be
 /// made.
 [[nodiscard]] std::optional<std::string> flacFileOf(std::string bytes);
+/// A sound that takes little room.
+struct SmallSound {
+  std::string bytes;
+  std::string extension; ///< of a file of this form
+};
+
+/// The sound in the smallest form that every player has and this machine's library can write: MP3,
+/// else Ogg Vorbis, else a wave file. Throws std::runtime_error when it cannot be made.
+[[nodiscard]] SmallSound smallSoundOf(const Samples& samples, int samplesPerSecond);
 
 /// How long a wave file is; empty when its bytes are none.
 [[nodiscard]] std::optional<std::int64_t> waveLengthMs(std::string bytes);

@@ -9,8 +9,8 @@
 #include "desktop/RunningProgram.h"
 #include "desktop/StateTrace.h"
 #include "desktop/Window.h"
+#include "learner/FindFolders.h"
 #include "learner/LearnerLock.h"
-#include "program/FindFolders.h"
 #include "program/Program.h"
 
 #include <QApplication>

@@ -82,6 +82,26 @@ std::string TextCatalogue::titleOf(TextKind kind, int text) const {
   return title;
 }
 
+// The title has no translation, but a mark stands ahead of that of every sentence.
+std::string TextCatalogue::translationOf(const SentencePlace& sentence) const {
+  const Store& from = store(sentence.kind);
+  const int record = textsOf(sentence.kind) + sentence.text;
+  PieceReader reader(from.stream, std::int64_t{from.positions.integer(record)} + 1);
+  int number = 1;
+  std::string translation;
+  while (const auto piece = reader.next()) {
+    if (*piece == "@") break;
+    for (const char character : *piece) {
+      const bool isMark = character == '_' || character == '`';
+      if (isMark) ++number;
+      if (isMark || number != sentence.sentence) continue;
+      translation += character == '\r' ? ' ' : character;
+    }
+    if (number > sentence.sentence) break;
+  }
+  return translation;
+}
+
 std::vector<SentencePlace> TextCatalogue::sentencesOf(TextKind kind, int text) const {
   const Store& from = store(kind);
   const std::string title = titleOf(kind, text);

@@ -44,6 +44,8 @@ class TextCatalogue {
   [[nodiscard]] std::optional<SentencePlace> at(std::int32_t place) const;
   /// All sentences, text by text, the reading texts first.
   [[nodiscard]] std::vector<SentencePlace> all() const;
+  /// The translation of a sentence; empty for a title, and where the text has none.
+  [[nodiscard]] std::string translationOf(const SentencePlace& sentence) const;
   /// The line of a text in the list of its store, as it is shown there: a heading, or an indented
   /// title, with its line end.
   [[nodiscard]] std::string listLine(TextKind kind, int text) const;

@@ -20,7 +20,16 @@ bool isControl(char byte) {
   return static_cast<unsigned char>(byte) < ' ' || byte == '\x7F';
 }
 
-std::string bytesFrom(std::string_view utf8) {
+template <class Number>
+bool readNumber(std::string_view digits, Number& number) {
+  const char* const end = digits.data() + digits.size();
+  const auto [behind, error] = std::from_chars(digits.data(), end, number);
+  return error == std::errc() && behind == end;
+}
+
+} // namespace
+
+std::string bytesOfReadable(std::string_view utf8) {
   std::string bytes;
   for (std::size_t at = 0; at < utf8.size();) {
     const auto letter = nextCodePoint(utf8, at);
@@ -31,15 +40,6 @@ std::string bytesFrom(std::string_view utf8) {
   }
   return bytes;
 }
-
-template <class Number>
-bool readNumber(std::string_view digits, Number& number) {
-  const char* const end = digits.data() + digits.size();
-  const auto [behind, error] = std::from_chars(digits.data(), end, number);
-  return error == std::errc() && behind == end;
-}
-
-} // namespace
 
 std::string readableText(std::string_view bytes) {
   std::string text;
@@ -54,7 +54,7 @@ std::string readableText(std::string_view bytes) {
 }
 
 std::string asWritten(std::string_view bytes) {
-  return bytesFrom(readableText(bytes));
+  return bytesOfReadable(readableText(bytes));
 }
 
 std::string lineOf(const WordRow& row) {
@@ -70,10 +70,10 @@ std::optional<WordRow> rowFrom(std::string_view line) {
   const auto fields = split(line, '\t');
   if (fields.size() != FieldCount) return std::nullopt;
   WordRow row;
-  row.word = bytesFrom(fields[Word]);
+  row.word = bytesOfReadable(fields[Word]);
   row.pack = fields[Pack];
-  row.where.title = bytesFrom(fields[Title]);
-  row.where.words = bytesFrom(fields[Sentence]);
+  row.where.title = bytesOfReadable(fields[Title]);
+  row.where.words = bytesOfReadable(fields[Sentence]);
   if (fields[Kind] == SpeakingName) {
     row.where.kind = TextKind::Speaking;
   } else if (fields[Kind] != ReadingName) {

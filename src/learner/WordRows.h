@@ -25,6 +25,8 @@ struct WordRow {
 
 /// A text of the program as people read it, in UTF-8; what no line can hold becomes a blank.
 [[nodiscard]] std::string readableText(std::string_view bytes);
+/// The bytes of a text in UTF-8; what the font has no byte for becomes a question mark.
+[[nodiscard]] std::string bytesOfReadable(std::string_view utf8);
 /// A text as it comes back from a file: letters that are written alike become one.
 [[nodiscard]] std::string asWritten(std::string_view bytes);
 

@@ -1,6 +1,7 @@
 // The program: owns the form and every module, wires them, and says when it is over.
 #pragma once
 
+#include "learner/FindFolders.h"
 #include "platform/Platform.h"
 #include "program/Procedures.h"
 #include "surface/Controls.h"
@@ -8,24 +9,11 @@
 #include "surface/Variables.h"
 
 #include <memory>
-#include <string>
-#include <utility>
 
 namespace talvora {
 
 /// Why the program is no longer running.
 enum class Ending { None, Quit, FirstRun, Failure };
-
-/// Where the program finds what it shows, and where it keeps what is the learner's.
-struct Folders {
-  /// One folder for both.
-  Folders(std::string both) : pack(both), learner(std::move(both)) {} // NOLINT: one is the usual
-  Folders(std::string packFolder, std::string learnerFolder)
-      : pack(std::move(packFolder)), learner(std::move(learnerFolder)) {}
-
-  std::string pack;    ///< only read
-  std::string learner; ///< made when it is missing
-};
 
 class Program {
  public:

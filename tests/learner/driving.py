@@ -19,6 +19,12 @@ def arguments_with(description, *more):
     return parser.parse_args()
 
 
+def require(holds, message):
+    """Ends the test with a message unless something holds."""
+    if not holds:
+        raise AssertionError(message)
+
+
 class Ended(Exception):
     """The driver has gone before it answered."""
 
@@ -59,6 +65,20 @@ class Driver:
         while not self.do("surface", name="R2")["visible"]:
             self.key("Down")
             self.key("Enter")
+
+    def open_titled(self, title):
+        """Opens the reading text of a title."""
+        self.do("click", button="but1")
+        at = self.do("surface", name="R1")["text"].index("\t" + title + "\r")
+        self.do("mouse", surface="R1", at=at + 1)
+        require(self.do("surface", name="R2")["visible"], f"{title} does not open")
+
+    def take(self, word):
+        """Clicks on the first place of a word in the text and puts the word on the list."""
+        before = self.get("SoTuVung")
+        self.do("mouse", surface="R2", at=self.text().index(word) + 1)
+        self.key("Enter")
+        require(self.get("SoTuVung") == before + 1, f"{word} is not taken")
 
     def text(self):
         return self.do("surface", name="R2")["text"]

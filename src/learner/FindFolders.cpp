@@ -1,4 +1,4 @@
-#include "program/FindFolders.h"
+#include "learner/FindFolders.h"
 
 #include "learner/LearnerFiles.h"
 #include "platform/Files.h"

@@ -1,14 +1,25 @@
-// Where a front looks for the pack and for what the learner owns.
+// Where the pack and what the learner owns are looked for.
 #pragma once
 
 #include "platform/FileSystem.h"
-#include "program/Program.h"
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace talvora {
+
+/// Where the program finds what it shows, and where it keeps what is the learner's.
+struct Folders {
+  /// One folder for both.
+  Folders(std::string both) : pack(both), learner(std::move(both)) {} // NOLINT: one is the usual
+  Folders(std::string packFolder, std::string learnerFolder)
+      : pack(std::move(packFolder)), learner(std::move(learnerFolder)) {}
+
+  std::string pack;    ///< only read
+  std::string learner; ///< made when it is missing
+};
 
 /// What a search starts from. Paths are absolute; empty is unknown.
 struct FolderSearch {

@@ -1,5 +1,5 @@
 // Where the pack and the learner's folder are looked for.
-#include "program/FindFolders.h"
+#include "learner/FindFolders.h"
 
 #include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
