@@ -6,7 +6,7 @@
 #include "desktop/FontWarmer.h"
 #include "desktop/Fonts.h"
 #include "desktop/FormView.h"
-#include "desktop/TextShaper.h"
+#include "desktop/QtLineLayout.h"
 
 #include <QApplication>
 

@@ -148,16 +148,17 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
   /// Those of the run that holds an offset; a run ends with its paragraph.
   QString attributes(int offset, int* startOffset, int* endOffset) const override {
     const int number = surface().paragraphOf(offset);
-    const ParagraphContent content = surface().paragraph(number);
+    const ParagraphRef content = surface().paragraph(number);
+    const std::span<const StyleRun> runs = content.view().runs;
     const int start = surface().paragraphStart(number);
     std::size_t run = 0;
-    while (run + 1 < content.runStarts.size() && start + content.runStarts[run + 1] <= offset)
+    while (run + 1 < runs.size() && start + runs[run + 1].from <= offset)
       ++run;
-    const bool last = run + 1 >= content.runStarts.size();
-    *startOffset = start + content.runStarts[run];
-    *endOffset = last ? std::max(surface().paragraphStart(number + 1), offset)
-                      : start + content.runStarts[run + 1];
-    return attributesOf(content.styles[run], lettersOf(surface(), *startOffset, *endOffset));
+    const bool last = run + 1 == runs.size();
+    *startOffset = start + runs[run].from;
+    *endOffset =
+        last ? std::max(surface().paragraphStart(number + 1), offset) : start + runs[run + 1].from;
+    return attributesOf(*runs[run].style, lettersOf(surface(), *startOffset, *endOffset));
   }
 
   // -- Places.

@@ -7,6 +7,7 @@
 #include "desktop/DesktopTime.h"
 #include "desktop/InputGate.h"
 #include "desktop/KeyTable.h"
+#include "desktop/QtLineLayout.h"
 #include "desktop/Sound.h"
 #include "desktop/TextShaper.h"
 #include "platform/Platform.h"

@@ -6,8 +6,8 @@
 #include "desktop/ControlView.h"
 #include "desktop/EventBridge.h"
 #include "desktop/FormMouse.h"
+#include "desktop/QtLineLayout.h"
 #include "desktop/ScrollMouse.h"
-#include "desktop/TextShaper.h"
 #include "surface/Form.h"
 
 #include <QWidget>

@@ -74,10 +74,10 @@ void HintBarView::paintLines(QPainter& painter) const {
   double natural = 0;
   double widest = 0;
   for (int each = 0; each < count; ++each) {
-    const ParagraphContent content = surface_.paragraph(each);
-    const ShapedParagraph& line = layout_.shaped(content, surface_.Font(), room);
+    const ParagraphRef content = surface_.paragraph(each, room);
+    const ShapedParagraph& line = layout_.shaped(content.view());
     natural += line.shape().height;
-    widest = std::max(widest, widthOf(line, static_cast<int>(content.text.size())));
+    widest = std::max(widest, widthOf(line, static_cast<int>(content.view().text.size())));
   }
   const int whole = paintedHeight();
   const double high = whole - 2 * Padding;
@@ -90,7 +90,7 @@ void HintBarView::paintLines(QPainter& painter) const {
   painter.scale(pixelsPerTwip(), pixelsPerTwip());
   double top = (whole - natural * closer) / 2;
   for (int each = 0; each < count; ++each) {
-    const ShapedParagraph& line = layout_.shaped(surface_.paragraph(each), surface_.Font(), room);
+    const ShapedParagraph& line = layout_.shaped(surface_.paragraph(each, room).view());
     const double height = line.shape().height;
     painter.save();
     painter.translate(surface_.Width() / 2.0, top + height * closer / 2);

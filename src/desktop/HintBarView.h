@@ -3,7 +3,7 @@
 #pragma once
 
 #include "desktop/ControlView.h"
-#include "desktop/TextShaper.h"
+#include "desktop/QtLineLayout.h"
 #include "surface/Surface.h"
 
 namespace talvora {

@@ -39,11 +39,11 @@ bool isOptionMark(std::string_view word) {
 
 bool isItalic(const Surface& surface, int caret) {
   const int number = surface.paragraphOf(caret);
-  const ParagraphContent content = surface.paragraph(number);
+  const ParagraphRef content = surface.paragraph(number);
   const int offset = caret - surface.paragraphStart(number);
   bool italic = false;
-  for (std::size_t run = 0; run < content.styles.size(); ++run) {
-    if (content.runStarts[run] <= offset) italic = content.styles[run].italic;
+  for (const StyleRun& run : content.view().runs) {
+    if (run.from <= offset) italic = run.style->italic;
   }
   return italic;
 }

@@ -20,9 +20,7 @@ bool ScrollBar::isMeasured() const {
 }
 
 int ScrollBar::heightOf(int paragraph) const {
-  return layout_.shaped(surface_.paragraph(paragraph), surface_.Font(), surface_.Width())
-      .shape()
-      .height;
+  return layout_.heightOf(surface_.paragraph(paragraph).view());
 }
 
 ScrollBar::Extent ScrollBar::extent(int paragraphsInView, int bottom) const {

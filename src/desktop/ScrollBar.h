@@ -3,7 +3,7 @@
 // counted, so that the bar of 385,082 lines costs no more than that of ten.
 #pragma once
 
-#include "desktop/TextShaper.h"
+#include "desktop/QtLineLayout.h"
 #include "surface/Surface.h"
 
 namespace talvora {

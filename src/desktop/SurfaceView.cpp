@@ -37,7 +37,7 @@ bool SurfaceView::isRounded() const {
 }
 
 const ShapedParagraph& SurfaceView::shaped(int paragraph) const {
-  return layout_.shaped(surface_.paragraph(paragraph), surface_.Font(), surface_.Width());
+  return layout_.shaped(surface_.paragraph(paragraph).view());
 }
 
 template <class Use>

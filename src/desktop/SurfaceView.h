@@ -5,8 +5,8 @@
 #include "desktop/Accessibility.h"
 #include "desktop/ControlView.h"
 #include "desktop/PageLook.h"
+#include "desktop/QtLineLayout.h"
 #include "desktop/ScrollBar.h"
-#include "desktop/TextShaper.h"
 #include "surface/Form.h"
 #include "surface/Surface.h"
 

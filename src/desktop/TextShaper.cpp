@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace talvora {
 
@@ -20,7 +19,6 @@ constexpr int ScrollMarkRoom = 120;   ///< twips more at the right, which the sc
 constexpr int BulletIndent = 360;     ///< twips from the bullet's place to the text
 constexpr double BulletRadius = 0.13; ///< in heights of a line
 constexpr int TabCharacters = 4;
-constexpr std::size_t MostParagraphs = 1000;
 constexpr char16_t NoWidth = u'\u200B';    ///< a line may break here
 constexpr char16_t JoinsWords = u'\u2060'; ///< nothing to see, and no line breaks here
 /// The same in a face that has it, so that no other face adds its height to the line.
@@ -61,10 +59,6 @@ QTextLayout::FormatRange formatOf(int from, int to, const CharStyle& style) {
   return range;
 }
 
-double tabDistance(const FontSpec& font) {
-  return std::max(1.0, TabCharacters * QFontMetricsF(fontFor(font)).averageCharWidth());
-}
-
 Qt::Alignment alignmentOf(Alignment alignment) {
   switch (alignment) {
   case Alignment::Right:
@@ -77,39 +71,9 @@ Qt::Alignment alignmentOf(Alignment alignment) {
   return Qt::AlignLeft;
 }
 
-template <class Value>
-void append(std::string& key, const Value& value) {
-  char bytes[sizeof(Value)];
-  std::memcpy(bytes, &value, sizeof(Value));
-  key.append(bytes, sizeof(Value));
-}
-
-void append(std::string& key, const FontSpec& font) {
-  key += font.name;
-  key += '\0';
-  append(key, font.size);
-  append(key, font.bold);
-}
-
-/// All that a paragraph's look depends on.
-std::string keyOf(const ParagraphView& paragraph) {
-  std::string key;
-  key.reserve(64 + paragraph.text.size() + paragraph.runs.size() * 24);
-  append(key, paragraph.width);
-  append(key, paragraph.style.align);
-  append(key, paragraph.style.indent);
-  append(key, paragraph.style.bullet);
-  append(key, paragraph.defaultFont);
-  append(key, paragraph.runs.size());
-  for (const StyleRun& run : paragraph.runs) {
-    append(key, run.from);
-    append(key, run.style->font);
-    append(key, run.style->italic);
-    append(key, run.style->underline);
-    append(key, run.style->color);
-  }
-  key += paragraph.text;
-  return key;
+/// Where the lines of a paragraph begin, in twips.
+double leftOf(const ParagraphView& paragraph) {
+  return Margin + paragraph.style.indent + (paragraph.style.bullet ? BulletIndent : 0);
 }
 
 } // namespace
@@ -124,6 +88,16 @@ QString unitsOf(std::string_view bytes, std::string_view fontName) {
 }
 
 // -- A paragraph.
+
+double ShapedParagraph::tabDistance(const FontSpec& font) {
+  return std::max(1.0, TabCharacters * QFontMetricsF(fontFor(font)).averageCharWidth());
+}
+
+double ShapedParagraph::roomOf(const ParagraphView& paragraph) {
+  const bool centred = paragraph.style.align == Alignment::Centred;
+  const double right = centred ? Margin : Margin + ScrollMarkRoom;
+  return std::max(1.0, paragraph.width - right - leftOf(paragraph));
+}
 
 ShapedParagraph::ShapedParagraph(const ParagraphView& paragraph, std::uint64_t serial)
     : serial_(serial), length_(static_cast<int>(paragraph.text.size())),
@@ -164,12 +138,9 @@ void ShapedParagraph::breakLines(const ParagraphView& paragraph) {
 }
 
 void ShapedParagraph::placeLines(const ParagraphView& paragraph) {
-  const double start = Margin + paragraph.style.indent;
-  const double left = start + (bullet_ ? BulletIndent : 0);
-  const bool centred = paragraph.style.align == Alignment::Centred;
-  const double right = centred ? Margin : Margin + ScrollMarkRoom;
-  const double room = std::max(1.0, paragraph.width - right - left);
-  bulletX_ = start + BulletIndent / 2.0;
+  const double left = leftOf(paragraph);
+  const double room = roomOf(paragraph);
+  bulletX_ = Margin + paragraph.style.indent + BulletIndent / 2.0;
   shape_ = {};
   layout_.beginLayout();
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
@@ -351,45 +322,6 @@ int QtTextMetrics::TextWidth(std::string_view text, const FontSpec& font) const 
 
 int QtTextMetrics::TextHeight(std::string_view, const FontSpec& font) const {
   return static_cast<int>(std::ceil(lineHeightOf(fontFor(font))));
-}
-
-// -- Layout.
-
-ParagraphShape QtLineLayout::layOut(const ParagraphView& paragraph) const {
-  return shaped(paragraph).shape();
-}
-
-CaretPlace QtLineLayout::placeOf(const ParagraphView& paragraph, int offset) const {
-  return shaped(paragraph).placeOf(offset);
-}
-
-int QtLineLayout::offsetAt(const ParagraphView& paragraph, int x, int y) const {
-  return shaped(paragraph).offsetAt(x, y);
-}
-
-const ShapedParagraph& QtLineLayout::shaped(const ParagraphView& paragraph) const {
-  std::string key = keyOf(paragraph);
-  if (const auto found = places_.find(key); found != places_.end()) {
-    entries_.splice(entries_.begin(), entries_, found->second);
-    return entries_.front().paragraph;
-  }
-  if (entries_.size() == MostParagraphs) {
-    places_.erase(entries_.back().key);
-    entries_.pop_back();
-  }
-  entries_.emplace_front(std::move(key), paragraph, ++lastSerial_);
-  places_.emplace(entries_.front().key, entries_.begin());
-  return entries_.front().paragraph;
-}
-
-const ShapedParagraph& QtLineLayout::shaped(const ParagraphContent& content, const FontSpec& font,
-                                            int width) const {
-  std::vector<StyleRun> runs;
-  runs.reserve(content.styles.size());
-  for (std::size_t run = 0; run < content.styles.size(); ++run) {
-    runs.push_back({content.runStarts[run], &content.styles[run]});
-  }
-  return shaped(ParagraphView{content.text, runs, content.style, font, width});
 }
 
 } // namespace talvora

@@ -1,11 +1,10 @@
-// Text set by Qt, in twips: metrics, line layout, and the laid-out paragraphs that a view paints.
-// Layout and view look at the same paragraphs, so what is clicked is what is seen.
+// Text set by Qt, in twips: metrics, and the laid-out paragraphs that a view paints. Layout and
+// view look at the same paragraphs, so what is clicked is what is seen.
 #pragma once
 
 #include "desktop/LetterAtlas.h"
 #include "platform/LineLayout.h"
 #include "platform/TextMetrics.h"
-#include "surface/StyledText.h"
 
 #include <QColor>
 #include <QRectF>
@@ -13,10 +12,7 @@
 #include <QTextLayout>
 
 #include <cstdint>
-#include <list>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -33,6 +29,11 @@ namespace talvora {
 class ShapedParagraph {
  public:
   ShapedParagraph(const ParagraphView& paragraph, std::uint64_t serial);
+
+  /// Distance of the tab stops where this is the default font, in twips.
+  [[nodiscard]] static double tabDistance(const FontSpec& font);
+  /// What a line of the paragraph may take, in twips.
+  [[nodiscard]] static double roomOf(const ParagraphView& paragraph);
 
   /// Differs between any two paragraphs that were ever shaped.
   [[nodiscard]] std::uint64_t serial() const noexcept { return serial_; }
@@ -77,35 +78,6 @@ class QtTextMetrics final : public TextMetrics {
  public:
   [[nodiscard]] int TextWidth(std::string_view text, const FontSpec& font) const override;
   [[nodiscard]] int TextHeight(std::string_view text, const FontSpec& font) const override;
-};
-
-/// Keeps the paragraphs that were asked for last.
-class QtLineLayout final : public LineLayout {
- public:
-  [[nodiscard]] ParagraphShape layOut(const ParagraphView& paragraph) const override;
-  [[nodiscard]] CaretPlace placeOf(const ParagraphView& paragraph, int offset) const override;
-  [[nodiscard]] int offsetAt(const ParagraphView& paragraph, int x, int y) const override;
-
-  /// The paragraph as it is painted; valid until the next call.
-  [[nodiscard]] const ShapedParagraph& shaped(const ParagraphView& paragraph) const;
-  [[nodiscard]] const ShapedParagraph& shaped(const ParagraphContent& content, const FontSpec& font,
-                                              int width) const;
-  /// The pictures of large letters, which all paragraphs are painted with.
-  [[nodiscard]] LetterAtlas& letters() noexcept { return letters_; }
-
- private:
-  struct Entry {
-    Entry(std::string itsKey, const ParagraphView& view, std::uint64_t serial)
-        : key(std::move(itsKey)), paragraph(view, serial) {}
-
-    std::string key;
-    ShapedParagraph paragraph;
-  };
-
-  mutable std::list<Entry> entries_; ///< the one asked for last is in front
-  mutable std::unordered_map<std::string_view, std::list<Entry>::iterator> places_;
-  mutable std::uint64_t lastSerial_ = 0;
-  LetterAtlas letters_;
 };
 
 } // namespace talvora

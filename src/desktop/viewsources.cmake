@@ -11,12 +11,14 @@ set(TALVORA_VIEW_SOURCES
   FormView.cpp
   HintBarView.cpp
   LetterAtlas.cpp
+  LetterWidths.cpp
   Links.cpp
   MenuButtonView.cpp
   PageLook.cpp
   PageNames.cpp
   Palette.cpp
   PlainViews.cpp
+  QtLineLayout.cpp
   ScrollBar.cpp
   ScrollMouse.cpp
   Shadow.cpp

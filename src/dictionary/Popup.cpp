@@ -104,27 +104,16 @@ void Popup::VeMucTu(const std::string& text) {
   Surface& RHD = controls_.RHD;
   const ShownEntry entry = readMarkup(text);
   RHD.SelText(entry.text);
-  if (select({0, static_cast<int>(state_.word.TuHienTai.size())})) {
-    RHD.SelBold(true);
-    RHD.SelColor(Red);
-  }
-  for (const EntrySpan& span : entry.blue) {
-    if (select(span)) RHD.SelColor(Blue);
-  }
-  for (const EntrySpan& span : entry.redItalic) {
-    if (!select(span)) continue;
-    RHD.SelItalic(true);
-    RHD.SelColor(Red);
-  }
+  const auto rangeOf = [](EntrySpan span) {
+    return TextRange{span.start, span.start + span.length};
+  };
+  RHD.format({0, static_cast<int>(state_.word.TuHienTai.size())}, {.color = Red, .bold = true});
+  for (const EntrySpan& span : entry.blue)
+    RHD.format(rangeOf(span), {.color = Blue});
+  for (const EntrySpan& span : entry.redItalic)
+    RHD.format(rangeOf(span), {.color = Red, .italic = true});
   CoHopNghia();
   VeKhung();
-}
-
-bool Popup::select(EntrySpan span) {
-  if (span.length <= 0) return false;
-  controls_.RHD.SelStart(span.start);
-  controls_.RHD.SelLength(span.length);
-  return true;
 }
 
 int Popup::heightOf(int lines) const {

@@ -44,8 +44,6 @@ class Popup {
   void VeNghia(const std::string& text);
   void VeMucTu(const std::string& text);
   void VeThongBao();
-  /// Selects a stretch; false when there is nothing in it.
-  bool select(EntrySpan span);
   void CoHopNghia();
   /// Height of so many lines of text, in twips.
   [[nodiscard]] int heightOf(int lines) const;

@@ -75,9 +75,7 @@ void BT_ChonABCD_::colourOptions(int stemEnd) {
   for (int p = 1; p <= end; ++p) {
     if (item_.maskAt(p) == PlainText) continue;
     const int last = p > stemEnd ? end : stretchEnd(item_.MatNa, p);
-    RABCD_.SelStart(p - 1);
-    RABCD_.SelLength(last - p + 1);
-    RABCD_.SelColor(PageBlue);
+    RABCD_.format({p - 1, last}, {.color = PageBlue});
     p = last;
   }
 }
@@ -86,9 +84,7 @@ void BT_ChonABCD_::hideMarks(int stemEnd) {
   for (int p = 1; p <= stemEnd; ++p) {
     const char mark = item_.maskAt(p);
     if (mark != '*' && mark != '_') continue;
-    RABCD_.SelStart(p - 1);
-    RABCD_.SelLength(1);
-    RABCD_.SelText(' ');
+    RABCD_.write({p - 1, p}, " ");
     item_.MatNa[static_cast<std::size_t>(p - 1)] = PlainText;
   }
 }
@@ -115,11 +111,11 @@ void BT_ChonABCD_::TimPhuongAn(int p) {
 }
 
 void BT_ChonABCD_::ToPhuongAn(Colour colour) {
-  const KeepPlace keep(RABCD_);
-  RABCD_.SelStart(DauPhuongAn_ - 1);
-  RABCD_.SelLength(CuoiPhuongAn_ - DauPhuongAn_);
-  if (DungPhuongAn_) RABCD_.SelBold(true);
-  RABCD_.SelColor(colour);
+  const TextRange option{DauPhuongAn_ - 1, CuoiPhuongAn_ - 1};
+  RABCD_.format(option, {.color = colour});
+  if (DungPhuongAn_) RABCD_.format(option, {.bold = true});
+  // What was selected has been answered.
+  RABCD_.SelLength(0);
 }
 
 void BT_ChonABCD_::ChamABCD(int p) {

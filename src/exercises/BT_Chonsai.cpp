@@ -58,11 +58,7 @@ void BT_Chonsai::drawPhrases() {
     for (char& character : phrase) {
       if (character == '*' || character == '_') character = ' ';
     }
-    Rsai_.SelStart(p - 1);
-    Rsai_.SelLength(end - p + 1);
-    Rsai_.SelColor(PageBlue);
-    Rsai_.SelUnderline(true);
-    Rsai_.SelText(phrase);
+    Rsai_.write({p - 1, end}, phrase, {.color = PageBlue, .underline = true});
     p = end;
   }
 }

@@ -77,11 +77,8 @@ void BT_DienTu::drawCells() {
   for (int p = 1; p <= length; ++p) {
     if (item_.maskAt(p) == PlainText) continue;
     const int end = stretchEnd(item_.MatNa, p);
-    RDT_.SelStart(p - 1);
-    RDT_.SelLength(end - p + 1);
-    RDT_.SelColor(CellColour);
-    RDT_.SelUnderline(true);
-    RDT_.SelText(std::string(static_cast<std::size_t>(end - p + 1), '_'));
+    RDT_.write({p - 1, end}, std::string(static_cast<std::size_t>(end - p + 1), '_'),
+               {.color = CellColour, .underline = true});
     p = end;
   }
 }
@@ -189,7 +186,6 @@ void BT_DienTu::ChamDienTu() {
   item_.OSai.clear();
   item_.ODaLam.clear();
   const std::string typed = RDT_.Text();
-  const KeepPlace keep(RDT_);
   std::string& mask = item_.MatNa;
   for (auto star = mask.find('*'); star != std::string::npos; star = mask.find('*', star)) {
     judgeBlank(static_cast<int>(star) + 1, typed);
@@ -226,9 +222,7 @@ void BT_DienTu::judgeBlank(int p, const std::string& typed) {
 }
 
 void BT_DienTu::colourCells(int p, int length, Colour colour) {
-  RDT_.SelStart(p - 1);
-  RDT_.SelLength(length);
-  RDT_.SelColor(colour);
+  RDT_.format({p - 1, p - 1 + length}, {.color = colour});
 }
 
 // -- Mouse.

@@ -138,11 +138,11 @@ void ExplanationBox::VietLoiGiai(std::string_view text) {
   const ExplanationText explanation = layOutExplanation(text);
   RHDBT.SelText(explanation.text);
   for (const ExplanationSpan span : explanation.blue)
-    colour(span, PageBlue);
+    colour(span, {.color = PageBlue});
   for (const ExplanationSpan span : explanation.links)
     addLink(explanation, span);
   for (const ExplanationSpan span : explanation.red)
-    colour(span, PageRed);
+    colour(span, {.color = PageRed});
   DoCaoLoiGiai();
   BongLoiGiai();
 }
@@ -153,14 +153,11 @@ void ExplanationBox::addLink(const ExplanationText& explanation, ExplanationSpan
   if (LienKet_.size() < MostLinks) {
     LienKet_.push_back({span.start, span.start + span.length - 1, TimBaiHoc(title)});
   }
-  colour(span, PageBlue);
-  controls_.RHDBT.SelItalic(true);
+  colour(span, {.color = PageBlue, .italic = true});
 }
 
-void ExplanationBox::colour(ExplanationSpan span, Colour colour) {
-  controls_.RHDBT.SelStart(span.start);
-  controls_.RHDBT.SelLength(span.length);
-  controls_.RHDBT.SelColor(colour);
+void ExplanationBox::colour(ExplanationSpan span, const StyleChange& change) {
+  controls_.RHDBT.format({span.start, span.start + span.length}, change);
 }
 
 int ExplanationBox::lineCount() {

@@ -67,7 +67,7 @@ class ExplanationBox {
   void VietGiaiChung(const Surface& surface);
   void VietLoiGiai(std::string_view text);
   void addLink(const ExplanationText& explanation, ExplanationSpan span);
-  void colour(ExplanationSpan span, Colour colour);
+  void colour(ExplanationSpan span, const StyleChange& change);
   void DoCaoLoiGiai();
   void DoiLoiGiai();
   /// Number of lines up to the text's end, as the box breaks them.

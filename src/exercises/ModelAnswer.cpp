@@ -6,11 +6,14 @@ namespace talvora {
 
 namespace {
 
+/// Where the text stands that is kept.
+TextRange keptRange(const ItemState& item) {
+  return {item.ViTriChuCu, item.ViTriChuCu + static_cast<int>(item.ChuCu.size())};
+}
+
 void unbold(Surface& surface, const ItemState& item) {
-  const KeepPlace keep(surface);
-  surface.SelStart(item.ViTriChuCu);
-  surface.SelLength(static_cast<int>(item.ChuCu.size()));
-  surface.SelBold(false);
+  surface.format(keptRange(item), {.bold = false});
+  surface.SelLength(0);
 }
 
 } // namespace
@@ -18,15 +21,13 @@ void unbold(Surface& surface, const ItemState& item) {
 void ModelAnswer::HienDapAn(int p, Colour colour, Surface& surface) {
   const BlankEntry entry = item_.ODaLam.at(item_.ODaLam.find(p));
   if (entry.Chu.empty()) return;
-  const KeepPlace keep(surface);
-  surface.SelStart(entry.Dau - 1);
-  surface.SelLength(static_cast<int>(entry.Chu.size()));
-  item_.MauCu = surface.SelColor();
-  item_.ChuCu = surface.SelText();
-  item_.ViTriChuCu = entry.Dau - 1;
-  surface.SelColor(colour);
-  surface.SelBold(true);
-  surface.SelText(entry.Chu);
+  const int from = entry.Dau - 1;
+  const int to = from + static_cast<int>(entry.Chu.size());
+  item_.MauCu = surface.styleAt(from).color;
+  item_.ChuCu = surface.TextBetween(from, to);
+  item_.ViTriChuCu = from;
+  surface.write({from, to}, entry.Chu, {.color = colour, .bold = true});
+  surface.SelLength(0);
 }
 
 void ModelAnswer::KhoiPhucChu(Surface& surface) {
@@ -34,24 +35,18 @@ void ModelAnswer::KhoiPhucChu(Surface& surface) {
     if (controls_.RVP2.Visible() || item_.ChuCu.empty()) return;
     unbold(surface, item_);
   } else if (!item_.ChuCu.empty()) {
-    const KeepPlace keep(surface);
-    surface.SelStart(item_.ViTriChuCu);
-    surface.SelLength(static_cast<int>(item_.ChuCu.size()));
-    surface.SelColor(item_.MauCu.value_or(PageRed));
-    surface.SelText(item_.ChuCu);
+    surface.write(keptRange(item_), item_.ChuCu, {.color = item_.MauCu.value_or(PageRed)});
+    surface.SelLength(0);
   }
   item_.ChuCu.clear();
   surface.SetFocus();
 }
 
 void ModelAnswer::emphasise(Surface& surface, int caret, int length, Colour colour) {
-  const KeepPlace keep(surface);
-  surface.SelStart(caret);
-  surface.SelLength(length);
-  item_.ChuCu = surface.SelText();
+  item_.ChuCu = surface.TextBetween(caret, caret + length);
   item_.ViTriChuCu = caret;
-  surface.SelBold(true);
-  surface.SelColor(colour);
+  surface.format({caret, caret + length}, {.color = colour, .bold = true});
+  surface.SelLength(0);
 }
 
 void ModelAnswer::RoChonSai() {

@@ -7,25 +7,6 @@
 
 namespace talvora {
 
-/// Gives a surface back the caret and the scrolling that it had, when it goes out of scope: what is
-/// written and coloured elsewhere does not move the page.
-class KeepPlace {
- public:
-  explicit KeepPlace(Surface& surface)
-      : surface_(surface), caret_(surface.SelStart()), scroll_(surface.scroll()) {}
-  KeepPlace(const KeepPlace&) = delete;
-  KeepPlace& operator=(const KeepPlace&) = delete;
-  ~KeepPlace() {
-    surface_.SelStart(caret_);
-    surface_.scroll(scroll_);
-  }
-
- private:
-  Surface& surface_;
-  int caret_;
-  ScrollPlace scroll_;
-};
-
 class ModelAnswer {
  public:
   ModelAnswer(Controls& controls, ItemState& item) : controls_(controls), item_(item) {}
@@ -35,7 +16,7 @@ class ModelAnswer {
   /// Ends the display: a fill-in keeps the model answer in its blank, elsewhere the old text comes
   /// back.
   void KhoiPhucChu(Surface& surface);
-  /// Selects a stretch of a surface, remembers what stands there and shows it bold.
+  /// Remembers a stretch of a surface and shows it bold.
   void emphasise(Surface& surface, int caret, int length, Colour colour);
   /// Takes the bold of a clicked phrase back.
   void RoChonSai();

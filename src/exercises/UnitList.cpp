@@ -51,13 +51,9 @@ void UnitList::wireEvents() {
 void UnitList::HienBT(int SoCauBT) {
   Surface& Rchon = controls_.Rchon;
   Rchon.LoadFile(stores_.hold("\\dataABCD.rtf"));
-  Rchon.SelStart(0);
-  Rchon.SelLength(Rchon.TextLength());
-  Rchon.SelBold(true);
-  Rchon.SelFontSize(controls_.RN2.Font().size);
-  Rchon.SelStart(LabelsFrom);
-  Rchon.SelLength(LabelsLength);
-  Rchon.SelColor(PageBlue);
+  Rchon.format({0, Rchon.TextLength()}, {.bold = true, .fontSize = controls_.RN2.Font().size});
+  state_.word.TuHienTai.clear();
+  Rchon.format({LabelsFrom, LabelsFrom + LabelsLength}, {.color = PageBlue});
   if (state_.places.MucMenu == section::Listening) {
     LietKeUnit();
     setUpListening();

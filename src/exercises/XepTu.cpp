@@ -201,13 +201,12 @@ void XepTu::writeFoot(Surface& surface, Foot foot) {
 
 void XepTu::ToXep(Surface& surface) {
   BienDung_ = rightBeginning(DongMau_, DongXep_);
+  const int right = DauDong + BienDung_;
+  surface.format({DauDong, right}, {.color = Blue});
+  surface.format({right, DauDong + static_cast<int>(DongXep_.size())}, {.color = BodyColour});
+  // The way leads over the line's beginning, so that it is in view, too.
   surface.SelStart(DauDong);
-  surface.SelLength(BienDung_);
-  surface.SelColor(Blue);
-  surface.SelStart(DauDong + BienDung_);
-  surface.SelLength(static_cast<int>(DongXep_.size()) - BienDung_);
-  surface.SelColor(BodyColour);
-  surface.SelStart(DauDong + BienDung_);
+  surface.SelStart(right);
 }
 
 // -- Moving words.

@@ -115,22 +115,17 @@ void LessonPage::HienBaiVP(std::string_view text) {
 
 void LessonPage::deleteFirst() {
   Surface& RVP2 = controls_.RVP2;
-  RVP2.SelStart(0);
-  RVP2.SelLength(1);
-  RVP2.SelText("");
-  RVP2.SelStart(0);
+  RVP2.write({0, 1}, "");
 }
 
 void LessonPage::styleTitle() {
   Surface& RVP2 = controls_.RVP2;
   // Without a line end the whole page is the title.
-  RVP2.SelStart(0);
-  RVP2.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
-  RVP2.SelLength(RVP2.SelLength() + 1);
-  RVP2.SelAlignment(Alignment::Centred);
-  RVP2.SelBold(true);
-  RVP2.SelFontSize(state_.measures.CoChu + 3);
-  RVP2.SelColor(TitleColour);
+  const TextRange title{0, RVP2.paragraphStart(1)};
+  RVP2.formatParagraphs(title, {.align = Alignment::Centred});
+  RVP2.format(title, {.color = TitleColour,
+                      .bold = true,
+                      .fontSize = static_cast<double>(state_.measures.CoChu + 3)});
 }
 
 void LessonPage::declare(Variables& variables) const {

@@ -180,18 +180,12 @@ void VanPham::showList(const std::string& list) {
 
 void VanPham::ToMauNhom() {
   Surface& RVP1 = controls_.RVP1;
-  const Colour before = RVP1.SelColor();
   const double size = RVP1.Font().size;
   for (int heading = 1; heading <= state_.list.SoNhom; ++heading) {
-    RVP1.SelStart(state_.list.ViTriNhom[static_cast<std::size_t>(heading)]);
-    RVP1.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
-    RVP1.SelLength(RVP1.SelLength() + 1);
-    RVP1.SelColor(TitleColour);
-    RVP1.SelFontSize(size + 3);
-    RVP1.SelBold(true);
+    const int from = state_.list.ViTriNhom[static_cast<std::size_t>(heading)];
+    const int to = RVP1.paragraphStart(RVP1.paragraphOf(from) + 1);
+    RVP1.format({from, to}, {.color = TitleColour, .bold = true, .fontSize = size + 3});
   }
-  RVP1.SelStart(0);
-  RVP1.SelColor(before);
 }
 
 void VanPham::ChonDongVP() {

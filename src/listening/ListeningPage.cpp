@@ -26,10 +26,8 @@ void ListeningPage::paint(const ListeningTexts& texts) {
   LuaChon_ = texts.options;
   shuffle(texts.options[0]);
   RN2_.TextRTF(Rchon_.TextRTF());
-  RN2_.SelStart(InstructionStart);
-  RN2_.SelLength(InstructionLength);
-  RN2_.SelColor(HeadingColour);
-  RN2_.SelItalic(true);
+  RN2_.format({InstructionStart, InstructionStart + InstructionLength},
+              {.color = HeadingColour, .italic = true});
   writeOptions();
   mask_ = OptionMask(LuaChon_, DapAnNghe_, RN2_.TextLength());
   links = ThemBackNext(RN2_);
@@ -73,10 +71,7 @@ bool ListeningPage::isRight(int caret) const noexcept {
 void ListeningPage::XamDong(int caret) {
   const auto wrong = mask_.takeWrong(caret);
   if (!wrong) return;
-  RN2_.SelStart(wrong->from);
-  RN2_.SelLength(wrong->to - wrong->from + 1);
-  RN2_.SelColor(GreyedColour);
-  RN2_.SelLength(0);
+  RN2_.format({wrong->from, wrong->to + 1}, {.color = GreyedColour});
   RN2_.SelStart(caret);
 }
 

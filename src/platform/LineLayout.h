@@ -51,6 +51,14 @@ class LineLayout {
 
   /// Breaks the paragraph at blanks so that it fits the surface's width.
   [[nodiscard]] virtual ParagraphShape layOut(const ParagraphView& paragraph) const = 0;
+  /// The paragraph's height alone, in twips.
+  [[nodiscard]] virtual int heightOf(const ParagraphView& paragraph) const {
+    return layOut(paragraph).height;
+  }
+  /// The number of its lines alone.
+  [[nodiscard]] virtual int lineCount(const ParagraphView& paragraph) const {
+    return static_cast<int>(layOut(paragraph).lines.size());
+  }
   /// Where the caret ahead of the character at `offset` stands; an offset outside counts as the
   /// nearest one inside.
   [[nodiscard]] virtual CaretPlace placeOf(const ParagraphView& paragraph, int offset) const = 0;

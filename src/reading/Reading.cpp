@@ -228,10 +228,7 @@ void Reading::showList() {
   if (state_.measures.largeScreen()) R1.FontBold(true);
   R1.SelProtected(true);
   R1.SelText(state_.list.DanhSachBai);
-  R1.SelStart(0);
-  R1.SelLength(R1.TextLength());
-  R1.SelColor(BodyColour);
-  R1.SelStart(0);
+  R1.format({0, R1.TextLength()}, {.color = BodyColour});
   VeDauMuc();
 }
 
@@ -241,22 +238,18 @@ void Reading::VeDauMuc() {
     styleHeading(state_.list.ViTriNhom[static_cast<std::size_t>(heading)]);
   }
   if (state_.places.MucMenu == section::Analysis) {
-    R1.SelStart(GreyedFrom);
-    R1.SelLength(GreyedTo - GreyedFrom);
-    R1.SelColor(GreyedColour);
+    R1.format({GreyedFrom, GreyedTo}, {.color = GreyedColour});
   }
   R1.SelStart(0);
 }
 
 void Reading::styleHeading(int caret) {
   Surface& R1 = controls_.R1;
-  R1.SelStart(caret);
-  R1.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
-  R1.SelLength(R1.SelLength() + 1);
-  R1.SelProtected(false);
-  R1.SelColor(HeadingColour);
-  R1.SelFontSize(R1.Font().size + 3);
-  R1.SelBold(true);
+  const int end = R1.paragraphStart(R1.paragraphOf(caret) + 1);
+  R1.format({caret, end}, {.color = HeadingColour,
+                           .bold = true,
+                           .protectedText = false,
+                           .fontSize = R1.Font().size + 3});
 }
 
 void Reading::ChonDongR1(Surface& surface) {

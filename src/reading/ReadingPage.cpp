@@ -58,13 +58,11 @@ void ReadingPage::showText() {
   R2.SelFontSize(CoChu);
   R2.SelUnderline(false);
   R2.SelText(state_.text.CauHoi);
-  R2.SelStart(0);
-  R2.Span("\r", SpanDirection::Forward, SpanUntil::InSet);
-  R2.SelAlignment(Alignment::Centred);
-  R2.SelUnderline(true);
-  R2.SelFontSize(CoChu + 3);
-  R2.SelBold(true);
-  ViTriTieuDe = R2.SelLength() + 2;
+  const std::string& text = state_.text.CauHoi;
+  const TextRange title{0, static_cast<int>(std::min(text.find('\r'), text.size()))};
+  R2.formatParagraphs(title, {.align = Alignment::Centred});
+  R2.format(title, {.bold = true, .underline = true, .fontSize = static_cast<double>(CoChu + 3)});
+  ViTriTieuDe = title.to + 2;
   R2.SelStart(0);
 }
 

@@ -229,9 +229,8 @@ void TuVungChon::VeCauTuVung(const std::string& text) {
   for (const std::string& form : forms) {
     const auto place = s.find(form);
     if (place == std::string::npos) continue;
-    controls_.RHD.SelStart(static_cast<int>(place));
-    controls_.RHD.SelLength(static_cast<int>(w.size()) + 1);
-    controls_.RHD.SelColor(Red);
+    const int from = static_cast<int>(place);
+    controls_.RHD.format({from, from + static_cast<int>(w.size()) + 1}, {.color = Red});
     break;
   }
   controls_.RHD.SelStart(0);

@@ -186,9 +186,8 @@ void Amthanhcaidat::blackenChoiceAt(int caret) {
 
 void Amthanhcaidat::chooseLevel(int cell) {
   speech_.TocDoDoc = cell - SpeedHeading;
-  panel_.SelStart(entry(SpeedHeading) + 1);
-  panel_.SelLength(entry(LastLevel) - entry(SpeedHeading) + 1);
-  panel_.SelColor(Black);
+  const int levels = entry(SpeedHeading) + 1;
+  panel_.format({levels, levels + entry(LastLevel) - entry(SpeedHeading) + 1}, {.color = Black});
   panel_.SelStart(entry(cell - 1) + 1);
   ChonMuc();
   panel_.SelColor(Red);

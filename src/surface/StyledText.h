@@ -2,7 +2,6 @@
 // file holds, what a test compares.
 #pragma once
 
-#include "platform/LineLayout.h"
 #include "platform/TextStyle.h"
 
 #include <string>
@@ -33,14 +32,6 @@ struct StyledText {
   std::string text;
   std::vector<StyledRun> runs;
   std::vector<StyledParagraph> paragraphs;
-};
-
-/// One paragraph of a surface, for a layout.
-struct ParagraphContent {
-  std::string text; ///< without its line end
-  std::vector<CharStyle> styles;
-  std::vector<int> runStarts; ///< offsets in the paragraph, one for each style
-  ParagraphStyle style;
 };
 
 } // namespace talvora

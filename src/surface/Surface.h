@@ -4,17 +4,18 @@
 #pragma once
 
 #include "platform/Input.h"
-#include "platform/LineLayout.h"
+#include "surface/Caret.h"
 #include "surface/Control.h"
-#include "surface/ParagraphTable.h"
-#include "surface/RunTable.h"
-#include "surface/StyleTable.h"
-#include "surface/StyledText.h"
-#include "surface/TextBuffer.h"
+#include "surface/Document.h"
+#include "surface/Notification.h"
+#include "surface/ParagraphRef.h"
+#include "surface/StyleChange.h"
+#include "surface/SurfacePoint.h"
+#include "surface/Viewport.h"
 
 #include <cstdint>
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,23 +26,11 @@ namespace talvora {
 enum class SpanDirection { Backward, Forward };
 /// Whether `Span` runs while characters are in the set, or up to the first one that is.
 enum class SpanUntil { NotInSet, InSet };
+/// Whether a caret that is moved takes the selection's end along.
+enum class Selecting { No, Yes };
 
-/// A point on a surface, in twips from its upper left corner.
-struct SurfacePoint {
-  int x = 0;
-  int y = 0;
-
-  friend bool operator==(const SurfacePoint&, const SurfacePoint&) = default;
-};
-
-/// First paragraph in view and how far it is scrolled off the upper edge, in twips.
-struct ScrollPlace {
-  int paragraph = 0;
-  int offset = 0;
-
-  friend bool operator==(const ScrollPlace&, const ScrollPlace&) = default;
-};
-
+/// What it is made of: a document, a caret, and a viewport. Here they meet, and whoever listens is
+/// told.
 class Surface final : public Control {
  public:
   Surface(std::string name, ControlHost& host, const LineLayout& layout);
@@ -51,7 +40,7 @@ class Surface final : public Control {
   [[nodiscard]] std::string Text() const;
   /// Sets the whole text and clears all formatting; the caret goes to 0.
   void Text(std::string_view text);
-  [[nodiscard]] int TextLength() const noexcept;
+  [[nodiscard]] int TextLength() const noexcept { return document_.length(); }
   /// The characters between two carets; carets outside the text count as its nearest end.
   [[nodiscard]] std::string TextBetween(int from, int to) const;
   /// The character behind a caret; 0 outside the text.
@@ -66,29 +55,47 @@ class Surface final : public Control {
 
   // -- Defaults for new text.
 
-  [[nodiscard]] const FontSpec& Font() const noexcept { return defaultStyle_.font; }
+  [[nodiscard]] const FontSpec& Font() const noexcept { return document_.defaultStyle().font; }
   void FontName(std::string name);
   void FontSize(double points);
   void FontBold(bool bold);
 
   // -- Caret and selection.
 
-  [[nodiscard]] int SelStart() const noexcept { return selStart_; }
+  [[nodiscard]] int SelStart() const noexcept { return caret_.start(); }
   /// Places the caret and ends the selection; a caret outside the text goes to its nearest end. The
   /// surface scrolls so that the caret is in view.
   void SelStart(int caret);
-  [[nodiscard]] int SelLength() const noexcept { return selLength_; }
+  [[nodiscard]] int SelLength() const noexcept { return caret_.length(); }
   /// Sets the selection's length from the caret on, at most to the text's end; below 0 counts as 0.
   void SelLength(int length);
-  [[nodiscard]] std::string SelText() const {
-    return TextBetween(selStart_, selStart_ + selLength_);
-  }
+  [[nodiscard]] std::string SelText() const { return TextBetween(caret_.start(), caret_.end()); }
   /// Replaces the selection and leaves the caret behind the new text.
   void SelText(std::string_view text);
   void SelText(char character) { SelText(std::string_view(&character, 1)); }
   /// Extends the selection forward from its end, or backward from its start, as far as `until`
   /// says; the character that stops it stays outside.
   void Span(std::string_view characters, SpanDirection direction, SpanUntil until);
+
+  // -- What keys do, in view.
+
+  /// Places the caret as SelStart does, or takes the selection's moving end there.
+  void moveCaret(int caret, Selecting selecting);
+  /// Writes a character over the selection.
+  void type(char character);
+  /// Deletes a range; the caret goes there.
+  void erase(TextRange range);
+
+  // -- A range of the text. The caret stays with its text and the view where it is; formatting
+  //    tells nobody of a selection. A range outside the text counts as what of it lies inside.
+
+  void format(TextRange range, const StyleChange& change);
+  /// The same for the paragraphs that the range touches.
+  void formatParagraphs(TextRange range, const ParagraphChange& change);
+  /// The style of the character behind a caret, of new text where there is none.
+  [[nodiscard]] const CharStyle& styleAt(int caret) const;
+  /// Replaces the range by a text that looks like its first character, but for what `change` says.
+  void write(TextRange range, std::string_view text, const StyleChange& change = {});
 
   // -- Attributes of the selection. Read: those of its first character; with nothing selected,
   //    those that new text at the caret will have. Written with nothing selected: they hold for
@@ -121,17 +128,18 @@ class Surface final : public Control {
   // -- Lines and places, as the layout breaks the text.
 
   /// Number of the line, from 0, that holds a caret.
-  [[nodiscard]] int GetLineFromChar(int caret) const;
+  [[nodiscard]] int GetLineFromChar(int caret) const {
+    return view_.lineNumberOf(document_.clamped(caret));
+  }
   /// The caret nearest to a point of the surface.
-  [[nodiscard]] int caretAt(SurfacePoint point) const;
+  [[nodiscard]] int caretAt(SurfacePoint point) const { return view_.caretAt(point); }
   /// The middle of the character behind a caret (of the caret itself at a line's end), with the
   /// present scrolling.
-  [[nodiscard]] SurfacePoint pointOf(int caret) const;
-  /// Which paragraph is first in view. Whatever the host is told of may have moved it.
-  [[nodiscard]] ScrollPlace scroll() const {
-    settleScroll();
-    return scroll_;
+  [[nodiscard]] SurfacePoint pointOf(int caret) const {
+    return view_.pointOf(document_.clamped(caret));
   }
+  /// Which paragraph is first in view. Whatever the host is told of may have moved it.
+  [[nodiscard]] ScrollPlace scroll() const { return view_.scroll(); }
   /// Scrolls to where the surface was scrolled before; a place outside the text counts as its
   /// nearest end.
   void scroll(ScrollPlace place);
@@ -140,19 +148,27 @@ class Surface final : public Control {
 
   // -- What a front needs to paint and a test to compare.
 
-  [[nodiscard]] int paragraphCount() const noexcept;
+  [[nodiscard]] int paragraphCount() const noexcept { return document_.paragraphCount(); }
   /// The paragraph, from 0, that holds a caret.
-  [[nodiscard]] int paragraphOf(int caret) const noexcept;
+  [[nodiscard]] int paragraphOf(int caret) const noexcept {
+    return document_.paragraphOf(document_.clamped(caret));
+  }
   /// Caret at the start of a paragraph; the text's length for the paragraph behind the last.
-  [[nodiscard]] int paragraphStart(int paragraph) const noexcept;
-  /// A paragraph's text without its line end, and its runs.
-  [[nodiscard]] ParagraphContent paragraph(int index) const;
+  [[nodiscard]] int paragraphStart(int paragraph) const noexcept {
+    return document_.paragraphStart(paragraph);
+  }
+  /// A paragraph's text without its line end, and its runs, until the next change.
+  [[nodiscard]] ParagraphRef paragraph(int index) const { return paragraph(index, Width()); }
+  /// The same for a page of another width, in twips.
+  [[nodiscard]] ParagraphRef paragraph(int index, int width) const {
+    return ParagraphRef(document_, index, width);
+  }
   /// Runs that cover the text without gaps; neighbours differ.
-  [[nodiscard]] std::vector<StyledRun> runs() const;
+  [[nodiscard]] std::vector<StyledRun> runs() const { return document_.runs(); }
   /// Paragraphs that cover the text; each reaches behind its line end.
-  [[nodiscard]] std::vector<StyledParagraph> paragraphs() const;
+  [[nodiscard]] std::vector<StyledParagraph> paragraphs() const { return document_.paragraphs(); }
   /// Rises by one with every change of text or attributes.
-  [[nodiscard]] std::uint64_t revision() const noexcept { return revision_; }
+  [[nodiscard]] std::uint64_t revision() const noexcept { return document_.revision(); }
 
   // -- Flags.
 
@@ -172,9 +188,9 @@ class Surface final : public Control {
   std::function<void()> DblClick;
   /// Caret or selection have changed. What a handler of this or of `Change` does to the surface
   /// itself does not run that handler again.
-  std::function<void()> SelChange;
+  Notification SelChange;
   /// The text has changed, by the program or by a key.
-  std::function<void()> Change;
+  Notification Change;
 
   // -- What a front delivers: each runs the handlers and then the surface's own action.
 
@@ -199,108 +215,30 @@ class Surface final : public Control {
   void Check() const;
 
  private:
-  /// A line of the text as the layout breaks it.
-  struct LinePlace {
-    int paragraph;
-    int from;    ///< offset of its first character in the paragraph
-    int to;      ///< offset behind its last one
-    int top;     ///< twips below the paragraph's top
-    int height;  ///< twips
-    int number;  ///< in the paragraph, from 0
-    bool goesOn; ///< the paragraph has another line below
-  };
-  /// A height in a paragraph, in twips below its top.
-  struct ParagraphSpot {
-    int paragraph;
-    long long y;
-  };
-  struct Selection {
-    int start = 0;
-    int length = 0;
-
-    friend bool operator==(const Selection&, const Selection&) = default;
-  };
-  enum class Selecting { No, Yes };
   enum class TextIs { Same, Different };
 
-  // Text and attributes.
   [[nodiscard]] const CharStyle& selStyle() const;
-  [[nodiscard]] ParagraphStyle selParagraphStyle() const;
+  [[nodiscard]] const ParagraphStyle& selParagraphStyle() const {
+    return document_.paragraphStyle(document_.paragraphOf(caret_.start()));
+  }
   [[nodiscard]] std::optional<StyleId> insertionStyle() const;
-  [[nodiscard]] const CharStyle& styleAt(int caret) const { return styles_[runs_.styleAt(caret)]; }
-  void replaceText(int from, int to, std::string_view text, StyleId style);
-  void exchange(int from, int to, std::string_view text, StyleId style);
+  [[nodiscard]] TextRange clamped(TextRange range) const noexcept;
+  /// Returns by how much the text grew.
+  int exchange(TextRange range, std::string_view text, StyleId style);
+  void write(TextRange range, std::string_view text, StyleId style);
   void replaceAll(std::string_view text, const std::function<void()>& fill);
-  void format(const StyledText& text);
-  void resetAll(std::string_view text);
-  template <class Edit>
-  void changeStyle(Edit edit);
-  template <class Edit>
-  void changeParagraphs(Edit edit);
-  void select(Selection selection);
-  [[nodiscard]] Selection selection() const noexcept { return {selStart_, selLength_}; }
-  void tellText(Selection before, TextIs text);
-  void tellLook();
-  [[nodiscard]] int clampCaret(long long caret) const noexcept;
+  void changeStyle(const StyleChange& change);
+  void defaultFont(FontSpec font);
+  void resized() override { view_.resized(); }
+  void tellText(Caret::Selection before, TextIs text);
+  void tellSelection(Caret::Selection before);
 
-  // Lines and scrolling.
-  template <class Use>
-  [[nodiscard]] auto withView(int paragraph, Use use) const;
-  [[nodiscard]] ParagraphShape shapeOf(int paragraph) const;
-  [[nodiscard]] int heightOf(int paragraph) const { return shapeOf(paragraph).height; }
-  [[nodiscard]] LinePlace lineAt(int caret) const;
-  [[nodiscard]] std::optional<LinePlace> neighbourLine(const LinePlace& line, int step) const;
-  [[nodiscard]] ParagraphSpot spotAt(int paragraph, long long y) const;
-  [[nodiscard]] int caretInLine(const LinePlace& line, int x) const;
-  [[nodiscard]] int columnOf(int caret) const;
-  void resized() override { scrollMayBeOff_ = true; }
-  void scrollWithEdit(int first, int last, int added);
-  void bringIntoView(int caret);
-  void settleScroll() const;
-  void showCaret(int caret) const;
-  void showAsLastLine(const LinePlace& line) const;
-
-  // Keys and mouse.
-  void actOnKey(int keyCode, int shift);
-  void typeCharacter(char character);
-  void moveCaret(int caret, Selecting selecting);
-  [[nodiscard]] int activeEnd() const noexcept;
-  void moveHorizontally(int keyCode, int shift);
-  void moveInLine(int keyCode, int shift);
-  void moveToLine(const LinePlace& line, Selecting selecting);
-  /// The line from which a move up or down, or to an end of the line, starts.
-  [[nodiscard]] LinePlace lineOfMove(Selecting selecting) const;
-  void moveByLine(int step, Selecting selecting);
-  void moveByPage(int direction, Selecting selecting);
-  [[nodiscard]] int caretBefore(int caret) const;
-  [[nodiscard]] int caretBehind(int caret) const;
-  [[nodiscard]] int wordStartBefore(int caret) const;
-  [[nodiscard]] int wordStartBehind(int caret) const;
-  void erase(int from, int to);
-  [[nodiscard]] bool mayChange(int from, int to) const;
-
-  const LineLayout& layout_;
-  TextBuffer text_;
-  RunTable runs_;
-  ParagraphTable paragraphs_;
-  StyleTable<CharStyle> styles_;
-  StyleTable<ParagraphStyle> paragraphStyles_;
-  CharStyle defaultStyle_;
-  /// Style of what is written next at the caret, until the caret moves.
-  std::optional<StyleId> pendingStyle_;
-  int selStart_ = 0;
-  int selLength_ = 0;
-  int anchor_ = 0;             ///< the end of the selection that stays while it is extended
-  std::optional<int> columnX_; ///< x that Up and Down keep, twips
-  /// Carets that are still to be brought into view, oldest first; done when somebody looks.
-  mutable std::vector<int> unshownCarets_;
-  mutable ScrollPlace scroll_;
-  mutable bool scrollMayBeOff_ = false; ///< the first paragraph in view may have become shorter
-  std::uint64_t revision_ = 0;
+  Document document_;
+  Caret caret_;
+  /// What it shows follows from the rest, and is worked out when somebody looks.
+  mutable Viewport view_;
   bool locked_ = true;
   bool clickIsOver_ = false; ///< the next release belongs to a double click
-  bool changeRuns_ = false;  ///< the handler is at work, and what it does itself is not told again
-  bool selChangeRuns_ = false;
 };
 
 } // namespace talvora

@@ -32,6 +32,14 @@ std::string TextBuffer::between(int from, int to) const {
   return text;
 }
 
+std::string_view TextBuffer::view(int from, int to, std::string& joined) const {
+  const auto [ahead, behind] = pieces(from, to);
+  if (behind.empty()) return ahead;
+  if (ahead.empty()) return behind;
+  joined.assign(ahead).append(behind);
+  return joined;
+}
+
 bool TextBuffer::equals(std::string_view text) const noexcept {
   if (text.size() != static_cast<std::size_t>(length_)) return false;
   const auto [first, second] = pieces(0, length_);

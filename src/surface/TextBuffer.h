@@ -21,6 +21,9 @@ class TextBuffer {
   }
   /// The characters between two places, which must be inside and in order.
   [[nodiscard]] std::string between(int from, int to) const;
+  /// The same as it lies in memory, which holds until the next change; what the gap cuts in two is
+  /// put together in `joined`.
+  [[nodiscard]] std::string_view view(int from, int to, std::string& joined) const;
   [[nodiscard]] bool equals(std::string_view text) const noexcept;
   /// How many of `wanted` characters still fit in, when `dropped` of those here go.
   [[nodiscard]] int room(std::size_t wanted, int dropped) const noexcept;

@@ -64,19 +64,16 @@ void PTCau::GiaiTuPT(Surface& surface) {
 }
 
 void PTCau::ChonTuPT(Surface& surface) {
-  const int caret = surface.SelStart();
-  const WordMark mark = markAt(state_.text.VanBanGoc, caret + 1);
-  if (mark.SelLength == 0) return;
-  surface.SelStart(mark.SelStart);
-  surface.SelLength(mark.SelLength);
-  const std::string word = surface.SelText();
+  const WordMark mark = markAt(state_.text.VanBanGoc, surface.SelStart() + 1);
+  const TextRange range{mark.SelStart, mark.SelStart + mark.SelLength};
+  const std::string word = surface.TextBetween(range.from, range.to);
   if (word.empty()) return;
-  item_.MauCu = surface.SelColor();
+  item_.MauCu = surface.styleAt(range.from).color;
   item_.ChuCu = word;
   item_.ViTriChuCu = mark.SelStart;
-  surface.SelColor(Blue);
-  surface.SelLength(0);
-  surface.SelStart(caret);
+  surface.format(range, {.color = Blue});
+  // What is explained is no word to look up.
+  state_.word.TuHienTai.clear();
 }
 
 void PTCau::declare(Variables& variables) const {

@@ -1,7 +1,7 @@
 // What a page looks like beyond its text: faces, sentence marks, the scroll bar.
 #include "desktop/Fonts.h"
+#include "desktop/QtLineLayout.h"
 #include "desktop/ScrollBar.h"
-#include "desktop/TextShaper.h"
 #include "surface/Form.h"
 #include "text/GlyphMap.h"
 
@@ -10,6 +10,7 @@
 #include <QFontMetricsF>
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 namespace talvora {
@@ -39,8 +40,7 @@ class Page : public ::testing::Test {
     int count = 0;
     for (int each = surface.scroll().paragraph;
          each < surface.paragraphCount() && bottom < surface.Height(); ++each, ++count) {
-      bottom +=
-          layout.shaped(surface.paragraph(each), surface.Font(), surface.Width()).shape().height;
+      bottom += layout.heightOf(surface.paragraph(each).view());
     }
     return bar.extent(count, bottom);
   }
@@ -93,22 +93,22 @@ TEST_F(Page, ThePageKeysOfTheTroughMoveByNearlyAPage) {
 
 TEST_F(Page, ASentenceMarkBesideABlankTakesNoRoom) {
   surface.Text("One.\xA0 Two");
-  const double marked = layout.shaped(surface.paragraph(0), surface.Font(), 9000).placeOf(7).x;
+  const double marked = layout.shaped(surface.paragraph(0, 9000).view()).placeOf(7).x;
   surface.Text("One. Two");
-  EXPECT_NEAR(marked, layout.shaped(surface.paragraph(0), surface.Font(), 9000).placeOf(6).x, 2);
+  EXPECT_NEAR(marked, layout.shaped(surface.paragraph(0, 9000).view()).placeOf(6).x, 2);
 }
 
 TEST_F(Page, ASentenceMarkBetweenLettersIsTheirGap) {
   surface.Text("One.\xA0Two");
-  const auto& marked = layout.shaped(surface.paragraph(0), surface.Font(), 9000);
+  const auto& marked = layout.shaped(surface.paragraph(0, 9000).view());
   EXPECT_GT(marked.placeOf(5).x, marked.placeOf(4).x + 50);
 }
 
 TEST_F(Page, MarksChangeNoLinesHeight) {
   surface.Text("One.\xA0 Two");
-  const int marked = layout.shaped(surface.paragraph(0), surface.Font(), 9000).shape().height;
+  const int marked = layout.shaped(surface.paragraph(0, 9000).view()).shape().height;
   surface.Text("One. Two");
-  EXPECT_EQ(layout.shaped(surface.paragraph(0), surface.Font(), 9000).shape().height, marked);
+  EXPECT_EQ(layout.shaped(surface.paragraph(0, 9000).view()).shape().height, marked);
 }
 
 TEST(Faces, HaveEveryVietnameseLetter) {
@@ -134,6 +134,34 @@ TEST(Faces, TextIsSemiboldAndATitleBold) {
   EXPECT_EQ(fontFor(FontSpec{"x1", 20, true}).weight(), QFont::DemiBold);
   EXPECT_EQ(fontFor(FontSpec{"x1", 23, true}).weight(), QFont::Bold);
   EXPECT_EQ(fontFor(FontSpec{"x1", 19, false}).weight(), QFont::Normal);
+}
+
+TEST_F(Page, AParagraphThatIsToldToFitTakesOneLine) {
+  std::mt19937 random(3);
+  LetterWidths widths;
+  int fitting = 0;
+  for (int round = 0; round < 400; ++round) {
+    std::string text;
+    for (auto letters = random() % 60; letters > 0; --letters)
+      text += letters % 9 == 0 ? '\t' : static_cast<char>(' ' + random() % 224);
+    surface.Text(text);
+    surface.format({0, 20}, {.bold = round % 3 == 0, .italic = round % 4 == 0});
+    const ParagraphRef paragraph = surface.paragraph(0);
+    if (!widths.fitsOneLine(paragraph.view())) continue;
+    ++fitting;
+    EXPECT_EQ(layout.layOut(paragraph.view()).lines.size(), 1U) << "round " << round;
+  }
+  EXPECT_GT(fitting, 50);
+}
+
+TEST_F(Page, AParagraphWrittenAnewIsNotSetAgain) {
+  writeLines(3);
+  const auto serial = layout.shaped(surface.paragraph(1).view()).serial();
+  surface.Text("");
+  writeLines(3);
+  EXPECT_EQ(layout.shaped(surface.paragraph(1).view()).serial(), serial);
+  surface.format({8, 9}, {.color = 255});
+  EXPECT_NE(layout.shaped(surface.paragraph(1).view()).serial(), serial);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // The parts that a surface is made of, each by itself and against a naive twin.
+#include "surface/LineCounts.h"
 #include "surface/LineEnds.h"
 #include "surface/ParagraphTable.h"
 #include "surface/Partitioning.h"
@@ -11,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <numeric>
 #include <random>
 #include <stdexcept>
 
@@ -287,6 +290,57 @@ TEST(ParagraphTable, FollowsRandomEditsWithEveryKindOfLineEnd) {
     paragraphs.Check(text);
     const std::vector<int> expected = lineStarts(text.between(0, text.length()));
     ASSERT_EQ(paragraphs.count(), static_cast<int>(expected.size())) << "step " << step;
+  }
+}
+
+TEST(TextBuffer, ShowsAStretchWithOrWithoutTheGapInIt) {
+  TextBuffer text;
+  text.assign("abcdef");
+  text.replace(3, 3, "XY");
+  std::string joined;
+  EXPECT_EQ(text.view(0, 3, joined), "abc");
+  EXPECT_EQ(text.view(5, 8, joined), "def");
+  EXPECT_EQ(joined, "") << "nothing was copied";
+  EXPECT_EQ(text.view(2, 7, joined), "cXYde");
+  EXPECT_EQ(text.view(4, 4, joined), "");
+}
+
+TEST(LineCounts, AsksForEachParagraphOnce) {
+  LineCounts counts;
+  int asked = 0;
+  const auto count = [&](int paragraph) {
+    ++asked;
+    return paragraph + 1;
+  };
+  EXPECT_EQ(counts.ahead(0, count), 0);
+  EXPECT_EQ(counts.ahead(4, count), 1 + 2 + 3 + 4);
+  EXPECT_EQ(counts.ahead(2, count), 1 + 2);
+  EXPECT_EQ(counts.ahead(5, count), 1 + 2 + 3 + 4 + 5);
+  EXPECT_EQ(asked, 5);
+  counts.changed(1, 1, 0);
+  EXPECT_EQ(counts.ahead(5, count), 1 + 2 + 3 + 4 + 5);
+  EXPECT_EQ(asked, 6) << "the paragraphs behind the change are known";
+}
+
+TEST(LineCounts, FollowsEveryEdit) {
+  Dice dice;
+  LineCounts counts;
+  std::vector<int> lines(40, 1);
+  for (int step = 0; step < 5000; ++step) {
+    const int last = static_cast<int>(lines.size()) - 1;
+    const int from = dice(last);
+    const int to = std::min(last, from + dice(3));
+    const int now = 1 + dice(lines.size() > 60 ? 1 : 4);
+    lines.erase(lines.begin() + from, lines.begin() + to + 1);
+    for (int each = 0; each < now; ++each)
+      lines.insert(lines.begin() + from, 1 + dice(5));
+    counts.changed(from, to, now - (to - from + 1));
+    const int paragraph = dice(static_cast<int>(lines.size()));
+    const int ahead = std::accumulate(lines.begin(), lines.begin() + paragraph, 0);
+    ASSERT_EQ(
+        counts.ahead(paragraph, [&](int each) { return lines.at(static_cast<std::size_t>(each)); }),
+        ahead)
+        << "step " << step;
   }
 }
 

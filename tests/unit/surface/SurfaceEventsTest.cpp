@@ -320,7 +320,7 @@ TEST_F(SurfaceEventsTest, ADragBeyondTheUpperEdgeReachesTheTextAbove) {
 TEST_F(SurfaceEventsTest, AnEmptyLastLineIsAsHighAsWhatIsWrittenThere) {
   surface.SelFontSize(30);
   surface.SelText("big\r");
-  EXPECT_EQ(surface.paragraph(1).styles.at(0).font.size, 30);
+  EXPECT_EQ(surface.paragraph(1).view().runs[0].style->font.size, 30);
 }
 
 TEST_F(SurfaceEventsTest, ATextWithoutASizeIsNeverScrolled) {
@@ -330,6 +330,75 @@ TEST_F(SurfaceEventsTest, ATextWithoutASizeIsNeverScrolled) {
     flat.SelStart((caret * 31) % 400);
   EXPECT_EQ(flat.scroll(), (ScrollPlace{0, 0}));
   flat.Check();
+}
+
+TEST_F(SurfaceEventsTest, FormattingARangeTellsOfNoSelectionAndMovesNothing) {
+  surface.Text(lines(50));
+  surface.SelStart(7);
+  surface.SelLength(2);
+  int moves = 0;
+  surface.SelChange = [&] { ++moves; };
+  host.changes.clear();
+  surface.format({200, 204}, {.color = 255, .bold = true});
+  surface.formatParagraphs({200, 204}, {.align = Alignment::Right});
+  EXPECT_EQ(moves, 0);
+  EXPECT_THAT(host.changes, ElementsAre(ControlChange::Look, ControlChange::Look));
+  EXPECT_EQ(surface.SelStart(), 7);
+  EXPECT_EQ(surface.SelLength(), 2);
+  EXPECT_EQ(surface.scroll(), (ScrollPlace{0, 0}));
+  EXPECT_EQ(surface.styleAt(200).color, 255U);
+  EXPECT_TRUE(surface.styleAt(203).font.bold);
+  EXPECT_EQ(surface.styleAt(204).color, 0U);
+  EXPECT_EQ(surface.paragraphs().at(40).style.align, Alignment::Right);
+  EXPECT_EQ(surface.paragraphs().at(41).style.align, Alignment::Left);
+}
+
+TEST_F(SurfaceEventsTest, ARangeOutsideTheTextCountsAsWhatLiesInside) {
+  surface.Text("abc");
+  surface.format({2, 99}, {.color = 255});
+  surface.format({50, 60}, {.color = 1});
+  surface.write({3, 3}, "d");
+  surface.write({-5, 1}, "A");
+  EXPECT_EQ(surface.Text(), "Abcd");
+  EXPECT_EQ(surface.styleAt(2).color, 255U);
+  EXPECT_EQ(surface.styleAt(3).color, 0U);
+  surface.Check();
+}
+
+TEST_F(SurfaceEventsTest, WritingARangeTakesCaretAndSelectionAlong) {
+  surface.Text("one two three");
+  const auto select = [&](int from, int length) {
+    surface.SelStart(from);
+    surface.SelLength(length);
+  };
+  select(8, 5);
+  surface.write({0, 3}, "eleven", {.color = 255});
+  EXPECT_EQ(surface.SelText(), "three");
+  EXPECT_EQ(surface.styleAt(5).color, 255U);
+  select(0, 6);
+  surface.write({7, 10}, "2");
+  EXPECT_EQ(surface.SelText(), "eleven");
+  surface.SelStart(3);
+  surface.write({0, 6}, "twelve");
+  EXPECT_EQ(surface.SelStart(), 3) << "a text of the same length leaves the caret where it is";
+  surface.write({0, 6}, "x");
+  EXPECT_EQ(surface.SelStart(), 1);
+  surface.Check();
+}
+
+TEST_F(SurfaceEventsTest, TheLineOfACaretFollowsEditsAndWidth) {
+  const std::string longLine = std::string(50, 'a') + " " + std::string(50, 'b') + "\r";
+  surface.Text(longLine + lines(10));
+  const auto lastLine = [&] { return surface.GetLineFromChar(surface.TextLength()); };
+  EXPECT_EQ(lastLine(), 12);
+  surface.write({0, 51}, "");
+  EXPECT_EQ(lastLine(), 11);
+  surface.write({0, 0}, longLine);
+  EXPECT_EQ(lastLine(), 13);
+  surface.Width(60000);
+  EXPECT_EQ(lastLine(), 12);
+  surface.format({0, 200}, {.fontSize = 100.0});
+  EXPECT_GT(lastLine(), 12);
 }
 
 } // namespace

@@ -219,8 +219,8 @@ TEST_F(SurfaceTest, APlainFileIsKeptAsItStands) {
   EXPECT_EQ(surface.Text(), "one\r\ntwo\nthree\rfour");
   EXPECT_EQ(surface.paragraphCount(), 4);
   EXPECT_EQ(surface.paragraphStart(1), 5);
-  EXPECT_EQ(surface.paragraph(0).text, "one");
-  EXPECT_EQ(surface.paragraph(1).text, "two");
+  EXPECT_EQ(surface.paragraph(0).view().text, "one");
+  EXPECT_EQ(surface.paragraph(1).view().text, "two");
   surface.SelStart(3);
   surface.SelText("X");
   EXPECT_EQ(surface.Text(), "oneX\r\ntwo\nthree\rfour");

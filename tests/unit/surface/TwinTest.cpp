@@ -55,6 +55,20 @@ class Twin {
     start += added.size();
     length = 0;
   }
+  /// Replaces a range, and caret and selection stay with their text.
+  void writeRange(std::size_t from, std::size_t to, const std::string& added) {
+    const CharStyle style = from < text.size() ? styles[from] : normal;
+    const auto moved = [&](std::size_t caret) {
+      if (caret <= from) return caret;
+      return caret < to ? std::min(caret, from + added.size()) : caret + added.size() - (to - from);
+    };
+    const std::size_t end = moved(start + length);
+    replace(from, to, "", style);
+    replace(from, from, added, style);
+    if (from < to || !added.empty()) pending.reset();
+    start = moved(start);
+    length = end - start;
+  }
   template <class Edit>
   void restyle(Edit edit) {
     if (length == 0) {
@@ -149,7 +163,7 @@ class TwinTest : public testing::TestWithParam<unsigned> {
   std::size_t below(std::size_t limit) { return random_() % (limit + 1); }
 
   void step() {
-    switch (below(9)) {
+    switch (below(11)) {
     case 0:
     case 1:
       placeCaret();
@@ -168,6 +182,12 @@ class TwinTest : public testing::TestWithParam<unsigned> {
       break;
     case 8:
       restyleParagraphs();
+      break;
+    case 9:
+      writeRange();
+      break;
+    case 10:
+      restyleRange();
       break;
     default:
       press();
@@ -189,6 +209,7 @@ class TwinTest : public testing::TestWithParam<unsigned> {
         ASSERT_EQ(run.style, twin.styles[static_cast<std::size_t>(at)]) << "caret " << at;
       }
     }
+    ASSERT_EQ(surface.GetLineFromChar(surface.TextLength()), lastLine());
     const ScrollPlace scroll = surface.scroll();
     ASSERT_LT(scroll.paragraph, surface.paragraphCount());
   }
@@ -220,6 +241,29 @@ class TwinTest : public testing::TestWithParam<unsigned> {
     const std::string piece = pieces[below(pieces.size() - 1)];
     surface.SelText(piece);
     twin.write(piece);
+  }
+  /// The lines of all paragraphs, each laid out for it.
+  [[nodiscard]] int lastLine() const {
+    int lines = 0;
+    for (int each = 0; each < surface.paragraphCount(); ++each)
+      lines += layout.lineCount(surface.paragraph(each).view());
+    return lines - 1;
+  }
+  void writeRange() {
+    const std::size_t from = below(twin.text.size());
+    const std::size_t to = from + below(std::min<std::size_t>(twin.text.size() - from, 15));
+    const std::vector<std::string> pieces = {"", "a", "\r", "\n", "x\ry", "more words"};
+    const std::string piece = pieces[below(pieces.size() - 1)];
+    surface.write({static_cast<int>(from), static_cast<int>(to)}, piece);
+    twin.writeRange(from, to, piece);
+  }
+  void restyleRange() {
+    const std::size_t from = below(twin.text.size());
+    const std::size_t to = from + below(twin.text.size() - from);
+    const double size = below(1) == 0 ? 10 : 30;
+    surface.format({static_cast<int>(from), static_cast<int>(to)}, {.fontSize = size});
+    for (std::size_t at = from; at < to; ++at)
+      twin.styles[at].font.size = size;
   }
   void restyle() {
     const auto colour = static_cast<Colour>(below(2));
