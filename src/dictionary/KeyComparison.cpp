@@ -53,7 +53,7 @@ class KeyWalker {
 } // namespace
 
 std::strong_ordering compareWithForm(std::string_view key, std::string_view line) noexcept {
-  if (line.size() <= 1) return key <=> trim(line);
+  if (line.size() <= 1) return key.compare(trim(line)) <=> 0;
   KeyWalker walker(key);
   bool started = false;
   int blanks = 0; // waiting for a character that follows, since blanks at the ends are trimmed
@@ -65,9 +65,9 @@ std::strong_ordering compareWithForm(std::string_view key, std::string_view line
     if (becomesBlank && started) ++blanks;
     if (character == ' ' || character == NotKept) continue;
     for (; blanks > 0; --blanks) {
-      if (const auto order = walker.step(' '); std::is_neq(order)) return order;
+      if (const auto order = walker.step(' '); order != 0) return order;
     }
-    if (const auto order = walker.step(character); std::is_neq(order)) return order;
+    if (const auto order = walker.step(character); order != 0) return order;
     started = true;
   }
   return walker.atEnd();

@@ -30,9 +30,12 @@ struct StyleHash {
   }
 
  private:
+  /// Odd, so that nothing is lost; where a size has 32 bits, its lower half serves.
+  static constexpr auto Spread = static_cast<std::size_t>(0x9E3779B97F4A7C15U);
+
   template <class Value>
   static std::size_t mix(std::size_t hash, Value value) noexcept {
-    return hash * 0x9E3779B97F4A7C15U + std::hash<Value>{}(value);
+    return hash * Spread + std::hash<Value>{}(value);
   }
 };
 

@@ -22,6 +22,11 @@ void copy(char* into, std::string_view text) {
   if (!text.empty()) std::memcpy(into, text.data(), text.size());
 }
 
+/// `std::make_unique_for_overwrite`, which not every standard library has.
+std::unique_ptr<char[]> uninitialised(int size) {
+  return std::unique_ptr<char[]>(new char[static_cast<std::size_t>(size)]); // NOLINT: owned at once
+}
+
 } // namespace
 
 std::string TextBuffer::between(int from, int to) const {
@@ -53,7 +58,7 @@ int TextBuffer::room(std::size_t wanted, int dropped) const noexcept {
 void TextBuffer::assign(std::string_view text) {
   const int length = fitting(text.size(), MostCharacters);
   if (length > capacity_ || length < capacity_ / 4) {
-    own_ = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(length + LeastGap));
+    own_ = uninitialised(length + LeastGap);
     capacity_ = length + LeastGap;
   }
   copy(own_.get(), text.substr(0, static_cast<std::size_t>(length)));
@@ -94,7 +99,7 @@ std::array<std::string_view, 2> TextBuffer::pieces(int from, int to) const noexc
 }
 
 void TextBuffer::reallocate(int capacity) {
-  auto larger = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(capacity));
+  std::unique_ptr<char[]> larger = uninitialised(capacity);
   const auto [first, second] = pieces(0, length_);
   const int gap = capacity - length_;
   copy(larger.get(), first);
