@@ -46,13 +46,23 @@ bool settleCaret(Surface& surface) {
   }
 }
 
+/// What a line opens with ahead of its first word: a mark and a tab at most. A caret at the very
+/// start of a word stays, so that the word is taken whole.
+int startOfFirstWord(const Surface& surface, int lineStart) {
+  constexpr std::string_view aheadOfWord = "\xA0\t -";
+  constexpr int longest = 2;
+  int at = lineStart;
+  while (at < lineStart + longest && aheadOfWord.find(surface.CharAt(at)) != std::string_view::npos)
+    ++at;
+  return at;
+}
+
 bool settleCaretBT(Surface& surface) {
   const int p = surface.SelStart();
   if (p < 2) return true;
   switch (surface.CharAt(p - 1)) {
   case '\r':
-    // Two characters, whether a mark and a tab stand there or the word itself; that is meant.
-    surface.SelStart(p + 2);
+    surface.SelStart(startOfFirstWord(surface, p));
     return false;
   case ',':
     surface.SelStart(p + 1);

@@ -74,6 +74,20 @@ TEST_F(WordPickTest, OnALessonALineEndIsSteppedOverByTwo) {
   EXPECT_EQ(R2.SelText(), "two");
 }
 
+TEST_F(WordPickTest, OnALessonALinesFirstWordIsTakenWholeFromItsVeryStart) {
+  for (const std::string ahead : {"", "\t", "\xA0", "\xA0\t", "- "}) {
+    showText("one.\r" + ahead + "two three");
+    R2.SelStart(5);
+    run.shell.wordPick.ChonTuBT(R2);
+    EXPECT_EQ(R2.SelText(), "two") << ahead;
+    EXPECT_EQ(word(), "two") << ahead;
+  }
+  showText("one.\r\rtwo three");
+  R2.SelStart(5);
+  run.shell.wordPick.ChonTuBT(R2);
+  EXPECT_EQ(R2.SelText(), "") << "an empty line has no word";
+}
+
 TEST_F(WordPickTest, StepsOverTheMarkBehindALineEnd) {
   EXPECT_EQ(pick("One.\r\xA0Two here", 5), "Two");
   EXPECT_EQ(pick("One.\r\tTwo here", 5), "Two");
