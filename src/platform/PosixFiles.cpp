@@ -86,8 +86,9 @@ class PosixFile final : public OpenFile {
   }
   std::error_code dressAs(const FileStatus& other) override {
     // Only the owner of a machine may give files away; a guest's copy stays the guest's.
-    if (::fchown(handle_, other.owner, other.group) != 0 && errno != EPERM) return lastError();
-    const int changed = ::fchmod(handle_, other.mode);
+    const int given = retried([&] { return ::fchown(handle_, other.owner, other.group); });
+    if (given != 0 && errno != EPERM) return lastError();
+    const int changed = retried([&] { return ::fchmod(handle_, other.mode); });
     // A stick's file system may know no permissions.
     return changed != 0 && errno == EPERM ? std::error_code() : done(changed);
   }
