@@ -2,12 +2,14 @@
 # Ends the real program in every way from outside while a text is open or read aloud, starts it a
 # second time, and starts it without a pack and on one that may not be written. No word may be lost.
 #
-#   closing.sh PROGRAM PACK_FOLDER PICTURE_FOLDER [WIDTHxHEIGHT]
+#   closing.sh PROGRAM PACK_FOLDER PICTURE_FOLDER [SESSION_MANAGER]
 #
 # Needs Xvfb and xdotool, and openbox to be asked to close by a window manager.
 set -u
 
 here=$(dirname "$(realpath "$0")")
+session_manager=$(realpath "${4:-}" 2>/dev/null)
+set -- "${@:1:3}"
 for part in frame start; do
   # shellcheck source=/dev/null
   . "$here/walk/$part.sh"
@@ -38,21 +40,6 @@ take_word() {
   sleep 0.3
 }
 
-# expect_end_within SECONDS WHAT
-expect_end_within() {
-  local tenth
-  for tenth in $(seq $(($1 * 10))); do
-    running || break
-    sleep 0.1
-  done
-  running && fail "the program still runs $1 s after $2"
-  wait "$program_id"
-  local code=$?
-  program_id=
-  [ "$code" -eq 0 ] || fail "exit code $code after $2"
-  passed "$2 ends the program within $tenth tenths of a second"
-}
-
 words_stored() {
   echo $(($(stat -c %s "$work/own/data.c") / 24))
 }
@@ -74,7 +61,7 @@ start_with "${folders[@]}"
 open_a_text
 take_word bank
 kill -TERM "$program_id"
-expect_end_within 3 "SIGTERM with a text open"
+expect_end 3 "SIGTERM with a text open"
 expect_words 1
 
 for signal in HUP INT; do
@@ -83,7 +70,7 @@ for signal in HUP INT; do
   press F9
   sleep 1
   kill -"$signal" "$program_id"
-  expect_end_within 3 "SIG$signal while a text is read aloud"
+  expect_end 3 "SIG$signal while a text is read aloud"
 done
 
 if [ -n "$window_manager" ]; then
@@ -93,9 +80,48 @@ if [ -n "$window_manager" ]; then
   press F9
   sleep 1
   xdotool key --clearmodifiers alt+F4
-  expect_end_within 3 "Alt+F4 while a text is read aloud"
+  expect_end 3 "Alt+F4 while a text is read aloud"
   expect_words 2
 fi
+
+# log_out: asks the program to store what it has, as a session manager does, and then to end.
+log_out() {
+  mkfifo "$work/orders"
+  "$session_manager" <"$work/orders" >"$work/session" 2>&1 &
+  local manager=$!
+  trap 'kill "$manager" 2>/dev/null; clean_up' EXIT
+  exec 4>"$work/orders"
+  expect_session local/
+  SESSION_MANAGER=$(head -n 1 "$work/session")
+  export SESSION_MANAGER
+  start_with "${folders[@]}"
+  unset SESSION_MANAGER
+  expect_session client
+  open_a_text
+  take_word river.
+  local before
+  before=$(words_stored)
+  echo save >&4
+  expect_session saved
+  running || fail "the program has ended before the session did"
+  expect_words $((before + 1))
+  passed "a log-out stores the words while the program still runs"
+  echo die >&4
+  expect_end 5 "the end of the session"
+  exec 4>&-
+  wait "$manager"
+  trap clean_up EXIT
+}
+
+expect_session() { # TEXT
+  for _ in $(seq 50); do
+    grep -q "^$1" "$work/session" && return
+    sleep 0.1
+  done
+  fail "the session manager heard \"$(cat "$work/session")\", expected $1"
+}
+
+[ -z "$session_manager" ] || log_out
 
 start_with "${folders[@]}"
 open_a_text
@@ -119,7 +145,7 @@ passed "a second start raises the first window and ends"
 press Escape
 sleep 0.5
 press Return
-expect_end_within 3 "the quit question"
+expect_end 3 "the quit question"
 
 start_with "${folders[@]}"
 kill -KILL "$x_server"

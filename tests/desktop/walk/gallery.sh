@@ -192,12 +192,5 @@ show_failure() {
   sleep 1.5
   take 80-failure
   press Return
-  for _ in $(seq 50); do
-    running || break
-    sleep 0.1
-  done
-  running && fail "the program goes on"
-  wait "$program_id"
-  program_id=
-  passed "failure"
+  expect_end 5 "the message of a failure" 1
 }

@@ -240,15 +240,17 @@ running() {
   kill -0 "$program_id" 2>/dev/null
 }
 
-# The program ends by itself, with exit code 0.
-expect_end() {
-  for _ in $(seq 50); do
+# The program ends by itself within so many seconds of what was done to it.
+expect_end() { # [SECONDS [WHAT [EXIT_CODE]]]
+  local seconds=${1:-5} what=${2:-the question} expected=${3:-0} tenth
+  for tenth in $(seq $((seconds * 10))); do
     running || break
     sleep 0.1
   done
-  running && fail "the program goes on"
+  running && fail "the program still runs $seconds s after $what"
   wait "$program_id"
   local code=$?
   program_id=
-  [ "$code" -eq 0 ] || fail "the program ended with exit code $code"
+  [ "$code" -eq "$expected" ] || fail "exit code $code after $what, expected $expected"
+  passed "$what ends the program within $tenth tenths of a second"
 }
