@@ -4,7 +4,9 @@
 #include "desktop/DeedEvent.h"
 #include "desktop/FormView.h"
 #include "desktop/HintBarView.h"
+#include "desktop/KeyCodes.h"
 #include "desktop/MenuButtonView.h"
+#include "desktop/PageLook.h"
 #include "desktop/PageNames.h"
 #include "desktop/Palette.h"
 #include "desktop/SurfaceView.h"
@@ -135,7 +137,13 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
 
   int cursorPosition() const override { return surface().SelStart(); }
   void setCursorPosition(int position) override {
-    ask(view_, [&surface = surface(), position] { surface.SelStart(position); });
+    ask(view_, [this, position] {
+      surface().SelStart(position);
+      // A list takes the line of its caret when an arrow is let go.
+      if (lookOf(surface()).isList && view_.surfaceHasFocus()) {
+        surface().releaseKey(key::Down, shift::None);
+      }
+    });
   }
 
   // -- The text.

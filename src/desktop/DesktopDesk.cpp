@@ -103,6 +103,16 @@ void DesktopNarrator::wordTaken(const std::string& word, WordTaken outcome, int 
   }
 }
 
+void DesktopNarrator::answerJudged(Verdict verdict) {
+  if (verdict.right == verdict.places) {
+    say(QStringLiteral("Đúng"));
+  } else if (verdict.places == 1) {
+    say(QStringLiteral("Chưa đúng"));
+  } else {
+    say(QStringLiteral("Đúng %1 trên %2 chỗ").arg(verdict.right).arg(verdict.places));
+  }
+}
+
 void showFailure(const std::string& message, QWidget* owner) {
   MessageCard box(QStringLiteral("Talvora"),
                   QStringLiteral("Chương trình gặp lỗi nên phải dừng lại. Từ vựng bạn đã lưu vẫn "

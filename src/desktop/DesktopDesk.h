@@ -74,9 +74,12 @@ class DesktopNarrator final : public Narrator {
   void frameShown(int, int) override {}
   void curtainOpened(const std::string&) override {}
   void wordTaken(const std::string& word, WordTaken outcome, int count) override;
+  void answerJudged(Verdict verdict) override;
 
   /// Shows a short text for a moment where it is in nobody's way; set by the window.
   std::function<void(const QString&)> sign = [](const QString&) {};
+  /// Says a short text to a screen reader; set by the window.
+  std::function<void(const QString&)> say = [](const QString&) {};
 };
 
 /// A message box with a text of the program's own bytes, on top of `owner`.

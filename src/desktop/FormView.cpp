@@ -214,7 +214,11 @@ SurfaceView* FormView::barAt(QPointF point) const {
 }
 
 void FormView::mousePressEvent(QMouseEvent* event) {
-  if (!scrollMouse_.press(*event)) mouse_.press(*event);
+  if (event->button() == Qt::MiddleButton) {
+    onMiddleClick();
+  } else if (!scrollMouse_.press(*event)) {
+    mouse_.press(*event);
+  }
 }
 
 void FormView::mouseReleaseEvent(QMouseEvent* event) {

@@ -30,6 +30,7 @@ class FormView final : public QWidget, public FormObserver {
 
   std::function<void()> onCaptionChanged;
   std::function<void()> onFocusChanged;
+  std::function<void()> onMiddleClick = [] {};
   /// Called with the point to which the learner brings the pointer.
   void onPointer(std::function<void(SurfacePoint at)> call) {
     mouse_.pointerCame = std::move(call);

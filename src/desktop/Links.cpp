@@ -55,7 +55,20 @@ bool isLineOfList(const Surface& surface, SurfacePoint at, int caret) {
   return std::abs(middle.y - at.y) <= HalfLine && surface.TextLength() > 0;
 }
 
+bool linkBegins(const Surface& surface, int caret) {
+  return isItalic(surface, caret) && (caret == 0 || !isItalic(surface, caret - 1));
+}
+
 } // namespace
+
+int nextLessonLink(const Surface& explanation, int caret) {
+  const int length = explanation.TextLength();
+  for (int step = 1; step <= length; ++step) {
+    const int at = (caret + step) % length;
+    if (linkBegins(explanation, at)) return at;
+  }
+  return -1;
+}
 
 bool isLink(const Surface& surface, SurfacePoint at) {
   const int caret = surface.caretAt(at);

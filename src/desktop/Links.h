@@ -9,4 +9,8 @@ namespace talvora {
 /// word that is merely looked up is no link.
 [[nodiscard]] bool isLink(const Surface& surface, SurfacePoint at);
 
+/// The caret behind which the next lesson that an explanation names begins, past `caret`, and from
+/// the top again; -1 when it names none. A caret of -1 starts at the top.
+[[nodiscard]] int nextLessonLink(const Surface& explanation, int caret);
+
 } // namespace talvora

@@ -3,7 +3,6 @@
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/Palette.h"
-#include "desktop/Shadow.h"
 #include "desktop/TextShaper.h"
 
 #include <QFontMetricsF>
@@ -30,19 +29,8 @@ int FrameView::overhang() const {
 
 void FrameView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  const double radius = CardRadius * pixelsPerTwip();
-  const QRectF card = body();
-  const QRectF core = card.adjusted(radius, radius, -radius, -radius);
-  const QColor back = colourOf(frame_.BackColor());
-  // The middle of the card, where surfaces change, needs no round corners and no shadow.
-  if (core.contains(event->rect())) {
-    painter.fillRect(event->rect(), back);
-    return;
-  }
-  painter.setRenderHint(QPainter::Antialiasing);
-  paintShadow(painter, card, radius, overhang());
-  painter.setBrush(back);
-  painter.drawRoundedRect(card, radius, radius);
+  card_.paint(painter, event->region(), body().toRect(), CardRadius * pixelsPerTwip(), overhang(),
+              colourOf(frame_.BackColor()));
 }
 
 // -- The label.

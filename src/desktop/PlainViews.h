@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/ControlView.h"
+#include "desktop/Shadow.h"
 
 #include <QPixmap>
 
@@ -18,6 +19,7 @@ class FrameView final : public ControlView {
 
  private:
   const Frame& frame_;
+  CardPicture card_;
 };
 
 class LabelView final : public ControlView {

@@ -12,6 +12,31 @@ namespace {
 
 // A sentence mark looks like a blank.
 constexpr std::string_view Blanks = " \t\r\n\xA0";
+constexpr int LongestWord = 40;
+
+bool inWord(const Surface& surface, int caret) {
+  return caret >= 0 && caret < surface.TextLength() &&
+         Blanks.find(surface.CharAt(caret)) == std::string_view::npos;
+}
+
+std::string lettersOf(const Surface& surface, const std::string& bytes) {
+  std::string letters;
+  for (const char16_t unit : toUnicode(bytes, encodingOf(surface.Font().name)))
+    appendUtf8(letters, unit);
+  return letters;
+}
+
+/// The caret and the word that it stands in: "12,word".
+std::string caretOf(const Surface& surface) {
+  const int caret = surface.SelStart();
+  int from = caret;
+  int to = caret;
+  while (inWord(surface, from - 1) && caret - from < LongestWord)
+    --from;
+  while (inWord(surface, to) && to - caret < LongestWord)
+    ++to;
+  return std::to_string(caret) + "," + lettersOf(surface, surface.TextBetween(from, to));
+}
 
 } // namespace
 
@@ -25,6 +50,7 @@ std::string StateTrace::present() {
     if (counts && control->Visible()) line += control->Name() + ",";
   }
   line += " section=" + std::to_string(program_.section());
+  if (const auto* page = dynamic_cast<const Surface*>(focus)) line += " caret=" + caretOf(*page);
   line += " caption=" + std::string(trim(program_.form().Caption()));
   if (!program_.running()) line += " ended";
   return line;
@@ -76,10 +102,7 @@ void StateTrace::writeWord(const Surface& surface, int from, const std::string& 
   const SurfacePoint middle = surface.pointOf(from + static_cast<int>(word.size()) / 2);
   if (middle.y < 0 || middle.y >= surface.Height()) return;
   const PixelPoint at = onScreen({surface.Left() + middle.x, surface.Top() + middle.y});
-  std::string letters;
-  for (const char16_t unit : toUnicode(word, encodingOf(surface.Font().name)))
-    appendUtf8(letters, unit);
-  file_ << ' ' << at.x << ',' << at.y << ',' << letters;
+  file_ << ' ' << at.x << ',' << at.y << ',' << lettersOf(surface, word);
 }
 
 } // namespace talvora

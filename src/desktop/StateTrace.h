@@ -1,6 +1,6 @@
 // A trace of what the program shows, for tests of the real window and for people who report a
-// fault. A line for each change: the state behind "focus=", or where the words of a surface stand,
-// behind "words".
+// fault. A line for each change: the state behind "focus=", with the caret and the word at it, or
+// where the words of a surface stand, behind "words".
 #pragma once
 
 #include "platform/Input.h"

@@ -3,6 +3,7 @@
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/KeyCodes.h"
+#include "desktop/Links.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
 #include "text/GlyphMap.h"
@@ -85,6 +86,8 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   };
   view_->onPointer([this](SurfacePoint at) { machine_.input.pointerCame(pixelOf(at)); });
   view_->steeredButton([this] { return program_.steeredButton(); });
+  // The mouse alone can keep a word and begin an exercise.
+  view_->onMiddleClick = [this] { sendStroke(Qt::Key_Return); };
   view_->onFocusChanged = [this] {
     const Control* const focus = program_.form().ActiveControl();
     const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
@@ -112,6 +115,7 @@ void Window::connectMachine() {
   machine_.boxes.owner = this;
   machine_.boxes.opening = [this] { view_->endPress(); };
   machine_.narrator.sign = [this](const QString& text) { strip_->notice(text); };
+  machine_.narrator.say = [this](const QString& text) { announcer_->tell(text); };
   strip_->told = [this](const QString& text) { announcer_->tell(text); };
   view_->onCameUp = [this](const Surface& surface) {
     if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
@@ -223,7 +227,7 @@ void Window::settleHover() {
 // -- Input.
 
 void Window::keyPressEvent(QKeyEvent* event) {
-  if (clickWithKey(*event)) return;
+  if (clickWithKey(*event) || goToLessonLink(*event)) return;
   const int code = keyCodeOf(*event);
   if (code == 0 && characterOf(*event) == 0) return;
   // A modifier's own stroke carries its bit while it goes down.
@@ -258,6 +262,19 @@ bool Window::clickWithKey(const QKeyEvent& event) {
   bridge_.deliver([&] {
     moveTo(formPointOf(at));
     clickAt(right ? MouseButton::Right : MouseButton::Left, formPointOf(at));
+  });
+  return true;
+}
+
+// The box gets the keyboard from a pointer over it only, and any key on the item closes it.
+bool Window::goToLessonLink(const QKeyEvent& event) {
+  auto* const box = dynamic_cast<Surface*>(program_.form().find("RHDBT"));
+  if (event.key() != Qt::Key_Tab || box == nullptr || !box->Visible()) return false;
+  const int link = nextLessonLink(*box, program_.form().hasFocus(*box) ? box->SelStart() : -1);
+  if (link < 0) return false;
+  bridge_.deliver([&] {
+    box->SetFocus();
+    box->SelStart(link);
   });
   return true;
 }

@@ -58,6 +58,9 @@ class Window final : public QWidget {
   void sendStroke(Qt::Key key);
   /// True when a key stands for a click at the caret, which then has been done.
   bool clickWithKey(const QKeyEvent& event);
+  /// Tab goes into an explanation and from one lesson that it names to the next; false where there
+  /// is none.
+  bool goToLessonLink(const QKeyEvent& event);
   /// The pixel of the virtual screen at which a click goes to the caret of a surface.
   [[nodiscard]] PixelPoint pixelAtCaret(const Surface& surface) const;
   /// Animates the button that has the focus and the pointer, if it is not animated yet.

@@ -123,6 +123,7 @@ void BT_ChonABCD_::ChamABCD(int p) {
   if (!DungPhuongAn_) {
     ToPhuongAn(InactiveColour);
     item_.KetQuaCau = -1;
+    services_.shell.messages.answerJudged({0, 1});
     return;
   }
   // A label takes four positions.
@@ -138,6 +139,7 @@ void BT_ChonABCD_::ChamABCD(int p) {
     label += LabelLength;
   }
   TimPhuongAn(p);
+  services_.shell.messages.answerJudged({1, 1});
   if (item_.KetQuaCau != 0) return;
   item_.KetQuaCau = 1;
   services_.run.CongDung();

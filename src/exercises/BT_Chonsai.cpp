@@ -97,6 +97,7 @@ void BT_Chonsai::ChamChonSai(Choice choice) {
     item_.KetQuaCau = -1;
   }
   if (start < 1) return;
+  if (choice == Choice::Made) services_.shell.messages.answerJudged({wrongPhrase ? 1 : 0, 1});
   const int length = stretchEnd(item_.MatNa, start) - start + 1;
   services_.answer.emphasise(Rsai_, start - 1, length + 1, wrongPhrase ? PageRed : PageBlue);
 }

@@ -187,14 +187,17 @@ void BT_DienTu::ChamDienTu() {
   item_.ODaLam.clear();
   const std::string typed = RDT_.Text();
   std::string& mask = item_.MatNa;
+  Verdict verdict{0, 0};
   for (auto star = mask.find('*'); star != std::string::npos; star = mask.find('*', star)) {
-    judgeBlank(static_cast<int>(star) + 1, typed);
+    ++verdict.places;
+    if (judgeBlank(static_cast<int>(star) + 1, typed)) ++verdict.right;
     mask[star] = ' ';
   }
   services_.run.CongDung();
+  if (verdict.places > 0) services_.shell.messages.answerJudged(verdict);
 }
 
-void BT_DienTu::judgeBlank(int p, const std::string& typed) {
+bool BT_DienTu::judgeBlank(int p, const std::string& typed) {
   const int end = stretchEnd(item_.MatNa, p);
   std::string context;
   std::string wanted;
@@ -214,11 +217,12 @@ void BT_DienTu::judgeBlank(int p, const std::string& typed) {
   if (accepts(key, answer)) {
     if (item_.KetQuaCau == 0) item_.KetQuaCau = 1;
     colourCells(p, length, PageBlue);
-    return;
+    return true;
   }
   item_.OSai.add(p, end, key.empty() ? std::string(UnknownKey) : key);
   item_.KetQuaCau = -1;
   colourCells(p, length, PageRed);
+  return false;
 }
 
 void BT_DienTu::colourCells(int p, int length, Colour colour) {

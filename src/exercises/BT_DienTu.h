@@ -33,8 +33,8 @@ class BT_DienTu {
   /// Whether a key or click at position p gives a hint.
   [[nodiscard]] bool givesHint(int p) const;
   void drawCells();
-  /// Judges the blank whose "*" stands at position p of the mask.
-  void judgeBlank(int p, const std::string& typed);
+  /// Judges the blank whose "*" stands at position p of the mask; true when it is right.
+  bool judgeBlank(int p, const std::string& typed);
   void colourCells(int p, int length, Colour colour);
 
   ItemServices& services_;

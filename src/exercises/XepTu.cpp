@@ -235,7 +235,9 @@ void XepTu::DatTu(Surface& surface) {
     surface.SelText("");
     DongXep_ = surface.TextBetween(DauDong, DauDong + lineLength());
   }
-  if (rightBeginning(DongMau_, DongXep_) > BienDung_) {
+  const bool right = rightBeginning(DongMau_, DongXep_) > BienDung_;
+  shell_.messages.answerJudged({right ? 1 : 0, 1});
+  if (right) {
     DongCu_ = DongXep_;
     ToXep(surface);
   } else {

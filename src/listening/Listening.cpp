@@ -199,11 +199,12 @@ void Listening::judge(int caret) {
   if (page_.isRight(caret)) {
     stopSound();
     page_.HienCauNghe();
+    shell_.messages.answerJudged({1, 1});
     if (item_.KetQuaCau != 0) return;
     item_.KetQuaCau = 1;
     ++scoring_.SoDung;
   } else if (caret > 0) {
-    page_.XamDong(caret);
+    if (page_.XamDong(caret)) shell_.messages.answerJudged({0, 1});
     item_.KetQuaCau = -1;
   }
 }

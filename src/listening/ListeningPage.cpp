@@ -68,16 +68,17 @@ bool ListeningPage::isRight(int caret) const noexcept {
   return caret >= mask_.right().from && caret <= mask_.right().to;
 }
 
-void ListeningPage::XamDong(int caret) {
+bool ListeningPage::XamDong(int caret) {
   const auto wrong = mask_.takeWrong(caret);
-  if (!wrong) return;
+  if (!wrong) return false;
   RN2_.format({wrong->from, wrong->to + 1}, {.color = GreyedColour});
   RN2_.SelStart(caret);
+  return true;
 }
 
 void ListeningPage::XamDapAnSai() {
   for (int caret = 1; caret <= mask_.lastCaret(); ++caret)
-    XamDong(caret);
+    static_cast<void>(XamDong(caret));
 }
 
 void ListeningPage::HienCauNghe() {

@@ -24,8 +24,8 @@ class ListeningPage {
   void paint(const ListeningTexts& texts);
   /// Greys what is wrong and writes the sentence at the page's end.
   void HienCauNghe();
-  /// Greys the wrong option at a caret, if one stands there.
-  void XamDong(int caret);
+  /// Greys the wrong option at a caret, if one stands there and is not grey yet; true when it did.
+  bool XamDong(int caret);
 
   /// Whether the sentence is still hidden.
   [[nodiscard]] bool isOpen() const noexcept { return !CauNghe1.empty(); }

@@ -44,6 +44,14 @@ class Installation {
 /// What became of a word that the learner wanted to keep.
 enum class WordTaken { Stored, WasThere, TooLong };
 
+/// How many places of an item the learner has answered right; most items have one.
+struct Verdict {
+  int right = 0;
+  int places = 1;
+
+  friend bool operator==(const Verdict&, const Verdict&) = default;
+};
+
 /// A narrator is told what the program shows, for those who do not see it: a screen reader, a log.
 class Narrator {
  public:
@@ -58,6 +66,8 @@ class Narrator {
   virtual void curtainOpened(const std::string& surface) = 0;
   /// Enter was pressed on a word; `count` is how many words the list holds now.
   virtual void wordTaken(const std::string& /*word*/, WordTaken /*outcome*/, int /*count*/) {}
+  /// An answer was judged; the page tells it by colours alone.
+  virtual void answerJudged(Verdict /*verdict*/) {}
 };
 
 } // namespace talvora

@@ -30,6 +30,8 @@ class Messages {
   void wordTaken(const std::string& word, WordTaken outcome, int count) {
     narrator_.wordTaken(word, outcome, count);
   }
+  /// Tells those who do not see the colours of an item how its answer was judged.
+  void answerJudged(Verdict verdict) { narrator_.answerJudged(verdict); }
   /// Fits the red plate behind the popup.
   void VeKhung();
   /// Tells something in a box of its own: the window lives on, and the learner closes the box.

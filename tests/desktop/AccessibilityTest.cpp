@@ -4,6 +4,7 @@
 #include "desktop/EventBridge.h"
 #include "desktop/FormView.h"
 #include "desktop/InputGate.h"
+#include "desktop/KeyCodes.h"
 #include "desktop/Window.h"
 #include "program/Program.h"
 #include "surface/Controls.h"
@@ -123,12 +124,35 @@ TEST_F(OfferedForm, ACaretThatIsAskedForWaitsForTheGate) {
   EXPECT_EQ(controls.R2.SelStart(), 2);
 }
 
+TEST_F(OfferedForm, ACaretThatIsAskedForInAListChoosesItsLine) {
+  controls.R1.Text("one\rtwo\rthree");
+  controls.R1.Visible(true);
+  controls.R1.SetFocus();
+  view.repaintNow();
+  int chosenAt = -1;
+  controls.R1.KeyUp = [&](int& KeyCode, int) {
+    if (KeyCode == key::Down) chosenAt = controls.R1.SelStart();
+  };
+  offered(QStringLiteral("Danh sách bài"))->textInterface()->setCursorPosition(5);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(chosenAt, 5);
+}
+
 TEST(Announcer, SaysWhatItWasTold) {
   QAccessible::setActive(true);
   QWidget window;
   Announcer announcer(&window);
   announcer.tell(QStringLiteral("  Đã lưu: street (5) "));
   EXPECT_EQ(announcer.accessibleName(), QStringLiteral("Đã lưu: street (5)"));
+}
+
+TEST(Announcer, AVerdictSaysHowManyPlacesAreRight) {
+  DesktopNarrator narrator;
+  QStringList said;
+  narrator.say = [&](const QString& text) { said.append(text); };
+  for (const Verdict verdict : {Verdict{1, 1}, Verdict{0, 1}, Verdict{1, 3}, Verdict{3, 3}})
+    narrator.answerJudged(verdict);
+  EXPECT_EQ(said.join(u'|').toStdString(), "Đúng|Chưa đúng|Đúng 1 trên 3 chỗ|Đúng");
 }
 
 TEST(Typing, NoInputMethodComposesInTheWindow) {

@@ -131,14 +131,15 @@ def text_of(node):
 
 
 def put_caret(node, word):
-    """Puts the caret into a word as a reader's own cursor would."""
+    """Puts the caret into a word as a reader's own cursor would; a list goes to its line."""
     found = until(
         lambda: re.search(rf"\b{word}\b", text_of(node)), f"{node.get_name()} has no \"{word}\""
     )
     at = found.start()
+    line = text_of(node).rfind("\n", 0, at) + 1
     node.get_text_iface().set_caret_offset(at + 1)
     until(
-        lambda: node.get_text_iface().get_caret_offset() == at + 1,
+        lambda: line <= node.get_text_iface().get_caret_offset() <= at + 1,
         f"the caret of {node.get_name()} does not go to {word}",
     )
 
@@ -187,9 +188,8 @@ def hear_the_caret():
 def hear_an_entry():
     titles = page("Danh sách bài")
     put_caret(titles, "River")
-    act(titles, "Press")
+    press("Return")
     text = page("Bài đọc")
-    time.sleep(1.5)  # the curtain
     put_caret(text, "bank")
     announced.clear()
     act(text, "Press")
@@ -199,6 +199,27 @@ def hear_an_entry():
     page("Danh sách bài")
     press("Escape")
     passed("an entry is announced when it comes up")
+
+
+def hear_a_verdict():
+    act(button("Các bài văn phạm; bấm phải để đánh dấu bài cần luyện"), "Press")
+    lessons = page("Danh sách bài văn phạm")
+    put_caret(lessons, "tại")
+    act(lessons, "ShowMenu")
+    press("Return")
+    page("Bài tập điền từ")
+    announced.clear()
+    subprocess.run(["xdotool", "type", "--delay", "60", "goes"], check=True)
+    press("Return")
+    expect_announcement("Đúng", "the verdict on a blank")
+    press("Return")
+    choice = page("Bài tập chọn câu đúng")
+    for option, verdict in (("a", "Chưa đúng"), ("b", "Đúng")):
+        announced.clear()
+        put_caret(choice, option)
+        act(choice, "Press")
+        expect_announcement(verdict, f"the verdict on option {option}")
+    passed("the verdict on an item of a lesson is announced")
 
 
 Atspi.init()
@@ -211,3 +232,4 @@ press_a_menu_button()
 read_by_line()
 hear_the_caret()
 hear_an_entry()
+hear_a_verdict()

@@ -10,7 +10,7 @@
 set -u
 
 here=$(dirname "$(realpath "$0")")
-for part in frame start first_run menu reading words lessons exercises drills window; do
+for part in frame start first_run menu reading words lessons exercises drills window both_ways; do
   # shellcheck source=/dev/null
   . "$here/walk/$part.sh"
 done
@@ -29,6 +29,9 @@ fi
 practise
 use_the_mouse_alone
 use_the_keys_alone
+if [ "$platform" = xcb ]; then
+  walk_both_ways
+fi
 let_the_menu_rest
 read_the_guide
 see_the_notice

@@ -6,6 +6,7 @@
 #include "platform/scripted/ScriptedLog.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace talvora {
 
@@ -67,6 +68,7 @@ class ScriptedNarrator final : public Narrator {
   void wordTaken(const std::string& word, WordTaken outcome, int count) override {
     lastTaken_ = {word, outcome, count};
   }
+  void answerJudged(Verdict verdict) override { verdicts_.push_back(verdict); }
 
   /// What the learner last wanted to keep, and what became of it.
   struct Taken {
@@ -77,6 +79,8 @@ class ScriptedNarrator final : public Narrator {
     friend bool operator==(const Taken&, const Taken&) = default;
   };
   [[nodiscard]] const Taken& lastTaken() const noexcept { return lastTaken_; }
+  /// How answers were judged, in order.
+  [[nodiscard]] const std::vector<Verdict>& verdicts() const noexcept { return verdicts_; }
 
   /// Animation pictures shown so far.
   [[nodiscard]] std::int64_t framesShown() const noexcept { return framesShown_; }
@@ -85,6 +89,7 @@ class ScriptedNarrator final : public Narrator {
   ScriptedLog& log_;
   std::int64_t framesShown_ = 0;
   Taken lastTaken_;
+  std::vector<Verdict> verdicts_;
 };
 
 } // namespace talvora

@@ -193,6 +193,15 @@ TEST_F(TwoBlanks, AThirdFormIsWrong) {
   EXPECT_EQ(run.item.OSai.at(1).Chu, "has gone\\gone\\done");
 }
 
+TEST_F(TwoBlanks, HowManyAreRightIsTold) {
+  fill(1, "i went");
+  fill(2, "done"); // the third one is right when it is left empty
+  run.key(key::Enter);
+  EXPECT_EQ(run.machine.narrator.verdicts(), (std::vector<Verdict>{{2, 3}}));
+  run.key(key::Right);
+  EXPECT_EQ(run.machine.narrator.verdicts().size(), 1U);
+}
+
 TEST_F(TwoBlanks, AKeyTypedAsItIsWrittenIsRight) {
   fill(1, "i went");
   fill(2, "has gone\\gone\\done");

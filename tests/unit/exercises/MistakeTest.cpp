@@ -60,6 +60,13 @@ TEST_F(FindTheMistake, AnotherPhraseSpendsTheItem) {
   EXPECT_TRUE(lookAt(Rsai, at("go to")).bold);
 }
 
+TEST_F(FindTheMistake, TheVerdictIsToldButNotWithAnExplanation) {
+  run.click(Rsai, at("school") + 2);
+  run.click(Rsai, at("go to"));
+  run.rightClick(Rsai, at("go to"));
+  EXPECT_EQ(run.machine.narrator.verdicts(), (std::vector<Verdict>{{0, 1}, {1, 1}}));
+}
+
 TEST_F(FindTheMistake, JustBehindTheWrongPhraseCountsAsRight) {
   run.click(Rsai, at("go to") + 3);
   EXPECT_EQ(run.item.KetQuaCau, 1);

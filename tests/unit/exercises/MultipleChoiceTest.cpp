@@ -76,6 +76,12 @@ TEST_F(MultipleChoice, AWrongLabelGreysAndSpendsTheItem) {
   EXPECT_EQ(colourOf("gone\r"), Grey) << "the right one is shown all the same";
 }
 
+TEST_F(MultipleChoice, TheVerdictIsToldAtEveryLabel) {
+  clickLabel('a');
+  clickLabel('c');
+  EXPECT_EQ(run.machine.narrator.verdicts(), (std::vector<Verdict>{{0, 1}, {1, 1}}));
+}
+
 TEST_F(MultipleChoice, TheTextOfTheRightOptionDoesNotJudge) {
   run.click(RABCD, ItemRun::caretOf(RABCD, "went\r") + 2);
   EXPECT_EQ(run.item.KetQuaCau, 0);

@@ -166,6 +166,7 @@ TEST_F(Ordering, AWrongWordSpringsBackAndTheBluePartStays) {
   pick("sees");
   const std::string before = text("DongXep");
   pick("birds");
+  EXPECT_EQ(run.base.machine.narrator.verdicts(), (std::vector<Verdict>{{1, 1}, {0, 1}}));
   EXPECT_EQ(text("DongXep"), before);
   EXPECT_EQ(Rxep.TextBetween(drill.DauDong, number("CuoiDong") - 1), before);
   EXPECT_EQ(number("BienDung"), 9);

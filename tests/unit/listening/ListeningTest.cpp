@@ -166,6 +166,15 @@ TEST_F(Quiz, EnterOpensTheUnitAtTheCaretAndClearsTheScore) {
   EXPECT_EQ(run.stores.readSetting(10), 12);
 }
 
+TEST_F(Quiz, TheVerdictIsToldOnceForAnOption) {
+  open({{1, 1, "a"}, {1, 2, "b"}});
+  openUnit(1);
+  answerWrong();
+  answerWrong();
+  answerRight();
+  EXPECT_EQ(run.base.machine.narrator.verdicts(), (std::vector<Verdict>{{0, 1}, {1, 1}}));
+}
+
 TEST_F(Quiz, TheScoreIsCappedAtAHundred) {
   open(ThreeUnits);
   openUnit(1);
