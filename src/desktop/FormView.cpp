@@ -226,7 +226,11 @@ void FormView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void FormView::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (!scrollMouse_.press(*event)) mouse_.doubleClick(*event);
+  if (event->button() == Qt::MiddleButton) {
+    onMiddleClick();
+  } else if (!scrollMouse_.press(*event)) {
+    mouse_.doubleClick(*event);
+  }
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {

@@ -1,6 +1,6 @@
 # Each section that asks for clicks, once with the keys alone and once with the mouse alone:
-# settings, a lesson's items with an explanation's link, the quiz, and deleting a word. Sourced by
-# walk.sh.
+# settings, a lesson's items with an explanation's link, and the quiz; with the mouse also keeping
+# and deleting words. Sourced by walk.sh.
 
 walk_both_ways() {
   set_the_speed_by_key
@@ -9,7 +9,6 @@ walk_both_ways() {
   work_through_items_by_mouse
   answer_the_quiz_by_key
   answer_the_quiz_by_mouse
-  delete_a_word_by_key
   delete_a_word_by_mouse
 }
 
@@ -23,29 +22,40 @@ caret_at() {
 # Goes from word to word, from the top of the page, until the caret stands in the WHICH-th word of
 # that pattern.
 keys_to() { # WORD [WHICH]
-  local wanted=${2:-1} seen=0 before="" now step
   press ctrl+Home
+  step_to ctrl+Right "$@"
+}
+
+# The same from the end of the page.
+keys_back_to() { # WORD [WHICH]
+  press ctrl+End
+  press ctrl+Left
+  step_to ctrl+Left "$@"
+}
+
+step_to() { # KEY WORD [WHICH]
+  local wanted=${3:-1} seen=0 before="" now step
   for step in $(seq 150); do
     now=$(caret_at)
-    if [ "$now" != "$before" ] && [[ "${now#*,}" =~ ^$1$ ]]; then
+    if [ "$now" != "$before" ] && [[ "${now#*,}" =~ ^$2$ ]]; then
       seen=$((seen + 1))
       [ "$seen" -ge "$wanted" ] && return
     fi
     before=$now
-    xdotool key ctrl+Right
+    xdotool key "$1"
     for _ in $(seq 10); do
       [ "$(caret_at)" != "$before" ] && break
       sleep 0.03
     done
   done
-  fail "the keys do not come to \"$1\" in $step steps; the caret is at $(caret_at)"
+  fail "the keys do not come to \"$2\" in $step steps; the caret is at $(caret_at)"
 }
 
-# Into that button of the menu's left column, from wherever the focus is on it.
+# Into that button of the menu, from wherever the focus is on it.
 open_by_key() { # NUMBER
   local number
   expect_note "focus=but"
-  for number in $(seq 9); do
+  for number in $(seq 18); do
     [[ "$(state)" == *"focus=but$1 "* ]] && break
     press Down
   done
@@ -129,11 +139,11 @@ work_through_items_by_key() {
   press Return
   expect_note "focus=RABCD "
   take 90-choice
-  keys_to "[(]b[)]"
+  keys_back_to "[(]b[)]"
   press F10
   settle 91-chosen-by-key
   expect_change 90-choice 91-chosen-by-key 1
-  keys_to "<Next>"
+  keys_back_to "<Next>"
   press F10
   expect_note "focus=Rsai "
   take 92-mistake
@@ -141,7 +151,7 @@ work_through_items_by_key() {
   press F10
   settle 93-found-by-key
   expect_change 92-mistake 93-found-by-key 50 "$(region_of Rsai go)"
-  keys_to "<Next>"
+  keys_back_to "<Next>"
   press F10
   expect_note "focus=Rxep "
   order_by shift_f10
@@ -149,9 +159,15 @@ work_through_items_by_key() {
   passed "the keys alone mark a lesson, follow a link and work through every kind of item"
 }
 
-# shift_f10 WORD: a right click at a word, by key.
-shift_f10() {
-  keys_to "$1"
+# A right click at a word of the line that is to be put in order. Ctrl would look up the Vietnamese
+# words above it.
+shift_f10() { # WORD
+  press ctrl+Home
+  for _ in 1 2 3 4; do
+    press Down
+  done
+  press Home
+  step_to Right "$1"
   press shift+F10
 }
 
@@ -159,25 +175,20 @@ right_click() { # WORD
   click_word Rxep "$1" 1 3
 }
 
-# The words behind the first one are put in order: whichever stands where the next one belongs.
+# The second word of the sentence never stands at its place to begin with.
 order_by() { # HOW
-  local before word
-  for word in $(words_to_order); do
-    before=$(first_words_of_line)
-    "$1" "$word"
-    sleep 0.3
-    [ "$(first_words_of_line)" != "$before" ] && break
+  local before
+  before=$(words_of_item)
+  "$1" is
+  for _ in $(seq 20); do
+    [ "$(words_of_item)" != "$before" ] && return
+    sleep 0.1
   done
-  [ "$(first_words_of_line)" != "$before" ] || fail "no word of \"$before\" moves"
+  fail "no word moves in \"$before\""
 }
 
-# The words of the page between its task and its links, in their order.
-first_words_of_line() {
+words_of_item() {
   grep "^words Rxep " "$work/trace" | tail -n 1
-}
-
-words_to_order() {
-  first_words_of_line | tr ' ' '\n' | sed -n 's/^[0-9]*,[0-9]*,\([a-z][a-z]*\)$/\1/p' | sort -u
 }
 
 work_through_items_by_mouse() {
@@ -197,7 +208,7 @@ work_through_items_by_mouse() {
   expect_visible RHDBT
   click_strip back
   expect_hidden RHDBT
-  xdotool click 2
+  next_item RDT
   expect_note "focus=RABCD "
   take 94-choice
   click_word RABCD "[(]b[)]"
@@ -222,14 +233,18 @@ answer_the_quiz_by_key() {
   press Return
   expect_note "focus=RN2 "
   take 96-quiz
-  local option
-  for option in 1 2 3 4; do
-    keys_to "[a-z]+[.]" "$option"
+  press ctrl+Home
+  press End
+  # Every line in turn, until all options have been taken.
+  for _ in 1 2 3 4 5 6 7 8; do
+    press Down
     press F10
   done
   settle 97-answered-by-key
   expect_change 96-quiz 97-answered-by-key 1
-  keys_to "<Next>"
+  # The sentence that was heard stands below the links; Ctrl would look its words up.
+  press ctrl+End
+  step_to Left "<Next>"
   press F10
   expect_note "focus=RN2 "
   leave_to RN1
@@ -266,23 +281,6 @@ expect_fewer() { # THAN
   [ "$(words_kept)" -eq $(($1 - 1)) ] || fail "$(words_kept) words are kept, expected one less than $1"
 }
 
-delete_a_word_by_key() {
-  keep_words_by_mouse
-  local before
-  before=$(words_kept)
-  open_by_key 2
-  expect_note "focus=Rchon "
-  press ctrl+Home
-  press shift+End
-  press shift+F10
-  # "No" is the answer that stands ready.
-  press Left
-  press Return
-  expect_fewer "$before"
-  leave_to but2
-  passed "the keys alone delete a word"
-}
-
 # The middle button keeps a word that is looked up.
 keep_words_by_mouse() {
   local before word
@@ -304,6 +302,7 @@ keep_words_by_mouse() {
 
 delete_a_word_by_mouse() {
   local before from to
+  keep_words_by_mouse
   before=$(words_kept)
   click_button 2
   expect_note "focus=Rchon "
