@@ -23,7 +23,7 @@ void inWindow(benchmark::State& state, Measured measured) {
   QtLineLayout shaper;
   test::ItemRun run(bench::pages(), {}, layout);
   EventBridge bridge;
-  FormView view(run.form, bridge, shaper, nullptr);
+  FormView view(run.form, run.input, bridge, shaper, nullptr);
   view.setScale(PixelsPerTwip);
   run.form.Show();
   view.show();

@@ -34,11 +34,11 @@ PixelPoint DesktopInput::cursorPos() const {
 }
 
 void DesktopInput::sendClick(MouseButton button) {
-  send(Click{button, cursorPos()});
+  send(SyntheticClick{button, cursorPos()});
 }
 
 void DesktopInput::sendKey(int keyCode, KeyMotion motion) {
-  send(Stroke{keyCode, motion});
+  send(SyntheticKey{keyCode, motion});
 }
 
 void DesktopInput::send(Sent sent) {
@@ -52,10 +52,8 @@ void DesktopInput::deliverSent() {
   while (!sent_.empty() && !gate_.isShut()) {
     const Sent next = sent_.front();
     sent_.pop_front();
-    if (const auto* sent = std::get_if<Click>(&next)) {
-      if (click) click(sent->button, sent->at);
-    } else if (const auto* half = std::get_if<Stroke>(&next)) {
-      if (stroke) stroke(half->keyCode, half->motion);
+    if (const auto* event = std::get_if<SyntheticEvent>(&next)) {
+      if (happened) happened(*event);
     } else if (moveTo) {
       moveTo(std::get<Move>(next).at);
     }

@@ -30,8 +30,7 @@ class DesktopInput final : public Input {
   std::function<QPoint(PixelPoint)> toGlobal;
   std::function<PixelPoint(QPoint)> fromGlobal;
   /// What a sent click, half a sent key stroke and a move to a place do to the program.
-  std::function<void(MouseButton button, PixelPoint at)> click;
-  std::function<void(int keyCode, KeyMotion motion)> stroke;
+  std::function<void(const SyntheticEvent& event)> happened;
   std::function<void(PixelPoint at)> moveTo;
 
   /// The learner brought the pointer to a place. Where the platform does not tell where the pointer
@@ -42,18 +41,11 @@ class DesktopInput final : public Input {
   void deliverSent();
 
  private:
-  struct Click {
-    MouseButton button;
-    PixelPoint at;
-  };
-  struct Stroke {
-    int keyCode;
-    KeyMotion motion;
-  };
+  /// The pointer has been moved, where the platform leaves that to the program.
   struct Move {
     PixelPoint at;
   };
-  using Sent = std::variant<Click, Stroke, Move>;
+  using Sent = std::variant<SyntheticEvent, Move>;
 
   void send(Sent sent);
 

@@ -30,9 +30,10 @@ ControlView* makeChild(Arguments&&... arguments) {
 
 } // namespace
 
-FormView::FormView(Form& form, EventBridge& bridge, QtLineLayout& layout, QWidget* parent)
-    : QWidget(parent), form_(form), bridge_(bridge), layout_(layout), mouse_(form, bridge),
-      scrollMouse_(bridge) {
+FormView::FormView(Form& form, FormInput& input, EventBridge& bridge, QtLineLayout& layout,
+                   QWidget* parent)
+    : QWidget(parent), form_(form), input_(input), bridge_(bridge), layout_(layout),
+      mouse_(input, bridge), scrollMouse_(bridge) {
   scrollMouse_.viewAt = [this](QPointF point) { return barAt(point); };
   setFocusPolicy(Qt::NoFocus);
   setMouseTracking(true);
@@ -67,7 +68,6 @@ void FormView::controlChanged(Control& control, ControlChange change) {
 }
 
 void FormView::focusChanged() {
-  mouse_.focusMoved();
   if (focus_ != nullptr) changed_.insert(focus_);
   focus_ = form_.ActiveControl();
   if (focus_ != nullptr) changed_.insert(focus_);
@@ -114,7 +114,7 @@ void FormView::settle() {
 
 void FormView::tellWhatCameUp() {
   for (const char* name : {"RHD", "RHDBT", "RDOS"}) {
-    const auto* const surface = dynamic_cast<const Surface*>(form_.find(name));
+    const auto* const surface = as<Surface>(form_.find(name));
     if (surface == nullptr) continue;
     if (!surface->Visible()) {
       cameUp_.erase(surface);
@@ -151,26 +151,32 @@ ControlView* FormView::viewOf(const Control& control) const {
   return found == views_.end() ? nullptr : found->second;
 }
 
-ControlView& FormView::makeView(Control& control) {
-  ControlView* view = nullptr;
-  if (control.Name() == "RDOS") {
-    view = makeChild<HintBarView>(dynamic_cast<Surface&>(control), layout_, this);
-  } else if (auto* surface = dynamic_cast<Surface*>(&control)) {
-    view = makeChild<SurfaceView>(*surface, layout_, form_, this);
-  } else if (auto* button = dynamic_cast<Button*>(&control)) {
-    view = makeChild<MenuButtonView>(*button, buttonArt_, form_, this);
-  } else if (auto* label = dynamic_cast<Label*>(&control)) {
-    view = makeChild<LabelView>(*label, this);
-  } else if (auto* panel = dynamic_cast<Panel*>(&control)) {
-    view = makeChild<PanelView>(*panel, this);
-  } else if (auto* frame = dynamic_cast<Frame*>(&control)) {
-    view = makeChild<FrameView>(*frame, this);
-  } else if (auto* image = dynamic_cast<Image*>(&control)) {
-    view = makeChild<ImageView>(*image, this);
-  } else {
-    // Nothing is to be seen of any other control.
-    view = makeChild<ControlView>(control, this);
+ControlView* FormView::newView(Control& control) {
+  switch (control.kind()) {
+  case ControlKind::Surface:
+    if (control.Name() == "RDOS") {
+      return makeChild<HintBarView>(static_cast<Surface&>(control), layout_, this);
+    }
+    return makeChild<SurfaceView>(static_cast<Surface&>(control), layout_, form_, this);
+  case ControlKind::Button:
+    return makeChild<MenuButtonView>(static_cast<Button&>(control), buttonArt_, form_, this);
+  case ControlKind::Label:
+    return makeChild<LabelView>(static_cast<Label&>(control), this);
+  case ControlKind::Panel:
+    return makeChild<PanelView>(static_cast<Panel&>(control), this);
+  case ControlKind::Frame:
+    return makeChild<FrameView>(static_cast<Frame&>(control), this);
+  case ControlKind::Image:
+    return makeChild<ImageView>(static_cast<Image&>(control), this);
+  case ControlKind::Plain:
+    break;
   }
+  // Nothing is to be seen of any other control.
+  return makeChild<ControlView>(control, this);
+}
+
+ControlView& FormView::makeView(Control& control) {
+  ControlView* const view = newView(control);
   // Stacking makes Qt paint it: it must stand at its place by then.
   view->place(scale_);
   if (ControlView* const front = nextInFront(control)) view->stackUnder(front);
@@ -190,11 +196,11 @@ ControlView* FormView::nextInFront(const Control& control) const {
 // -- The mouse.
 
 Qt::CursorShape FormView::cursorShape() const {
-  Control* const under = mouse_.hovered();
-  if (dynamic_cast<const Button*>(under) != nullptr) return Qt::PointingHandCursor;
-  const auto* const surface = dynamic_cast<const Surface*>(under);
+  const Control* const under = input_.hovered();
+  if (as<Button>(under) != nullptr) return Qt::PointingHandCursor;
+  const auto* const surface = as<Surface>(under);
   if (surface == nullptr) return Qt::ArrowCursor;
-  const SurfacePoint at = mouse_.pointer();
+  const SurfacePoint at = input_.pointer();
   if (isLink(*surface, {at.x - surface->Left(), at.y - surface->Top()})) {
     return Qt::PointingHandCursor;
   }
@@ -222,7 +228,7 @@ void FormView::mousePressEvent(QMouseEvent* event) {
 }
 
 void FormView::mouseReleaseEvent(QMouseEvent* event) {
-  if (mouse_.holdsPress() || !scrollMouse_.release(*event)) mouse_.release(*event);
+  if (input_.holdsPress() || !scrollMouse_.release(*event)) mouse_.release(*event);
 }
 
 void FormView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -235,7 +241,7 @@ void FormView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {
   // A press on a text goes on with that text, wherever the pointer comes.
-  if (!mouse_.holdsPress() && scrollMouse_.move(*event)) {
+  if (!input_.holdsPress() && scrollMouse_.move(*event)) {
     setCursor(Qt::ArrowCursor);
     return;
   }
@@ -254,8 +260,7 @@ bool FormView::event(QEvent* event) {
   }
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto& help = static_cast<const QHelpEvent&>(*event);
-  const auto* const button =
-      dynamic_cast<const Button*>(form_.controlAt(mouse_.pointOf(help.pos())));
+  const auto* const button = as<Button>(form_.controlAt(mouse_.pointOf(help.pos())));
   const bool needsOne = button != nullptr && hasEnglishCaption(*button);
   const QString text = needsOne ? meaningOf(*button) : QString();
   if (text.isEmpty()) {

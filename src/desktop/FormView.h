@@ -23,7 +23,8 @@ namespace talvora {
 /// Its size is the form's, scaled. Until the form is shown it shows no control.
 class FormView final : public QWidget, public FormObserver {
  public:
-  FormView(Form& form, EventBridge& bridge, QtLineLayout& layout, QWidget* parent);
+  FormView(Form& form, FormInput& input, EventBridge& bridge, QtLineLayout& layout,
+           QWidget* parent);
   FormView(const FormView&) = delete;
   FormView& operator=(const FormView&) = delete;
   ~FormView() override;
@@ -35,12 +36,6 @@ class FormView final : public QWidget, public FormObserver {
   void onPointer(std::function<void(SurfacePoint at)> call) {
     mouse_.pointerCame = std::move(call);
   }
-  /// Sets how to ask for the button that the pointer means, whatever lies under it.
-  void steeredButton(std::function<Button*()> ask) { mouse_.steeredButton = std::move(ask); }
-
-  /// Ends a press whose release goes elsewhere.
-  void endPress() { mouse_.endPress(); }
-
   /// Called with a surface that came up over a page, or changed there, without getting the
   /// keyboard.
   std::function<void(const Surface&)> onCameUp = [](const Surface&) {};
@@ -73,6 +68,8 @@ class FormView final : public QWidget, public FormObserver {
   void showForm();
   [[nodiscard]] ControlView* viewOf(const Control& control) const;
   ControlView& makeView(Control& control);
+  /// A view of the control's kind, owned by this widget.
+  ControlView* newView(Control& control);
   /// The widget that already stands right in front of a control's place; null when none does.
   [[nodiscard]] ControlView* nextInFront(const Control& control) const;
   void updateCursor();
@@ -81,6 +78,7 @@ class FormView final : public QWidget, public FormObserver {
   [[nodiscard]] SurfaceView* barAt(QPointF point) const;
 
   Form& form_;
+  FormInput& input_;
   EventBridge& bridge_;
   QtLineLayout& layout_;
   FormMouse mouse_;

@@ -2,6 +2,8 @@
 // sleeps, so that loops that poll it see what the learner does.
 #pragma once
 
+#include "platform/Input.h"
+
 #include <map>
 
 namespace talvora {
@@ -10,6 +12,10 @@ class KeyTable {
  public:
   void press(int keyCode);
   void release(int keyCode);
+  /// Half a stroke that the program sent itself.
+  void take(const SyntheticKey& stroke) {
+    stroke.motion == KeyMotion::Down ? press(stroke.code) : release(stroke.code);
+  }
   /// The key counts as pressed since it was last asked for, and as down or up as before.
   void latch(int keyCode) { keys_[keyCode].pressedSinceAsked = true; }
   /// Everything counts as up, as when the window loses the keyboard.

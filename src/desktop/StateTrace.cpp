@@ -45,8 +45,8 @@ std::string StateTrace::present() {
   std::string line = "focus=" + (focus == nullptr ? std::string("-") : focus->Name());
   line += " visible=,";
   for (const Control* control : program_.form().controls()) {
-    const bool counts = dynamic_cast<const Surface*>(control) != nullptr ||
-                        dynamic_cast<const Frame*>(control) != nullptr;
+    const bool counts =
+        control->kind() == ControlKind::Surface || control->kind() == ControlKind::Frame;
     if (counts && control->Visible()) line += control->Name() + ",";
   }
   line += " section=" + std::to_string(program_.section());
@@ -63,7 +63,7 @@ void StateTrace::note() {
     last_ = std::move(line);
   }
   for (const Control* control : program_.form().controls()) {
-    if (const auto* surface = dynamic_cast<const Surface*>(control)) noteWords(*surface);
+    if (const auto* surface = as<Surface>(control)) noteWords(*surface);
   }
   file_ << std::flush;
 }

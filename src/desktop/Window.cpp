@@ -26,7 +26,6 @@ namespace talvora {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr double TipSize = 16;         // pixels of the virtual screen
 constexpr int LongestCaretSearch = 60; // pixels
 const QColor LetterboxColour(0x12, 0x22, 0x2E);
@@ -70,9 +69,11 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   setWindowFlag(Qt::FramelessWindowHint);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
-  view_ = new FormView(program.form(), bridge, machine.layout, this); // NOLINT: Qt owns it
-  strip_ = new CaptionStrip(this);                                    // NOLINT: Qt owns it
-  announcer_ = new Announcer(this);                                   // NOLINT: Qt owns it
+  view_ =
+      new FormView(program.form(), program.input(), bridge, machine.layout, // NOLINT: Qt owns it
+                   this);
+  strip_ = new CaptionStrip(this);  // NOLINT: Qt owns it
+  announcer_ = new Announcer(this); // NOLINT: Qt owns it
   announcer_->setGeometry(0, 0, 1, 1);
   announcer_->lower();
   strip_->closeWindow = [this] { askToClose(); };
@@ -85,12 +86,10 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
         QString::fromStdU16String(toUnicode(program_.form().Caption(), Encoding::Windows1252)));
   };
   view_->onPointer([this](SurfacePoint at) { machine_.input.pointerCame(pixelOf(at)); });
-  view_->steeredButton([this] { return program_.steeredButton(); });
   // The mouse alone can keep a word and begin an exercise.
   view_->onMiddleClick = [this] { sendStroke(Qt::Key_Return); };
   view_->onFocusChanged = [this] {
-    const Control* const focus = program_.form().ActiveControl();
-    const bool onMenu = dynamic_cast<const Button*>(focus) != nullptr;
+    const bool onMenu = as<Button>(program_.form().ActiveControl()) != nullptr;
     strip_->setPlace(onMenu ? StripPlace::Menu : StripPlace::Page);
     machine_.gate.holdMovesWhileArrowDown(onMenu);
     if (onMenu) {
@@ -113,7 +112,7 @@ void Window::connectMachine() {
   };
   machine_.clock.closingIsWanted = [this] { return closeWanted_ || endWanted_; };
   machine_.boxes.owner = this;
-  machine_.boxes.opening = [this] { view_->endPress(); };
+  machine_.boxes.opening = [this] { program_.input().endPress(); };
   machine_.narrator.sign = [this](const QString& text) { strip_->notice(text); };
   machine_.narrator.say = [this](const QString& text) { announcer_->tell(text); };
   strip_->told = [this](const QString& text) { announcer_->tell(text); };
@@ -129,20 +128,14 @@ void Window::connectMachine() {
     const QPointF local = (QPointF(mapFromGlobal(point)) - origin_) / scale_;
     return PixelPoint{static_cast<int>(local.x()), static_cast<int>(local.y())};
   };
-  input.click = [this](MouseButton button, PixelPoint at) {
-    bridge_.deliver([&] { clickAt(button, formPointOf(at)); });
-  };
-  input.moveTo = [this](PixelPoint at) { bridge_.deliver([&] { moveTo(formPointOf(at)); }); };
-  input.stroke = [this](int keyCode, KeyMotion motion) {
+  input.happened = [this](const SyntheticEvent& event) {
     bridge_.deliver([&] {
-      if (motion == KeyMotion::Down) {
-        machine_.keys.press(keyCode);
-        program_.form().pressKey(keyCode, machine_.keys.isDown(key::Shift) ? shift::Shift : 0, 0);
-      } else {
-        machine_.keys.release(keyCode);
-        program_.form().releaseKey(keyCode, 0);
-      }
+      if (const auto* stroke = std::get_if<SyntheticKey>(&event)) machine_.keys.take(*stroke);
+      program_.input().deliver(event, shiftDown());
     });
+  };
+  input.moveTo = [this](PixelPoint at) {
+    bridge_.deliver([&] { program_.input().deliverMove(virtualScreen().toForm(at), shiftDown()); });
   };
 }
 
@@ -179,16 +172,12 @@ void Window::warmFontsNow() {
   warmer_.finish();
 }
 
-int Window::captionTwips() const {
-  return machine_.screen.pixelHeight() * TwipsPerPixel - program_.form().Height();
-}
-
 void Window::arrange() {
   const double virtualWidth = machine_.screen.pixelWidth();
   const double virtualHeight = machine_.screen.pixelHeight();
   scale_ = std::min(width() / virtualWidth, height() / virtualHeight);
   origin_ = {(width() - virtualWidth * scale_) / 2, (height() - virtualHeight * scale_) / 2};
-  const double top = origin_.y() + captionTwips() * pixelsPerTwip();
+  const double top = origin_.y() + program_.form().captionHeight() * pixelsPerTwip();
   const QRect strip(qRound(origin_.x()), qRound(origin_.y()), qRound(virtualWidth * scale_),
                     qRound(top) - qRound(origin_.y()));
   strip_->setGeometry(strip);
@@ -211,17 +200,13 @@ void Window::paintEvent(QPaintEvent*) {
 void Window::settleHover() {
   // The pointer came to a button in one jump, while another one was animated: that animation has
   // ended by now, and this one's is due.
-  auto* const button = dynamic_cast<Button*>(program_.form().ActiveControl());
+  auto* const button = as<Button>(program_.form().ActiveControl());
   if (button == nullptr || !program_.running() || program_.hoveredButton() == button->TabIndex()) {
     return;
   }
-  const SurfacePoint pointer = formPointOf(machine_.input.cursorPos());
-  const bool under =
-      program_.form().controlAt(pointer) == button || program_.steeredButton() == button;
-  if (!under || machine_.keys.arrowDown()) return;
-  bridge_.deliver([button] {
-    if (button->MouseMove) button->MouseMove();
-  });
+  const SurfacePoint pointer = virtualScreen().toForm(machine_.input.cursorPos());
+  if (program_.input().meantAt(pointer) != button || machine_.keys.arrowDown()) return;
+  bridge_.deliver([&] { program_.input().deliverMove(pointer, shiftDown()); });
 }
 
 // -- Input.
@@ -230,13 +215,10 @@ void Window::keyPressEvent(QKeyEvent* event) {
   if (clickWithKey(*event) || goToLessonLink(*event)) return;
   const int code = keyCodeOf(*event);
   if (code == 0 && characterOf(*event) == 0) return;
-  // A modifier's own stroke carries its bit while it goes down.
-  const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
   // A stroke that was held back is news to the loops that poll only now.
   machine_.keys.latch(code);
-  bridge_.deliver([&] {
-    program_.form().pressKey(code, shiftOf(event->modifiers()) | own, characterOf(*event));
-  });
+  bridge_.deliver(
+      [&] { program_.input().pressKey(code, shiftOf(event->modifiers()), characterOf(*event)); });
 }
 
 // Through the window system's door, so that a stroke counts also for loops that poll while the
@@ -252,16 +234,17 @@ void Window::sendStroke(Qt::Key key) {
 // does in a section, the keys do too.
 bool Window::clickWithKey(const QKeyEvent& event) {
   if (!standsForClick(event.key())) return false;
-  const auto* surface = dynamic_cast<const Surface*>(program_.form().ActiveControl());
+  const auto* surface = as<Surface>(program_.form().ActiveControl());
   if (surface == nullptr || event.isAutoRepeat()) return true;
   shiftClicks_ = event.modifiers().testFlag(Qt::ShiftModifier);
   const bool right = shiftClicks_ || event.key() == Qt::Key_Menu;
-  const PixelPoint at = pixelAtCaret(*surface);
-  machine_.input.SetCursorPos(at);
-  machine_.input.pointerCame(at);
+  const SyntheticClick click{right ? MouseButton::Right : MouseButton::Left,
+                             pixelAtCaret(*surface)};
+  machine_.input.SetCursorPos(click.at);
+  machine_.input.pointerCame(click.at);
   bridge_.deliver([&] {
-    moveTo(formPointOf(at));
-    clickAt(right ? MouseButton::Right : MouseButton::Left, formPointOf(at));
+    program_.input().deliverMove(virtualScreen().toForm(click.at), shift::None);
+    program_.input().deliver(click, shift::None);
   });
   return true;
 }
@@ -285,7 +268,7 @@ PixelPoint Window::pixelAtCaret(const Surface& surface) const {
   const int y = std::clamp(middle.y, TwipsPerPixel, surface.Height() - TwipsPerPixel);
   PixelPoint pixel = pixelOf({surface.Left() + middle.x, surface.Top() + y});
   const auto caretOf = [&](PixelPoint each) {
-    const SurfacePoint point = formPointOf(each);
+    const SurfacePoint point = virtualScreen().toForm(each);
     return surface.caretAt({point.x - surface.Left(), point.y - surface.Top()});
   };
   // The caret counts that is nearest to a point; the pointer goes to the near side of the letter.
@@ -301,41 +284,19 @@ void Window::keyReleaseEvent(QKeyEvent* event) {
   if (event->isAutoRepeat() || code == 0 || standsForClick(event->key())) return;
   // A page takes the release of any key as the end of what is shown: not of those that clicked.
   if (code == key::Shift && std::exchange(shiftClicks_, false)) return;
-  const int own = code == key::Ctrl ? shift::Ctrl : code == key::Shift ? shift::Shift : 0;
-  bridge_.deliver([&] { program_.form().releaseKey(code, shiftOf(event->modifiers()) & ~own); });
+  bridge_.deliver([&] { program_.input().releaseKey(code, shiftOf(event->modifiers())); });
 }
 
 void Window::focusOutEvent(QFocusEvent*) {
   // Another window is in front, which gets the release of a button that is held.
-  view_->endPress();
+  program_.input().endPress();
 }
 
-SurfacePoint Window::formPointOf(PixelPoint pixel) const {
-  return {pixel.x * TwipsPerPixel, pixel.y * TwipsPerPixel - captionTwips()};
-}
-
-PixelPoint Window::pixelOf(SurfacePoint point) const {
-  return {point.x / TwipsPerPixel, (point.y + captionTwips()) / TwipsPerPixel};
-}
-
-void Window::clickAt(MouseButton button, SurfacePoint point) {
-  Control* const under = program_.form().controlAt(point);
-  if (auto* surface = dynamic_cast<Surface*>(under)) {
-    const SurfacePoint at{point.x - surface->Left(), point.y - surface->Top()};
-    surface->pressMouse(button, shift::None, at);
-    surface->releaseMouse(button, shift::None, at);
-  } else if (auto* menuButton = dynamic_cast<Button*>(under)) {
-    if (button == MouseButton::Left && menuButton->Click) menuButton->Click();
-  }
-}
-
-void Window::moveTo(SurfacePoint point) {
-  Control* const under = program_.form().controlAt(point);
-  if (auto* surface = dynamic_cast<Surface*>(under)) {
-    surface->moveMouse(shift::None, {point.x - surface->Left(), point.y - surface->Top()});
-  } else if (auto* menuButton = dynamic_cast<Button*>(under)) {
-    if (menuButton->MouseMove) menuButton->MouseMove();
-  }
+int Window::shiftDown() const {
+  const auto bit = [this](int keyCode, int own) {
+    return machine_.keys.isDown(keyCode) ? own : shift::None;
+  };
+  return bit(key::Shift, shift::Shift) | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
 }
 
 void Window::closeEvent(QCloseEvent* event) {

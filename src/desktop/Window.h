@@ -31,7 +31,9 @@ class Window final : public QWidget {
   void warmFontsNow();
 
   /// The pixel of the virtual screen that shows a point of the form.
-  [[nodiscard]] PixelPoint pixelOf(SurfacePoint point) const;
+  [[nodiscard]] PixelPoint pixelOf(SurfacePoint point) const {
+    return virtualScreen().toPixel(point);
+  }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -65,13 +67,11 @@ class Window final : public QWidget {
   [[nodiscard]] PixelPoint pixelAtCaret(const Surface& surface) const;
   /// Animates the button that has the focus and the pointer, if it is not animated yet.
   void settleHover();
-  void clickAt(MouseButton button, SurfacePoint point);
-  void moveTo(SurfacePoint point);
+  /// The modifiers that are down, as the Shift argument of events has them.
+  [[nodiscard]] int shiftDown() const;
 
   [[nodiscard]] double pixelsPerTwip() const { return scale_ / 15.0; }
-  [[nodiscard]] SurfacePoint formPointOf(PixelPoint pixel) const;
-  /// Height of the caption strip, in twips.
-  [[nodiscard]] int captionTwips() const;
+  [[nodiscard]] VirtualScreen virtualScreen() const { return program_.form().virtualScreen(); }
 
   DesktopMachine& machine_;
   Program& program_;

@@ -268,8 +268,8 @@ Json Driver::surface(const Command& command) {
 Json Driver::state(const Command&) {
   Json visible = Json::array();
   for (const Control* control : program_.form().controls()) {
-    const bool counts = dynamic_cast<const Surface*>(control) != nullptr ||
-                        dynamic_cast<const Frame*>(control) != nullptr;
+    const bool counts =
+        control->kind() == ControlKind::Surface || control->kind() == ControlKind::Frame;
     if (counts && control->Visible()) visible.push_back(control->Name());
   }
   const Control* const focus = program_.form().ActiveControl();
@@ -330,7 +330,7 @@ Json Driver::call(const Command& command) {
 
 Surface& Driver::surfaceField(const Command& command) {
   const std::string name = command.text("surface");
-  auto* const surface = dynamic_cast<Surface*>(program_.form().find(name));
+  auto* const surface = as<Surface>(program_.form().find(name));
   if (surface == nullptr) command.refuse("surface", "no surface is named \"" + name + "\"");
   refuseUnlessReachable(*surface);
   return *surface;
@@ -338,7 +338,7 @@ Surface& Driver::surfaceField(const Command& command) {
 
 Button& Driver::buttonField(const Command& command) {
   const std::string name = command.text("button");
-  auto* const button = dynamic_cast<Button*>(program_.form().find(name));
+  auto* const button = as<Button>(program_.form().find(name));
   if (button == nullptr) command.refuse("button", "no button is named \"" + name + "\"");
   refuseUnlessReachable(*button);
   return *button;
@@ -348,8 +348,7 @@ Control* Driver::targetField(const Command& command) {
   if (!command.has("on")) return nullptr;
   const std::string name = command.text("on");
   Control* const control = program_.form().find(name);
-  const bool takesKeys =
-      dynamic_cast<Surface*>(control) != nullptr || dynamic_cast<Button*>(control) != nullptr;
+  const bool takesKeys = as<Surface>(control) != nullptr || as<Button>(control) != nullptr;
   if (!takesKeys) command.refuse("on", "nothing that takes keys is named \"" + name + "\"");
   refuseUnlessReachable(*control);
   return control;

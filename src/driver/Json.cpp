@@ -134,12 +134,12 @@ Json jsonControl(const Control& control) {
                 {"left", control.Left()},      {"top", control.Top()},
                 {"width", control.Width()},    {"height", control.Height()},
                 {"enabled", control.Enabled()}};
-  if (const auto* surface = dynamic_cast<const Surface*>(&control)) {
+  if (const auto* surface = as<Surface>(&control)) {
     addSurface(reply, *surface);
-  } else if (const auto* button = dynamic_cast<const Button*>(&control)) {
+  } else if (const auto* button = as<Button>(&control)) {
     addButton(reply, *button);
   } else {
-    if (const auto* label = dynamic_cast<const Label*>(&control)) {
+    if (const auto* label = as<Label>(&control)) {
       reply["text"] = jsonText(label->Caption());
     }
     reply["back"] = control.BackColor();

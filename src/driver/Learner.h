@@ -2,35 +2,23 @@
 // them, together with what the program sends itself in answer.
 #pragma once
 
-#include "platform/scripted/KeyNames.h"
+#include "driver/Hand.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace talvora {
 
-/// Which halves of a key stroke are delivered.
-enum class Stroke { Down, Up, Whole };
-enum class Clicks { Once, Twice };
-
-/// A click on a surface, or a drag.
-struct MouseGesture {
-  int at = 0;            ///< caret of the character under the pointer
-  std::optional<int> to; ///< caret where a drag ends
-  MouseButton button = MouseButton::Left;
-  Clicks clicks = Clicks::Once;
-  int shift = shift::None;
-};
-
 /// Every deed ends with the delivery of what the program sent itself. A failure that is thrown in
 /// it ends the program and is kept as a text.
 class Learner {
  public:
-  Learner(ScriptedMachine& machine, Program& program) : machine_(machine), program_(program) {}
+  Learner(ScriptedMachine& machine, Program& program)
+      : machine_(machine), program_(program),
+        hand_(machine, program.form(), program.input(), [&program] { return program.running(); }) {}
   Learner(const Learner&) = delete;
   Learner& operator=(const Learner&) = delete;
 
@@ -66,31 +54,12 @@ class Learner {
   void perform(const std::function<void()>& deed);
   /// Throws FatalFailure when a file of the pack became shorter while it was read.
   static void tellOfShrunkFile();
-  /// Delivers one input event, unless the program has ended, and what the program sends in answer.
-  void deliver(const std::function<void()>& event);
-  void deliverSynthetic();
-  void deliverSynthetic(const SyntheticClick& click);
-  void deliverSynthetic(const SyntheticKey& stroke);
-  void deliverPointerMove();
-  void moveOver(Control* control, SurfacePoint formPoint);
-  void press(Surface& surface, const MouseGesture& gesture, SurfacePoint point);
   [[nodiscard]] const Control* coverAt(const Control& control, SurfacePoint formPoint) const;
-  void pointAtMiddle(const Button& button);
-  SurfacePoint pointAtCharacter(Surface& surface, int caret);
-  void pressKey(const ScriptedKey& key, int shift);
-  void releaseKey(const ScriptedKey& key, int shift);
-
-  void placePointer(SurfacePoint formPoint);
-  [[nodiscard]] SurfacePoint formPointOf(PixelPoint pixel) const;
-  /// Height of the caption strip above the form, in twips.
-  [[nodiscard]] int captionHeight() const;
 
   ScriptedMachine& machine_;
   Program& program_;
+  Hand hand_;
   std::string failure_;
-  // The pointer as it was placed last: pixels are coarser than the twips of events.
-  PixelPoint placedPixel_;
-  SurfacePoint placedPoint_;
 };
 
 } // namespace talvora

@@ -1,6 +1,8 @@
 // Input: the real state of the keys, the pointer, and clicks and strokes that the program sends.
 #pragma once
 
+#include <variant>
+
 namespace talvora {
 
 /// Key codes that the program compares. Letters and digits have the code of their capital.
@@ -45,6 +47,24 @@ struct PixelPoint {
 
   friend bool operator==(const PixelPoint&, const PixelPoint&) = default;
 };
+
+/// A click that the program sent, at the place where the pointer then was.
+struct SyntheticClick {
+  MouseButton button = MouseButton::Left;
+  PixelPoint at;
+
+  friend bool operator==(const SyntheticClick&, const SyntheticClick&) = default;
+};
+
+/// Half a key stroke that the program sent.
+struct SyntheticKey {
+  int code = 0;
+  KeyMotion motion = KeyMotion::Down;
+
+  friend bool operator==(const SyntheticKey&, const SyntheticKey&) = default;
+};
+
+using SyntheticEvent = std::variant<SyntheticClick, SyntheticKey>;
 
 class Input {
  public:

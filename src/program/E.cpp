@@ -33,6 +33,7 @@ E::E(Platform& platform, Folders folders)
       stores_(state_.places, platform.files),
       own_(state_.places.learnerFolder(), stores_, platform.files, platform.calendar),
       shell_(platform, form_, controls_, state_),
+      input_(form_, [this] { return shell_.hover.steeredButton(); }),
       voice_(state_.places, platform.wave, shell_.messages, platform.files),
       speech_(state_, platform, shell_.steering, voice_),
       dictionary_(form_, controls_, state_, stores_, shell_, speech_),

@@ -14,6 +14,7 @@
 #include "sound/Speech.h"
 #include "stores/Stores.h"
 #include "surface/Controls.h"
+#include "surface/FormInput.h"
 #include "surface/State.h"
 #include "surface/Variables.h"
 
@@ -42,12 +43,12 @@ class E {
 
   [[nodiscard]] Ending ending() const noexcept { return ending_; }
   [[nodiscard]] Form& form() noexcept { return form_; }
+  [[nodiscard]] FormInput& input() noexcept { return input_; }
   [[nodiscard]] Controls& controls() noexcept { return controls_; }
   [[nodiscard]] const Variables& variables() const noexcept { return variables_; }
   [[nodiscard]] const Procedures& procedures() const noexcept { return procedures_; }
   [[nodiscard]] const Places& places() const noexcept { return state_.places; }
   [[nodiscard]] int hoveredButton() const noexcept { return shell_.hover.HoverSo; }
-  [[nodiscard]] Button* steeredButton() { return shell_.hover.steeredButton(); }
 
  private:
   void declareAll();
@@ -70,6 +71,7 @@ class E {
   Stores stores_;
   LearnerData own_;
   Shell shell_;
+  FormInput input_;
   RecordedVoice voice_;
   Speech speech_;
   Dictionary dictionary_;

@@ -45,6 +45,10 @@ Form& Program::form() noexcept {
   return parts_->e.form();
 }
 
+FormInput& Program::input() noexcept {
+  return parts_->e.input();
+}
+
 Controls& Program::controls() noexcept {
   return parts_->e.controls();
 }
@@ -63,10 +67,6 @@ int Program::section() const noexcept {
 
 int Program::hoveredButton() const noexcept {
   return parts_->e.hoveredButton();
-}
-
-Button* Program::steeredButton() {
-  return parts_->e.steeredButton();
 }
 
 bool Program::busy() const noexcept {

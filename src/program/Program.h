@@ -6,6 +6,7 @@
 #include "program/Procedures.h"
 #include "surface/Controls.h"
 #include "surface/Form.h"
+#include "surface/FormInput.h"
 #include "surface/Variables.h"
 
 #include <memory>
@@ -38,6 +39,8 @@ class Program {
   [[nodiscard]] bool running() const noexcept { return ending() == Ending::None; }
 
   [[nodiscard]] Form& form() noexcept;
+  /// Where every front delivers what the learner does with pointer and keys.
+  [[nodiscard]] FormInput& input() noexcept;
   [[nodiscard]] Controls& controls() noexcept;
   [[nodiscard]] const Variables& variables() const noexcept;
   [[nodiscard]] const Procedures& procedures() const noexcept;
@@ -45,9 +48,6 @@ class Program {
   [[nodiscard]] int section() const noexcept;
   /// Number of the menu button that was animated last.
   [[nodiscard]] int hoveredButton() const noexcept;
-  /// The menu button that the pointer means where an arrow key has brought it; null when the
-  /// pointer means what lies under it.
-  [[nodiscard]] Button* steeredButton();
   /// The program is busy: start-up or dictation runs.
   [[nodiscard]] bool busy() const noexcept;
 

@@ -61,12 +61,7 @@ bool Hover::mayGoOn() {
 }
 
 bool Hover::DungSang() {
-  return activeCaption() != HoverTen || steering_.CoMuiTen();
-}
-
-std::string Hover::activeCaption() const {
-  const auto* button = dynamic_cast<const Button*>(form_.ActiveControl());
-  return button == nullptr ? std::string() : button->Caption();
+  return !form_.hasFocus(controls_.but(HoverSo)) || steering_.CoMuiTen();
 }
 
 void Hover::buttonGotFocus(int number) {

@@ -47,7 +47,6 @@ class Hover {
   /// Lets events run; false when the animation must stop.
   bool mayGoOn();
   bool DungSang();
-  [[nodiscard]] std::string activeCaption() const;
 
   Form& form_;
   Controls& controls_;

@@ -7,9 +7,6 @@
 
 namespace talvora {
 
-/// Twips to a pixel of the virtual screen.
-inline constexpr int TwipsPerPixel = 15;
-
 class ScreenSetup {
  public:
   ScreenSetup(Form& form, Controls& controls, Measures& measures)

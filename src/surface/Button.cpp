@@ -22,6 +22,14 @@ void Button::Picture(int bitmap) {
   changed(ControlChange::Look);
 }
 
+void Button::moveMouse(int, SurfacePoint) {
+  if (MouseMove) MouseMove();
+}
+
+void Button::clickMouse() {
+  if (Click) Click();
+}
+
 void Button::pressKey(int keyCode, int shift, char character) {
   if (character != 0) {
     int keyAscii = static_cast<unsigned char>(character);

@@ -12,7 +12,12 @@ namespace talvora {
 /// front's what the bitmap looks like.
 class Button final : public Control {
  public:
+  static constexpr ControlKind Kind = ControlKind::Button;
+
   using Control::Control;
+
+  [[nodiscard]] ControlKind kind() const noexcept override { return Kind; }
+  [[nodiscard]] bool takesMouse() const noexcept override { return true; }
 
   [[nodiscard]] const std::string& Caption() const noexcept { return caption_; }
   void Caption(std::string caption);
@@ -33,7 +38,9 @@ class Button final : public Control {
 
   /// A key goes down on the button: KeyPress when it has a character, then the default action:
   /// Enter and Space click, arrows and Tab move the focus along the tab order.
-  void pressKey(int keyCode, int shift, char character);
+  void pressKey(int keyCode, int shift, char character) override;
+  void moveMouse(int shift, SurfacePoint at) override;
+  void clickMouse() override;
 
  private:
   void actOnKey(int keyCode, int shift);

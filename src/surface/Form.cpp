@@ -1,7 +1,5 @@
 #include "surface/Form.h"
 
-#include "surface/Button.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -14,10 +12,7 @@ bool takesKeys(const Control& control) {
 }
 
 bool takesMouse(const Control& control) {
-  return control.Visible() && control.Enabled() &&
-         (dynamic_cast<const Surface*>(&control) != nullptr ||
-          dynamic_cast<const Button*>(&control) != nullptr ||
-          dynamic_cast<const Frame*>(&control) != nullptr);
+  return control.Visible() && control.Enabled() && control.takesMouse();
 }
 
 bool holds(const Control& control, SurfacePoint point) {
@@ -58,7 +53,7 @@ void Form::giveFocus(Control& control) {
   if (before != nullptr && before->LostFocus) before->LostFocus();
   // The one that lost the keyboard may have handed it on.
   if (focus_ != &control) return;
-  if (observer_ != nullptr) observer_->focusChanged();
+  tellFocus();
   if (control.GotFocus) control.GotFocus();
 }
 
@@ -87,30 +82,31 @@ void Form::dropFocus() {
   if (focus_ != nullptr) return;
   if (Control* const heir = foremostSurface()) {
     giveFocus(*heir);
-  } else if (observer_ != nullptr) {
-    observer_->focusChanged();
+  } else {
+    tellFocus();
   }
+}
+
+void Form::tellFocus() {
+  ++focusMoves_;
+  if (observer_ != nullptr) observer_->focusChanged();
 }
 
 Control* Form::foremostSurface(std::initializer_list<const Control*> butNot) const noexcept {
   const auto found =
       std::find_if(controls_.rbegin(), controls_.rend(), [butNot](const Control* control) {
-        return takesKeys(*control) && dynamic_cast<const Surface*>(control) != nullptr &&
+        return takesKeys(*control) && control->kind() == ControlKind::Surface &&
                std::find(butNot.begin(), butNot.end(), control) == butNot.end();
       });
   return found == controls_.rend() ? nullptr : *found;
 }
 
 void Form::pressKey(int keyCode, int shift, char character) {
-  if (auto* surface = dynamic_cast<Surface*>(focus_)) {
-    surface->pressKey(keyCode, shift, character);
-  } else if (auto* button = dynamic_cast<Button*>(focus_)) {
-    button->pressKey(keyCode, shift, character);
-  }
+  if (focus_ != nullptr) focus_->pressKey(keyCode, shift, character);
 }
 
 void Form::releaseKey(int keyCode, int shift) {
-  if (auto* surface = dynamic_cast<Surface*>(focus_)) surface->releaseKey(keyCode, shift);
+  if (focus_ != nullptr) focus_->releaseKey(keyCode, shift);
 }
 
 } // namespace talvora

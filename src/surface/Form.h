@@ -6,6 +6,7 @@
 #include "platform/TextMetrics.h"
 #include "surface/Control.h"
 #include "surface/Surface.h"
+#include "surface/VirtualScreen.h"
 
 #include <initializer_list>
 #include <string>
@@ -48,6 +49,10 @@ class Form final : public ControlHost {
   [[nodiscard]] int TextHeight(std::string_view text) const {
     return metrics_.TextHeight(text, font_);
   }
+  /// Height of the caption strip above the form, in twips.
+  [[nodiscard]] int captionHeight() const {
+    return screen_.pixelHeight() * TwipsPerPixel - height_;
+  }
   /// Paints at once what has changed.
   void Refresh() { screen_.Refresh(); }
   /// The same for a step of a movement, at the pace of the screen.
@@ -71,6 +76,8 @@ class Form final : public ControlHost {
   [[nodiscard]] Control*
   foremostSurface(std::initializer_list<const Control*> butNot = {}) const noexcept;
   void giveFocus(Control& control) override;
+  /// How often the keyboard has passed from one control to another.
+  [[nodiscard]] unsigned focusMoves() const noexcept { return focusMoves_; }
   [[nodiscard]] bool hasFocus(const Control& control) const noexcept override {
     return focus_ == &control;
   }
@@ -81,11 +88,14 @@ class Form final : public ControlHost {
   void pressKey(int keyCode, int shift, char character);
   void releaseKey(int keyCode, int shift);
 
+  [[nodiscard]] VirtualScreen virtualScreen() const { return VirtualScreen(captionHeight()); }
+
   /// Null when nobody paints.
   void observe(FormObserver* observer) noexcept { observer_ = observer; }
 
  private:
   void dropFocus();
+  void tellFocus();
 
   Screen& screen_;
   TextMetrics& metrics_;
@@ -96,6 +106,7 @@ class Form final : public ControlHost {
   bool visible_ = false;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
+  unsigned focusMoves_ = 0;
   FormObserver* observer_ = nullptr;
 };
 

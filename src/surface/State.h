@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/TextStyle.h"
-#include "surface/Surface.h"
+#include "surface/SurfacePoint.h"
 #include "surface/Variables.h"
 
 #include <array>

@@ -33,7 +33,12 @@ enum class Selecting { No, Yes };
 /// told.
 class Surface final : public Control {
  public:
+  static constexpr ControlKind Kind = ControlKind::Surface;
+
   Surface(std::string name, ControlHost& host, const LineLayout& layout);
+
+  [[nodiscard]] ControlKind kind() const noexcept override { return Kind; }
+  [[nodiscard]] bool takesMouse() const noexcept override { return true; }
 
   // -- The text as a whole.
 
@@ -144,7 +149,7 @@ class Surface final : public Control {
   /// nearest end.
   void scroll(ScrollPlace place);
   /// Scrolls by a distance in twips, down when positive, not past the first or the last line.
-  void scrollBy(int twips);
+  void scrollBy(int twips) override;
 
   // -- What a front needs to paint and a test to compare.
 
@@ -197,19 +202,19 @@ class Surface final : public Control {
   /// A key goes down: KeyDown, then KeyPress when the key has a character (0 means none), then the
   /// default action: caret moves, selecting with Shift, typing, deleting, unless the text there is
   /// locked or protected.
-  void pressKey(int keyCode, int shift, char character);
-  void releaseKey(int keyCode, int shift);
-  void moveMouse(int shift, SurfacePoint at);
+  void pressKey(int keyCode, int shift, char character) override;
+  void releaseKey(int keyCode, int shift) override;
+  void moveMouse(int shift, SurfacePoint at) override;
   /// MouseDown; for the left button the caret then goes to the point.
-  void pressMouse(MouseButton button, int shift, SurfacePoint at);
+  void pressMouse(MouseButton button, int shift, SurfacePoint at) override;
   /// The pointer is dragged with the left button down: the selection runs from where it was
   /// pressed.
-  void dragMouse(int shift, SurfacePoint at);
+  void dragMouse(int shift, SurfacePoint at) override;
   /// MouseUp, then Click.
-  void releaseMouse(MouseButton button, int shift, SurfacePoint at);
+  void releaseMouse(MouseButton button, int shift, SurfacePoint at) override;
   /// The second press of a double click: the word under the pointer is selected, then DblClick. The
   /// release that follows is a `releaseMouse` of its own, without a Click.
-  void doubleClick(int shift, SurfacePoint at);
+  void doubleClick(int shift, SurfacePoint at) override;
 
   /// Throws std::logic_error naming the first invariant that is broken. For tests.
   void Check() const;

@@ -1,9 +1,9 @@
-// Where something is on a surface.
+// A point in twips.
 #pragma once
 
 namespace talvora {
 
-/// A point on a surface, in twips from its upper left corner.
+/// A point of a surface or of the form, in twips from its upper left corner.
 struct SurfacePoint {
   int x = 0;
   int y = 0;

@@ -60,9 +60,10 @@ class OfferedForm : public ::testing::Test {
   QtLineLayout layout;
   Form form{screen, metrics};
   Controls controls{form, layout};
+  FormInput input{form};
   EventBridge bridge;
   QWidget window;
-  FormView view{form, bridge, layout, &window};
+  FormView view{form, input, bridge, layout, &window};
 };
 
 TEST_F(OfferedForm, PagesHaveVietnameseNamesAndPlatesAreNotOffered) {

@@ -1,4 +1,4 @@
-// The mouse on the form: a press whose release never comes.
+// The mouse on the form's view: what Qt tells of it, and what comes of it.
 #include "desktop/FormMouse.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "surface/Controls.h"
@@ -9,10 +9,9 @@
 namespace talvora {
 namespace {
 
-class FormMouseTest : public testing::Test, private FormObserver {
+class FormMouseTest : public testing::Test {
  protected:
   FormMouseTest() {
-    form.observe(this);
     place(controls.but(1), 0);
     place(controls.but(2), 1000);
     place(controls.R1, 2000);
@@ -30,16 +29,13 @@ class FormMouseTest : public testing::Test, private FormObserver {
   Form form{machine.screen, machine.metrics};
   Controls controls{form, machine.layout};
   EventBridge bridge;
-  FormMouse mouse{form, bridge};
+  FormInput input{form};
+  FormMouse mouse{input, bridge};
   int clicks = 0;
   int moves = 0;
   int releases = 0;
 
  private:
-  void controlChanged(Control&, ControlChange) override {}
-  void focusChanged() override { mouse.focusMoved(); }
-  void captionChanged() override {}
-
   static void place(Control& control, int left) {
     control.Left(left);
     control.Width(900);
@@ -87,7 +83,7 @@ TEST_F(FormMouseTest, AMoveWithoutAButtonTellsThatTheReleaseIsLost) {
 
 TEST_F(FormMouseTest, ABoxEndsAPress) {
   press(10);
-  mouse.endPress();
+  input.endPress();
   release(10);
   EXPECT_EQ(clicks, 0);
   move(1010, Qt::NoButton);

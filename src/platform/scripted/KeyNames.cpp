@@ -86,6 +86,10 @@ std::optional<ScriptedKey> keyNamed(std::string_view name) {
   return found->key;
 }
 
+ScriptedKey keyOfCode(int code) {
+  return keyNamed(keyName(code)).value_or(ScriptedKey{code, 0});
+}
+
 std::string keyName(int code) {
   for (const NamedKey& each : namedKeys) {
     if (each.key.code == code) return std::string(each.name);

@@ -21,5 +21,7 @@ struct ScriptedKey {
 
 /// The name of a key code; "#" and the number for a key without a name.
 [[nodiscard]] std::string keyName(int code);
+/// The key of a code, with the character that it gives; a code without a name gives none.
+[[nodiscard]] ScriptedKey keyOfCode(int code);
 
 } // namespace talvora

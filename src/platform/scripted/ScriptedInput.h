@@ -10,28 +10,9 @@
 #include <limits>
 #include <map>
 #include <optional>
-#include <variant>
 #include <vector>
 
 namespace talvora {
-
-/// A click that the program sent, at the place where the pointer then was.
-struct SyntheticClick {
-  MouseButton button = MouseButton::Left;
-  PixelPoint at;
-
-  friend bool operator==(const SyntheticClick&, const SyntheticClick&) = default;
-};
-
-/// Half a key stroke that the program sent.
-struct SyntheticKey {
-  int code = 0;
-  KeyMotion motion = KeyMotion::Down;
-
-  friend bool operator==(const SyntheticKey&, const SyntheticKey&) = default;
-};
-
-using SyntheticEvent = std::variant<SyntheticClick, SyntheticKey>;
 
 class ScriptedInput final : public Input {
  public:

@@ -100,7 +100,7 @@ void ItemRun::writeStores(const ItemStores& contents) const {
 void ItemRun::openBank(int bank) {
   state.places.MucMenu = 9 + bank;
   exercises.run.MoMuc(bank);
-  deliverSynthetic();
+  hand.deliverSent();
 }
 
 void ItemRun::startUnit(int bank) {
@@ -109,53 +109,22 @@ void ItemRun::startUnit(int bank) {
 }
 
 void ItemRun::key(int keyCode, int shift) {
-  const bool hasCharacter = keyCode == key::Esc || keyCode == key::Enter ||
-                            keyCode == key::Backspace || keyCode == key::Space;
-  form.pressKey(keyCode, shift, hasCharacter ? static_cast<char>(keyCode) : '\0');
-  deliverSynthetic();
-  form.releaseKey(keyCode, shift);
-  deliverSynthetic();
+  hand.strike(keyOfCode(keyCode), shift, Stroke::Whole);
 }
 
 void ItemRun::type(std::string_view text) {
-  for (const char character : text) {
-    const int code = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
-    form.pressKey(code, shift::None, character);
-    form.releaseKey(code, shift::None);
-    deliverSynthetic();
-  }
+  for (const char character : text)
+    hand.strike(keyNamed({&character, 1}).value(), shift::None, Stroke::Whole);
 }
 
 void ItemRun::click(Surface& surface, int caret, MouseButton button) {
-  const SurfacePoint at = surface.pointOf(caret);
-  surface.moveMouse(shift::None, at);
-  surface.pressMouse(button, shift::None, at);
-  if (button == MouseButton::Left) surface.SelStart(caret);
-  surface.releaseMouse(button, shift::None, at);
-  for (auto event = machine.input.takeSynthetic(); event; event = machine.input.takeSynthetic()) {
-    if (!std::holds_alternative<SyntheticClick>(*event) || button == MouseButton::Left) continue;
-    surface.pressMouse(MouseButton::Left, shift::None, at);
-    surface.SelStart(caret);
-    surface.releaseMouse(MouseButton::Left, shift::None, at);
-  }
+  hand.mouse(surface, {caret, {}, button, Clicks::Once, shift::None});
 }
 
 int ItemRun::caretOf(const Surface& surface, std::string_view text) {
   const auto found = surface.Text().find(text);
   EXPECT_NE(found, std::string::npos) << text;
   return static_cast<int>(found);
-}
-
-void ItemRun::deliverSynthetic() {
-  for (auto event = machine.input.takeSynthetic(); event; event = machine.input.takeSynthetic()) {
-    if (!std::holds_alternative<SyntheticKey>(*event)) continue;
-    const auto stroke = std::get<SyntheticKey>(*event);
-    if (stroke.code == key::Shift) {
-      shifted_ = stroke.motion == KeyMotion::Down;
-    } else if (stroke.motion == KeyMotion::Down) {
-      form.pressKey(stroke.code, shifted_ ? shift::Shift : shift::None, '\0');
-    }
-  }
 }
 
 std::string ItemRun::focus() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dictionary/DictionaryRun.h"
+#include "driver/Hand.h"
 #include "exercises/Exercises.h"
 #include "lessons/VanPham.h"
 #include "platform/scripted/ScriptedMachine.h"
@@ -62,8 +63,6 @@ class ItemRun {
   void rightClick(Surface& surface, int caret) { click(surface, caret, MouseButton::Right); }
   /// The caret at the start of a text on a surface; the test fails when it is not there.
   [[nodiscard]] static int caretOf(const Surface& surface, std::string_view text);
-  /// The keys and clicks that the program sent itself, in a row.
-  void deliverSynthetic();
   [[nodiscard]] std::string focus() const;
   [[nodiscard]] double number(const std::string& name) const;
 
@@ -71,6 +70,8 @@ class ItemRun {
   ScriptedMachine machine;
   WatchedScreen screen;
   Form form;
+  FormInput input{form};
+  Hand hand{machine, form, input};
   Controls controls;
   SharedState state;
   Stores stores;
@@ -86,8 +87,6 @@ class ItemRun {
 
  private:
   void writeStores(const ItemStores& contents) const;
-
-  bool shifted_ = false;
 };
 
 /// Colour and boldness of the character behind a caret.

@@ -39,7 +39,7 @@ std::vector<int> itemsOf(const ItemRun& run) {
 void step(ItemRun& run, const char* link) {
   Surface& RDT = run.controls.RDT;
   run.click(RDT, ItemRun::caretOf(RDT, link) + 2);
-  run.deliverSynthetic();
+  run.hand.deliverSent();
 }
 
 TEST(UnitListOf, ABankHasAUnitForEach25ItemsAndTheLastTakesTheRest) {
@@ -114,7 +114,7 @@ TEST(UnitListOf, TheListeningSectionHasNineLines) {
   EXPECT_TRUE(setUp);
   EXPECT_THAT(run.controls.RN1.Text(), testing::StartsWith("\tUnit  1\r"));
   EXPECT_THAT(run.controls.RN1.Text(), testing::EndsWith("\tUnit  9\r"));
-  run.deliverSynthetic();
+  run.hand.deliverSent();
   run.key(key::Down);
   run.key(key::Enter);
   EXPECT_EQ(opened, 2);

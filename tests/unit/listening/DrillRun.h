@@ -3,6 +3,7 @@
 
 #include "dictionary/Dictionary.h"
 #include "dictionary/VietnameseSide.h"
+#include "driver/Hand.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "reading/ReadingPage.h"
 #include "shell/Shell.h"
@@ -63,18 +64,9 @@ struct DrillRun {
   }
 
   /// A key stroke to whatever has the focus.
-  void key(int keyCode, int shift = 0) {
-    const bool hasCharacter = keyCode == key::Esc || keyCode == key::Enter ||
-                              keyCode == key::Backspace || keyCode == key::Space;
-    base.form.pressKey(keyCode, shift, hasCharacter ? static_cast<char>(keyCode) : '\0');
-    base.form.releaseKey(keyCode, shift);
-    forgetSynthetic();
-  }
+  void key(int keyCode, int shift = 0) { hand.strike(keyOfCode(keyCode), shift, Stroke::Whole); }
   void type(char character) {
-    const int code = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
-    base.form.pressKey(code, shift::None, character);
-    base.form.releaseKey(code, shift::None);
-    forgetSynthetic();
+    hand.strike(keyNamed({&character, 1}).value(), shift::None, Stroke::Whole);
   }
   void type(std::string_view text) {
     for (const char character : text)
@@ -83,23 +75,9 @@ struct DrillRun {
 
   /// A whole click at a caret, and the clicks with which the program answers.
   void click(Surface& surface, int caret, MouseButton button = MouseButton::Left) {
-    const SurfacePoint at = surface.pointOf(caret);
-    surface.moveMouse(shift::None, at);
-    surface.pressMouse(button, shift::None, at);
-    if (button == MouseButton::Left) surface.SelStart(caret);
-    surface.releaseMouse(button, shift::None, at);
-    while (const auto event = base.machine.input.takeSynthetic()) {
-      if (!std::holds_alternative<SyntheticClick>(*event)) continue;
-      surface.pressMouse(MouseButton::Left, shift::None, at);
-      surface.SelStart(caret);
-      surface.releaseMouse(MouseButton::Left, shift::None, at);
-    }
+    hand.mouse(surface, {caret, {}, button, Clicks::Once, shift::None});
   }
   void rightClick(Surface& surface, int caret) { click(surface, caret, MouseButton::Right); }
-  void forgetSynthetic() {
-    while (base.machine.input.takeSynthetic()) {
-    }
-  }
 
   [[nodiscard]] std::string focus() const {
     const Control* control = base.form.ActiveControl();
@@ -113,6 +91,8 @@ struct DrillRun {
 
   TestFolder folder;
   ShellRun base;
+  FormInput input{base.form};
+  Hand hand{base.machine, base.form, input};
   Stores stores;
   RecordedVoice voice;
   Speech speech;

@@ -61,14 +61,14 @@ class Quiz : public testing::Test {
     run.folder.writeStream("dataN.av", stream);
     run.open(4);
     listening.openSection();
-    run.forgetSynthetic();
+    run.hand.deliverSent();
   }
 
   void openUnit(int unit) {
     run.state().list.SoBaiChon = unit;
     run.base.machine.log.take();
     listening.MoBaiNghe();
-    run.forgetSynthetic();
+    run.hand.deliverSent();
   }
 
   std::string sentence() { return valueOf<std::string>(listening, "CauNghe1"); }
@@ -194,7 +194,9 @@ TEST_F(Quiz, TheScoreIsCappedAtAHundred) {
 TEST_F(Quiz, TheCaretOfTheListIsFetched) {
   run.folder.writeIntegers("data.Kcu", {0, 1, 0, 5, 0, 0, 0, 0, 0, 20});
   open(ThreeUnits);
-  EXPECT_EQ(run.controls().RN1.SelStart(), 20);
+  const Surface& RN1 = run.controls().RN1;
+  EXPECT_EQ(RN1.SelStart(), 18);
+  EXPECT_EQ(RN1.SelText(), "\tUnit  3") << "the line of the caret is selected";
 }
 
 TEST_F(Quiz, HeadFieldsAreReadDigitByDigit) {
@@ -384,7 +386,7 @@ TEST_F(Quiz, EscGoesBackToTheListWithTheScore) {
   run.key(key::Esc);
   EXPECT_THAT(run.base.form.Caption(), testing::HasSubstr("Ban da lam dung  1/3 = 33%"));
   EXPECT_EQ(run.focus(), "RN1");
-  EXPECT_EQ(run.controls().RN1.SelStart(), 12);
+  EXPECT_EQ(run.controls().RN1.SelStart(), 9) << "the line of the caret is selected";
 }
 
 TEST_F(Quiz, LeavingGivesTheFocusToButtonFourWhicheverSectionWasOpen) {

@@ -101,6 +101,8 @@ TEST_F(Drills, ARecordingDoesNotOutliveItsText) {
 TEST_F(Drills, TheSpeakingSectionBuildsItsListAnew) {
   run.clickButton(1);
   ASSERT_EQ(run.number("SoBai"), 408);
+  run.controls().RDOS.Visible(false);
+  run.key(key::Esc);
   run.clickButton(7);
   EXPECT_TRUE(R1.Text().starts_with("\t\tslot 1\r\t\tTalk\r"));
 }

@@ -46,57 +46,23 @@ void ProgramRun::writeTexts(const std::vector<StoredText>& texts, bool speaking)
 }
 
 void ProgramRun::clickButton(int number) {
-  Button& button = controls().but(number);
-  if (button.MouseMove) button.MouseMove();
-  if (button.Click) button.Click();
-  deliverSynthetic();
+  hand.click(controls().but(number));
 }
 
 void ProgramRun::key(int keyCode, int shift) {
-  const bool hasCharacter = keyCode == key::Esc || keyCode == key::Enter ||
-                            keyCode == key::Backspace || keyCode == key::Space ||
-                            keyCode == key::Tab;
-  machine.input.keyDown(keyCode);
-  form().pressKey(keyCode, shift, hasCharacter ? static_cast<char>(keyCode) : '\0');
-  machine.input.keyUp(keyCode);
-  form().releaseKey(keyCode, shift);
-  deliverSynthetic();
+  hand.strike(keyOfCode(keyCode), shift, Stroke::Whole);
 }
 
 void ProgramRun::type(char character) {
-  const int code = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
-  form().pressKey(code, shift::None, character);
-  form().releaseKey(code, shift::None);
-  deliverSynthetic();
+  hand.strike(keyNamed({&character, 1}).value(), shift::None, Stroke::Whole);
 }
 
 void ProgramRun::click(Surface& surface, int caret, MouseButton button) {
-  const SurfacePoint at = surface.pointOf(caret);
-  surface.moveMouse(shift::None, at);
-  surface.pressMouse(button, shift::None, at);
-  if (button == MouseButton::Left) surface.SelStart(caret);
-  surface.releaseMouse(button, shift::None, at);
-  // A left click that the program sends itself arrives where the pointer is; the right click of
-  // the curtain goes aside.
-  for (auto event = machine.input.takeSynthetic(); event; event = machine.input.takeSynthetic()) {
-    const auto* sent = std::get_if<SyntheticClick>(&*event);
-    if (sent == nullptr || sent->button != MouseButton::Left) continue;
-    surface.pressMouse(MouseButton::Left, shift::None, at);
-    surface.SelStart(caret);
-    surface.releaseMouse(MouseButton::Left, shift::None, at);
-  }
+  hand.mouse(surface, {caret, {}, button, Clicks::Once, shift::None});
 }
 
 void ProgramRun::doubleClick(Surface& surface, int caret) {
-  click(surface, caret);
-  const SurfacePoint at = surface.pointOf(caret);
-  surface.doubleClick(shift::None, at);
-  surface.releaseMouse(MouseButton::Left, shift::None, at);
-}
-
-void ProgramRun::deliverSynthetic() {
-  while (machine.input.takeSynthetic()) {
-  }
+  hand.mouse(surface, {caret, {}, MouseButton::Left, Clicks::Twice, shift::None});
 }
 
 const VariableValue ProgramRun::value(const std::string& name) const {

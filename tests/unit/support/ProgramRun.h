@@ -1,6 +1,7 @@
 // A whole program on a scripted machine, with stores of its own.
 #pragma once
 
+#include "driver/Hand.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
 #include "support/FaultyFiles.h"
@@ -38,9 +39,6 @@ class ProgramRun {
   /// A whole click at a caret of a surface, and what the program then sends itself.
   void click(Surface& surface, int caret, MouseButton button = MouseButton::Left);
   void doubleClick(Surface& surface, int caret);
-  /// Delivers the clicks that the program sent itself.
-  void deliverSynthetic();
-
   [[nodiscard]] Controls& controls() { return program.controls(); }
   [[nodiscard]] Form& form() { return program.form(); }
   /// A variable of the program as a number, a text or a flag.
@@ -60,6 +58,7 @@ class ProgramRun {
 
  public:
   Program program;
+  Hand hand{machine, program.form(), program.input(), [this] { return program.running(); }};
 
  private:
   [[nodiscard]] const VariableValue value(const std::string& name) const;
