@@ -80,7 +80,7 @@ see_a_bank() {
   expect_note "focus=RN1 "
   settle 52-units
   press Return
-  expect_visible RDT
+  expect_item_of_bank
   settle 53-item-of-a-bank
   leave_to RN1
   press Escape

@@ -121,7 +121,7 @@ show_items() {
   expect_note "focus=RN1 "
   shot 52-units
   press Return
-  expect_visible RDT
+  expect_item_of_bank
   shot 53-item-of-a-bank
   leave_to RN1
   press Escape

@@ -82,6 +82,15 @@ expect_visible() { # SURFACE
   expect_note ",$1,"
 }
 
+# A bank is shuffled: any kind of its items may come first.
+expect_item_of_bank() {
+  for _ in $(seq 50); do
+    [[ "$(state)" =~ focus=(RDT|RABCD|Rsai)\  ]] && return
+    sleep 0.1
+  done
+  fail "the program notes \"$(state)\", expected an item"
+}
+
 expect_hidden() { # SURFACE
   expect_no_note ",$1,"
 }
