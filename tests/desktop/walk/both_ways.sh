@@ -10,6 +10,8 @@ walk_both_ways() {
   answer_the_quiz_by_key
   answer_the_quiz_by_mouse
   delete_a_word_by_mouse
+  press Up
+  expect_note "focus=but1 "
 }
 
 # -- Keys.
