@@ -199,12 +199,10 @@ const CharStyle& Surface::styleAt(int caret) const {
 void Surface::write(TextRange range, std::string_view text, const StyleChange& change) {
   const TextRange inside = clamped(range);
   if (text.empty() && inside.from == inside.to) return;
-  CharStyle style =
-      inside.from < document_.length() ? document_.styleAt(inside.from) : document_.defaultStyle();
+  CharStyle style = styleAt(inside.from);
   change.applyTo(style);
   const Caret::Selection before = caret_.selection();
-  caret_.forgetStyle();
-  exchange(inside, text, document_.idOf(style));
+  caret_.follow(inside, exchange(inside, text, document_.idOf(style)));
   tellText(before, TextIs::Different);
 }
 

@@ -125,7 +125,7 @@ void Viewport::settle() {
   if (frame_.Height() <= 0 || frame_.Width() <= 0) return;
   if (std::exchange(scrollMayBeOff_, false) && scroll_.offset > 0) {
     const ParagraphShape shape = layout_.layOut(paragraph(scroll_.paragraph).view());
-    scroll_.offset = std::min(scroll_.offset, shape.lines.back().top);
+    if (scroll_.offset >= shape.height) scroll_.offset = shape.lines.back().top;
   }
   for (const int caret : unshownCarets_)
     showCaret(document_.clamped(caret));
@@ -212,8 +212,10 @@ void Viewport::followEdit(const DocumentEdit& edit) {
 }
 
 void Viewport::restyled(TextRange range) {
-  lineCounts_.changed(document_.paragraphOf(range.from), document_.paragraphOf(range.to), 0);
-  scrollMayBeOff_ = true;
+  const int first = document_.paragraphOf(range.from);
+  const int last = document_.paragraphOf(range.to);
+  lineCounts_.changed(first, last, 0);
+  if (first <= scroll_.paragraph && scroll_.paragraph <= last) scrollMayBeOff_ = true;
 }
 
 void Viewport::refonted() {
