@@ -2,8 +2,8 @@
 // for. Each limit stands in the label of its benchmark.
 #include "dictionary/LookUp.h"
 #include "dictionary/WordList.h"
+#include "formats/Integers.h"
 #include "stores/ByteCode.h"
-#include "stores/Integers.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/WordForm.h"
 

@@ -16,8 +16,8 @@ constexpr std::array<std::string_view, AnalysisFieldCount> fieldNames = {
     "word", "class", "position", "function", "idea", "needed", "because"};
 constexpr std::string_view lessonName = "lesson";
 constexpr std::string_view forbidden = "_`@|^&#";
-constexpr int mostLessons = 357;
-constexpr std::size_t mostStretches = 1000;
+constexpr int mostLessons = limit::Lessons;
+constexpr std::size_t mostStretches = limit::Stretches;
 constexpr char stretchEnd = '|';
 /// What may be left out at the ends of a stretch: points, and quotation marks of the text font.
 constexpr std::string_view points = ".,:;!?\"\x93\x94";

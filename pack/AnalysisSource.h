@@ -2,6 +2,7 @@
 // the order of the text.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/Problems.h"
 #include "pack/ReadingSource.h"
 
@@ -14,9 +15,9 @@
 
 namespace talvora::pack {
 
-inline constexpr int AnalysisSlots = 11;
+inline constexpr int AnalysisSlots = limit::Analyses;
 /// Analysis n explains this reading text plus n.
-inline constexpr int AnalysedTextsAhead = 3;
+inline constexpr int AnalysedTextsAhead = limit::AnalysedTexts - limit::Analyses;
 
 /// The fields of a stretch, in their order.
 enum class AnalysisField { Word, Class, Position, Function, Idea, Needed, Because };

@@ -1,6 +1,8 @@
 // Layout of analyses in a stream.
 #include "pack/AnalysisStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -118,7 +120,8 @@ AnalysisSource decodeAnalyses(std::string_view positions, std::string_view strea
         storedUntil(stream, integerAt(positions, static_cast<std::size_t>(slot)), recordEnd);
     auto analysis = plain ? analysisFrom(*plain) : std::nullopt;
     if (!analysis) {
-      problems.add({"dataPt.v"}, "analysis " + std::to_string(slot) + " cannot be read");
+      problems.add({std::string(packfile::Analyses)},
+                   "analysis " + std::to_string(slot) + " cannot be read");
     } else if (!analysis->empty()) {
       source.analyses.emplace(slot, std::move(*analysis));
     }

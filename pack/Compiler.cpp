@@ -1,6 +1,7 @@
 // The steps of a build.
 #include "pack/Compiler.h"
 
+#include "formats/PackFiles.h"
 #include "pack/AnalysisStore.h"
 #include "pack/DictionaryStore.h"
 #include "pack/ExerciseStore.h"
@@ -97,13 +98,13 @@ std::vector<PackFile> compileDrills(const Content& content) {
   TextStore speaking = compileSpeakingTexts(content.speaking);
   TextStore items = compileListeningItems(content.listening);
   TextStore analyses = compileAnalysisTexts(content.analyses);
-  return {{"datasp.vt", std::move(speaking.positions)},
-          {"datasp.av", std::move(speaking.stream)},
-          {"dataN.vt", std::move(items.positions)},
-          {"dataN.av", std::move(items.stream)},
-          {"dataABCD.rtf", compileListeningPage(content.listening.page)},
-          {"dataPt.vt", std::move(analyses.positions)},
-          {"dataPt.v", std::move(analyses.stream)}};
+  return {{std::string(packfile::SpeakingPositions), std::move(speaking.positions)},
+          {std::string(packfile::SpeakingTexts), std::move(speaking.stream)},
+          {std::string(packfile::ListeningPositions), std::move(items.positions)},
+          {std::string(packfile::ListeningItems), std::move(items.stream)},
+          {std::string(packfile::ListeningPage), compileListeningPage(content.listening.page)},
+          {std::string(packfile::AnalysisPositions), std::move(analyses.positions)},
+          {std::string(packfile::Analyses), std::move(analyses.stream)}};
 }
 
 void append(std::vector<PackFile>& files, std::vector<PackFile> more) {
@@ -169,12 +170,12 @@ std::vector<PackFile> compile(const Options& options, Problems& problems,
   std::vector<PackFile> files = compileDictionary(list);
   progress("texts and settings");
   TextStore readings = compileReadings(content.readings);
-  files.push_back({"data.vt", std::move(readings.positions)});
-  files.push_back({"data.av", std::move(readings.stream)});
-  files.push_back({"readme.rtf", content.guide});
+  files.push_back({std::string(packfile::ReadingPositions), std::move(readings.positions)});
+  files.push_back({std::string(packfile::ReadingTexts), std::move(readings.stream)});
+  files.push_back({std::string(packfile::Guide), content.guide});
   TextStore lessons = compileLessons(content.lessons, content.exercises.lessonsWithItems());
-  files.push_back({"datavp.vt", std::move(lessons.positions)});
-  files.push_back({"datavp.n", std::move(lessons.stream)});
+  files.push_back({std::string(packfile::LessonPositions), std::move(lessons.positions)});
+  files.push_back({std::string(packfile::Lessons), std::move(lessons.stream)});
   append(files, compileExercises(content.exercises, content.lessons));
   append(files, compileDrills(content));
   append(files, compileVietnameseSide(makeVietnameseSide(content, list, options, problems)));

@@ -1,6 +1,8 @@
 // Layout of the word list, its records and its entries.
 #include "pack/DictionaryStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 
@@ -44,9 +46,9 @@ std::vector<PackFile> compileDictionary(const WordList& list) {
     appendInteger(records, entries.place(list.entryOf(word)));
     appendInteger(records, words.size());
   }
-  return {{"datatu.txt", std::move(words)},
-          {"data.mtd", std::move(records)},
-          {"data.avt", entries.takeBytes()}};
+  return {{std::string(packfile::Words), std::move(words)},
+          {std::string(packfile::WordRecords), std::move(records)},
+          {std::string(packfile::Entries), entries.takeBytes()}};
 }
 
 std::vector<OwnEntry> decodeOwnEntries(std::string_view words, std::string_view records,
@@ -56,7 +58,8 @@ std::vector<OwnEntry> decodeOwnEntries(std::string_view words, std::string_view 
     const auto record = 2 * static_cast<std::size_t>(line.number) - 1;
     const auto entry = storedUntil(entries, integerAt(records, record) - std::int64_t{1}, entryEnd);
     if (!entry) {
-      problems.add({"datatu.txt", line.number, 1}, "the entry of this word cannot be read");
+      problems.add({std::string(packfile::Words), line.number, 1},
+                   "the entry of this word cannot be read");
       continue;
     }
     OwnNotation notation = readOwnNotation(*entry, line.text);

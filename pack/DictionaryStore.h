@@ -1,6 +1,7 @@
 // The word list and its entries as the program's three files, and back.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/DictionarySource.h"
 #include "pack/PackFile.h"
 #include "pack/WordList.h"
@@ -11,7 +12,7 @@
 namespace talvora::pack {
 
 /// The fixed number of lines of the word list.
-inline constexpr std::size_t FullWordCount = 385082;
+inline constexpr std::size_t FullWordCount = limit::Words;
 
 /// datatu.txt, data.mtd and data.avt.
 [[nodiscard]] std::vector<PackFile> compileDictionary(const WordList& list);

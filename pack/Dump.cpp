@@ -1,6 +1,7 @@
 // Sources from the files of a pack.
 #include "pack/Dump.h"
 
+#include "formats/PackFiles.h"
 #include "pack/AnalysisStore.h"
 #include "pack/DictionaryStore.h"
 #include "pack/ExerciseStore.h"
@@ -40,8 +41,8 @@ void addTexts(const std::string& folder, std::size_t digits, const ReadingSource
 
 void dumpReadings(const std::filesystem::path& pack, std::vector<SourceText>& sources,
                   Problems& problems) {
-  const std::string positions = readSource(pack / "data.vt", problems);
-  const std::string stream = readSource(pack / "data.av", problems);
+  const std::string positions = readSource(pack / packfile::ReadingPositions, problems);
+  const std::string stream = readSource(pack / packfile::ReadingTexts, problems);
   if (!problems.none()) return;
   ReadingSource readings = decodeReadings(positions, stream, problems);
   unmarkStretches(readings);
@@ -50,17 +51,17 @@ void dumpReadings(const std::filesystem::path& pack, std::vector<SourceText>& so
 
 void dumpSpeaking(const std::filesystem::path& pack, std::vector<SourceText>& sources,
                   Problems& problems) {
-  const std::string positions = readSource(pack / "datasp.vt", problems);
-  const std::string stream = readSource(pack / "datasp.av", problems);
+  const std::string positions = readSource(pack / packfile::SpeakingPositions, problems);
+  const std::string stream = readSource(pack / packfile::SpeakingTexts, problems);
   if (!problems.none()) return;
   addTexts("speaking", 4, decodeSpeaking(positions, stream, problems), sources);
 }
 
 void dumpListening(const std::filesystem::path& pack, std::vector<SourceText>& sources,
                    Problems& problems) {
-  const std::string positions = readSource(pack / "dataN.vt", problems);
-  const std::string stream = readSource(pack / "dataN.av", problems);
-  const std::string page = readSource(pack / "dataABCD.rtf", problems);
+  const std::string positions = readSource(pack / packfile::ListeningPositions, problems);
+  const std::string stream = readSource(pack / packfile::ListeningItems, problems);
+  const std::string page = readSource(pack / packfile::ListeningPage, problems);
   if (!problems.none()) return;
   const ListeningSource listening = decodeListening(positions, stream, page, problems);
   for (const auto& [unit, items] : listening.units) {
@@ -72,8 +73,8 @@ void dumpListening(const std::filesystem::path& pack, std::vector<SourceText>& s
 
 void dumpAnalyses(const std::filesystem::path& pack, std::vector<SourceText>& sources,
                   Problems& problems) {
-  const std::string positions = readSource(pack / "dataPt.vt", problems);
-  const std::string stream = readSource(pack / "dataPt.v", problems);
+  const std::string positions = readSource(pack / packfile::AnalysisPositions, problems);
+  const std::string stream = readSource(pack / packfile::Analyses, problems);
   if (!problems.none()) return;
   for (const auto& [slot, analysis] : decodeAnalyses(positions, stream, problems).analyses) {
     sources.push_back({"analysis/" + padded(slot, 2) + ".txt", writeAnalysis(analysis)});
@@ -82,9 +83,9 @@ void dumpAnalyses(const std::filesystem::path& pack, std::vector<SourceText>& so
 
 void dumpItems(const std::filesystem::path& pack, const LessonSource& lessons,
                std::vector<SourceText>& sources, Problems& problems) {
-  const std::string positions = readSource(pack / "data.vbt", problems);
-  const std::string stream = readSource(pack / "data.bt", problems);
-  const std::string counts = readSource(pack / "data.Muc", problems);
+  const std::string positions = readSource(pack / packfile::ItemPositions, problems);
+  const std::string stream = readSource(pack / packfile::Items, problems);
+  const std::string counts = readSource(pack / packfile::ItemCounts, problems);
   if (!problems.none()) return;
   const ExerciseSource items = decodeExercises({positions, stream, counts}, lessons, problems);
   for (std::size_t bank = 0; bank < BankCount; ++bank) {
@@ -100,8 +101,8 @@ void dumpItems(const std::filesystem::path& pack, const LessonSource& lessons,
 
 void dumpLessons(const std::filesystem::path& pack, std::vector<SourceText>& sources,
                  Problems& problems) {
-  const std::string positions = readSource(pack / "datavp.vt", problems);
-  const std::string stream = readSource(pack / "datavp.n", problems);
+  const std::string positions = readSource(pack / packfile::LessonPositions, problems);
+  const std::string stream = readSource(pack / packfile::Lessons, problems);
   if (!problems.none()) return;
   const LessonSource lessons = decodeLessons(positions, stream, problems);
   for (const auto& [slot, lesson] : lessons.lessons) {
@@ -117,9 +118,9 @@ void dumpLessons(const std::filesystem::path& pack, std::vector<SourceText>& sou
 
 void dumpDictionary(const std::filesystem::path& pack, std::vector<SourceText>& sources,
                     Problems& problems) {
-  const std::string words = readSource(pack / "datatu.txt", problems);
-  const std::string records = readSource(pack / "data.mtd", problems);
-  const std::string entries = readSource(pack / "data.avt", problems);
+  const std::string words = readSource(pack / packfile::Words, problems);
+  const std::string records = readSource(pack / packfile::WordRecords, problems);
+  const std::string entries = readSource(pack / packfile::Entries, problems);
   if (!problems.none()) return;
   std::map<char, std::string> byLetter;
   for (const OwnEntry& entry : decodeOwnEntries(words, records, entries, problems)) {

@@ -1,6 +1,7 @@
 // The sources of all exercise items: nine banks, and the items of the lessons.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/ItemSource.h"
 #include "pack/LessonSource.h"
 
@@ -13,7 +14,7 @@
 
 namespace talvora::pack {
 
-inline constexpr std::size_t BankCount = 9;
+inline constexpr std::size_t BankCount = limit::Banks;
 /// The folder names of the banks, in the order of their buttons.
 inline constexpr std::array<std::string_view, BankCount> BankNames = {
     "articles", "conditional",      "tense",       "preposition", "test-a", "test-b",

@@ -1,6 +1,8 @@
 // Layout of items in records, and the records in files.
 #include "pack/ExerciseStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/BlankWidth.h"
 #include "pack/StreamText.h"
 
@@ -16,7 +18,7 @@ constexpr char lineEnd = '\r';
 constexpr char recordEnd = '@';
 constexpr char sectionMark = '^';
 constexpr char referenceMark = '?';
-constexpr std::size_t sections = BankCount + static_cast<std::size_t>(LessonSlots);
+constexpr std::size_t sections = limit::ItemSections;
 constexpr std::size_t optionCount = 4;
 constexpr std::size_t headerLength = 3;
 
@@ -216,16 +218,16 @@ std::vector<PackFile> compileExercises(const ExerciseSource& source, const Lesso
   for (std::size_t section = 0; section < sections; ++section) {
     const auto items = itemsOf(source, section);
     const std::size_t count = countOf(section, items);
-    counts += {static_cast<char>(count & 0xFFU), static_cast<char>(count >> 8)};
+    appendCount(counts, count);
     for (const Item* item : items) {
       const std::string empty(1, recordEnd);
       addRecord(positions, item != nullptr ? questionOf(*item) : empty);
       addRecord(answerPositions, item != nullptr ? answerOf(*item, lessons) : empty);
     }
   }
-  return {{"data.vbt", positions + answerPositions},
-          {"data.bt", std::move(stream)},
-          {"data.Muc", std::move(counts)}};
+  return {{std::string(packfile::ItemPositions), positions + answerPositions},
+          {std::string(packfile::Items), std::move(stream)},
+          {std::string(packfile::ItemCounts), std::move(counts)}};
 }
 
 ExerciseSource decodeExercises(const ExerciseFiles& files, const LessonSource& lessons,
@@ -241,7 +243,8 @@ ExerciseSource decodeExercises(const ExerciseFiles& files, const LessonSource& l
     for (std::size_t place = 0; place < count; ++place) {
       ++number;
       if (number > files.positions.size() / 8) {
-        problems.add({"data.vbt"}, "item " + std::to_string(number) + " is missing");
+        problems.add({std::string(packfile::ItemPositions)},
+                     "item " + std::to_string(number) + " is missing");
         return source;
       }
       const auto question =
@@ -249,7 +252,8 @@ ExerciseSource decodeExercises(const ExerciseFiles& files, const LessonSource& l
       const auto answer =
           storedUntil(files.stream, integerAt(files.positions, total + number), recordEnd);
       if (!question || !answer) {
-        problems.add({"data.bt"}, "item " + std::to_string(number) + " cannot be read");
+        problems.add({std::string(packfile::Items)},
+                     "item " + std::to_string(number) + " cannot be read");
         continue;
       }
       auto item = decoder.decode(*question, *answer);

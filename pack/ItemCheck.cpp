@@ -1,6 +1,7 @@
 // Counting of what an item is made of.
 #include "pack/ItemCheck.h"
 
+#include "formats/Limits.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 constexpr std::size_t optionCount = 4;
 constexpr int fewestPhrases = 2;
 constexpr int mostPhrases = 6;
-constexpr int mostBlanks = 1000;
+constexpr int mostBlanks = limit::Blanks;
 
 std::string counted(std::size_t count, const std::string& name) {
   return std::to_string(count) + " " + name + (count == 1 ? "" : "s");

@@ -1,6 +1,6 @@
 #include "pack/KeptWords.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "platform/FatalFailure.h"
 #include "platform/Files.h"
 

@@ -1,6 +1,6 @@
 #include "pack/LearnersList.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "learner/LearnerLock.h"
 #include "learner/LearnerWords.h"
 #include "learner/SentenceFinder.h"

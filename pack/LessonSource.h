@@ -1,6 +1,7 @@
 // The sources of the rule lessons: a title and a page of coloured lines, and the group headings.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/MarkedLine.h"
 #include "pack/Problems.h"
 
@@ -14,7 +15,7 @@
 namespace talvora::pack {
 
 /// Number of slots in the list of lessons.
-inline constexpr int LessonSlots = 357;
+inline constexpr int LessonSlots = limit::Lessons;
 
 struct Lesson {
   std::string title; ///< in the text font's bytes

@@ -1,6 +1,8 @@
 // Layout of rule lessons in a stream.
 #include "pack/LessonStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -72,7 +74,8 @@ LessonSource decodeLessons(std::string_view positions, std::string_view stream,
     const auto record = static_cast<std::size_t>(slot);
     const auto plain = storedUntil(stream, integerAt(positions, record), textEnd);
     if (!plain) {
-      problems.add({"datavp.n"}, "lesson " + std::to_string(slot) + " cannot be read");
+      problems.add({std::string(packfile::Lessons)},
+                   "lesson " + std::to_string(slot) + " cannot be read");
       continue;
     }
     Lesson lesson = lessonFrom(*plain);

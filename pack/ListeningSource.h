@@ -2,6 +2,8 @@
 // which they are shown.
 #pragma once
 
+#include "formats/Limits.h"
+#include "formats/ListeningPage.h"
 #include "pack/Problems.h"
 #include "pack/ReadingSource.h"
 
@@ -14,11 +16,11 @@
 
 namespace talvora::pack {
 
-inline constexpr int ListeningUnits = 9;
+inline constexpr int ListeningUnits = limit::ListeningUnits;
 /// How many items can be heard: the store has one more, at its end, that the program never plays.
-inline constexpr std::size_t MostListeningItems = 555;
+inline constexpr std::size_t MostListeningItems = limit::HeardListeningItems;
 /// The script of unit N is this reading text plus N.
-inline constexpr int ScriptsAhead = 399;
+inline constexpr int ScriptsAhead = limit::FirstRecordedText - 1;
 
 /// An item; texts in the text font's bytes.
 struct ListeningQuestion {
@@ -33,7 +35,7 @@ using ListeningUnit = std::vector<ListeningQuestion>;
 
 /// What stands on the page around the options.
 struct ListeningPageText {
-  static constexpr std::size_t InstructionLength = 36;
+  static constexpr std::size_t InstructionLength = listeningpage::InstructionLength;
 
   std::string instruction;           ///< at most `InstructionLength` characters
   std::array<std::string, 4> labels; ///< two characters each

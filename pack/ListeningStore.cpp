@@ -1,6 +1,8 @@
 // Layout of listening items in a stream.
 #include "pack/ListeningStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/Guide.h"
 #include "pack/StreamText.h"
 #include "surface/RichText.h"
@@ -14,13 +16,14 @@ namespace talvora::pack {
 
 namespace {
 
-constexpr int records = static_cast<int>(MostListeningItems) + 1;
+constexpr int records = limit::ListeningItems;
 /// Records that no unit plays belong to a unit behind the last.
 constexpr int noUnit = ListeningUnits + 1;
 constexpr char lineEnd = '\r';
 constexpr char itemEnd = '@';
-constexpr std::size_t instructionPlace = 2;
-constexpr std::size_t labelsPlace = 40;
+constexpr std::size_t instructionPlace = listeningpage::InstructionFrom;
+constexpr std::size_t labelLength = listeningpage::LabelLength;
+constexpr std::size_t labelsPlace = listeningpage::LabelsFrom;
 
 /// A record's item, and the unit that plays it.
 struct HeardItem {
@@ -77,14 +80,14 @@ std::optional<HeardItem> itemFrom(std::string_view plain) {
 ListeningPageText pageFrom(std::string_view rtf, Problems& problems) {
   const std::string text = readRichText(rtf, {}).text;
   ListeningPageText page;
-  if (text.size() < labelsPlace + 4 * page.labels.size()) {
-    problems.add({"dataABCD.rtf"}, "the page is too short");
+  if (text.size() < labelsPlace + labelLength * page.labels.size()) {
+    problems.add({std::string(packfile::ListeningPage)}, "the page is too short");
     return page;
   }
   page.instruction = text.substr(instructionPlace, ListeningPageText::InstructionLength);
   page.instruction.erase(page.instruction.find_last_not_of(' ') + 1);
   for (std::size_t label = 0; label < page.labels.size(); ++label) {
-    page.labels[label] = text.substr(labelsPlace + 4 * label, 2);
+    page.labels[label] = text.substr(labelsPlace + labelLength * label, 2);
   }
   return page;
 }
@@ -137,7 +140,8 @@ ListeningSource decodeListening(std::string_view positions, std::string_view str
         storedUntil(stream, integerAt(positions, static_cast<std::size_t>(record)), itemEnd);
     auto stored = plain ? itemFrom(*plain) : std::nullopt;
     if (!stored) {
-      problems.add({"dataN.av"}, "item " + std::to_string(record) + " cannot be read");
+      problems.add({std::string(packfile::ListeningItems)},
+                   "item " + std::to_string(record) + " cannot be read");
       return source;
     }
     const int unit = stored->unit;

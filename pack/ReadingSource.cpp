@@ -17,8 +17,7 @@ constexpr std::string_view titleOpener = "title: ";
 constexpr std::string_view translationOpener = "= ";
 constexpr std::string_view speakerOpener = "// voice: ";
 constexpr int mostHeadings = 38;
-// The table of sentence marks holds 200; the mark ahead of the title and the closing one take two.
-constexpr std::size_t mostSentences = 198;
+constexpr std::size_t mostSentences = limit::Sentences;
 
 std::optional<int> slotOf(std::string_view digits, int slots) {
   int slot = 0;

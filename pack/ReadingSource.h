@@ -2,6 +2,7 @@
 // of headings.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/Problems.h"
 
 #include <filesystem>
@@ -13,7 +14,7 @@
 namespace talvora::pack {
 
 /// Number of slots in the list of reading texts.
-inline constexpr int ReadingSlots = 408;
+inline constexpr int ReadingSlots = limit::ReadingTexts;
 
 /// A sentence and its translation, in the text font's bytes.
 struct SentencePair {

@@ -1,6 +1,8 @@
 // Layout of texts and translations in a stream.
 #include "pack/ReadingStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -117,8 +119,9 @@ ReadingSource decodeReadings(std::string_view positions, std::string_view stream
     const auto translation = storedUntil(stream, integerAt(positions, record + shift), textEnd);
     auto text = plain && translation ? textFrom(*plain, *translation) : std::nullopt;
     if (!text) {
-      problems.add({slots == ReadingSlots ? "data.av" : "datasp.av"},
-                   "text " + std::to_string(slot) + " cannot be read");
+      problems.add(
+          {std::string(slots == ReadingSlots ? packfile::ReadingTexts : packfile::SpeakingTexts)},
+          "text " + std::to_string(slot) + " cannot be read");
     } else if (text->title.starts_with('*')) {
       source.headings.emplace(slot, text->title.substr(1));
     } else if (text->title != openSlotTitle()) {

@@ -1,6 +1,8 @@
 // Synthesis of what has changed, and the table of marks.
 #include "pack/Recordings.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeechLevel.h"
 #include "pack/StreamText.h"
@@ -272,7 +274,7 @@ std::vector<PackFile> compileRecordings(const ReadingSource& readings,
       marks[script.number] = recording.marks;
     }
   }
-  files.push_back({"DataS", tableOf(marks)});
+  files.push_back({std::string(packfile::Marks), tableOf(marks)});
   return files;
 }
 

@@ -1,6 +1,7 @@
 // The recordings of the listening scripts and the marks at which their sentences end.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/Compiler.h"
 #include "pack/OwnRecording.h"
 #include "pack/PackFile.h"
@@ -18,8 +19,8 @@
 namespace talvora::pack {
 
 /// Recording n, from 1, is of reading text 399 + n.
-inline constexpr int RecordingCount = 9;
-inline constexpr int FirstRecordedText = 400;
+inline constexpr int RecordingCount = limit::Recordings;
+inline constexpr int FirstRecordedText = limit::FirstRecordedText;
 
 /// A sentence in the text font's bytes, and who says it.
 struct ScriptLine {

@@ -1,6 +1,7 @@
 // The sources of the speaking texts: written as reading texts are, in a list of their own.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/ReadingSource.h"
 #include "pack/ReadingStore.h"
 
@@ -10,7 +11,7 @@
 namespace talvora::pack {
 
 /// Number of slots in the list of speaking texts.
-inline constexpr int SpeakingSlots = 2025;
+inline constexpr int SpeakingSlots = limit::SpeakingTexts;
 
 /// Reads a folder of texts "NNNN-slug.txt" with its "headings.txt"; none when there is no folder.
 [[nodiscard]] inline ReadingSource readSpeaking(const std::filesystem::path& folder,

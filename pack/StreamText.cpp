@@ -155,19 +155,4 @@ std::optional<std::string> storedUntil(std::string_view stream, std::int64_t off
   return std::nullopt;
 }
 
-void appendInteger(std::string& table, std::size_t value) {
-  if (value > 0x7FFFFFFFU) throw std::logic_error("a position does not fit a 4-byte record");
-  for (unsigned shift = 0; shift < 32; shift += 8)
-    table += static_cast<char>(value >> shift & 0xFFU);
-}
-
-std::int32_t integerAt(std::string_view table, std::size_t record) {
-  if (record == 0 || record > table.size() / 4) return 0;
-  std::uint32_t value = 0;
-  for (std::size_t place = 4; place > 0; --place) {
-    value = value << 8 | static_cast<unsigned char>(table[(record - 1) * 4 + place - 1]);
-  }
-  return static_cast<std::int32_t>(value);
-}
-
 } // namespace talvora::pack

@@ -44,10 +44,4 @@ void appendStored(std::string& stream, std::string_view text);
 [[nodiscard]] std::optional<std::string> storedUntil(std::string_view stream, std::int64_t offset,
                                                      char end);
 
-/// Appends a 4-byte record, little-endian.
-void appendInteger(std::string& table, std::size_t value);
-
-/// The 4-byte record of that number, from 1; 0 past the end.
-[[nodiscard]] std::int32_t integerAt(std::string_view table, std::size_t record);
-
 } // namespace talvora::pack

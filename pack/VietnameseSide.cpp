@@ -1,6 +1,8 @@
 // Choice of the entries and of their senses, and their layout.
 #include "pack/VietnameseSide.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "pack/StreamText.h"
 #include "text/Text.h"
 #include "text/WordForm.h"
@@ -212,9 +214,9 @@ std::vector<PackFile> compileVietnameseSide(const std::vector<SideEntry>& entrie
     appendInteger(positions, stream.size() + 1);
     appendStored(stream, entry.text + entryEnd);
   }
-  return {{"datatuD.txt", std::move(words)},
-          {"dataD.vt", std::move(positions)},
-          {"dataD.av", std::move(stream)}};
+  return {{std::string(packfile::SideWords), std::move(words)},
+          {std::string(packfile::SidePositions), std::move(positions)},
+          {std::string(packfile::SideEntries), std::move(stream)}};
 }
 
 } // namespace talvora::pack

@@ -1,6 +1,7 @@
 // The Vietnamese side of the dictionary: the commonest words, each with one short Vietnamese sense.
 #pragma once
 
+#include "formats/Limits.h"
 #include "pack/PackFile.h"
 #include "pack/WordList.h"
 
@@ -11,7 +12,7 @@
 namespace talvora::pack {
 
 /// The number of entries that the program searches.
-inline constexpr std::size_t VietnameseSideCount = 12238;
+inline constexpr std::size_t VietnameseSideCount = limit::SideEntries;
 
 /// A meaning of more letters than this is shown without the remark at its end.
 inline constexpr std::size_t LongestSideMeaning = 24;

@@ -1,4 +1,5 @@
 // The command line of the content compiler.
+#include "formats/PackFiles.h"
 #include "pack/Check.h"
 #include "pack/Compiler.h"
 #include "pack/CompressRecordings.h"
@@ -65,7 +66,7 @@ int build(Options options, const std::filesystem::path& out) {
     showStep(file.name);
     std::filesystem::create_directories((out / file.name).parent_path());
     if (const auto failure = store(file, out)) return failWith(*failure);
-    if (file.name == "DataS") removeUnmarkedRecordings(out, file.bytes);
+    if (file.name == packfile::Marks) removeUnmarkedRecordings(out, file.bytes);
   }
   if (const auto carried = words.carry()) tellOf(*carried);
   return 0;

@@ -14,6 +14,7 @@ from pathlib import Path
 # The folders of src; a file includes from its own floor or a lower one.
 FLOORS = {
     "text": 0,
+    "formats": 1,
     "platform": 1,
     "surface": 2,
     "stores": 3,

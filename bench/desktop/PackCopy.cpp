@@ -1,6 +1,6 @@
 #include "PackCopy.h"
 
-#include "stores/Integers.h"
+#include "formats/Integers.h"
 
 #include <cstdint>
 #include <fstream>

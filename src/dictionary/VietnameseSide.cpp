@@ -1,5 +1,6 @@
 #include "dictionary/VietnameseSide.h"
 
+#include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
@@ -35,13 +36,13 @@ std::vector<std::string> linesOf(std::string_view text, std::size_t most) {
 void VietnameseSide::NapTuD(EventLoop& events) {
   // The list is an extra: without it the program does everything else.
   try {
-    const auto words = stores_.hold("\\datatuD.txt");
+    const auto words = stores_.hold(packfile::SideWords);
     for (std::string& line : linesOf(words->text(), EntryCount)) {
       Chu_.push_back(std::move(line));
       if (Chu_.size() % LinesBetweenEvents == 0) events.letEventsRun();
     }
     ViTriNghia_.resize(Chu_.size());
-    const RecordFile positions(stores_.hold("\\dataD.vt"));
+    const RecordFile positions(stores_.hold(packfile::SidePositions));
     for (std::size_t index = 1; index < Chu_.size(); ++index) {
       ViTriNghia_[index] = positions.integer(static_cast<std::int64_t>(index));
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dictionary/LookUp.h"
+#include "formats/Limits.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
 #include "shell/Shell.h"
@@ -21,7 +22,7 @@ namespace talvora {
 
 class VietnameseSide {
  public:
-  static constexpr int EntryCount = 12238;
+  static constexpr int EntryCount = limit::SideEntries;
 
   VietnameseSide(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
                  Speech& speech, LookUp& lookUp)

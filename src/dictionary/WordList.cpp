@@ -1,5 +1,6 @@
 #include "dictionary/WordList.h"
 
+#include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
 #include "surface/LineEnds.h"
 #include "text/CharClass.h"
@@ -25,9 +26,9 @@ constexpr std::size_t PieceSize = 1 << 16;
 
 void WordList::NapTuDien(const std::string& directory, const std::function<void()>& TienTrinhNap,
                          FileSystem& files) {
-  positions_ = RecordFile(MappedFile::open(pathBelow(directory, "\\data.mtd"), files));
+  positions_ = RecordFile(MappedFile::open(pathBelow(directory, packfile::WordRecords), files));
   NapViTriTu(TienTrinhNap);
-  const std::string path = pathBelow(directory, "\\datatu.txt");
+  const std::string path = pathBelow(directory, packfile::Words);
   file_ = MappedFile::open(path, files);
   text_ = file_->text();
   findLines(path);

@@ -2,6 +2,7 @@
 // Both files stay mapped; no string is made for a word.
 #pragma once
 
+#include "formats/Limits.h"
 #include "platform/Files.h"
 #include "stores/Stores.h"
 #include "surface/Variables.h"
@@ -20,7 +21,7 @@ namespace talvora {
 class WordList {
  public:
   /// The number of words that the list is built for.
-  static constexpr int WordCount = 385082;
+  static constexpr int WordCount = limit::Words;
   /// A list may have one line more than words.
   static constexpr int MostLines = WordCount + 1;
   static constexpr int LetterSlots = 27;

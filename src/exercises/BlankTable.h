@@ -1,6 +1,7 @@
 // A table of stretches of an item, such as its blanks, each with a text of its own.
 #pragma once
 
+#include "formats/Limits.h"
 #include "surface/Variables.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ struct BlankEntry {
 
 class BlankTable {
  public:
-  static constexpr int Most = 1000;
+  static constexpr int Most = limit::Blanks;
 
   /// Number of stretches; texts may stand behind them.
   [[nodiscard]] int count() const noexcept { return count_; }

@@ -1,5 +1,7 @@
 #include "exercises/ItemStore.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "platform/Files.h"
 #include "text/Text.h"
 
@@ -7,23 +9,12 @@
 
 namespace talvora {
 
-namespace {
-
-/// A 2-byte record, little-endian; 0 past the end.
-std::int16_t countAt(std::span<const unsigned char> bytes, std::size_t record) {
-  const std::size_t offset = (record - 1) * 2;
-  if (offset + 2 > bytes.size()) return 0;
-  return static_cast<std::int16_t>(bytes[offset] | bytes[offset + 1] << 8);
-}
-
-} // namespace
-
 void ItemStore::DocSoCau(EventLoop& events) {
   if (TongCau_ > 0) return;
-  const auto counts = stores_.hold("\\data.Muc");
+  const auto counts = stores_.hold(packfile::ItemCounts);
   for (std::size_t section = 1; section <= Sections; ++section) {
     events.letEventsRun();
-    SoCau_[section] = countAt(counts->bytes(), section);
+    SoCau_[section] = countAt(counts->text(), section);
   }
   TongCau_ = itemsBefore(Sections + 1);
 }

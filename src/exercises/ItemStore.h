@@ -1,6 +1,7 @@
 // The store of exercise items: how many each section has, and the two records of an item.
 #pragma once
 
+#include "formats/Limits.h"
 #include "platform/EventLoop.h"
 #include "stores/Stores.h"
 #include "surface/State.h"
@@ -13,8 +14,8 @@ namespace talvora {
 
 class ItemStore {
  public:
-  static constexpr int Banks = 9;
-  static constexpr int Sections = Banks + static_cast<int>(CurrentList::LessonCount);
+  static constexpr int Banks = limit::Banks;
+  static constexpr int Sections = limit::ItemSections;
 
   explicit ItemStore(const Stores& stores) : stores_(stores) {}
 

@@ -1,5 +1,7 @@
 #include "exercises/UnitList.h"
 
+#include "formats/ListeningPage.h"
+#include "formats/PackFiles.h"
 #include "lessons/PageColours.h"
 #include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
@@ -14,8 +16,6 @@ namespace {
 
 constexpr int ListeningCaret = 10;
 // The instruction of the listening template, which the labels follow.
-constexpr int LabelsFrom = 40;
-constexpr int LabelsLength = 17;
 
 } // namespace
 
@@ -50,10 +50,11 @@ void UnitList::wireEvents() {
 
 void UnitList::HienBT(int SoCauBT) {
   Surface& Rchon = controls_.Rchon;
-  Rchon.LoadFile(stores_.hold("\\dataABCD.rtf"));
+  Rchon.LoadFile(stores_.hold(packfile::ListeningPage));
   Rchon.format({0, Rchon.TextLength()}, {.bold = true, .fontSize = controls_.RN2.Font().size});
   state_.word.TuHienTai.clear();
-  Rchon.format({LabelsFrom, LabelsFrom + LabelsLength}, {.color = PageBlue});
+  Rchon.format({listeningpage::LabelsFrom, listeningpage::LabelsFrom + listeningpage::LabelsLength},
+               {.color = PageBlue});
   if (state_.places.MucMenu == section::Listening) {
     LietKeUnit();
     setUpListening();

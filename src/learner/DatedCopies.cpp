@@ -1,6 +1,6 @@
 #include "learner/DatedCopies.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "learner/VocabularyFile.h"
 #include "platform/Files.h"
 

@@ -1,6 +1,7 @@
 #include "learner/FindFolders.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
+#include "formats/PackFiles.h"
 #include "platform/Files.h"
 
 #include <algorithm>
@@ -18,7 +19,8 @@ bool holds(FileSystem& files, const std::string& folder, std::string_view name) 
 }
 
 bool isPack(FileSystem& files, const std::string& folder) {
-  constexpr std::array<std::string_view, 3> wanted = {"data.vt", "data.av", "datatu.txt"};
+  constexpr std::array<std::string_view, 3> wanted = {packfile::ReadingPositions,
+                                                      packfile::ReadingTexts, packfile::Words};
   return std::all_of(wanted.begin(), wanted.end(),
                      [&](std::string_view name) { return holds(files, folder, name); });
 }

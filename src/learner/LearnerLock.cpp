@@ -1,6 +1,6 @@
 #include "learner/LearnerLock.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 
 namespace talvora {
 

@@ -1,6 +1,6 @@
 #include "learner/LearnerWords.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "learner/SentenceFinder.h"
 #include "platform/Files.h"
 #include "text/Text.h"

@@ -1,6 +1,6 @@
 #include "learner/ListPlaces.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "learner/WordRows.h"
 #include "platform/Files.h"
 #include "text/Text.h"

@@ -1,5 +1,6 @@
 #include "learner/TextCatalogue.h"
 
+#include "formats/PackFiles.h"
 #include "text/Text.h"
 
 #include <array>
@@ -44,8 +45,10 @@ TextCatalogue::TextCatalogue(const Stores& stores)
                 stores.fileOf(file::SpeakingTexts).quiet()} {}
 
 TextCatalogue::TextCatalogue(const std::string& pack, FileSystem& files)
-    : reading_{opened(pack, "\\data.vt", files), opened(pack, "\\data.av", files)},
-      speaking_{opened(pack, "\\datasp.vt", files), opened(pack, "\\datasp.av", files)} {}
+    : reading_{opened(pack, packfile::ReadingPositions, files),
+               opened(pack, packfile::ReadingTexts, files)},
+      speaking_{opened(pack, packfile::SpeakingPositions, files),
+                opened(pack, packfile::SpeakingTexts, files)} {}
 
 std::string TextCatalogue::fingerprint() const {
   std::uint64_t hash = HashStart;

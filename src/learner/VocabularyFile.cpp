@@ -1,8 +1,8 @@
 #include "learner/VocabularyFile.h"
 
+#include "formats/Integers.h"
 #include "platform/FatalFailure.h"
 #include "platform/Files.h"
-#include "stores/Integers.h"
 #include "text/Text.h"
 
 #include <utility>

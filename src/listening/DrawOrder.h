@@ -1,6 +1,7 @@
 // The order in which the items of a unit are drawn, and the steps back and forward through it.
 #pragma once
 
+#include "formats/Limits.h"
 #include "platform/Random.h"
 #include "surface/Variables.h"
 
@@ -11,7 +12,7 @@ namespace talvora {
 
 class DrawOrder {
  public:
-  static constexpr int MostItems = 556;
+  static constexpr int MostItems = limit::ListeningItems;
 
   explicit DrawOrder(Random& random) : random_(random) {}
 

@@ -1,5 +1,6 @@
 #include "listening/ListeningItems.h"
 
+#include "formats/PackFiles.h"
 #include "platform/Files.h"
 #include "shell/Names.h"
 #include "text/Text.h"
@@ -10,8 +11,8 @@ namespace talvora {
 
 namespace {
 
-constexpr std::string_view PositionsName = "\\dataN.vt";
-constexpr std::string_view StreamName = "\\dataN.av";
+constexpr std::string_view PositionsName = packfile::ListeningPositions;
+constexpr std::string_view StreamName = packfile::ListeningItems;
 constexpr char FieldEnd = '_';
 
 } // namespace

@@ -1,6 +1,7 @@
 // The items of the listening store: where each begins, its unit and its segment, and its texts.
 #pragma once
 
+#include "formats/Limits.h"
 #include "stores/Stores.h"
 #include "surface/Variables.h"
 
@@ -27,7 +28,7 @@ struct ListeningTexts {
 
 class ListeningItems {
  public:
-  static constexpr int Count = 556;
+  static constexpr int Count = limit::ListeningItems;
 
   explicit ListeningItems(Stores& stores) : stores_(stores) {}
 

@@ -1,5 +1,6 @@
 #include "listening/ListeningPage.h"
 
+#include "formats/ListeningPage.h"
 #include "text/Text.h"
 
 #include <utility>
@@ -11,13 +12,8 @@ namespace {
 constexpr Colour BodyColour = 0x750000;
 constexpr Colour HeadingColour = 0x393971;
 constexpr Colour GreyedColour = 0x80000003;
-constexpr int OptionCount = 4;
+constexpr int OptionCount = listeningpage::Options;
 constexpr int ShuffleTries = 10;
-/// Carets of the template: the instruction, and behind the last label plus one label's length.
-constexpr int InstructionStart = 2;
-constexpr int InstructionLength = 36;
-constexpr int LabelsEnd = 59;
-constexpr int LabelLength = 4;
 
 } // namespace
 
@@ -26,7 +22,8 @@ void ListeningPage::paint(const ListeningTexts& texts) {
   LuaChon_ = texts.options;
   shuffle(texts.options[0]);
   RN2_.TextRTF(Rchon_.TextRTF());
-  RN2_.format({InstructionStart, InstructionStart + InstructionLength},
+  RN2_.format({listeningpage::InstructionFrom,
+               listeningpage::InstructionFrom + listeningpage::InstructionLength},
               {.color = HeadingColour, .italic = true});
   writeOptions();
   mask_ = OptionMask(LuaChon_, DapAnNghe_, RN2_.TextLength());
@@ -57,7 +54,7 @@ void ListeningPage::writeOptions() {
     if (option.starts_with('-')) option.erase(0, 1);
     option = std::string(trim(option));
     if (i != OptionCount) option += '\r';
-    RN2_.SelStart(LabelsEnd - LabelLength * (OptionCount + 1 - i));
+    RN2_.SelStart(listeningpage::OptionsEnd - listeningpage::LabelLength * (OptionCount + 1 - i));
     RN2_.SelBold(measures_.largeScreen());
     RN2_.SelColor(BodyColour);
     RN2_.SelText(option);

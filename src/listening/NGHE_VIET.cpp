@@ -1,5 +1,6 @@
 #include "listening/NGHE_VIET.h"
 
+#include "formats/Limits.h"
 #include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Rounding.h"
@@ -17,7 +18,6 @@ constexpr Colour HeadingColour = 0x393971;
 constexpr Colour Red = 255;
 constexpr double BodyIndent = 285.1654;
 constexpr int GuideText = 2;
-constexpr int FirstRecordedText = 400;
 constexpr int FlashMs = 20;
 constexpr int SentenceDoneMs = 500;
 constexpr char Prompt = '^';
@@ -87,8 +87,8 @@ void NGHE_VIET::MoNgheViet() {
 
 void NGHE_VIET::openVoice() {
   const int number = state_.list.SoBaiChon;
-  if (stores_.FileChiSo == file::TextPositions && number >= FirstRecordedText) {
-    services_.voice.MoAm(number - FirstRecordedText + 1);
+  if (stores_.FileChiSo == file::TextPositions && number >= limit::FirstRecordedText) {
+    services_.voice.MoAm(number - limit::FirstRecordedText + 1);
   } else {
     services_.voice.AmThanhThuc = false;
   }

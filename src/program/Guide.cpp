@@ -1,5 +1,6 @@
 #include "program/Guide.h"
 
+#include "formats/PackFiles.h"
 #include "surface/SectionNumbers.h"
 #include "text/Text.h"
 
@@ -17,7 +18,7 @@ void Guide::open() {
   Rcachhoc.FontSize(state_.measures.CoChu);
   Rcachhoc.TabIndex(Controls::ButtonCount + 1);
   Rcachhoc.Locked(false);
-  Rcachhoc.LoadFile(stores_.hold("\\readme.rtf"));
+  Rcachhoc.LoadFile(stores_.hold(packfile::Guide));
   shell_.transitions.MoRan(Rcachhoc, controls_.Frame1);
   shell_.curtain.KeoMan(Rcachhoc);
 }

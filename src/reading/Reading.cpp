@@ -1,5 +1,6 @@
 #include "reading/Reading.h"
 
+#include "formats/Limits.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 
@@ -17,7 +18,7 @@ constexpr int FirstAnalysedText = 4;
 constexpr int GuideText = 2;
 constexpr int MostHeadings = 38;
 // Texts from here on are the scripts of the recordings.
-constexpr int FirstScript = 400;
+constexpr int FirstScript = limit::FirstRecordedText;
 // The guide's title, which section 5 shows but does not analyse.
 constexpr int GreyedFrom = 20;
 constexpr int GreyedTo = 47;

@@ -1,5 +1,6 @@
 #include "reading/ReadingText.h"
 
+#include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 }
 
 std::string nameOfStore(int stream) {
-  return stream == file::SpeakingTexts ? "datasp.av" : "data.av";
+  return stream == file::SpeakingTexts ? packfile::SpeakingTexts : packfile::ReadingTexts;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "shell/FirstRun.h"
 
+#include "formats/LearnerFiles.h"
 #include "platform/Files.h"
 #include "text/Text.h"
 
@@ -8,7 +9,7 @@ namespace talvora {
 FirstRun KiemTraCaiDat(const Places& places, FileSystem& files, Installation& installation,
                        Boxes& boxes) {
   const std::string& ThuMuc = places.ThuMuc;
-  const std::string marker = pathBelow(places.learnerFolder(), "\\Yes1");
+  const std::string marker = pathBelow(places.learnerFolder(), learnerfile::FirstRun);
   if (TonTaiFile(marker, files)) return FirstRun::AlreadyDone;
   std::error_code error;
   if (files.open(marker, OpenFor::Writing, error) == nullptr) return FirstRun::AlreadyDone;

@@ -1,9 +1,10 @@
 #include "sound/AmthanhThuc.h"
 
+#include "formats/Integers.h"
+#include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
 #include "platform/Files.h"
 #include "shell/Names.h"
-#include "stores/Integers.h"
 #include "stores/Stores.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
@@ -14,7 +15,7 @@ using namespace literals;
 
 namespace {
 
-constexpr std::string_view MarksName = "\\DataS";
+constexpr std::string_view MarksName = packfile::Marks;
 constexpr std::string_view SoundFolder = "\\sound";
 constexpr int MissingMessageMs = 10000;
 /// A record of this value opens the block of a recording; marks lie above it.

@@ -2,6 +2,7 @@
 // played sentence by sentence.
 #pragma once
 
+#include "formats/Limits.h"
 #include "platform/FileSystem.h"
 #include "platform/WavePlayer.h"
 #include "shell/Messages.h"
@@ -19,7 +20,7 @@ namespace talvora {
 class RecordedVoice {
  public:
   /// The most sentences that a recording can have.
-  static constexpr int MaxMarks = 300;
+  static constexpr int MaxMarks = limit::RecordingMarks;
 
   RecordedVoice(const Places& places, WavePlayer& wave, Messages& messages,
                 FileSystem& files = systemFiles())

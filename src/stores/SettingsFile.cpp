@@ -1,7 +1,8 @@
 #include "stores/SettingsFile.h"
 
+#include "formats/Integers.h"
+#include "formats/Settings.h"
 #include "platform/Files.h"
-#include "stores/Integers.h"
 
 #include <utility>
 
@@ -9,10 +10,6 @@ namespace talvora {
 
 namespace {
 
-constexpr std::size_t SettingRecords = 19;
-constexpr std::size_t SoundOnRecord = 2;
-constexpr std::size_t SpeedRecord = 4;
-constexpr std::int32_t MiddleSpeed = 5;
 /// More records than anybody has are another file's.
 constexpr std::size_t MostRecords = 4096;
 
@@ -27,14 +24,7 @@ std::vector<std::int32_t> recordsOf(std::span<const unsigned char> bytes) {
 
 } // namespace
 
-std::vector<std::int32_t> firstSettings() {
-  std::vector<std::int32_t> records(SettingRecords);
-  records[SoundOnRecord - 1] = 1;
-  records[SpeedRecord - 1] = MiddleSpeed;
-  return records;
-}
-
-void SettingsFile::open(std::string path, std::vector<std::int32_t> ifMissing) {
+void SettingsFile::open(std::string path, IfMissing ifMissing) {
   path_ = std::move(path);
   std::error_code error;
   const auto content = readWhole(files_, path_, error);
@@ -43,7 +33,11 @@ void SettingsFile::open(std::string path, std::vector<std::int32_t> ifMissing) {
     records_ = recordsOf(*content);
     return;
   }
-  records_ = mayWrite_ ? std::move(ifMissing) : firstSettings();
+  records_.clear();
+  if (!mayWrite_ || ifMissing == IfMissing::BeginFresh) {
+    constexpr auto fresh = firstSettings();
+    records_.assign(fresh.begin(), fresh.end());
+  }
   store(0);
 }
 

@@ -9,16 +9,16 @@
 
 namespace talvora {
 
-/// The records that a new learner begins with: sound on, middle speed, every list at its top.
-[[nodiscard]] std::vector<std::int32_t> firstSettings();
-
 class SettingsFile {
  public:
   explicit SettingsFile(FileSystem& files) : files_(files) {}
 
-  /// Reads the file. One that is missing is created with `ifMissing`; one that cannot be read
-  /// counts as one with `firstSettings`, and is left alone from then on.
-  void open(std::string path, std::vector<std::int32_t> ifMissing);
+  /// What a file that is missing is created with: nothing, or `firstSettings`.
+  enum class IfMissing { BeginEmpty, BeginFresh };
+
+  /// Reads the file. One that cannot be read counts as one with `firstSettings`, and is left alone
+  /// from then on.
+  void open(std::string path, IfMissing ifMissing);
   void close();
 
   /// 0 for what the file does not hold, and when it is closed.

@@ -1,7 +1,10 @@
 #include "stores/Stores.h"
 
+#include "formats/Integers.h"
+#include "formats/LearnerFiles.h"
+#include "formats/PackFiles.h"
 #include "stores/ByteCode.h"
-#include "stores/Integers.h"
+#include "surface/SectionNumbers.h"
 #include "text/Text.h"
 
 namespace talvora {
@@ -15,28 +18,25 @@ struct StoreFile {
 
 // The read-only files that stay open for the run.
 constexpr StoreFile readOnlyFiles[] = {
-    {file::TextPositions, "\\data.vt"},
-    {file::Texts, "\\data.av"},
-    {file::Dictionary, "\\data.avt"},
-    {file::LessonPositions, "\\datavp.vt"},
-    {file::Lessons, "\\datavp.n"},
-    {file::VietnameseSide, "\\dataD.av"},
-    {file::ItemPositions, "\\data.vbt"},
-    {file::Items, "\\data.bt"},
-    {file::SpeakingPositions, "\\datasp.vt"},
-    {file::SpeakingTexts, "\\datasp.av"},
-    {file::AnalysisPositions, "\\dataPt.vt"},
-    {file::Analyses, "\\dataPt.v"},
+    {file::TextPositions, packfile::ReadingPositions},
+    {file::Texts, packfile::ReadingTexts},
+    {file::Dictionary, packfile::Entries},
+    {file::LessonPositions, packfile::LessonPositions},
+    {file::Lessons, packfile::Lessons},
+    {file::VietnameseSide, packfile::SideEntries},
+    {file::ItemPositions, packfile::ItemPositions},
+    {file::Items, packfile::Items},
+    {file::SpeakingPositions, packfile::SpeakingPositions},
+    {file::SpeakingTexts, packfile::SpeakingTexts},
+    {file::AnalysisPositions, packfile::AnalysisPositions},
+    {file::Analyses, packfile::Analyses},
 };
 
 } // namespace
 
 std::int32_t RecordFile::integer(std::int64_t record) const noexcept {
   if (mapped_ == nullptr || record < 1) return 0;
-  const auto bytes = mapped_->bytes();
-  const auto last = static_cast<std::int64_t>(bytes.size() / IntegerSize);
-  if (record > last) return 0;
-  return integerAt(bytes.data() + static_cast<std::size_t>(record - 1) * IntegerSize);
+  return integerAt(mapped_->text(), static_cast<std::size_t>(record));
 }
 
 unsigned char RecordFile::byte(std::int64_t record) const noexcept {
@@ -63,12 +63,13 @@ void Stores::MoDuLieu() {
     files_[static_cast<std::size_t>(each.number)] = open(each.name);
   }
   // Beside a pack that is the learner's own, settings that are missing begin empty.
-  settings_.open(pathBelow(places_.learnerFolder(), "\\data.Kcu"),
-                 places_.learner.empty() ? std::vector<std::int32_t>() : firstSettings());
+  settings_.open(pathBelow(places_.learnerFolder(), learnerfile::Settings),
+                 places_.learner.empty() ? SettingsFile::IfMissing::BeginEmpty
+                                         : SettingsFile::IfMissing::BeginFresh);
   // The word list is written whole, so that it is only made sure that it is there.
   std::error_code ignored;
-  static_cast<void>(
-      fileSystem_.open(pathBelow(places_.learnerFolder(), "\\data.c"), OpenFor::Writing, ignored));
+  static_cast<void>(fileSystem_.open(pathBelow(places_.learnerFolder(), learnerfile::Words),
+                                     OpenFor::Writing, ignored));
 }
 
 std::shared_ptr<const MappedFile> Stores::hold(std::string_view storedName) const {
@@ -91,11 +92,11 @@ void Stores::closeAll() {
 void Stores::ChonKho(int positionsFile) {
   FileChiSo = positionsFile;
   FileVanBan = positionsFile + 1;
-  SoBai = places_.MucMenu == 5 ? AnalysedTexts : textsInTable();
+  SoBai = places_.MucMenu == section::Analysis ? AnalysedTexts : textsInTable();
 }
 
 int Stores::textsInTable() const noexcept {
-  return places_.MucMenu == 7 ? SpeakingTexts : ReadingTexts;
+  return places_.MucMenu == section::Speaking ? SpeakingTexts : ReadingTexts;
 }
 
 void Stores::NapViTriBai() {

@@ -2,6 +2,8 @@
 // and the small settings store.
 #pragma once
 
+#include "formats/Limits.h"
+#include "formats/Settings.h"
 #include "platform/Files.h"
 #include "stores/SettingsFile.h"
 #include "surface/State.h"
@@ -32,16 +34,6 @@ inline constexpr int SpeakingTexts = 23;
 inline constexpr int AnalysisPositions = 24;
 inline constexpr int Analyses = 25;
 } // namespace file
-
-/// Records of data.Kcu.
-namespace setting {
-inline constexpr int ReadingCaret = 1;
-inline constexpr int SoundOn = 2;
-inline constexpr int SpeedLevel = 4;
-inline constexpr int RunCounter = 6;
-inline constexpr int SpeakingCaret = 8;
-inline constexpr int AnalysisCaret = 9;
-} // namespace setting
 
 /// A read-only file of fixed-length records, numbered from 1. Reading past its end, or ahead of its
 /// first record, gives 0.
@@ -81,9 +73,9 @@ class RecordFile {
 
 /// The most bytes that are read of a text whose end mark is lost; carets and positions in a text
 /// have 16 bits.
-inline constexpr std::int64_t LongestText = 32767;
+inline constexpr std::int64_t LongestText = limit::TextBytes;
 /// The same of a title.
-inline constexpr std::int64_t LongestTitle = 1000;
+inline constexpr std::int64_t LongestTitle = limit::TitleBytes;
 
 /// Reads a stream piece by piece from a record on; each piece is what one stored byte stands for.
 class PieceReader {
@@ -106,9 +98,9 @@ class PieceReader {
 
 class Stores {
  public:
-  static constexpr int ReadingTexts = 408;
-  static constexpr int SpeakingTexts = 2025;
-  static constexpr int AnalysedTexts = 14;
+  static constexpr int ReadingTexts = limit::ReadingTexts;
+  static constexpr int SpeakingTexts = limit::SpeakingTexts;
+  static constexpr int AnalysedTexts = limit::AnalysedTexts;
 
   explicit Stores(const Places& places, FileSystem& files = systemFiles())
       : places_(places), fileSystem_(files), settings_(files) {}

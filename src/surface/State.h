@@ -2,6 +2,7 @@
 // owns one of each.
 #pragma once
 
+#include "formats/Limits.h"
 #include "platform/TextStyle.h"
 #include "surface/SurfacePoint.h"
 #include "surface/Variables.h"
@@ -83,7 +84,7 @@ struct CurrentWord {
 
 /// The text that a section has open.
 struct CurrentText {
-  static constexpr std::size_t MaxSentences = 200;
+  static constexpr std::size_t MaxSentences = limit::SentenceMarks;
   static constexpr std::size_t MaxFileMarks = 2000;
 
   std::string CauHoi;    ///< the text; sentence marks are character 160
@@ -101,9 +102,9 @@ struct CurrentText {
 
 /// The list that a section has open.
 struct CurrentList {
-  static constexpr std::size_t MaxLines = 4053;
-  static constexpr std::size_t MaxHeadings = 40;
-  static constexpr std::size_t LessonCount = 357;
+  static constexpr std::size_t MaxLines = limit::ListLines;
+  static constexpr std::size_t MaxHeadings = limit::HeadingsOfList;
+  static constexpr std::size_t LessonCount = limit::Lessons;
 
   std::string DanhSachBai; ///< the list as shown; each line ends in character 13
   /// Element i: length of the list after line i; sections that show panels keep cell starts here.

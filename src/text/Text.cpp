@@ -48,6 +48,7 @@ std::string plainAscii(std::string_view text) {
 
 std::string pathBelow(const std::string& directory, std::string_view storedName) {
   std::string path = directory;
+  if (!storedName.starts_with('\\')) path += '/';
   path += storedName;
   std::replace(path.begin() + static_cast<std::ptrdiff_t>(directory.size()), path.end(), '\\', '/');
   return path;

@@ -2,6 +2,8 @@
 // about each.
 #pragma once
 
+#include "formats/Limits.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +20,7 @@ struct AnalysedStretch {
 };
 
 /// The most stretches that an analysis can have.
-inline constexpr std::size_t MostStretches = 1000;
+inline constexpr std::size_t MostStretches = limit::Stretches;
 
 /// Cuts a marked text into stretches: each "|" from the body on ends one. `titleEnd` is the
 /// position at which the body begins. Throws FatalFailure when there are too many.

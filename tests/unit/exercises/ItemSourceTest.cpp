@@ -1,5 +1,6 @@
 #include "pack/ItemSource.h"
 
+#include "formats/Integers.h"
 #include "pack/ExerciseStore.h"
 #include "pack/StreamText.h"
 #include "support/TestFolder.h"

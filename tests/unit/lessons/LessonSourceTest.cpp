@@ -1,3 +1,4 @@
+#include "formats/Integers.h"
 #include "pack/LessonStore.h"
 #include "pack/StreamText.h"
 #include "support/TestFolder.h"

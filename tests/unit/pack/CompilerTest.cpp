@@ -1,6 +1,7 @@
 // The whole way from a content tree to a pack and back.
 #include "pack/Compiler.h"
 
+#include "formats/Integers.h"
 #include "pack/Dump.h"
 #include "pack/SourceFile.h"
 #include "pack/Status.h"

@@ -1,3 +1,4 @@
+#include "formats/Integers.h"
 #include "pack/AnalysisSource.h"
 #include "pack/AnalysisStore.h"
 #include "pack/ListeningSource.h"

@@ -1,6 +1,7 @@
 // Filling of the word list, and the files it becomes.
 #include "pack/FilledList.h"
 
+#include "formats/Integers.h"
 #include "pack/DictionaryStore.h"
 #include "pack/Status.h"
 #include "pack/StreamText.h"

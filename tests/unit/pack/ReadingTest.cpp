@@ -1,6 +1,7 @@
 // Reading texts: their sources, their place in the store, and back.
 #include "pack/ReadingStore.h"
 
+#include "formats/Integers.h"
 #include "pack/StreamText.h"
 
 #include <gtest/gtest.h>

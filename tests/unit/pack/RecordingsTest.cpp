@@ -1,6 +1,7 @@
 // Recordings of the listening scripts: exact marks, and nothing is made twice.
 #include "pack/Recordings.h"
 
+#include "formats/Integers.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "support/TestFolder.h"

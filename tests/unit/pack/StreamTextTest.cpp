@@ -1,6 +1,7 @@
 // Encoding of the streams: what they hold, and that decoding gives it back.
 #include "pack/StreamText.h"
 
+#include "formats/Integers.h"
 #include "stores/ByteCode.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "TestFolder.h"
 
+#include "formats/Integers.h"
 #include "stores/ByteCode.h"
-#include "stores/Integers.h"
 
 #include <algorithm>
 #include <cstdlib>
