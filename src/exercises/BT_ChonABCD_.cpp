@@ -2,6 +2,7 @@
 
 #include "exercises/Blanks.h"
 #include "exercises/ItemMask.h"
+#include "exercises/ItemRecord.h"
 #include "lessons/PageColours.h"
 #include "text/CharClass.h"
 
@@ -38,6 +39,14 @@ void BT_ChonABCD_::wireEvents() {
 }
 
 // -- Drawing.
+
+void BT_ChonABCD_::show() {
+  std::string& CauHoi = services_.state.text.CauHoi;
+  const std::string stem = TachThan(CauHoi);
+  item_.GoiY = TachPhuongAn(CauHoi);
+  item_.DapAnDung = keyOf(CauHoi);
+  VeABCD(stem);
+}
 
 void BT_ChonABCD_::VeABCD(const std::string& stem) {
   page_.begin();

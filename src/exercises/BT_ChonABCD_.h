@@ -1,22 +1,25 @@
 // Multiple choice on `RABCD`: a stem and four options; only an option's label judges.
 #pragma once
 
+#include "exercises/ItemKindPage.h"
 #include "exercises/ItemPage.h"
 
 #include <string>
 
 namespace talvora {
 
-class BT_ChonABCD_ {
+class BT_ChonABCD_ final : public ItemKindPage {
  public:
   explicit BT_ChonABCD_(ItemServices& services);
 
-  /// Shows the item whose stem is given; its options stand in `GoiY`.
-  void VeABCD(const std::string& stem);
-
-  void declare(Variables& variables) const;
+  [[nodiscard]] Surface& surface() const noexcept override { return RABCD_; }
+  void show() override;
+  void takeAnswerBack() override { services_.answer.KhoiPhucChu(RABCD_); }
+  void declare(Variables& variables) const override;
 
  private:
+  /// Shows the item whose stem is given; its options stand in `GoiY`.
+  void VeABCD(const std::string& stem);
   void wireEvents();
   void releaseMouse(MouseButton button, SurfacePoint at);
   void writeOption(int number);

@@ -2,6 +2,7 @@
 
 #include "exercises/Blanks.h"
 #include "exercises/ItemMask.h"
+#include "exercises/ItemRecord.h"
 #include "lessons/PageColours.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ constexpr char WrongPhrase = '`';
 
 BT_Chonsai::BT_Chonsai(ItemServices& services)
     : services_(services), Rsai_(services.controls.Rsai), item_(services.item),
-      page_(services.controls.Rsai, services) {
+      page_(services.controls.Rsai, services, HeadingAnswers::No) {
   wireEvents();
 }
 
@@ -31,6 +32,13 @@ void BT_Chonsai::wireEvents() {
 }
 
 // -- Drawing.
+
+void BT_Chonsai::show() {
+  std::string& CauHoi = services_.state.text.CauHoi;
+  const std::string body = TachThan(CauHoi);
+  item_.DapAnDung = keyOf(CauHoi);
+  VeChonSai(body);
+}
 
 void BT_Chonsai::VeChonSai(const std::string& body) {
   page_.begin();

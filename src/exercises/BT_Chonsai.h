@@ -1,23 +1,27 @@
 // Find the mistake on `Rsai`: a sentence with underlined phrases, one of which is wrong.
 #pragma once
 
+#include "exercises/ItemKindPage.h"
 #include "exercises/ItemPage.h"
 
 #include <string>
 
 namespace talvora {
 
-class BT_Chonsai {
+class BT_Chonsai final : public ItemKindPage {
  public:
   explicit BT_Chonsai(ItemServices& services);
 
-  /// Shows the item whose sentence is given.
-  void VeChonSai(const std::string& body);
+  [[nodiscard]] Surface& surface() const noexcept override { return Rsai_; }
+  void show() override;
+  void takeAnswerBack() override { services_.answer.RoChonSai(Rsai_); }
 
  private:
   /// Whether a phrase is chosen, or only shown for its explanation.
   enum class Choice { Explained = 0, Made = 1 };
 
+  /// Shows the item whose sentence is given.
+  void VeChonSai(const std::string& body);
   void wireEvents();
   void releaseMouse(MouseButton button, SurfacePoint at);
   void drawPhrases();

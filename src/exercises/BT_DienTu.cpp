@@ -2,6 +2,7 @@
 
 #include "exercises/Blanks.h"
 #include "exercises/ItemMask.h"
+#include "exercises/ItemRecord.h"
 #include "lessons/PageColours.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
@@ -56,6 +57,19 @@ void BT_DienTu::wireEvents() {
 }
 
 // -- Drawing.
+
+void BT_DienTu::show() {
+  if (item_.LoaiBT == ItemKind::None) {
+    RDT_.Text("");
+    return;
+  }
+  item_.listsLessons = services_.run.bankListsLessons();
+  VeDienTu(TachThan(services_.state.text.CauHoi));
+}
+
+void BT_DienTu::entered() {
+  if (item_.SoGoiY > 0) HienGoiY(page_.position());
+}
 
 void BT_DienTu::VeDienTu(const std::string& body) {
   page_.begin();
@@ -163,7 +177,7 @@ void BT_DienTu::pressAfterJudging(int keyAscii) {
     return;
   }
   RDT_.SelLength(0);
-  services_.answer.KhoiPhucChu(RDT_);
+  services_.answer.keepInBlank(RDT_);
   services_.run.next();
 }
 

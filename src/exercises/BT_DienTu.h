@@ -2,25 +2,29 @@
 // once, and afterwards each blank tells its answer and its explanation.
 #pragma once
 
+#include "exercises/ItemKindPage.h"
 #include "exercises/ItemPage.h"
 #include "surface/Form.h"
 
 namespace talvora {
 
-class BT_DienTu {
+class BT_DienTu final : public ItemKindPage {
  public:
   explicit BT_DienTu(ItemServices& services);
 
-  /// Shows the item whose body is given.
-  void VeDienTu(const std::string& body);
+  [[nodiscard]] Surface& surface() const noexcept override { return RDT_; }
+  void show() override;
+  void entered() override;
+  void takeAnswerBack() override { services_.answer.keepInBlank(RDT_); }
+
   /// Judges all blanks and colours them.
   void ChamDienTu();
   /// Shows the hint of the blank at position p, from 1.
   void HienGoiY(int p);
-  /// The same for the caret's place.
-  void showHintAtCaret() { HienGoiY(page_.position()); }
 
  private:
+  /// Shows the item whose body is given.
+  void VeDienTu(const std::string& body);
   void wireEvents();
   void pressKey(int& keyCode, int shift);
   void eraseCell();

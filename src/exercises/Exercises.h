@@ -2,6 +2,7 @@
 #pragma once
 
 #include "exercises/ExplanationBox.h"
+#include "exercises/ItemKinds.h"
 #include "exercises/ItemPage.h"
 #include "exercises/ItemState.h"
 #include "exercises/ItemStore.h"
@@ -9,6 +10,7 @@
 #include "exercises/Run.h"
 #include "exercises/Scoring.h"
 #include "exercises/UnitList.h"
+#include "exercises/XepTu.h"
 #include "lessons/VanPham.h"
 #include "platform/Random.h"
 
@@ -16,13 +18,7 @@ namespace talvora {
 
 struct Exercises {
   Exercises(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-            PageServices pageServices, VanPham& lessons, Random& random)
-      : store(stores), scoring(form, state.places, state.measures), answer(controls, item),
-        box(form, controls, state, shell, pageServices, item, answer, lessons.page()),
-        units(controls, state, stores, shell, scoring),
-        words(controls, state, shell, pageServices), services{controls, state,  shell, words,
-                                                              item,     answer, box,   runCalls},
-        run(form, services, store, scoring, units, lessons, random) {}
+            PageServices pageServices, VanPham& lessons, Random& random);
   Exercises(const Exercises&) = delete;
   Exercises& operator=(const Exercises&) = delete;
 
@@ -31,10 +27,12 @@ struct Exercises {
   ItemStore store;
   Scoring scoring;
   ItemState item;
+  ItemKinds kinds;
   ModelAnswer answer;
   ExplanationBox box;
   UnitList units;
   WordHelp words;
+  XepTu ordering;
   RunCalls runCalls;
   ItemServices services;
   Run run;

@@ -31,9 +31,10 @@ std::string firstWords(const std::string& text, std::size_t count) {
 
 ExplanationBox::ExplanationBox(Form& form, Controls& controls, SharedState& state, Shell& shell,
                                PageServices services, ItemState& item, ModelAnswer& answer,
-                               LessonPage& lessons)
+                               const ItemKinds& kinds, LessonPage& lessons)
     : form_(form), controls_(controls), state_(state), shell_(shell),
-      words_(controls, state, shell, services), item_(item), answer_(answer), lessons_(lessons) {
+      words_(controls, state, shell, services), item_(item), answer_(answer), kinds_(kinds),
+      lessons_(lessons) {
   wireEvents();
 }
 
@@ -216,11 +217,11 @@ void ExplanationBox::DongGiai() {
 }
 
 void ExplanationBox::focusBehind() {
-  for (Surface* surface : {&controls_.RDT, &controls_.RABCD, &controls_.Rsai, &controls_.R2}) {
-    if (!surface->Visible()) continue;
-    surface->SetFocus();
-    return;
-  }
+  Surface* behind = controls_.R2.Visible() ? &controls_.R2 : nullptr;
+  kinds_.each([&behind](const ItemKindPage& page) {
+    if (page.explains() && page.surface().Visible()) behind = &page.surface();
+  });
+  if (behind != nullptr) behind->SetFocus();
 }
 
 void ExplanationBox::RoiChuotBT(Surface& surface, SurfacePoint at) {

@@ -32,7 +32,8 @@ class ExplanationBox {
   static constexpr std::size_t MostLinks = 1000;
 
   ExplanationBox(Form& form, Controls& controls, SharedState& state, Shell& shell,
-                 PageServices services, ItemState& item, ModelAnswer& answer, LessonPage& lessons);
+                 PageServices services, ItemState& item, ModelAnswer& answer,
+                 const ItemKinds& kinds, LessonPage& lessons);
 
   /// Explains the blank at position p, from 1, of a surface and shows its model answer.
   void GiaiThich(int p, Surface& surface);
@@ -86,6 +87,7 @@ class ExplanationBox {
   WordHelp words_;
   ItemState& item_;
   ModelAnswer& answer_;
+  const ItemKinds& kinds_;
   LessonPage& lessons_;
   std::vector<LessonLink> LienKet_;
   int itemCaret_ = 0;                     ///< caret of the surface behind the box

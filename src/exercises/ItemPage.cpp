@@ -7,8 +7,8 @@
 
 namespace talvora {
 
-ItemPage::ItemPage(Surface& surface, ItemServices& services)
-    : surface_(surface), services_(services) {
+ItemPage::ItemPage(Surface& surface, ItemServices& services, HeadingAnswers headingAnswers)
+    : surface_(surface), services_(services), headingAnswers_(headingAnswers) {
   surface.MouseMove = [this](int, SurfacePoint at) { moveMouse(at); };
   surface.MouseDown = [this](MouseButton, int, SurfacePoint) {
     services_.answer.restore(surface_);
@@ -54,8 +54,7 @@ void ItemPage::pressKey(int& keyCode, int shift) {
 void ItemPage::pressCtrl(int keyCode, int shift) {
   const int p = position();
   if (services_.item.maskAt(p) != PlainText) return;
-  const bool headingAnswers = &surface_ != &services_.controls.Rsai;
-  if (headingAnswers || services_.item.pastHeading(p)) {
+  if (headingAnswers_ == HeadingAnswers::Yes || services_.item.pastHeading(p)) {
     services_.words.showOnCtrl(keyCode, shift, surface_);
   }
 }

@@ -14,6 +14,8 @@
 
 namespace talvora {
 
+class XepTu;
+
 /// What an item asks of the run that it belongs to.
 struct RunCalls {
   /// What the links at the foot do.
@@ -23,6 +25,8 @@ struct RunCalls {
   std::function<void(Surface&)> ThoatBT = [](Surface&) {};
   /// Counts the item if it was answered right.
   std::function<void()> CongDung = [] {};
+  /// Whether the open bank's blanks are explained by the list of the verb lessons.
+  std::function<bool()> bankListsLessons = [] { return false; };
 };
 
 /// What the pages of items work with.
@@ -34,12 +38,17 @@ struct ItemServices {
   ItemState& item;
   ModelAnswer& answer;
   ExplanationBox& box;
+  XepTu& ordering;
   RunCalls& run;
 };
 
+/// Whether Ctrl shows the meaning of a word in an item's heading, too.
+enum class HeadingAnswers { No, Yes };
+
 class ItemPage {
  public:
-  ItemPage(Surface& surface, ItemServices& services);
+  ItemPage(Surface& surface, ItemServices& services,
+           HeadingAnswers headingAnswers = HeadingAnswers::Yes);
 
   /// Empties the surface and sets the look of an item's text.
   void begin();
@@ -73,6 +82,7 @@ class ItemPage {
 
   Surface& surface_;
   ItemServices& services_;
+  HeadingAnswers headingAnswers_;
 };
 
 } // namespace talvora

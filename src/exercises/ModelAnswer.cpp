@@ -31,13 +31,17 @@ void ModelAnswer::HienDapAn(int p, Colour colour, Surface& surface) {
 }
 
 void ModelAnswer::KhoiPhucChu(Surface& surface) {
-  if (&surface == &controls_.RDT) {
-    if (controls_.RVP2.Visible() || item_.ChuCu.empty()) return;
-    unbold(surface, item_);
-  } else if (!item_.ChuCu.empty()) {
+  if (!item_.ChuCu.empty()) {
     surface.write(keptRange(item_), item_.ChuCu, {.color = item_.MauCu.value_or(PageRed)});
     surface.SelLength(0);
   }
+  item_.ChuCu.clear();
+  surface.SetFocus();
+}
+
+void ModelAnswer::keepInBlank(Surface& surface) {
+  if (controls_.RVP2.Visible() || item_.ChuCu.empty()) return;
+  unbold(surface, item_);
   item_.ChuCu.clear();
   surface.SetFocus();
 }
@@ -49,15 +53,15 @@ void ModelAnswer::emphasise(Surface& surface, int caret, int length, Colour colo
   surface.SelLength(0);
 }
 
-void ModelAnswer::RoChonSai() {
+void ModelAnswer::RoChonSai(Surface& surface) {
   if (item_.ChuCu.empty()) return;
-  unbold(controls_.Rsai, item_);
+  unbold(surface, item_);
   item_.ChuCu.clear();
 }
 
 void ModelAnswer::restore(Surface& surface) {
-  if (&surface == &controls_.Rsai) {
-    RoChonSai();
+  if (ItemKindPage* const page = kinds_.on(surface)) {
+    page->takeAnswerBack();
   } else {
     KhoiPhucChu(surface);
   }

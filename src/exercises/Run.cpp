@@ -19,11 +19,11 @@ constexpr int TenseBank = 3;
 
 } // namespace
 
-Run::Run(Form& form, ItemServices& services, ItemStore& store, Scoring& scoring, UnitList& units,
-         VanPham& lessons, Random& random)
+Run::Run(Form& form, ItemServices& services, const ItemKinds& kinds, ItemStore& store,
+         Scoring& scoring, UnitList& units, VanPham& lessons, Random& random)
     : form_(form), services_(services), state_(services.state), controls_(services.controls),
-      item_(services.item), store_(store), scoring_(scoring), units_(units), lessons_(lessons),
-      random_(random), fillIn_(services), choice_(services), mistake_(services) {
+      item_(services.item), kinds_(kinds), store_(store), scoring_(scoring), units_(units),
+      lessons_(lessons), random_(random) {
   services.run.next = [this] {
     BuocLui_ = 0;
     CauKeTiep();
@@ -34,6 +34,9 @@ Run::Run(Form& form, ItemServices& services, ItemStore& store, Scoring& scoring,
   };
   services.run.ThoatBT = [this](Surface& surface) { ThoatBT(surface); };
   services.run.CongDung = [this] { CongDung(); };
+  services.run.bankListsLessons = [this] {
+    return !lessons_.BaiTuChon && (MucBT_ == ConditionalBank || MucBT_ == TenseBank);
+  };
   units.BatDauBai = [this] { BatDauBai(); };
   lessons.BatDauChon = [this] { BatDauChon(); };
   services.shell.hints.itemJudged = [this] { return item_.DaCham; };
@@ -90,7 +93,7 @@ void Run::append(int item) {
 void Run::BatDauChay() {
   if (slidesAtOnce()) controls_.Rnen3.Visible(true);
   item_.ChuCu.clear();
-  startOrdering();
+  kinds_.each([](ItemKindPage& page) { page.runBegins(); });
   if (SoCauChay_ > LongestOrderedRun) TronCau();
   BuocLui_ = 0;
   item_.MatNa.clear();
@@ -129,9 +132,9 @@ void Run::CauKeTiep() {
   DocCauHoi(n);
   DocLoiGiai(n);
   PhanTichCau();
-  services_.shell.transitions.MoRan(surfaceOfItem(),
+  services_.shell.transitions.MoRan(page().surface(),
                                     lessons_.BaiTuChon ? controls_.Frame2 : controls_.Frame1);
-  if (item_.SoGoiY > 0) fillIn_.showHintAtCaret();
+  page().entered();
 }
 
 void Run::hideItem() {
@@ -139,11 +142,9 @@ void Run::hideItem() {
   services_.box.DongGiai();
   services_.shell.upward.DongNghia();
   if (!lessons_.BaiTuChon) controls_.Frame1.Visible(false);
-  for (Control* control :
-       std::initializer_list<Control*>{&controls_.Frame2, &controls_.Frame3, &controls_.RABCD,
-                                       &controls_.Rsai, &controls_.RDT, &controls_.Rxep}) {
-    control->Visible(false);
-  }
+  controls_.Frame2.Visible(false);
+  controls_.Frame3.Visible(false);
+  kinds_.each([](const ItemKindPage& page) { page.surface().Visible(false); });
 }
 
 void Run::XoaTrangThai() {
@@ -237,50 +238,7 @@ void Run::PhanTichCau() {
     item_.GoiY = TachGoiY(CauHoi);
     item_.SoGoiY = static_cast<int>(item_.GoiY.size());
   }
-  VaoBaiTap();
-}
-
-void Run::VaoBaiTap() {
-  std::string& CauHoi = state_.text.CauHoi;
-  switch (item_.LoaiBT) {
-  case ItemKind::Choice: {
-    const std::string stem = TachThan(CauHoi);
-    item_.GoiY = TachPhuongAn(CauHoi);
-    item_.DapAnDung = keyOf(CauHoi);
-    choice_.VeABCD(stem);
-    break;
-  }
-  case ItemKind::Mistake: {
-    const std::string body = TachThan(CauHoi);
-    item_.DapAnDung = keyOf(CauHoi);
-    mistake_.VeChonSai(body);
-    break;
-  }
-  case ItemKind::Ordering:
-    VaoXepTu(item_.LoiGiai);
-    break;
-  case ItemKind::FillIn:
-  case ItemKind::FillInHints:
-    item_.listsLessons = !lessons_.BaiTuChon && (MucBT_ == ConditionalBank || MucBT_ == TenseBank);
-    fillIn_.VeDienTu(TachThan(CauHoi));
-    break;
-  case ItemKind::None:
-    controls_.RDT.Text("");
-    break;
-  }
-}
-
-Surface& Run::surfaceOfItem() {
-  switch (item_.LoaiBT) {
-  case ItemKind::Choice:
-    return controls_.RABCD;
-  case ItemKind::Mistake:
-    return controls_.Rsai;
-  case ItemKind::Ordering:
-    return controls_.Rxep;
-  default:
-    return controls_.RDT;
-  }
+  page().show();
 }
 
 void Run::declare(Variables& variables) const {
@@ -293,7 +251,7 @@ void Run::declare(Variables& variables) const {
   variables.add("BuocLui", &BuocLui_);
   variables.add("MucBT", &MucBT_);
   variables.add("SoCauBT", &SoCauBT_);
-  choice_.declare(variables);
+  kinds_.each([&variables](const ItemKindPage& page) { page.declare(variables); });
 }
 
 } // namespace talvora

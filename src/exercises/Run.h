@@ -2,9 +2,8 @@
 // item by item.
 #pragma once
 
-#include "exercises/BT_ChonABCD_.h"
-#include "exercises/BT_Chonsai.h"
-#include "exercises/BT_DienTu.h"
+#include "exercises/ItemKinds.h"
+#include "exercises/ItemPage.h"
 #include "exercises/ItemStore.h"
 #include "exercises/Scoring.h"
 #include "exercises/UnitList.h"
@@ -14,7 +13,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 
 namespace talvora {
 
@@ -22,8 +20,8 @@ class Run {
  public:
   static constexpr std::size_t MostItems = 2642;
 
-  Run(Form& form, ItemServices& services, ItemStore& store, Scoring& scoring, UnitList& units,
-      VanPham& lessons, Random& random);
+  Run(Form& form, ItemServices& services, const ItemKinds& kinds, ItemStore& store,
+      Scoring& scoring, UnitList& units, VanPham& lessons, Random& random);
 
   /// Opens bank k, 1 to 9, as a list of units.
   void MoMuc(int k);
@@ -43,12 +41,6 @@ class Run {
 
   void declare(Variables& variables) const;
 
-  /// Opens an ordering item: `CauHoi` holds its body, the answer record is given; set by the
-  /// program.
-  std::function<void(const std::string& LoiGiai)> VaoXepTu = [](const std::string&) {};
-  /// A run begins: no ordering item of it was opened yet; set by the program.
-  std::function<void()> startOrdering = [] {};
-
  private:
   void BatDauChay();
   void TronCau();
@@ -64,8 +56,7 @@ class Run {
   void DocCauHoi(int n);
   void DocLoiGiai(int n);
   void PhanTichCau();
-  void VaoBaiTap();
-  [[nodiscard]] Surface& surfaceOfItem();
+  [[nodiscard]] ItemKindPage& page() const { return kinds_.of(item_.LoaiBT); }
   [[nodiscard]] bool slidesAtOnce() const noexcept;
 
   Form& form_;
@@ -73,14 +64,12 @@ class Run {
   SharedState& state_;
   Controls& controls_;
   ItemState& item_;
+  const ItemKinds& kinds_;
   ItemStore& store_;
   Scoring& scoring_;
   UnitList& units_;
   VanPham& lessons_;
   Random& random_;
-  BT_DienTu fillIn_;
-  BT_ChonABCD_ choice_;
-  BT_Chonsai mistake_;
 
   std::array<std::int16_t, MostItems + 1> DanhSachCau_{}; ///< item numbers, from 1
   int SoCauChay_ = 0;

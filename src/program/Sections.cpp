@@ -13,15 +13,13 @@ Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedSta
       reading_(controls, state, stores, shell, services, platform.clock, own),
       lessons_(controls, state, stores, shell, services),
       exercises_(form, controls, state, stores, shell, services, lessons_, platform.random),
-      ordering_(controls, state, stores, shell, services, platform.random, exercises_.item.links),
       listening_(form, controls, state, stores, shell, services, platform.random, exercises_.units,
                  exercises_.scoring, exercises_.item),
       dictation_(form, controls, state, stores, shell, services, platform.clock),
-      writing_(form, controls, state, stores, shell, services, ordering_),
+      writing_(form, controls, state, stores, shell, services, exercises_.ordering),
       analysis_(state, stores, shell, exercises_.item), guide_(controls, state, stores, shell) {
   wireFocus();
-  wireOrdering();
-  wireDictation();
+  wireDrills();
   wireAnalysis();
 }
 
@@ -37,23 +35,8 @@ void Sections::wireFocus() {
   writing_.focusButton = focusButton;
 }
 
-void Sections::wireOrdering() {
-  Run& run = exercises_.run;
-  run.VaoXepTu = [this](const std::string& LoiGiai) { ordering_.VaoXepTu(LoiGiai); };
-  run.startOrdering = [this] { ordering_.startRun(); };
-  ordering_.run.BaiTuChon = [this] { return lessons_.BaiTuChon; };
-  ordering_.run.SoCauChay = [&run] { return run.SoCauChay(); };
-  ordering_.run.CauKeTiep = [&run] { run.CauKeTiep(); };
-  ordering_.run.ThoatBT = [&run](Surface& surface) { run.ThoatBT(surface); };
-  ordering_.run.clearChuCu = [this] { exercises_.item.ChuCu.clear(); };
-  ordering_.run.BoChonBai = [this] {
-    lessons_.BoChonBai();
-    exercises_.scoring.ChuPhu();
-  };
-  reading_.page().GoiRxep = [this] { ordering_.openFromText(); };
-}
-
-void Sections::wireDictation() {
+void Sections::wireDrills() {
+  reading_.page().GoiRxep = [this] { exercises_.ordering.openFromText(); };
   reading_.MoNgheViet = [this] { dictation_.MoNgheViet(); };
   dictation_.ChonDongR1 = [this] { reading_.ChonDongR1(controls_.R1); };
   dictation_.BongLoiGiai = [this] { exercises_.box.BongLoiGiai(); };
@@ -95,7 +78,6 @@ void Sections::declare(Variables& variables) const {
   reading_.declare(variables);
   lessons_.declare(variables);
   exercises_.declare(variables);
-  ordering_.declare(variables);
   listening_.declare(variables);
   dictation_.declare(variables);
   analysis_.declare(variables);

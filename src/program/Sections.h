@@ -5,7 +5,6 @@
 #include "dictionary/Dictionary.h"
 #include "dictionary/VietnameseSide.h"
 #include "exercises/Exercises.h"
-#include "exercises/XepTu.h"
 #include "lessons/VanPham.h"
 #include "listening/Listening.h"
 #include "listening/NGHE_VIET.h"
@@ -49,8 +48,7 @@ class Sections {
 
  private:
   void wireFocus();
-  void wireOrdering();
-  void wireDictation();
+  void wireDrills();
   void wireAnalysis();
   /// Opens a section that begins with a list of texts.
   void openTexts(int section, int store);
@@ -66,7 +64,6 @@ class Sections {
   Reading reading_;
   VanPham lessons_;
   Exercises exercises_;
-  XepTu ordering_;
   Listening listening_;
   NGHE_VIET dictation_;
   Writing writing_;

@@ -328,15 +328,12 @@ TEST(Items, AnOrderingItemIsHandedOnWithItsTranslations) {
   stores.counts = {{1, 25}};
   stores.items = copies(25, {"300_He is very good.", "_Anh.\r?12\r"});
   ItemRun run(stores);
-  std::string answer;
-  std::string question;
-  run.exercises.run.VaoXepTu = [&](const std::string& LoiGiai) {
-    answer = LoiGiai;
-    question = run.state.text.CauHoi;
-  };
   run.startUnit();
-  EXPECT_EQ(question, "_He is very good.");
-  EXPECT_EQ(answer, "_Anh.\r") << "a reference ends the record";
+  EXPECT_EQ(run.state.text.CauHoi, "\xA0He is very good.\xA0"
+                                   "end.")
+      << "the question is the drill's text";
+  EXPECT_EQ(run.item.LoiGiai, "_Anh.\r") << "a reference ends the record";
+  EXPECT_THAT(run.controls.Rxep.Text(), testing::HasSubstr("Anh."));
   EXPECT_TRUE(run.controls.Rxep.Visible());
 }
 
