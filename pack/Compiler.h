@@ -8,12 +8,12 @@
 #include "pack/ListeningSource.h"
 #include "pack/OwnRecording.h"
 #include "pack/PackFile.h"
+#include "pack/Progress.h"
 #include "pack/ReadingSource.h"
 #include "pack/VietnameseSide.h"
 #include "sound/Pronunciations.h"
 
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -34,9 +34,6 @@ struct Options {
   /// made.
   std::optional<std::filesystem::path> earlierPack = std::nullopt;
 };
-
-/// Is told the name of each step as it begins.
-using Progress = std::function<void(std::string_view step)>;
 
 /// A content tree as read.
 struct Content {

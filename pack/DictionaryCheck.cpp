@@ -1,6 +1,7 @@
 // The rules of the dictionary, one procedure each.
 #include "pack/DictionaryCheck.h"
 
+#include "pack/EntryLines.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "sound/Pronunciations.h"

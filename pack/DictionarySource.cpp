@@ -1,6 +1,7 @@
 // Parsing and writing of dictionary sources.
 #include "pack/DictionarySource.h"
 
+#include "pack/EntryNotation.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/CharClass.h"

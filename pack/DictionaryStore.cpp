@@ -3,6 +3,7 @@
 
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
+#include "pack/EntryNotation.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 

@@ -1,4 +1,4 @@
-// Senses of a word and the notation of dictionary entries.
+// Senses of a word, as dictionary entries tell them.
 #pragma once
 
 #include <array>
@@ -126,32 +126,6 @@ struct EntryBlock {
 
 /// The levels that a head word can have.
 inline constexpr std::array<std::string_view, 5> Levels = {"A1", "A2", "B1", "B2", "C1"};
-
-enum class Examples { With, Without };
-
-/// Senses in entry notation: each on a line of its own, the class blue ahead of it. Senses that are
-/// numbered share the name of their class. Without examples the patterns are left out as well.
-[[nodiscard]] std::string entryLines(const std::vector<Sense>& senses, Examples examples);
-
-/// A block in entry notation: its senses, and its phrases below those of its first class.
-[[nodiscard]] std::string blockLines(const EntryBlock& block);
-
-/// What stands behind a head word: "/gou/ (went, gone) A1". What is empty is left out.
-[[nodiscard]] std::string headDetails(const EntryBlock& block);
-
-/// Where the pattern of a sense begins, at the ": " ahead of it; the end when there is none. A
-/// colon within brackets is part of the gloss.
-[[nodiscard]] std::size_t patternIn(std::string_view sense);
-
-/// What entry notation holds of a head word itself.
-struct OwnNotation {
-  std::vector<EntryBlock> blocks;
-  bool formsFirst = false; ///< the word of which it is a form stands ahead of them
-};
-
-/// Reads entry notation; there are no blocks when the word is only a form or built from other
-/// words, or explained in English.
-[[nodiscard]] OwnNotation readOwnNotation(std::string_view entry, std::string_view head);
 
 /// The marks that entry notation or a stream gives a meaning; no sense may hold them.
 inline constexpr std::string_view EntryMarks = "_`@|*#^~<>{}[]\\";

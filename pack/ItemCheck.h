@@ -1,7 +1,7 @@
 // What must be right about an item as a whole, when each of its lines is.
 #pragma once
 
-#include "pack/ItemSource.h"
+#include "pack/Item.h"
 #include "pack/ItemText.h"
 
 namespace talvora::pack {

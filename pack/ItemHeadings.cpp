@@ -1,5 +1,4 @@
-// The names of the headings of items.
-#include "pack/ItemSource.h"
+#include "pack/ItemHeadings.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // The words and signs by which the source of an item is built up.
 #pragma once
 
-#include "pack/ItemSource.h"
+#include "pack/Item.h"
 #include "pack/ItemText.h"
 
 #include <array>

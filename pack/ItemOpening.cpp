@@ -1,6 +1,7 @@
 // Kinds and headings of items.
 #include "pack/ItemOpening.h"
 
+#include "pack/ItemHeadings.h"
 #include "pack/ItemNotation.h"
 #include "pack/NearestName.h"
 #include "text/Text.h"

@@ -1,8 +1,8 @@
 // The first line of an item: "item: KIND, HEADING".
 #pragma once
 
+#include "pack/Item.h"
 #include "pack/ItemKeys.h"
-#include "pack/ItemSource.h"
 #include "pack/SourceFile.h"
 
 #include <optional>

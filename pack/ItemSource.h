@@ -1,56 +1,13 @@
-// Exercise items as a teacher writes them: kind, heading, hints, question, options, explanations.
+// Files of exercise items as a teacher writes them.
 #pragma once
 
-#include "pack/MarkedLine.h"
-#include "pack/Problems.h"
+#include "pack/Item.h"
 
-#include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace talvora::pack {
-
-enum class ItemForm { Choice = 1, Mistake = 2, Order = 3, Fill = 4 };
-
-/// Where items stand: the headings differ.
-enum class ItemPlace { Bank, Lesson };
-
-/// What explains the blanks of fill-in items: the items themselves, or the list of the verb lessons
-/// that the program shows for two of the banks.
-enum class BlankHelp { Own, VerbLessons };
-
-/// A line of an explanation: text, or a reference to a lesson by its title.
-struct ExplanationLine {
-  MarkedLine text;       ///< for a reference its title
-  bool refersTo = false; ///< the line refers to a lesson
-  Where where;
-};
-
-using ExplanationLines = std::vector<ExplanationLine>;
-
-/// The lesson that an item is said to practise, by its title.
-struct Subject {
-  std::string title; ///< empty for none
-  Where where;
-};
-
-/// An item; texts in the text font's bytes.
-struct Item {
-  Where where;    ///< of its first line
-  std::string id; ///< a name to cite it by; empty for none
-  Subject about;  ///< the lesson it practises
-  ItemForm form = ItemForm::Fill;
-  int heading = 0; ///< its code; 0 for none
-  std::vector<std::string> hints;
-  std::string question; ///< as stored; of an ordering item its sentences
-  std::vector<std::string> options;
-  int key = 0; ///< number of the right option or the wrong phrase, from 1
-  std::vector<std::string> translations;
-  ExplanationLines general;
-  std::map<int, ExplanationLines> explanations; ///< by number of the blank, option or phrase
-};
 
 /// Parses a file of items; what is wrong is reported.
 [[nodiscard]] std::vector<Item> parseItems(std::string_view text, const std::string& file,
@@ -58,12 +15,5 @@ struct Item {
 
 /// The source of items, as `parseItems` reads it.
 [[nodiscard]] std::string writeItems(const std::vector<Item>& items, ItemPlace place);
-
-/// The code of a heading's name; empty when there is none of that name.
-[[nodiscard]] std::optional<int> headingCode(std::string_view name, ItemPlace place);
-/// The names that may be used, in the order of their codes.
-[[nodiscard]] std::vector<std::string> headingNames(ItemPlace place);
-/// The name of a heading code; "none" for a code without one.
-[[nodiscard]] std::string headingName(int code, ItemPlace place);
 
 } // namespace talvora::pack

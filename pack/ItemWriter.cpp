@@ -1,4 +1,5 @@
 // Writing of exercise items.
+#include "pack/ItemHeadings.h"
 #include "pack/ItemNotation.h"
 #include "pack/ItemSource.h"
 #include "pack/ItemText.h"

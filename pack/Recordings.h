@@ -2,9 +2,9 @@
 #pragma once
 
 #include "formats/Limits.h"
-#include "pack/Compiler.h"
 #include "pack/OwnRecording.h"
 #include "pack/PackFile.h"
+#include "pack/Progress.h"
 #include "pack/ReadingSource.h"
 #include "pack/Voice.h"
 

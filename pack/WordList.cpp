@@ -1,6 +1,7 @@
 // The word list and the entries of its words.
 #include "pack/WordList.h"
 
+#include "pack/EntryLines.h"
 #include "text/WordForm.h"
 
 #include <algorithm>

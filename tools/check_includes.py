@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks the order of the house: no include goes up a floor, and none goes in a circle.
+"""Checks the order of the house: no include goes up a floor, and none goes in a circle, neither
+from file to file nor from component to component (a header and its source are one).
 
 usage: check_includes.py [REPOSITORY]
 
@@ -79,11 +80,24 @@ def circle_from(start, graph):
 def circles_of(graph):
     """One line for each circle, named by its first member."""
     told = set()
+    lines = []
     for name in sorted(graph):
         circle = circle_from(name, graph)
         if circle and frozenset(circle) not in told:
             told.add(frozenset(circle))
-            yield f"{name}: includes itself: " + " > ".join(map(str, circle))
+            lines.append(f"{name}: includes itself: " + " > ".join(map(str, circle)))
+    return lines
+
+
+def components_of(graph):
+    """The same graph with headers and their sources as one, by the path without its ending."""
+    components = {}
+    for path, targets in graph.items():
+        of = components.setdefault(path.with_suffix(""), set())
+        of |= {target.with_suffix("") for target in targets}
+    for name, targets in components.items():
+        targets.discard(name)
+    return components
 
 
 def main():
@@ -110,7 +124,7 @@ def main():
                 faults.append(f"{path}:{number}: includes {target}, which stands on a higher floor")
             if path.parts[0] == "src" and target.parts[0] != "src":
                 faults.append(f"{path}:{number}: includes {target}, which is no part of the program")
-    faults += circles_of(graph)
+    faults += circles_of(graph) or circles_of(components_of(graph))
     print("\n".join(faults) if faults else f"include order: {files} files, all in order")
     return 1 if faults else 0
 

@@ -10,6 +10,7 @@
 #include "desktop/PageNames.h"
 #include "desktop/Palette.h"
 #include "desktop/SurfaceView.h"
+#include "desktop/Teller.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -20,27 +21,11 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
-#include <string>
 #include <utility>
 
 namespace talvora {
 
 namespace {
-
-// Of a longer text changes are not told, since finding them would take too long.
-constexpr int LongestTold = 100000;
-constexpr int LongestAnnounced = 600;
-
-/// The letters between two carets, one UTF-16 unit a caret; line ends are line ends.
-QString lettersOf(const Surface& surface, int from, int to) {
-  const std::string bytes = surface.TextBetween(from, to);
-  QString letters = unitsOf(bytes, surface.Font().name);
-  for (std::size_t at = bytes.find('\r'); at < bytes.size(); at = bytes.find('\r', at + 1)) {
-    letters[static_cast<qsizetype>(at)] = QLatin1Char('\n');
-  }
-  return letters;
-}
 
 /// Asks for a deed as a key or a click would: it waits while the program sleeps.
 void ask(QWidget& view, std::function<void()> deed) {
@@ -289,65 +274,6 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
 
 void installAccessibility() {
   QAccessible::installFactory(interfaceOf);
-}
-
-void tellFocus(ControlView& view) {
-  if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(&view, QAccessible::Focus);
-  QAccessible::updateAccessibility(&event);
-}
-
-void TextTeller::tell() {
-  if (!QAccessible::isActive()) return;
-  const Surface& surface = view_.surface();
-  if (revision_ != surface.revision()) {
-    revision_ = surface.revision();
-    tellText();
-  }
-  const bool caretMoved = std::exchange(caret_, surface.SelStart()) != surface.SelStart();
-  const int selectedBefore = std::exchange(selected_, surface.SelLength());
-  if (selected_ != selectedBefore || (caretMoved && selected_ > 0)) {
-    QAccessibleTextSelectionEvent event(&view_, caret_, caret_ + selected_);
-    event.setCursorPosition(caret_);
-    QAccessible::updateAccessibility(&event);
-  }
-  if (caretMoved) {
-    QAccessibleTextCursorEvent event(&view_, caret_);
-    QAccessible::updateAccessibility(&event);
-  }
-}
-
-void Announcer::tell(const QString& text) {
-  if (text.trimmed().isEmpty()) return;
-  setAccessibleName(text.trimmed().left(LongestAnnounced));
-  if (!QAccessible::isActive()) return;
-  // A note that comes up anew is read out.
-  for (const QAccessible::Event kind : {QAccessible::ObjectHide, QAccessible::ObjectShow}) {
-    QAccessibleEvent event(this, kind);
-    QAccessible::updateAccessibility(&event);
-  }
-}
-
-QString announcementOf(const Surface& surface) {
-  return lettersOf(surface, 0, std::min(surface.TextLength(), LongestAnnounced));
-}
-
-void TextTeller::tellText() {
-  const Surface& surface = view_.surface();
-  if (surface.TextLength() > LongestTold) return;
-  const QString before = std::exchange(text_, lettersOf(surface, 0, surface.TextLength()));
-  const auto fromStart = std::mismatch(before.begin(), before.end(), text_.begin(), text_.end());
-  const auto same = std::distance(before.begin(), fromStart.first);
-  const auto oldRest = before.mid(same);
-  const auto newRest = text_.mid(same);
-  const auto fromEnd =
-      std::mismatch(oldRest.rbegin(), oldRest.rend(), newRest.rbegin(), newRest.rend());
-  const QString removed = oldRest.chopped(std::distance(oldRest.rbegin(), fromEnd.first));
-  const QString added = newRest.chopped(std::distance(newRest.rbegin(), fromEnd.second));
-  if (removed.isEmpty() && added.isEmpty()) return;
-  QAccessibleTextUpdateEvent event(&view_, static_cast<int>(same), removed, added);
-  event.setCursorPosition(surface.SelStart());
-  QAccessible::updateAccessibility(&event);
 }
 
 } // namespace talvora

@@ -1,6 +1,5 @@
 #include "desktop/FormView.h"
 
-#include "desktop/Accessibility.h"
 #include "desktop/ButtonMeaning.h"
 #include "desktop/DeedEvent.h"
 #include "desktop/HintBarView.h"
@@ -9,6 +8,7 @@
 #include "desktop/Palette.h"
 #include "desktop/PlainViews.h"
 #include "desktop/SurfaceView.h"
+#include "desktop/Teller.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
@@ -39,7 +39,6 @@ FormView::FormView(Form& form, FormInput& input, EventBridge& bridge, QtLineLayo
   setMouseTracking(true);
   setAutoFillBackground(true);
   setPalette(QPalette(QColor(palette::Letterbox)));
-  installAccessibility();
   form_.observe(this);
 }
 

@@ -28,7 +28,7 @@ constexpr int DarkBelow = 128;
 
 SurfaceView::SurfaceView(Surface& surface, QtLineLayout& layout, const Form& form, QWidget* parent)
     : ControlView(surface, parent), surface_(surface), layout_(layout), form_(form),
-      bar_(surface, layout), look_(lookOf(surface)), teller_(*this) {
+      bar_(surface, layout), look_(lookOf(surface)), teller_(*this, surface) {
   if (!isRounded()) setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

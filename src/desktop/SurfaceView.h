@@ -2,11 +2,11 @@
 // line, and the scroll bar.
 #pragma once
 
-#include "desktop/Accessibility.h"
 #include "desktop/ControlView.h"
 #include "desktop/PageLook.h"
 #include "desktop/QtLineLayout.h"
 #include "desktop/ScrollBar.h"
+#include "desktop/Teller.h"
 #include "surface/Form.h"
 #include "surface/Surface.h"
 

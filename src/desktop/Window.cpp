@@ -1,5 +1,6 @@
 #include "desktop/Window.h"
 
+#include "desktop/Accessibility.h"
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/KeyCodes.h"
@@ -69,6 +70,7 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   setWindowFlag(Qt::FramelessWindowHint);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
+  installAccessibility();
   view_ =
       new FormView(program.form(), program.input(), bridge, machine.layout, // NOLINT: Qt owns it
                    this);

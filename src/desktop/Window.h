@@ -2,12 +2,12 @@
 // form, and the keyboard.
 #pragma once
 
-#include "desktop/Accessibility.h"
 #include "desktop/CaptionStrip.h"
 #include "desktop/DesktopMachine.h"
 #include "desktop/EventBridge.h"
 #include "desktop/FontWarmer.h"
 #include "desktop/FormView.h"
+#include "desktop/Teller.h"
 #include "program/Program.h"
 
 #include <QElapsedTimer>

@@ -23,6 +23,7 @@ set(TALVORA_VIEW_SOURCES
   ScrollMouse.cpp
   Shadow.cpp
   SurfaceView.cpp
+  Teller.cpp
   TextShaper.cpp
   ${TALVORA_FONT_RESOURCES}
 )

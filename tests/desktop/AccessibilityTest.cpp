@@ -5,6 +5,7 @@
 #include "desktop/FormView.h"
 #include "desktop/InputGate.h"
 #include "desktop/KeyCodes.h"
+#include "desktop/Teller.h"
 #include "desktop/Window.h"
 #include "program/Program.h"
 #include "surface/Controls.h"
@@ -23,6 +24,7 @@ namespace {
 class OfferedForm : public ::testing::Test {
  protected:
   OfferedForm() {
+    installAccessibility();
     QAccessible::setActive(true);
     for (Surface* surface : {&controls.R2, &controls.Rnen}) {
       surface->Width(9000);

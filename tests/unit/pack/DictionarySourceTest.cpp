@@ -1,6 +1,8 @@
 // Dictionary sources and entry notation.
 #include "pack/DictionarySource.h"
 
+#include "pack/EntryLines.h"
+#include "pack/EntryNotation.h"
 #include "pack/StreamText.h"
 
 #include <gtest/gtest.h>

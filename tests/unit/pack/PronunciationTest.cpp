@@ -1,4 +1,5 @@
 // How words are said: the source, the notation, and what the voice is told.
+#include "pack/EntryLines.h"
 #include "pack/PhonesReport.h"
 #include "pack/Pronouncer.h"
 #include "pack/StreamText.h"

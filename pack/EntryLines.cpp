@@ -1,5 +1,4 @@
-// Writing of entry notation.
-#include "pack/Entry.h"
+#include "pack/EntryLines.h"
 
 #include "pack/EntryNotation.h"
 #include "pack/StreamText.h"
