@@ -28,14 +28,15 @@ constexpr unsigned char windows1252Byte(char32_t codePoint) {
   throw "a character that Windows-1252 does not have";
 }
 
-/// A UTF-8 string literal as a template argument, turned into bytes.
+/// A UTF-8 string literal turned into bytes; no letter takes more of them than in UTF-8.
 template <std::size_t Size>
-struct ByteLiteral {
+struct LiteralBytes {
   std::array<char, Size> bytes{};
   std::size_t length = 0;
 
-  // Implicit: the literal operator's template argument is made from the string itself.
-  consteval ByteLiteral(const char (&utf8)[Size]) { // NOLINT(google-explicit-constructor)
+  /// `encode` gives the bytes of a code point.
+  template <class Encode>
+  consteval void fill(const char (&utf8)[Size], Encode encode) {
     std::size_t at = 0;
     while (at + 1 < Size) {
       const auto first = static_cast<unsigned char>(utf8[at]);
@@ -44,9 +45,21 @@ struct ByteLiteral {
       for (std::size_t tail = 1; tail < count; ++tail) {
         codePoint = codePoint << 6 | (static_cast<unsigned char>(utf8[at + tail]) & 0x3FU);
       }
-      bytes[length++] = static_cast<char>(windows1252Byte(codePoint));
+      for (const char byte : encode(codePoint))
+        bytes[length++] = byte;
       at += count;
     }
+  }
+};
+
+/// Such a literal as a template argument.
+template <std::size_t Size>
+struct ByteLiteral : LiteralBytes<Size> {
+  // Implicit: the literal operator's template argument is made from the string itself.
+  consteval ByteLiteral(const char (&utf8)[Size]) { // NOLINT(google-explicit-constructor)
+    this->fill(utf8, [](char32_t codePoint) {
+      return std::array{static_cast<char>(windows1252Byte(codePoint))};
+    });
   }
 };
 
