@@ -2,8 +2,8 @@
 
 #include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
-#include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 #include "text/WordForm.h"
 
 #include <algorithm>
@@ -110,7 +110,7 @@ void VietnameseSide::HienTuD(Surface& surface) {
   const std::string key = lower(word.TuHienTai);
   TimTuD(key);
   if (word.NghiaD.empty()) return;
-  if (word.NghiaD == "?") word.NghiaD = "Không tìm thÍy!"_bytes;
+  if (word.NghiaD == "?") word.NghiaD = "Không tìm thấy!"_x1;
   word.NghiaD = trim(word.NghiaD);
   capitaliseI(key);
   writeEntry();

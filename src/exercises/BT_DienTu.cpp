@@ -6,6 +6,7 @@
 #include "lessons/PageColours.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <utility>
 
@@ -109,11 +110,11 @@ void BT_DienTu::HienGoiY(int p) {
   RDOS.SelAlignment(Alignment::Centred);
   RDOS.SelFontSize(services_.state.measures.CoChu);
   RDOS.SelColor(BodyColour);
-  RDOS.SelText("ÐiÈn däng ðúng cûa  "_bytes);
+  RDOS.SelText("Điền dạng đúng của  "_x1);
   RDOS.SelColor(PageRed);
   RDOS.SelText(item_.hint(blank));
   RDOS.SelColor(BodyColour);
-  RDOS.SelText("  vào chÕ trÓng."_bytes);
+  RDOS.SelText("  vào chỗ trống."_x1);
   RDOS.Visible(true);
 }
 

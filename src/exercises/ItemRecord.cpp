@@ -3,6 +3,7 @@
 #include "shell/Names.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 
@@ -135,7 +136,7 @@ std::string ThayTenBai(std::string_view text, std::span<const std::string> title
     const auto number = static_cast<std::size_t>(SoTrongTen(digits));
     const bool ended = end < text.size();
     if (number > 0 && number < titles.size()) {
-      if (!announced) result += "NhÍp chuÖt ðÇ xem:\r"_bytes;
+      if (!announced) result += "Nhấp chuột để xem:\r"_x1;
       announced = true;
       result += '`' + titles[number];
       if (ended) result += '\r';

@@ -4,8 +4,8 @@
 #include "formats/PackFiles.h"
 #include "lessons/PageColours.h"
 #include "surface/SectionNumbers.h"
-#include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <utility>
@@ -64,7 +64,7 @@ void UnitList::HienBT(int SoCauBT) {
 }
 
 void UnitList::LietKeBai(int units) {
-  writeList(units, "Bài TÏp "_bytes);
+  writeList(units, "Bài Tập "_x1);
 }
 
 void UnitList::LietKeUnit() {

@@ -1,8 +1,8 @@
 #include "exercises/XepTu.h"
 
 #include "exercises/WordOrder.h"
-#include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <utility>
@@ -162,7 +162,7 @@ void XepTu::writeTask(Surface& surface) {
   surface.SelColor(BodyColour);
   surface.SelAlignment(Alignment::Centred);
   surface.SelBold(state_.measures.largeScreen());
-  surface.SelText("XÉp ðúng các tÙ trong câu TiÉng Anh."_bytes);
+  surface.SelText("Xếp đúng các từ trong câu Tiếng Anh."_x1);
   surface.SelText("\r\r");
   surface.SelColor(HeadingColour);
   surface.SelAlignment(Alignment::Left);

@@ -1,6 +1,6 @@
 #include "listening/Listening.h"
 
-#include "text/Bytes.h"
+#include "text/Vietnamese.h"
 
 namespace talvora {
 
@@ -77,7 +77,7 @@ void Listening::MoBaiNghe() {
   UnitNghe_ = state_.list.SoBaiChon;
   countItems();
   if (order_.SoCauUnit == 0) {
-    shell_.messages.ThongBao("Bài này chŸa có câu ðÇ nghe."_bytes, EmptyUnitMessageMs);
+    shell_.messages.ThongBao("Bài này chưa có câu để nghe."_x1, EmptyUnitMessageMs);
     controls_.RN1.SetFocus();
     shell_.steering.ChonDong();
     return;

@@ -5,8 +5,8 @@
 #include "shell/FirstRun.h"
 #include "shell/Names.h"
 #include "stores/ByteCode.h"
-#include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 #include "text/WordForm.h"
 
 #include <utility>
@@ -161,7 +161,7 @@ void E::Main() {
   state_.places.waitkd = false;
   state_.places.DangBan = false;
   if (!own_.words.storing()) {
-    shell_.messages.ThongBao("Không ghi ðŸ¢c vào thŸ müc cûa bän: lÌn này không lŸu gì."_bytes,
+    shell_.messages.ThongBao("Không ghi được vào thư mục của bạn: lần này không lưu gì."_x1,
                              NotStoringMs);
   }
   shell_.steering.pointAtButton(1);
@@ -216,7 +216,7 @@ void E::closeWindow() {
 bool E::mayLeave() {
   keep();
   if (own_.words.safe() || !own_.words.storing()) return true;
-  return shell_.messages.XacNhan("TÙ vÜng chŸa ghi ðŸ¢c vào ðña. VÑn thoát?"_bytes, "no");
+  return shell_.messages.XacNhan("Từ vựng chưa ghi được vào đĩa. Vẫn thoát?"_x1, "no");
 }
 
 void E::quit() {

@@ -2,7 +2,7 @@
 
 #include "exercises/ItemRecord.h"
 #include "surface/SectionNumbers.h"
-#include "text/Bytes.h"
+#include "text/Vietnamese.h"
 
 namespace talvora {
 
@@ -88,7 +88,7 @@ void Sections::declare(Variables& variables) const {
 void Sections::open(int button) {
   if (button == section::Writing) {
     // The closed section answers also while the program is busy; that is meant.
-    shell_.messages.ThongBao("PhÌn này ðang xây dÜng."_bytes, 1000);
+    shell_.messages.ThongBao("Phần này đang xây dựng."_x1, 1000);
     return;
   }
   if (state_.places.DangBan) return;

@@ -3,6 +3,7 @@
 #include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <array>
@@ -65,7 +66,7 @@ void TuVungChon::store() {
 void TuVungChon::tellOfProblem() {
   if (!DaDoiTuVung_ || !words_.storing()) return;
   shell_.messages.tell(
-      "ChŸa ghi ðŸ¢c tÙ vÜng vào ðña. ChŸ×ng trình giØ các tÙ và sç ghi läi sau."_bytes);
+      "Chưa ghi được từ vựng vào đĩa. Chương trình giữ các từ và sẽ ghi lại sau."_x1);
 }
 
 bool TuVungChon::CoTuVung() {
@@ -110,7 +111,7 @@ void TuVungChon::open() {
   stores_.ChonKho(file::TextPositions);
   ensureListBuilt();
   if (TuVung_.empty()) {
-    shell_.messages.ThongBao("Bän chŸa chön tÙ vÜng trong bài ðöc."_bytes, 2000);
+    shell_.messages.ThongBao("Bạn chưa chọn từ vựng trong bài đọc."_x1, 2000);
     leaveList();
     return;
   }

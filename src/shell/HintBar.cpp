@@ -2,8 +2,8 @@
 
 #include "shell/HintTexts.h"
 #include "surface/SectionNumbers.h"
-#include "text/Bytes.h"
 #include "text/Rounding.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 
@@ -114,11 +114,11 @@ void HintBar::GoiYF2() {
   clear();
   Surface& RDOS = controls_.RDOS;
   RDOS.SelColor(Blue);
-  RDOS.SelText("NhÍn Phím "_bytes);
+  RDOS.SelText("Nhấn Phím "_x1);
   RDOS.SelColor(Red);
   RDOS.SelText("F2");
   RDOS.SelColor(Blue);
-  RDOS.SelText(" ðÇ xem cách sÛ düng trong möi lúc."_bytes);
+  RDOS.SelText(" để xem cách sử dụng trong mọi lúc."_x1);
   RDOS.Visible(true);
   ++DemGoiYF2;
 }
@@ -129,9 +129,9 @@ void HintBar::GoiYNghe() {
   clear();
   Surface& RDOS = controls_.RDOS;
   RDOS.SelColor(Blue);
-  RDOS.SelText("Møi tên Trái=Nghe läi;  Møi tên phåi/xuÓng=TÝi"_bytes);
+  RDOS.SelText("Mũi tên Trái=Nghe lại;  Mũi tên phải/xuống=Tới"_x1);
   RDOS.SelText('\r');
-  RDOS.SelText("Møi tên lên=Lui;      ESC = thoát"_bytes);
+  RDOS.SelText("Mũi tên lên=Lui;      ESC = thoát"_x1);
   RDOSCao();
   RDOS.Visible(true);
 }

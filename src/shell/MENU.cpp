@@ -1,7 +1,7 @@
 #include "shell/MENU.h"
 
-#include "text/Bytes.h"
 #include "text/Rounding.h"
+#include "text/Vietnamese.h"
 
 #include <array>
 #include <string>
@@ -20,24 +20,24 @@ constexpr std::array<int, Controls::ButtonCount> AppearingOrder = {
 
 void MENU::setCaptions() {
   const std::array<std::string_view, Controls::ButtonCount> captions = {
-      "BAØI ÑOÏC"_bytes,
-      "TÖØ VÖÏNG CUÛA BAÏN"_bytes,
-      "VAÊN PHAÏM"_bytes,
-      "LUYEÄN NGHE"_bytes,
-      "PHAÂN TÍCH CAÂU"_bytes,
-      "LUYEÄN VIEÁT"_bytes,
-      "LUYEÄN NOÙI"_bytes,
-      "CAØI ÑAËT"_bytes,
-      "HÖÔÙNG DAÃN CAÙCH HOÏC"_bytes,
-      "ACTICLES"_bytes,
-      "CONDITIONAL"_bytes,
-      "TENSE"_bytes,
-      "PREPOSITION && INDIOMS"_bytes,
-      "PRELIMINARY TEST A"_bytes,
-      "PRELIMINARY TEST B"_bytes,
-      "TOEFL TEST"_bytes,
-      "TOEFL VOCABULARY"_bytes,
-      "B VOCABULARY"_bytes};
+      "BÀI ĐỌC"_vni,
+      "TỪ VỰNG CỦA BẠN"_vni,
+      "VĂN PHẠM"_vni,
+      "LUYỆN NGHE"_vni,
+      "PHÂN TÍCH CÂU"_vni,
+      "LUYỆN VIẾT"_vni,
+      "LUYỆN NÓI"_vni,
+      "CÀI ĐẶT"_vni,
+      "HƯỚNG DẪN CÁCH HỌC"_vni,
+      "ACTICLES"_vni,
+      "CONDITIONAL"_vni,
+      "TENSE"_vni,
+      "PREPOSITION && INDIOMS"_vni,
+      "PRELIMINARY TEST A"_vni,
+      "PRELIMINARY TEST B"_vni,
+      "TOEFL TEST"_vni,
+      "TOEFL VOCABULARY"_vni,
+      "B VOCABULARY"_vni};
   for (int number = 1; number <= Controls::ButtonCount; ++number) {
     Button& button = controls_.but(number);
     button.Caption(std::string(captions[static_cast<std::size_t>(number - 1)]));

@@ -6,8 +6,8 @@
 #include "platform/Files.h"
 #include "shell/Names.h"
 #include "stores/Stores.h"
-#include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 namespace talvora {
 
@@ -57,8 +57,8 @@ void RecordedVoice::reportMissing() {
   if (SoThieuAm > 0 && DsThieuAm.back() == TenAm) return;
   DsThieuAm.push_back(TenAm);
   ++SoThieuAm;
-  messages_.ThongBao(std::string("ThiÉu File âm thanh  "_bytes) + TenAm +
-                         std::string("  trong thŸ müc "_bytes) + places_.ThuMuc +
+  messages_.ThongBao(std::string("Thiếu File âm thanh  "_x1) + TenAm +
+                         std::string("  trong thư mục "_x1) + places_.ThuMuc +
                          std::string(SoundFolder),
                      MissingMessageMs);
 }

@@ -3,6 +3,7 @@
 #include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 namespace talvora {
 
@@ -71,16 +72,16 @@ void Amthanhcaidat::GoiCaiDat() {
 void Amthanhcaidat::writePanel() {
   panel_.Text("");
   SoCell = 0;
-  writeCell("NhÍn chuÖt trái 1 lÌn vào müc muÓn chön:"_bytes, Weight::Bold);
+  writeCell("Nhấn chuột trái 1 lần vào mục muốn chọn:"_x1, Weight::Bold);
   // The list of starts tells the first choice from the heading two characters on, behind its tab.
   state_.list.BangViTri[Heading] += 2;
-  writeCell("\r\t- BÏt âm thanh"_bytes, Weight::Normal);
-  writeCell("\t- TÁt âm thanh\r"_bytes, Weight::Normal);
-  writeCell("\t+ Töa ðÖ ðöc:\r"_bytes, Weight::Bold);
+  writeCell("\r\t- Bật âm thanh"_x1, Weight::Normal);
+  writeCell("\t- Tắt âm thanh\r"_x1, Weight::Normal);
+  writeCell("\t+ Tọa độ đọc:\r"_x1, Weight::Bold);
   for (int level = 1; level <= LastLevel - SpeedHeading; ++level) {
     writeCell(Tab + Str(level), Weight::Normal);
   }
-  writeCell("\r\tXong nhÍn phim ESC ðÇ thoát."_bytes, Weight::Normal);
+  writeCell("\r\tXong nhấn phim ESC để thoát."_x1, Weight::Normal);
 }
 
 void Amthanhcaidat::writeCell(std::string_view text, Weight weight) {

@@ -1,9 +1,9 @@
 #include "writing/Analysis.h"
 
 #include "platform/FatalFailure.h"
-#include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <array>
@@ -18,8 +18,8 @@ constexpr CharClass EndingPoints("[:.,!\"]");
 
 /// The labels that take the place of "|" in turn; "&" opens a blue span of the panel.
 constexpr std::array<std::string_view, 7> Labels = {
-    "&TÙ:"_bytes,         "&TÜ loäi:"_bytes,   "&Vï trí:"_bytes,        "&ChÚc nšng:"_bytes,
-    "&Y’cÌn viÉt:"_bytes, "&Phåi có tÙ"_bytes, "ß vï trí này vì:"_bytes};
+    "&Từ:"_x1,         "&Tự loại:"_x1,   "&Vị trí:"_x1,        "&Chức năng:"_x1,
+    "&Y’cần viết:"_x1, "&Phải có từ"_x1, "ở vị trí này vì:"_x1};
 
 [[noreturn]] void failOverrun(const std::string& what) {
   throw FatalFailure("dataPt.v: an analysed text has more than " + std::to_string(MostStretches) +
