@@ -1,5 +1,6 @@
 #include "dictionary/Popup.h"
 
+#include "surface/Looks.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
 
@@ -9,11 +10,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour Black = 0;
-constexpr Colour Red = 255;
-constexpr Colour Blue = 0xFF0000;
-constexpr Colour MessageBack = 0x750000;
-constexpr Colour MessageText = 0xFFFFC0;
 constexpr int MostLines = 12;
 // A longer entry gets less than the most; it is scrolled.
 constexpr int LinesOfLongEntry = 10;
@@ -89,7 +85,7 @@ void Popup::VeNghia(const std::string& text) {
   RHD.Text("");
   RHD.SelBold(false);
   RHD.SelItalic(false);
-  RHD.SelColor(Black);
+  RHD.SelColor(look::Black);
   if (state_.word.ThongBaoHD.empty()) {
     // A sentence's popup, which is dark, may still be up.
     RHD.BackColor(state_.measures.MauNenHD);
@@ -107,11 +103,12 @@ void Popup::VeMucTu(const std::string& text) {
   const auto rangeOf = [](EntrySpan span) {
     return TextRange{span.start, span.start + span.length};
   };
-  RHD.format({0, static_cast<int>(state_.word.TuHienTai.size())}, {.color = Red, .bold = true});
+  RHD.format({0, static_cast<int>(state_.word.TuHienTai.size())},
+             {.color = look::Red, .bold = true});
   for (const EntrySpan& span : entry.blue)
-    RHD.format(rangeOf(span), {.color = Blue});
+    RHD.format(rangeOf(span), {.color = look::Blue});
   for (const EntrySpan& span : entry.redItalic)
-    RHD.format(rangeOf(span), {.color = Red, .italic = true});
+    RHD.format(rangeOf(span), {.color = look::Red, .italic = true});
   CoHopNghia();
   VeKhung();
 }
@@ -132,7 +129,7 @@ void Popup::CoHopNghia() {
 void Popup::VeThongBao() {
   writeMessage(state_.word.ThongBaoHD);
   VeKhung();
-  controls_.RHD.SelColor(Black);
+  controls_.RHD.SelColor(look::Black);
 }
 
 void Popup::writeMessage(const std::string& message) {
@@ -144,8 +141,8 @@ void Popup::writeMessage(const std::string& message) {
   RHD.Text("");
   RHD.Width(form_.TextWidth(wrapped.firstLine) + form_.TextWidth("  "));
   RHD.Height(heightOf(wrapped.lines + 1));
-  RHD.BackColor(MessageBack);
-  RHD.SelColor(MessageText);
+  RHD.BackColor(look::DarkPanel);
+  RHD.SelColor(look::PanelText);
   RHD.SelBold(state_.measures.largeScreen());
   RHD.SelText(message);
   RHD.SelStart(RHD.TextLength() - 1);

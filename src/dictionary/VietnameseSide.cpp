@@ -2,6 +2,7 @@
 
 #include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
+#include "surface/Looks.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
 #include "text/WordForm.h"
@@ -12,9 +13,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour Red = 255;
-constexpr Colour Black = 0;
-constexpr Colour Blue = 0xFF0000;
 // Events are let run so often while the list loads: often enough for the eye, and no wait.
 constexpr std::size_t LinesBetweenEvents = 1024;
 
@@ -131,19 +129,19 @@ void VietnameseSide::writeEntry() {
   RDOS.Text("");
   RDOS.SelAlignment(Alignment::Centred);
   RDOS.SelFontSize(state_.measures.CoChu);
-  RDOS.SelColor(Red);
+  RDOS.SelColor(look::Red);
   for (const char character : state_.word.NghiaD) {
     switch (character) {
     case '~':
-      RDOS.SelColor(Black);
+      RDOS.SelColor(look::Black);
       RDOS.SelText(' ');
       break;
     case '<':
       RDOS.SelText('<');
-      RDOS.SelColor(Blue);
+      RDOS.SelColor(look::Blue);
       break;
     case '>':
-      RDOS.SelColor(Black);
+      RDOS.SelColor(look::Black);
       RDOS.SelText('>');
       break;
     default:

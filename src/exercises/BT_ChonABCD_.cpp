@@ -3,7 +3,7 @@
 #include "exercises/Blanks.h"
 #include "exercises/ItemMask.h"
 #include "exercises/ItemRecord.h"
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 #include "text/CharClass.h"
 
 #include <utility>
@@ -12,7 +12,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour InactiveColour = 0x80000003;
 constexpr int Options = 4;
 constexpr int EarliestLabel = 10;
 constexpr char WrongLabel = '0';
@@ -84,7 +83,7 @@ void BT_ChonABCD_::colourOptions(int stemEnd) {
   for (int p = 1; p <= end; ++p) {
     if (item_.maskAt(p) == PlainText) continue;
     const int last = p > stemEnd ? end : stretchEnd(item_.MatNa, p);
-    RABCD_.format({p - 1, last}, {.color = PageBlue});
+    RABCD_.format({p - 1, last}, {.color = look::Blue});
     p = last;
   }
 }
@@ -130,7 +129,7 @@ void BT_ChonABCD_::ToPhuongAn(Colour colour) {
 void BT_ChonABCD_::ChamABCD(int p) {
   TimPhuongAn(p);
   if (!DungPhuongAn_) {
-    ToPhuongAn(InactiveColour);
+    ToPhuongAn(look::Greyed);
     item_.KetQuaCau = -1;
     services_.shell.messages.answerJudged({0, 1});
     return;
@@ -144,7 +143,7 @@ void BT_ChonABCD_::ChamABCD(int p) {
     if (found == std::string::npos) break;
     label = static_cast<int>(found) + 1;
     TimPhuongAn(label);
-    ToPhuongAn(DungPhuongAn_ ? PageBlue : InactiveColour);
+    ToPhuongAn(DungPhuongAn_ ? look::Blue : look::Greyed);
     label += LabelLength;
   }
   TimPhuongAn(p);

@@ -3,7 +3,7 @@
 #include "exercises/Blanks.h"
 #include "exercises/ItemMask.h"
 #include "exercises/ItemRecord.h"
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 
 #include <algorithm>
 #include <utility>
@@ -66,7 +66,7 @@ void BT_Chonsai::drawPhrases() {
     for (char& character : phrase) {
       if (character == '*' || character == '_') character = ' ';
     }
-    Rsai_.write({p - 1, end}, phrase, {.color = PageBlue, .underline = true});
+    Rsai_.write({p - 1, end}, phrase, {.color = look::Blue, .underline = true});
     p = end;
   }
 }
@@ -107,7 +107,7 @@ void BT_Chonsai::ChamChonSai(Choice choice) {
   if (start < 1) return;
   if (choice == Choice::Made) services_.shell.messages.answerJudged({wrongPhrase ? 1 : 0, 1});
   const int length = stretchEnd(item_.MatNa, start) - start + 1;
-  services_.answer.emphasise(Rsai_, start - 1, length + 1, wrongPhrase ? PageRed : PageBlue);
+  services_.answer.emphasise(Rsai_, start - 1, length + 1, wrongPhrase ? look::Red : look::Blue);
 }
 
 void BT_Chonsai::GiaiChonSai(int p) {

@@ -3,7 +3,7 @@
 #include "exercises/Blanks.h"
 #include "exercises/ItemMask.h"
 #include "exercises/ItemRecord.h"
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
@@ -14,7 +14,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour CellColour = 0x393971;
 constexpr std::string_view UnknownKey = "_______";
 
 /// Writes the English pronoun as a capital where its small letter stands between two marks.
@@ -93,7 +92,7 @@ void BT_DienTu::drawCells() {
     if (item_.maskAt(p) == PlainText) continue;
     const int end = stretchEnd(item_.MatNa, p);
     RDT_.write({p - 1, end}, std::string(static_cast<std::size_t>(end - p + 1), '_'),
-               {.color = CellColour, .underline = true});
+               {.color = look::Heading, .underline = true});
     p = end;
   }
 }
@@ -109,11 +108,11 @@ void BT_DienTu::HienGoiY(int p) {
   RDOS.Text("");
   RDOS.SelAlignment(Alignment::Centred);
   RDOS.SelFontSize(services_.state.measures.CoChu);
-  RDOS.SelColor(BodyColour);
+  RDOS.SelColor(look::Body);
   RDOS.SelText("Điền dạng đúng của  "_x1);
-  RDOS.SelColor(PageRed);
+  RDOS.SelColor(look::Red);
   RDOS.SelText(item_.hint(blank));
-  RDOS.SelColor(BodyColour);
+  RDOS.SelColor(look::Body);
   RDOS.SelText("  vào chỗ trống."_x1);
   RDOS.Visible(true);
 }
@@ -231,12 +230,12 @@ bool BT_DienTu::judgeBlank(int p, const std::string& typed) {
   const std::string answer(trim(lower(given)));
   if (accepts(key, answer)) {
     if (item_.KetQuaCau == 0) item_.KetQuaCau = 1;
-    colourCells(p, length, PageBlue);
+    colourCells(p, length, look::Blue);
     return true;
   }
   item_.OSai.add(p, end, key.empty() ? std::string(UnknownKey) : key);
   item_.KetQuaCau = -1;
-  colourCells(p, length, PageRed);
+  colourCells(p, length, look::Red);
   return false;
 }
 

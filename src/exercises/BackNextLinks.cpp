@@ -1,23 +1,18 @@
 #include "exercises/BackNextLinks.h"
 
+#include "surface/Looks.h"
+
 namespace talvora {
-
-namespace {
-
-constexpr Colour Red = 255;
-constexpr Colour Black = 0;
-
-} // namespace
 
 BackNextLinks writeLinks(Surface& surface, Colour gap) {
   BackNextLinks links;
-  surface.SelColor(Red);
+  surface.SelColor(look::Red);
   links.DauBack = surface.SelStart();
   surface.SelText("<Back>");
   links.CuoiBack = surface.SelStart();
   surface.SelColor(gap);
   surface.SelText("    ");
-  surface.SelColor(Red);
+  surface.SelColor(look::Red);
   links.DauNext = surface.SelStart();
   surface.SelText("<Next>");
   links.CuoiNext = surface.SelStart();
@@ -29,7 +24,7 @@ BackNextLinks ThemBackNext(Surface& surface) {
   surface.SelStart(surface.TextLength());
   surface.SelText('\r');
   surface.SelAlignment(Alignment::Centred);
-  const BackNextLinks links = writeLinks(surface, Black);
+  const BackNextLinks links = writeLinks(surface, look::Black);
   surface.SelIndent(0);
   surface.SelStart(links.CuoiBack + 2);
   surface.SelColor(before);

@@ -1,6 +1,6 @@
 #include "exercises/ExplanationBox.h"
 
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
 
@@ -11,12 +11,8 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour DarkPanel = 0x750000;
-constexpr Colour PanelText = 0xFFFFC0;
-constexpr Colour BoxColour = 0x80000013;
 constexpr int MostLines = 12;
 constexpr int LinesOfLongText = 10;
-constexpr int SlideStandsAtOnce = 5;
 
 /// The first words of a text, as many as given, joined by blanks.
 std::string firstWords(const std::string& text, std::size_t count) {
@@ -68,7 +64,7 @@ void ExplanationBox::GiaiThich(int p, Surface& surface) {
   std::string explanation = OTrong.at(number).Chu;
   if (number > 0 && explanation.empty()) explanation = OTrong.at(1).Chu;
   HienLoiGiai(explanation, surface);
-  answer_.HienDapAn(p, PageBlue, surface);
+  answer_.HienDapAn(p, look::Blue, surface);
 }
 
 void ExplanationBox::HienLoiGiai(const std::string& text, Surface& surface) {
@@ -122,9 +118,9 @@ void ExplanationBox::VietGiaiChung(const Surface& surface) {
     line = firstWords(text, n / lines + 2);
   }
   RHDBT.Visible(true);
-  RHDBT.BackColor(DarkPanel);
+  RHDBT.BackColor(look::DarkPanel);
   RHDBT.SelBold(state_.measures.largeScreen());
-  RHDBT.SelColor(PanelText);
+  RHDBT.SelColor(look::PanelText);
   RHDBT.SelFontSize(form_.Font().size);
   RHDBT.SelText(text);
   RHDBT.Width(form_.TextWidth("  ") + form_.TextWidth(line));
@@ -135,15 +131,15 @@ void ExplanationBox::VietGiaiChung(const Surface& surface) {
 
 void ExplanationBox::VietLoiGiai(std::string_view text) {
   Surface& RHDBT = controls_.RHDBT;
-  RHDBT.BackColor(BoxColour);
+  RHDBT.BackColor(look::Box);
   const ExplanationText explanation = layOutExplanation(text);
   RHDBT.SelText(explanation.text);
   for (const ExplanationSpan span : explanation.blue)
-    colour(span, {.color = PageBlue});
+    colour(span, {.color = look::Blue});
   for (const ExplanationSpan span : explanation.links)
     addLink(explanation, span);
   for (const ExplanationSpan span : explanation.red)
-    colour(span, {.color = PageRed});
+    colour(span, {.color = look::Red});
   DoCaoLoiGiai();
   BongLoiGiai();
 }
@@ -154,7 +150,7 @@ void ExplanationBox::addLink(const ExplanationText& explanation, ExplanationSpan
   if (LienKet_.size() < MostLinks) {
     LienKet_.push_back({span.start, span.start + span.length - 1, TimBaiHoc(title)});
   }
-  colour(span, {.color = PageBlue, .italic = true});
+  colour(span, {.color = look::Blue, .italic = true});
 }
 
 void ExplanationBox::colour(ExplanationSpan span, const StyleChange& change) {
@@ -173,7 +169,8 @@ void ExplanationBox::DoCaoLoiGiai() {
   RHDBT.Height((lines > MostLines ? LinesOfLongText : lines) * form_.TextHeight("AAAA") +
                form_.TextWidth(" "));
   RHDBT.SelStart(0);
-  if (RHDBT.BackColor() == DarkPanel) RHDBT.Left((state_.measures.RongMH - RHDBT.Width()) / 2);
+  if (RHDBT.BackColor() == look::DarkPanel)
+    RHDBT.Left((state_.measures.RongMH - RHDBT.Width()) / 2);
 }
 
 void ExplanationBox::BongLoiGiai() {
@@ -182,7 +179,7 @@ void ExplanationBox::BongLoiGiai() {
   const double W = state_.measures.RongMH;
   const double H = state_.measures.CaoMH;
   RHDBT.Height(RHDBT.Height() + form_.TextWidth("  "));
-  Rnen2.BackColor(PageRed);
+  Rnen2.BackColor(look::Red);
   Rnen2.Text(" ");
   Rnen2.Height(RHDBT.Height() + Round(2 * H / 100));
   Rnen2.Width(RHDBT.Width() + 2 * Round(2 * W / 350));
@@ -260,7 +257,7 @@ void ExplanationBox::DongBaiLienKet() {
   // The lesson has kept a caret of its own; the box and the item take theirs back.
   state_.word.ViTriCaret = controls_.RHDBT.Visible() ? controls_.RHDBT.SelStart() : itemCaret_;
   shell_.upward.DongNghia();
-  if (state_.measures.KieuTruot == SlideStandsAtOnce) shell_.setup.parkPlate();
+  if (state_.measures.slidesAtOnce()) shell_.setup.parkPlate();
   shell_.transitions.DongRan(controls_.RVP2, controls_.Frame3);
   if (controls_.RHDBT.Visible()) {
     controls_.RHDBT.SetFocus();

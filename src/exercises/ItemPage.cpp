@@ -1,7 +1,7 @@
 #include "exercises/ItemPage.h"
 
 #include "exercises/ItemMask.h"
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 
 #include <utility>
 
@@ -21,15 +21,15 @@ void ItemPage::begin() {
   services_.state.word.ViTriCaret = 0;
   surface_.Text("");
   surface_.SelBold(services_.state.measures.largeScreen());
-  surface_.SelIndent(BodyIndent);
-  surface_.SelColor(BodyColour);
+  surface_.SelIndent(look::BodyIndent);
+  surface_.SelColor(look::Body);
 }
 
 void ItemPage::writeFoot() {
   surface_.SelIndent(0);
   surface_.SelAlignment(Alignment::Centred);
   surface_.SelBold(true);
-  services_.item.links = writeLinks(surface_, PageRed);
+  services_.item.links = writeLinks(surface_, look::Red);
 }
 
 void ItemPage::goTo(int caret) {

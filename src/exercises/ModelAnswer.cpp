@@ -1,6 +1,6 @@
 #include "exercises/ModelAnswer.h"
 
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 
 namespace talvora {
 
@@ -32,7 +32,7 @@ void ModelAnswer::HienDapAn(int p, Colour colour, Surface& surface) {
 
 void ModelAnswer::KhoiPhucChu(Surface& surface) {
   if (!item_.ChuCu.empty()) {
-    surface.write(keptRange(item_), item_.ChuCu, {.color = item_.MauCu.value_or(PageRed)});
+    surface.write(keptRange(item_), item_.ChuCu, {.color = item_.MauCu.value_or(look::Red)});
     surface.SelLength(0);
   }
   item_.ChuCu.clear();

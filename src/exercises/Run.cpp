@@ -2,7 +2,6 @@
 
 #include "exercises/ItemHeadings.h"
 #include "exercises/ItemRecord.h"
-#include "lessons/PageColours.h"
 #include "text/Text.h"
 
 #include <utility>
@@ -12,7 +11,6 @@ namespace talvora {
 namespace {
 
 constexpr int LongestOrderedRun = 6;
-constexpr int SlideStandsAtOnce = 5;
 // The banks whose blanks are explained by the list of the verb lessons.
 constexpr int ConditionalBank = 2;
 constexpr int TenseBank = 3;
@@ -40,10 +38,6 @@ Run::Run(Form& form, ItemServices& services, const ItemKinds& kinds, ItemStore& 
   units.BatDauBai = [this] { BatDauBai(); };
   lessons.BatDauChon = [this] { BatDauChon(); };
   services.shell.hints.itemJudged = [this] { return item_.DaCham; };
-}
-
-bool Run::slidesAtOnce() const noexcept {
-  return state_.measures.KieuTruot == SlideStandsAtOnce;
 }
 
 // -- Making a run.
@@ -91,7 +85,7 @@ void Run::append(int item) {
 }
 
 void Run::BatDauChay() {
-  if (slidesAtOnce()) controls_.Rnen3.Visible(true);
+  if (state_.measures.slidesAtOnce()) controls_.Rnen3.Visible(true);
   item_.ChuCu.clear();
   kinds_.each([](ItemKindPage& page) { page.runBegins(); });
   if (SoCauChay_ > LongestOrderedRun) TronCau();
@@ -172,7 +166,7 @@ bool Run::step() {
 }
 
 void Run::parkPlate() {
-  if (slidesAtOnce()) services_.shell.setup.parkPlate();
+  if (state_.measures.slidesAtOnce()) services_.shell.setup.parkPlate();
 }
 
 void Run::endRun() {

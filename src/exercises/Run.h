@@ -57,7 +57,6 @@ class Run {
   void DocLoiGiai(int n);
   void PhanTichCau();
   [[nodiscard]] ItemKindPage& page() const { return kinds_.of(item_.LoaiBT); }
-  [[nodiscard]] bool slidesAtOnce() const noexcept;
 
   Form& form_;
   ItemServices& services_;

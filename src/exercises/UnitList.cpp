@@ -2,7 +2,7 @@
 
 #include "formats/ListeningPage.h"
 #include "formats/PackFiles.h"
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
@@ -54,7 +54,7 @@ void UnitList::HienBT(int SoCauBT) {
   Rchon.format({0, Rchon.TextLength()}, {.bold = true, .fontSize = controls_.RN2.Font().size});
   state_.word.TuHienTai.clear();
   Rchon.format({listeningpage::LabelsFrom, listeningpage::LabelsFrom + listeningpage::LabelsLength},
-               {.color = PageBlue});
+               {.color = look::Blue});
   if (state_.places.MucMenu == section::Listening) {
     LietKeUnit();
     setUpListening();
@@ -85,9 +85,9 @@ void UnitList::writeList(int units, std::string_view word) {
   Surface& RN1 = controls_.RN1;
   RN1.Text("");
   RN1.SelBold(state_.measures.largeScreen());
-  RN1.SelColor(BodyColour);
+  RN1.SelColor(look::Body);
   RN1.SelBullet(true);
-  RN1.SelIndent(BodyIndent);
+  RN1.SelIndent(look::BodyIndent);
   RN1.SelProtected(state_.places.MucMenu == section::Listening);
   RN1.SelText(text);
   RN1.SelStart(0);
@@ -95,7 +95,7 @@ void UnitList::writeList(int units, std::string_view word) {
 
 void UnitList::open() {
   state_.word.DaChonRTD = false;
-  controls_.Frame1.BackColor(PageWhite);
+  controls_.Frame1.BackColor(look::White);
   shell_.transitions.MoRan(controls_.RN1, controls_.Frame1);
   DocViTriList();
   shell_.steering.ChonDong();

@@ -1,6 +1,7 @@
 #include "exercises/XepTu.h"
 
 #include "exercises/WordOrder.h"
+#include "surface/Looks.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
 
@@ -11,11 +12,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour BodyColour = 0x750000;
-constexpr Colour HeadingColour = 0x393971;
-constexpr Colour Blue = 0xFF0000;
-constexpr Colour Red = 255;
-constexpr double BodyIndent = 285.1654;
 constexpr int MostTries = 20;
 constexpr int FewestBlanks = 3;
 
@@ -95,7 +91,7 @@ void XepTu::ThoatXep() {
 void XepTu::leaveSelfMadeTest() {
   Surface& Rxep = controls_.Rxep;
   Surface& Rnen3 = controls_.Rnen3;
-  if (state_.measures.KieuTruot == 5) {
+  if (state_.measures.slidesAtOnce()) {
     // Without a slide the plate covers the page until the next item stands on it.
     Rnen3.BackColor(Rxep.BackColor());
     Rnen3.Left(Rxep.Left());
@@ -159,14 +155,14 @@ void XepTu::draw(Surface& surface, Foot foot) {
 }
 
 void XepTu::writeTask(Surface& surface) {
-  surface.SelColor(BodyColour);
+  surface.SelColor(look::Body);
   surface.SelAlignment(Alignment::Centred);
   surface.SelBold(state_.measures.largeScreen());
   surface.SelText("Xếp đúng các từ trong câu Tiếng Anh."_x1);
   surface.SelText("\r\r");
-  surface.SelColor(HeadingColour);
+  surface.SelColor(look::Heading);
   surface.SelAlignment(Alignment::Left);
-  surface.SelIndent(BodyIndent);
+  surface.SelIndent(look::BodyIndent);
   surface.SelText(CauTiengViet_ + "\r\r");
   DauDong = surface.SelStart();
 }
@@ -177,9 +173,9 @@ void XepTu::writeLine(Surface& surface) {
   DongXep_ = shuffledLine(CauTiengAnh_, random_);
   DongCu_ = DongXep_;
   DongMau_ = lineOf(CauTiengAnh_);
-  surface.SelColor(BodyColour);
+  surface.SelColor(look::Body);
   surface.SelAlignment(Alignment::Left);
-  surface.SelIndent(BodyIndent);
+  surface.SelIndent(look::BodyIndent);
   surface.SelText(DongXep_ + "\r");
   CuoiDong_ = surface.SelStart();
   ToXep(surface);
@@ -194,7 +190,7 @@ void XepTu::writeFoot(Surface& surface, Foot foot) {
   } else {
     surface.SelAlignment(Alignment::Centred);
     surface.SelBold(true);
-    links = writeLinks(surface, Red);
+    links = writeLinks(surface, look::Red);
   }
   surface.SelStart(caret);
 }
@@ -202,8 +198,8 @@ void XepTu::writeFoot(Surface& surface, Foot foot) {
 void XepTu::ToXep(Surface& surface) {
   BienDung_ = rightBeginning(DongMau_, DongXep_);
   const int right = DauDong + BienDung_;
-  surface.format({DauDong, right}, {.color = Blue});
-  surface.format({right, DauDong + static_cast<int>(DongXep_.size())}, {.color = BodyColour});
+  surface.format({DauDong, right}, {.color = look::Blue});
+  surface.format({right, DauDong + static_cast<int>(DongXep_.size())}, {.color = look::Body});
   // The way leads over the line's beginning, so that it is in view, too.
   surface.SelStart(DauDong);
   surface.SelStart(right);
@@ -260,10 +256,10 @@ void XepTu::DapAnXep(Surface& surface) {
   const bool open = BienDung_ < static_cast<int>(DongXep_.size());
   surface.SelStart(surface.TextLength());
   if (open && XepChay) {
-    surface.SelColor(Red);
+    surface.SelColor(look::Red);
     surface.SelText('!');
   }
-  surface.SelColor(BodyColour);
+  surface.SelColor(look::Body);
   surface.SelText("\r\r" + CauTiengAnh_);
   DaXong_ = true;
   sentencesOpened_ = 0;
@@ -334,7 +330,7 @@ void XepTu::releaseMouse(MouseButton button, SurfacePoint at) {
 void XepTu::releaseLeft() {
   Surface& Rxep = controls_.Rxep;
   const int p = Rxep.SelStart() + 1;
-  const bool onRed = Rxep.SelColor() == Red;
+  const bool onRed = Rxep.SelColor() == look::Red;
   if (onRed && links.holdNext(p)) {
     BuocXep = 0;
     CauXepMoi(Rxep);

@@ -1,6 +1,6 @@
 #include "lessons/LessonMarkup.h"
 
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 
 #include <optional>
 
@@ -32,16 +32,16 @@ class LessonWalk {
   bool takeMark(char character) {
     switch (character) {
     case '`':
-      color_ = PageRed;
+      color_ = look::Red;
       return true;
     case '~':
       GiuMauNga_ = true;
-      color_ = PageBlue;
+      color_ = look::Blue;
       return true;
     case '&':
       if (kept_ != '\r') return false;
       GiuMauVa_ = true;
-      color_ = PageBlue;
+      color_ = look::Blue;
       return true;
     case '@':
       return true;
@@ -55,13 +55,13 @@ class LessonWalk {
     case '\r':
       GiuMauNga_ = false;
       GiuMauVa_ = false;
-      color_ = BodyColour;
+      color_ = look::Body;
       break;
     case ' ':
     case ',':
     case '.':
     case ':':
-      color_ = GiuMauNga_ || GiuMauVa_ ? PageBlue : BodyColour;
+      color_ = GiuMauNga_ || GiuMauVa_ ? look::Blue : look::Body;
       break;
     default:
       break;
@@ -82,7 +82,7 @@ class LessonWalk {
   std::string_view text_;
   std::size_t at_ = 0;
   std::vector<ColouredPiece> pieces_;
-  Colour color_ = BodyColour;
+  Colour color_ = look::Body;
   std::optional<char> kept_; ///< the character kept last; none behind a mark
   bool GiuMauNga_ = false;   ///< "~" holds the blue to the line's end
   bool GiuMauVa_ = false;    ///< "&" holds it

@@ -1,7 +1,7 @@
 #include "lessons/LessonPage.h"
 
 #include "lessons/LessonMarkup.h"
-#include "lessons/PageColours.h"
+#include "surface/Looks.h"
 
 #include <utility>
 
@@ -93,7 +93,7 @@ void LessonPage::MoBaiVP(int n) {
   RVP2.FontName("x1");
   RVP2.FontSize(state_.measures.CoChu);
   RVP2.Text("");
-  RVP2.SelIndent(BodyIndent);
+  RVP2.SelIndent(look::BodyIndent);
   RVP2.SelBold(state_.measures.largeScreen());
   HienBaiVP(CauHoi);
 }
@@ -123,7 +123,7 @@ void LessonPage::styleTitle() {
   // Without a line end the whole page is the title.
   const TextRange title{0, RVP2.paragraphStart(1)};
   RVP2.formatParagraphs(title, {.align = Alignment::Centred});
-  RVP2.format(title, {.color = TitleColour,
+  RVP2.format(title, {.color = look::Heading,
                       .bold = true,
                       .fontSize = static_cast<double>(state_.measures.CoChu + 3)});
 }

@@ -1,7 +1,7 @@
 #include "lessons/VanPham.h"
 
-#include "lessons/PageColours.h"
 #include "platform/FatalFailure.h"
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
@@ -60,7 +60,7 @@ void VanPham::open() {
   BaiTuChon = true;
   Surface& RVP1 = controls_.RVP1;
   RVP1.FontSize(state_.measures.CoChu - 1);
-  controls_.Frame1.BackColor(PageWhite);
+  controls_.Frame1.BackColor(look::White);
   controls_.R1.Top(state_.measures.CaoMH);
   RVP1.Top(state_.measures.CaoMH);
   MoVanPham();
@@ -171,7 +171,7 @@ void VanPham::addHeading(int n) {
 void VanPham::showList(const std::string& list) {
   Surface& RVP1 = controls_.RVP1;
   RVP1.Text("");
-  RVP1.SelColor(BodyColour);
+  RVP1.SelColor(look::Body);
   RVP1.SelBold(state_.measures.largeScreen());
   RVP1.SelText(list);
   RVP1.SelStart(0);
@@ -184,7 +184,7 @@ void VanPham::ToMauNhom() {
   for (int heading = 1; heading <= state_.list.SoNhom; ++heading) {
     const int from = state_.list.ViTriNhom[static_cast<std::size_t>(heading)];
     const int to = RVP1.paragraphStart(RVP1.paragraphOf(from) + 1);
-    RVP1.format({from, to}, {.color = TitleColour, .bold = true, .fontSize = size + 3});
+    RVP1.format({from, to}, {.color = look::Heading, .bold = true, .fontSize = size + 3});
   }
 }
 
@@ -341,12 +341,12 @@ void VanPham::toggleMark() {
     ChoGiai = ConBaiChon();
     return;
   }
-  if (RVP1.SelColor() == PageBlue) {
-    RVP1.SelColor(BodyColour);
+  if (RVP1.SelColor() == look::Blue) {
+    RVP1.SelColor(look::Body);
     if (mark == LessonMark::Marked) mark = LessonMark::Unmarked;
     ChoGiai = ConBaiChon();
   } else {
-    RVP1.SelColor(PageBlue);
+    RVP1.SelColor(look::Blue);
     mark = LessonMark::Marked;
   }
   if (ChoGiai) RVP1.SelLength(0);

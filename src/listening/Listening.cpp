@@ -1,12 +1,12 @@
 #include "listening/Listening.h"
 
+#include "surface/Looks.h"
 #include "text/Vietnamese.h"
 
 namespace talvora {
 
 namespace {
 
-constexpr Colour Red = 255;
 constexpr int Section = 4;
 constexpr int EmptyUnitMessageMs = 2000;
 
@@ -187,7 +187,7 @@ void Listening::releaseLeft(SurfacePoint at) {
     words_.lookUpAtCaret(RN2);
     return;
   }
-  const bool onRed = RN2.SelColor() == Red;
+  const bool onRed = RN2.SelColor() == look::Red;
   judge(word.ViTriCaret);
   if (onRed && followLink(p)) return;
   word.CoDupChuot = false;

@@ -1,6 +1,7 @@
 #include "listening/ListeningPage.h"
 
 #include "formats/ListeningPage.h"
+#include "surface/Looks.h"
 #include "text/Text.h"
 
 #include <utility>
@@ -9,9 +10,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour BodyColour = 0x750000;
-constexpr Colour HeadingColour = 0x393971;
-constexpr Colour GreyedColour = 0x80000003;
 constexpr int OptionCount = listeningpage::Options;
 constexpr int ShuffleTries = 10;
 
@@ -24,7 +22,7 @@ void ListeningPage::paint(const ListeningTexts& texts) {
   RN2_.TextRTF(Rchon_.TextRTF());
   RN2_.format({listeningpage::InstructionFrom,
                listeningpage::InstructionFrom + listeningpage::InstructionLength},
-              {.color = HeadingColour, .italic = true});
+              {.color = look::Heading, .italic = true});
   writeOptions();
   mask_ = OptionMask(LuaChon_, DapAnNghe_, RN2_.TextLength());
   links = ThemBackNext(RN2_);
@@ -56,7 +54,7 @@ void ListeningPage::writeOptions() {
     if (i != OptionCount) option += '\r';
     RN2_.SelStart(listeningpage::OptionsEnd - listeningpage::LabelLength * (OptionCount + 1 - i));
     RN2_.SelBold(measures_.largeScreen());
-    RN2_.SelColor(BodyColour);
+    RN2_.SelColor(look::Body);
     RN2_.SelText(option);
   }
 }
@@ -68,7 +66,7 @@ bool ListeningPage::isRight(int caret) const noexcept {
 bool ListeningPage::XamDong(int caret) {
   const auto wrong = mask_.takeWrong(caret);
   if (!wrong) return false;
-  RN2_.format({wrong->from, wrong->to + 1}, {.color = GreyedColour});
+  RN2_.format({wrong->from, wrong->to + 1}, {.color = look::Greyed});
   RN2_.SelStart(caret);
   return true;
 }
@@ -81,7 +79,7 @@ void ListeningPage::XamDapAnSai() {
 void ListeningPage::HienCauNghe() {
   XamDapAnSai();
   RN2_.SelStart(RN2_.TextLength());
-  RN2_.SelColor(BodyColour);
+  RN2_.SelColor(look::Body);
   RN2_.SelAlignment(Alignment::Centred);
   RN2_.SelBold(measures_.largeScreen());
   RN2_.SelText("\r " + std::exchange(CauNghe1, std::string()) + "\r");

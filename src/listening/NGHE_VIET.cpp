@@ -1,6 +1,7 @@
 #include "listening/NGHE_VIET.h"
 
 #include "formats/Limits.h"
+#include "surface/Looks.h"
 #include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Rounding.h"
@@ -14,9 +15,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour HeadingColour = 0x393971;
-constexpr Colour Red = 255;
-constexpr double BodyIndent = 285.1654;
 constexpr int GuideText = 2;
 constexpr int FlashMs = 20;
 constexpr int SentenceDoneMs = 500;
@@ -127,7 +125,7 @@ void NGHE_VIET::KhungDo() {
   const double H = state_.measures.CaoMH;
   const Surface& Rviet = controls_.Rviet;
   Surface& Rnen3 = controls_.Rnen3;
-  Rnen3.BackColor(Red);
+  Rnen3.BackColor(look::Red);
   Rnen3.Text(" ");
   Rnen3.Height(Rviet.Height() + Round(2 * H / 100));
   Rnen3.Width(Rviet.Width() + 2 * Round(2 * W / 350));
@@ -157,7 +155,7 @@ void NGHE_VIET::XoaViet() {
   Surface& Rviet = controls_.Rviet;
   ViTriGo_ = 0;
   Rviet.Text("");
-  Rviet.SelIndent(BodyIndent);
+  Rviet.SelIndent(look::BodyIndent);
   Rviet.SelText("\r\r");
   Rviet.SelProtected(true);
   Rviet.SelStart(1);
@@ -205,8 +203,8 @@ void NGHE_VIET::HienDich() {
   RHDBT.Enabled(true);
   RHDBT.Text("");
   RHDBT.SelBold(state_.measures.largeScreen());
-  RHDBT.SelColor(HeadingColour);
-  RHDBT.SelIndent(BodyIndent);
+  RHDBT.SelColor(look::Heading);
+  RHDBT.SelIndent(look::BodyIndent);
   RHDBT.SelText("\r" + state_.word.ThongBaoHD + "\r");
   RHDBT.SelProtected(true);
   RHDBT.SelStart(RHDBT.TextLength());
@@ -250,7 +248,7 @@ void NGHE_VIET::GoKyTu(char c) {
 
 void NGHE_VIET::NhayDo(Surface& surface) {
   const Colour before = surface.BackColor();
-  surface.BackColor(Red);
+  surface.BackColor(look::Red);
   form_.Refresh();
   static_cast<void>(clock_.Sleep(FlashMs));
   surface.BackColor(before);

@@ -173,7 +173,7 @@ void E::loadEnglishSide() {
   if (ending_ != Ending::None) return;
   stores_.MoDuLieu();
   own_.takePack(stores_);
-  state_.measures.KieuTruot = 5;
+  state_.measures.KieuTruot = Measures::SlideStandsAtOnce;
   speech_.setUp(stores_);
   shell_.setup.adjustSlideStep();
   shell_.menu.finishProgress();

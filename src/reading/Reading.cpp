@@ -1,6 +1,7 @@
 #include "reading/Reading.h"
 
 #include "formats/Limits.h"
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 
@@ -10,10 +11,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour BodyColour = 0x750000;
-constexpr Colour HeadingColour = 0x393971;
-constexpr Colour GreyedColour = 0x80000003;
-constexpr Colour White = 0xFFFFFF;
 constexpr int FirstAnalysedText = 4;
 constexpr int GuideText = 2;
 constexpr int MostHeadings = 38;
@@ -90,7 +87,7 @@ void Reading::BatdauBut() {
   page_.clearStepFlags();
   Surface& R1 = controls_.R1;
   R1.FontSize(state_.measures.CoChu - 1);
-  controls_.Frame1.BackColor(White);
+  controls_.Frame1.BackColor(look::White);
   MoDanhSachBai();
   shell_.transitions.MoRan(R1, controls_.Frame1);
   R1.SelStart(ViTriDanhSachBai);
@@ -101,7 +98,7 @@ void Reading::BatdauBut() {
 void Reading::MoDanhSachBai() {
   Surface& R1 = controls_.R1;
   R1.Visible(false);
-  R1.Top(state_.measures.CaoMH + 300);
+  R1.Top(state_.measures.parkedTop());
   ViTriDanhSachBai = stores_.readSetting(caretRecord());
   if (!DaNapDanhSach) {
     stores_.NapViTriBai();
@@ -229,7 +226,7 @@ void Reading::showList() {
   if (state_.measures.largeScreen()) R1.FontBold(true);
   R1.SelProtected(true);
   R1.SelText(state_.list.DanhSachBai);
-  R1.format({0, R1.TextLength()}, {.color = BodyColour});
+  R1.format({0, R1.TextLength()}, {.color = look::Body});
   VeDauMuc();
 }
 
@@ -239,7 +236,7 @@ void Reading::VeDauMuc() {
     styleHeading(state_.list.ViTriNhom[static_cast<std::size_t>(heading)]);
   }
   if (state_.places.MucMenu == section::Analysis) {
-    R1.format({GreyedFrom, GreyedTo}, {.color = GreyedColour});
+    R1.format({GreyedFrom, GreyedTo}, {.color = look::Greyed});
   }
   R1.SelStart(0);
 }
@@ -247,7 +244,7 @@ void Reading::VeDauMuc() {
 void Reading::styleHeading(int caret) {
   Surface& R1 = controls_.R1;
   const int end = R1.paragraphStart(R1.paragraphOf(caret) + 1);
-  R1.format({caret, end}, {.color = HeadingColour,
+  R1.format({caret, end}, {.color = look::Heading,
                            .bold = true,
                            .protectedText = false,
                            .fontSize = R1.Font().size + 3});
@@ -282,7 +279,7 @@ void Reading::ChonDongR1(Surface& surface) {
 
 bool Reading::lineOpens() const {
   const Surface& R1 = controls_.R1;
-  return state_.measures.largeScreen() ? R1.SelColor() != HeadingColour : !R1.SelBold();
+  return state_.measures.largeScreen() ? R1.SelColor() != look::Heading : !R1.SelBold();
 }
 
 void Reading::openLine() {

@@ -1,5 +1,6 @@
 #include "reading/ReadingPage.h"
 
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/WordForm.h"
@@ -7,8 +8,6 @@
 namespace talvora {
 
 namespace {
-
-constexpr Colour BodyColour = 0x750000;
 
 // Places in the guide text: the sentence that shows a message, and the end of what answers at all.
 constexpr int GuideSentenceFrom = 699;
@@ -53,7 +52,7 @@ void ReadingPage::showText() {
   Surface& R2 = controls_.R2;
   const int CoChu = state_.measures.CoChu;
   R2.Text("");
-  R2.SelColor(BodyColour);
+  R2.SelColor(look::Body);
   R2.SelBold(state_.measures.largeScreen());
   R2.SelFontSize(CoChu);
   R2.SelUnderline(false);

@@ -1,5 +1,6 @@
 #include "reading/TuVungChon.h"
 
+#include "surface/Looks.h"
 #include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
@@ -11,14 +12,6 @@
 #include <utility>
 
 namespace talvora {
-
-namespace {
-
-constexpr Colour BodyColour = 0x750000;
-constexpr Colour Red = 255;
-constexpr Colour ScrollBarColour = 0x80000000;
-
-} // namespace
 
 bool CoSoVaChu(std::string_view text) {
   constexpr CharClass digits("[0-9]");
@@ -107,7 +100,7 @@ void TuVungChon::ThemTuVung() {
 
 void TuVungChon::open() {
   Surface& Rchon = controls_.Rchon;
-  Rchon.BackColor(ScrollBarColour);
+  Rchon.BackColor(look::ListPaper);
   stores_.ChonKho(file::TextPositions);
   ensureListBuilt();
   if (TuVung_.empty()) {
@@ -140,7 +133,7 @@ void TuVungChon::HienTuVung() {
   }
   Surface& Rchon = controls_.Rchon;
   Rchon.Text("");
-  Rchon.SelColor(BodyColour);
+  Rchon.SelColor(look::Body);
   Rchon.SelBold(state_.measures.largeScreen());
   Rchon.SelText(list);
   Rchon.SelStart(0);
@@ -159,7 +152,7 @@ void TuVungChon::ExitRChon() {
 
 void TuVungChon::leaveList() {
   controls_.R1.Visible(false);
-  controls_.R1.Top(state_.measures.CaoMH + 300);
+  controls_.R1.Top(state_.measures.parkedTop());
   forgetList();
 }
 
@@ -231,7 +224,7 @@ void TuVungChon::VeCauTuVung(const std::string& text) {
     const auto place = s.find(form);
     if (place == std::string::npos) continue;
     const int from = static_cast<int>(place);
-    controls_.RHD.format({from, from + static_cast<int>(w.size()) + 1}, {.color = Red});
+    controls_.RHD.format({from, from + static_cast<int>(w.size()) + 1}, {.color = look::Red});
     break;
   }
   controls_.RHD.SelStart(0);

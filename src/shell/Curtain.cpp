@@ -1,5 +1,6 @@
 #include "shell/Curtain.h"
 
+#include "surface/Looks.h"
 #include "text/Rounding.h"
 
 namespace talvora {
@@ -7,7 +8,6 @@ namespace talvora {
 namespace {
 
 constexpr int Alpha = 100;
-constexpr Colour Dark = 0x400000;
 constexpr int PauseMs = 600;
 constexpr int WideScreen = 15560;
 constexpr int MiddleScreen = 15000;
@@ -36,7 +36,7 @@ void Curtain::hang(const Surface& surface) {
                     : W > MiddleScreen ? Round(H / 70)
                                        : Round(H / 40);
   Panel& left = controls_.FC1;
-  left.BackColor(Dark);
+  left.BackColor(look::Curtain);
   left.Alpha(Alpha);
   left.Height(surface.Height() + W / 50);
   left.Top(surface.Top() + below);
@@ -46,7 +46,7 @@ void Curtain::hang(const Surface& surface) {
   form_.Refresh();
 
   Panel& right = controls_.FC2;
-  right.BackColor(Dark);
+  right.BackColor(look::Curtain);
   right.Alpha(Alpha);
   right.Height(left.Height());
   right.Width(left.Width() + W / 80);

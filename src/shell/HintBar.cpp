@@ -1,6 +1,7 @@
 #include "shell/HintBar.h"
 
 #include "shell/HintTexts.h"
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/Rounding.h"
 #include "text/Vietnamese.h"
@@ -11,8 +12,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour Blue = 0xFF0000;
-constexpr Colour Red = 255;
 constexpr int MostReminders = 3;
 
 } // namespace
@@ -66,7 +65,7 @@ void HintBar::NoiDungHD(Surface& surface) {
   AnRDOS(surface);
   clear();
   Surface& RDOS = controls_.RDOS;
-  RDOS.SelColor(Blue);
+  RDOS.SelColor(look::Blue);
   const auto holds = [&](HintCase when) {
     switch (when) {
     case HintCase::Analysis:
@@ -106,18 +105,18 @@ void HintBar::RDOSCao() {
   controls_.RDOS.Height(2 * controls_.RDOS.Height());
   controls_.RDOS.Top(0);
   controls_.L1.Top(0);
-  controls_.L1.ForeColor(Blue);
+  controls_.L1.ForeColor(look::Blue);
 }
 
 void HintBar::GoiYF2() {
   if (DemChay < 2 || DemGoiYF2 >= MostReminders) return;
   clear();
   Surface& RDOS = controls_.RDOS;
-  RDOS.SelColor(Blue);
+  RDOS.SelColor(look::Blue);
   RDOS.SelText("Nhấn Phím "_x1);
-  RDOS.SelColor(Red);
+  RDOS.SelColor(look::Red);
   RDOS.SelText("F2");
-  RDOS.SelColor(Blue);
+  RDOS.SelColor(look::Blue);
   RDOS.SelText(" để xem cách sử dụng trong mọi lúc."_x1);
   RDOS.Visible(true);
   ++DemGoiYF2;
@@ -128,7 +127,7 @@ void HintBar::GoiYNghe() {
   AnRDOS(controls_.R2);
   clear();
   Surface& RDOS = controls_.RDOS;
-  RDOS.SelColor(Blue);
+  RDOS.SelColor(look::Blue);
   RDOS.SelText("Mũi tên Trái=Nghe lại;  Mũi tên phải/xuống=Tới"_x1);
   RDOS.SelText('\r');
   RDOS.SelText("Mũi tên lên=Lui;      ESC = thoát"_x1);

@@ -1,15 +1,10 @@
 #include "shell/Messages.h"
 
+#include "surface/Looks.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
 
 namespace talvora {
-
-namespace {
-
-constexpr Colour Red = 255;
-
-} // namespace
 
 void Messages::ThongBao(std::string_view text, int ms) {
   Surface& RHD = controls_.RHD;
@@ -48,7 +43,7 @@ void Messages::VeKhung() {
   const double W = measures_.RongMH;
   const double H = measures_.CaoMH;
   RHD.Height(RHD.Height() + form_.TextWidth("  "));
-  Rnen.BackColor(Red);
+  Rnen.BackColor(look::Red);
   Rnen.Text(" ");
   Rnen.Height(RHD.Height() + Round(2 * H / 100));
   Rnen.Width(RHD.Width() + 2 * Round(2 * W / 400));

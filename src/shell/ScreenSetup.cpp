@@ -1,5 +1,6 @@
 #include "shell/ScreenSetup.h"
 
+#include "surface/Looks.h"
 #include "text/Rounding.h"
 
 #include <string>
@@ -23,9 +24,6 @@ ScreenClass screenClassOf(int RongMH) {
   if (RongMH < 12005) return {10, 15, 85, 200, 80};
   return {13, 20, 76, 300, 110};
 }
-
-constexpr Colour InactiveCaptionText = 0x80000013;
-constexpr Colour White = 0xFFFFFF;
 
 } // namespace
 
@@ -71,8 +69,8 @@ void ScreenSetup::setTextFont() {
 }
 
 void ScreenSetup::parkSurfaces() {
-  controls_.RHD.BackColor(InactiveCaptionText);
-  controls_.RTD.BackColor(InactiveCaptionText);
+  controls_.RHD.BackColor(look::Box);
+  controls_.RTD.BackColor(look::Box);
   measures_.MauNenHD = controls_.RHD.BackColor();
   shareMeasures();
   parkOffScreen();
@@ -93,7 +91,7 @@ void ScreenSetup::shareMeasures() {
 void ScreenSetup::parkOffScreen() {
   Controls& c = controls_;
   const int right = measures_.RongMH + 2;
-  const int below = measures_.CaoMH + 300;
+  const int below = measures_.parkedTop();
   for (Control* control : std::initializer_list<Control*>{&c.R1, &c.R2, &c.RW1, &c.MM}) {
     control->Left(right);
   }
@@ -132,8 +130,8 @@ void ScreenSetup::parkPlate() {
   Surface& plate = controls_.Rnen3;
   plate.Visible(false);
   plate.Text("");
-  plate.BackColor(White);
-  plate.Top(measures_.CaoMH + 100);
+  plate.BackColor(look::White);
+  plate.Top(measures_.parkedPlateTop());
 }
 
 } // namespace talvora

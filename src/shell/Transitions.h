@@ -25,7 +25,7 @@ class Transitions {
 
  private:
   /// The mode in which a surface stands at its place at once.
-  [[nodiscard]] bool standsAtOnce() const noexcept { return measures_.KieuTruot == 5; }
+  [[nodiscard]] bool standsAtOnce() const noexcept { return measures_.slidesAtOnce(); }
   [[nodiscard]] int openingStep() const;
   [[nodiscard]] int closingStep() const;
   /// Milliseconds slept after each step.

@@ -1,5 +1,6 @@
 #include "sound/Amthanhcaidat.h"
 
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
@@ -11,9 +12,6 @@ using namespace literals;
 
 namespace {
 
-constexpr Colour White = 0xFFFFFF;
-constexpr Colour Red = 255;
-constexpr Colour Black = 0;
 constexpr char Tab = chr(9);
 constexpr std::string_view TestSentence = "Welcom to talvora 2.4";
 
@@ -51,7 +49,7 @@ void Amthanhcaidat::wireEvents() {
 
 void Amthanhcaidat::open() {
   panel_.FontSize(state_.measures.CoChu - 1);
-  controls_.Frame1.BackColor(White);
+  controls_.Frame1.BackColor(look::White);
   shell_.transitions.MoRan(panel_, controls_.Frame1);
   GoiCaiDat();
 }
@@ -155,7 +153,7 @@ void Amthanhcaidat::DatMuc() {
     panel_.SelLength(0);
     return;
   }
-  panel_.SelColor(Red);
+  panel_.SelColor(look::Red);
   if (cell == SoundOn) {
     switchSoundOn();
   } else if (cell == SoundOff) {
@@ -182,16 +180,17 @@ void Amthanhcaidat::switchSoundOff() {
 void Amthanhcaidat::blackenChoiceAt(int caret) {
   panel_.SelStart(caret);
   ChonMuc();
-  panel_.SelColor(Black);
+  panel_.SelColor(look::Black);
 }
 
 void Amthanhcaidat::chooseLevel(int cell) {
   speech_.TocDoDoc = cell - SpeedHeading;
   const int levels = entry(SpeedHeading) + 1;
-  panel_.format({levels, levels + entry(LastLevel) - entry(SpeedHeading) + 1}, {.color = Black});
+  panel_.format({levels, levels + entry(LastLevel) - entry(SpeedHeading) + 1},
+                {.color = look::Black});
   panel_.SelStart(entry(cell - 1) + 1);
   ChonMuc();
-  panel_.SelColor(Red);
+  panel_.SelColor(look::Red);
   panel_.SelLength(0);
 }
 

@@ -54,6 +54,14 @@ struct Measures {
   int Phan6 = 0;         ///< a sixth of the screen width: popup height
   Colour MauNenHD = 0;   ///< back colour of the dictionary popup
 
+  static constexpr int SlideStandsAtOnce = 5;
+  /// Whether surfaces stand at once instead of sliding.
+  [[nodiscard]] bool slidesAtOnce() const noexcept { return KieuTruot == SlideStandsAtOnce; }
+
+  /// Where what is not in use waits, below the screen: pages, and plates.
+  [[nodiscard]] int parkedTop() const noexcept { return CaoMH + 300; }
+  [[nodiscard]] int parkedPlateTop() const noexcept { return CaoMH + 100; }
+
   /// The large screen class, in which text is bold throughout.
   [[nodiscard]] bool largeScreen() const noexcept { return CoNut == 13; }
 

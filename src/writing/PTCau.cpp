@@ -1,14 +1,10 @@
 #include "writing/PTCau.h"
 
+#include "surface/Looks.h"
+
 #include <algorithm>
 
 namespace talvora {
-
-namespace {
-
-constexpr Colour Blue = 0xFF0000;
-
-} // namespace
 
 void PTCau::NapPhanTich(int n) {
   shell_.messages.ThongBao("Loading Data...", 0);
@@ -71,7 +67,7 @@ void PTCau::ChonTuPT(Surface& surface) {
   item_.MauCu = surface.styleAt(range.from).color;
   item_.ChuCu = word;
   item_.ViTriChuCu = mark.SelStart;
-  surface.format(range, {.color = Blue});
+  surface.format(range, {.color = look::Blue});
   // What is explained is no word to look up.
   state_.word.TuHienTai.clear();
 }

@@ -1,5 +1,6 @@
 #include "writing/Writing.h"
 
+#include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace talvora {
 
 namespace {
 
-constexpr Colour Red = 255;
 /// Characters of the first line that are selected, whatever its length.
 constexpr int FirstLineLength = 13;
 
@@ -183,7 +183,7 @@ void Writing::releaseMouse(MouseButton button, SurfacePoint at) {
 void Writing::releaseLeft() {
   Surface& RW2 = controls_.RW2;
   const int p = RW2.SelStart() + 1;
-  const bool onRed = RW2.SelColor() == Red;
+  const bool onRed = RW2.SelColor() == look::Red;
   if (state_.word.ChoGiai) {
     ordering_.releaseArmed(RW2);
   } else if (RW2.SelStart() < ordering_.DauDong) {
