@@ -1,5 +1,5 @@
-#include "pack/WordsCommand.h"
-
+// talvora-pack words: what a learner has collected, and the ways out and in.
+#include "pack/Command.h"
 #include "pack/FolderSearch.h"
 #include "pack/LearnersList.h"
 #include "pack/words/WordsExport.h"
@@ -32,84 +32,85 @@ int tellUnknownForm(const std::string& file) {
   return static_cast<int>(ListResult::Impossible);
 }
 
-} // namespace
+class WordsCommand final : public Command {
+ public:
+  explicit WordsCommand(CLI::App& application);
+  [[nodiscard]] bool given() const override { return words_->parsed(); }
+  [[nodiscard]] int run() override;
 
-struct WordsCommand::Parts {
-  CLI::App* words = nullptr;
-  CLI::App* list = nullptr;
-  CLI::App* backups = nullptr;
-  CLI::App* restore = nullptr;
-  CLI::App* exporting = nullptr;
-  CLI::App* importing = nullptr;
-  std::string folder; ///< empty where nobody said
-  std::string pack;   ///< the same
-  std::string file;
-  std::string sounds;
-  bool silent = false;
-  std::string copy;
-  bool yes = false;
-  bool mend = false;
+ private:
+  CLI::App* words_ = nullptr;
+  CLI::App* list_ = nullptr;
+  CLI::App* backups_ = nullptr;
+  CLI::App* restore_ = nullptr;
+  CLI::App* exporting_ = nullptr;
+  CLI::App* importing_ = nullptr;
+  std::string folder_; ///< empty where nobody said
+  std::string pack_;   ///< the same
+  std::string file_;
+  std::string sounds_;
+  bool silent_ = false;
+  std::string copy_;
+  bool yes_ = false;
+  bool mend_ = false;
 };
 
-WordsCommand::WordsCommand(CLI::App& application) : parts_(std::make_unique<Parts>()) {
-  Parts& p = *parts_;
-  p.words = application.add_subcommand("words", "the words that a learner has collected");
-  p.words->require_subcommand(1);
+WordsCommand::WordsCommand(CLI::App& application) {
+  words_ = application.add_subcommand("words", "the words that a learner has collected");
+  words_->require_subcommand(1);
   const auto add = [&](const char* name, const char* what) {
-    CLI::App* const command = p.words->add_subcommand(name, what);
-    command->add_option("--learner", p.folder,
+    CLI::App* const command = words_->add_subcommand(name, what);
+    command->add_option("--learner", folder_,
                         "the learner's folder; without it the one that the program uses");
     return command;
   };
-  p.list = add("list", "tell every word with its text and its sentence");
-  p.backups = add("backups", "tell the dated copies of the list");
-  p.restore = add("restore", "bring back what a copy has and the list has not");
-  p.restore->add_option("COPY", p.copy, "name of the copy; the newest that has such words");
-  p.restore->add_flag("--yes", p.yes, "do it; without this it is only shown");
+  list_ = add("list", "tell every word with its text and its sentence");
+  backups_ = add("backups", "tell the dated copies of the list");
+  restore_ = add("restore", "bring back what a copy has and the list has not");
+  restore_->add_option("COPY", copy_, "name of the copy; the newest that has such words");
+  restore_->add_flag("--yes", yes_, "do it; without this it is only shown");
   CLI::App* const check = add("check", "tell what is odd in the list");
-  check->add_option("--pack", p.pack, "also look whether the sentences are in this pack");
-  check->add_flag("--mend", p.mend, "mend it; without this it is only told");
-  p.exporting = add("export", "write the words for a spreadsheet (.csv), for a flash-card program "
-                              "(.tsv, .txt), or as a deck with sound (.apkg)");
-  p.exporting->add_option("FILE", p.file, "the file to write; its ending says the form")
-      ->required();
-  p.exporting->add_option("--pack", p.pack,
-                          "the course; without it the one that the program would open");
-  p.exporting->add_flag("--silent", p.silent, "a deck without sound, which takes no time");
-  p.exporting->add_option("--sounds", p.sounds, "a folder for the sounds of a table");
-  p.importing = add("import", "add the words of a list, one a line or as a table with headings; "
-                              "what is there stays as it is");
-  p.importing->add_option("FILE", p.file, "the list")->required();
-  p.importing->add_option("--pack", p.pack, "the course whose sentences the words take");
+  check->add_option("--pack", pack_, "also look whether the sentences are in this pack");
+  check->add_flag("--mend", mend_, "mend it; without this it is only told");
+  exporting_ = add("export", "write the words for a spreadsheet (.csv), for a flash-card program "
+                             "(.tsv, .txt), or as a deck with sound (.apkg)");
+  exporting_->add_option("FILE", file_, "the file to write; its ending says the form")->required();
+  exporting_->add_option("--pack", pack_,
+                         "the course; without it the one that the program would open");
+  exporting_->add_flag("--silent", silent_, "a deck without sound, which takes no time");
+  exporting_->add_option("--sounds", sounds_, "a folder for the sounds of a table");
+  importing_ = add("import", "add the words of a list, one a line or as a table with headings; "
+                             "what is there stays as it is");
+  importing_->add_option("FILE", file_, "the list")->required();
+  importing_->add_option("--pack", pack_, "the course whose sentences the words take");
 }
 
-WordsCommand::~WordsCommand() = default;
-
-bool WordsCommand::given() const {
-  return parts_->words->parsed();
-}
-
-int WordsCommand::run() const {
-  const Parts& p = *parts_;
-  const bool needsPack = p.exporting->parsed() || p.importing->parsed();
-  const LearnersPlaces places = placesFor(needsPack ? p.pack : "", p.folder);
+int WordsCommand::run() {
+  const bool needsPack = exporting_->parsed() || importing_->parsed();
+  const LearnersPlaces places = placesFor(needsPack ? pack_ : "", folder_);
   const LearnersList list{places.learner};
   const auto code = [](ListResult result) { return static_cast<int>(result); };
-  if (p.exporting->parsed()) {
-    const auto form = exportFormOf(p.file);
-    if (!form) return tellUnknownForm(p.file);
-    ExportWish wish{p.file, *form, places.pack, !p.silent, std::nullopt, secondsNow()};
-    if (!p.sounds.empty()) wish.sounds = p.sounds;
+  if (exporting_->parsed()) {
+    const auto form = exportFormOf(file_);
+    if (!form) return tellUnknownForm(file_);
+    ExportWish wish{file_, *form, places.pack, !silent_, std::nullopt, secondsNow()};
+    if (!sounds_.empty()) wish.sounds = sounds_;
     return code(exportWords(list, wish, std::cout, showCount));
   }
-  if (p.importing->parsed()) return code(importWords(list, p.file, places.pack, std::cout));
-  if (p.list->parsed()) return code(listWords(list, std::cout));
-  if (p.backups->parsed()) return code(listBackups(list, std::cout));
-  if (p.restore->parsed()) {
-    return code(restoreWords(list, p.copy, p.yes ? Doing::Do : Doing::Show, std::cout));
+  if (importing_->parsed()) return code(importWords(list, file_, places.pack, std::cout));
+  if (list_->parsed()) return code(listWords(list, std::cout));
+  if (backups_->parsed()) return code(listBackups(list, std::cout));
+  if (restore_->parsed()) {
+    return code(restoreWords(list, copy_, yes_ ? Doing::Do : Doing::Show, std::cout));
   }
-  return code(checkWords(list, p.pack.empty() ? std::nullopt : std::optional(p.pack),
-                         p.mend ? Doing::Do : Doing::Show, std::cout));
+  return code(checkWords(list, pack_.empty() ? std::nullopt : std::optional(pack_),
+                         mend_ ? Doing::Do : Doing::Show, std::cout));
+}
+
+} // namespace
+
+std::unique_ptr<Command> wordsCommand(CLI::App& application) {
+  return std::make_unique<WordsCommand>(application);
 }
 
 } // namespace talvora::pack
