@@ -3,6 +3,7 @@
 
 #include "learner/FindFolders.h"
 #include "platform/Platform.h"
+#include "program/Ending.h"
 #include "program/Procedures.h"
 #include "surface/Controls.h"
 #include "surface/Form.h"
@@ -10,11 +11,9 @@
 #include "surface/Variables.h"
 
 #include <memory>
+#include <string>
 
 namespace talvora {
-
-/// Why the program is no longer running.
-enum class Ending { None, Quit, FirstRun, Failure };
 
 class Program {
  public:
