@@ -2,6 +2,7 @@
 #include "pack/CourseChecks.h"
 
 #include "pack/DrillChecks.h"
+#include "pack/GuideTextCheck.h"
 #include "pack/PlanChecks.h"
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
@@ -27,6 +28,7 @@ std::unordered_set<std::string> headsOf(const std::vector<OwnEntry>& own) {
 std::vector<std::string> checkCourse(const std::filesystem::path& source, Problems& problems) {
   const auto heads = headsOf(readDictionary(source / "dictionary", problems));
   checkTexts(source / "reading", TextUse::Reading, heads, problems);
+  checkGuideTextIn(source / "reading", problems);
   checkTexts(source / "speaking", TextUse::Speaking, heads, problems);
   checkCutting(readAnalyses(source / "analysis", problems), source / "analysis", problems);
   const auto folder = source / "listening";

@@ -18,18 +18,6 @@ constexpr char textEnd = '@';
 constexpr char sentenceMark = '_';
 constexpr std::string_view paragraphBreak = "\r_\t";
 
-std::string layOutText(const ReadingText& text) {
-  std::string plain = text.title;
-  for (const Paragraph& paragraph : text.paragraphs) {
-    plain += paragraphBreak;
-    for (std::size_t place = 0; place < paragraph.size(); ++place) {
-      if (place > 0) plain += {' ', sentenceMark};
-      plain += paragraph[place].english;
-    }
-  }
-  return plain + lineEnd + textEnd;
-}
-
 std::string layOutTranslation(const ReadingText& text) {
   std::string plain;
   for (const Paragraph& paragraph : text.paragraphs) {
@@ -38,7 +26,6 @@ std::string layOutTranslation(const ReadingText& text) {
   }
   return plain + textEnd;
 }
-
 ReadingText openText() {
   return {openSlotTitle(),
           {{{"This text is coming soon.",
@@ -58,7 +45,7 @@ TextStore compileSlots(const std::vector<ReadingText>& texts) {
   TextStore store;
   for (const ReadingText& text : texts) {
     appendInteger(store.positions, store.stream.size());
-    appendStored(store.stream, layOutText(text));
+    appendStored(store.stream, shownText(text) + textEnd);
   }
   for (const ReadingText& text : texts) {
     appendInteger(store.positions, store.stream.size());
@@ -97,6 +84,18 @@ std::optional<ReadingText> textFrom(std::string_view plain, std::string_view tra
 }
 
 } // namespace
+
+std::string shownText(const ReadingText& text) {
+  std::string plain = text.title;
+  for (const Paragraph& paragraph : text.paragraphs) {
+    plain += paragraphBreak;
+    for (std::size_t place = 0; place < paragraph.size(); ++place) {
+      if (place > 0) plain += {' ', sentenceMark};
+      plain += paragraph[place].english;
+    }
+  }
+  return plain + lineEnd;
+}
 
 std::string openSlotTitle() {
   return ownText("(đang soạn)");

@@ -14,6 +14,9 @@ struct TextStore {
   std::string stream;
 };
 
+/// A text as the program shows it, marks included: carets count its characters.
+[[nodiscard]] std::string shownText(const ReadingText& text);
+
 /// The title of a slot whose text is still being written.
 [[nodiscard]] std::string openSlotTitle();
 

@@ -1,5 +1,6 @@
 #include "listening/NGHE_VIET.h"
 
+#include "formats/GuideText.h"
 #include "formats/Limits.h"
 #include "surface/Looks.h"
 #include "text/Bytes.h"
@@ -15,7 +16,7 @@ namespace talvora {
 
 namespace {
 
-constexpr int GuideText = 2;
+constexpr int GuideText = guidetext::Number;
 constexpr int FlashMs = 20;
 constexpr int SentenceDoneMs = 500;
 constexpr char Prompt = '^';

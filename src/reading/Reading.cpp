@@ -1,5 +1,6 @@
 #include "reading/Reading.h"
 
+#include "formats/GuideText.h"
 #include "formats/Limits.h"
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
@@ -12,7 +13,7 @@ namespace talvora {
 namespace {
 
 constexpr int FirstAnalysedText = 4;
-constexpr int GuideText = 2;
+constexpr int GuideText = guidetext::Number;
 constexpr int MostHeadings = 38;
 // Texts from here on are the scripts of the recordings.
 constexpr int FirstScript = limit::FirstRecordedText;

@@ -1,20 +1,12 @@
 #include "reading/ReadingPage.h"
 
+#include "formats/GuideText.h"
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/WordForm.h"
 
 namespace talvora {
-
-namespace {
-
-// Places in the guide text: the sentence that shows a message, and the end of what answers at all.
-constexpr int GuideSentenceFrom = 699;
-constexpr int GuideSentenceTo = 986;
-constexpr int GuideWordsTo = 1142;
-
-} // namespace
 
 ReadingPage::ReadingPage(Controls& controls, SharedState& state, Shell& shell,
                          PageServices services, ReadingText& text, Clock& clock)
@@ -203,14 +195,14 @@ void ReadingPage::lookUpInGuide() {
   Surface& R2 = controls_.R2;
   CurrentWord& word = state_.word;
   const int c = word.ViTriCaret;
-  if (c > GuideSentenceFrom && c < GuideSentenceTo) {
+  if (c > guidetext::SentencesFrom && c < guidetext::SentencesTo) {
     word.TuHienTai = "x";
     if (R2.SelLength() > 3) R2.SelLength(R2.SelLength() - 3);
     if (!word.ThongBaoHD.empty()) {
       services_.dictionary.TraTu();
       services_.speech.DungDoc();
     }
-  } else if (c < GuideWordsTo) {
+  } else if (c < guidetext::WordsTo) {
     shell_.wordPick.LayCumTu(R2);
     services_.dictionary.TraTu();
   } else {

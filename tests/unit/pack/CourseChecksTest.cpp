@@ -2,6 +2,7 @@
 #include "pack/CourseChecks.h"
 
 #include "pack/DrillChecks.h"
+#include "pack/GuideTextCheck.h"
 #include "pack/PlanChecks.h"
 #include "pack/StreamText.h"
 #include "pack/TextChecks.h"
@@ -201,6 +202,27 @@ TEST(CourseChecks, KeepEveryRuleInTheCourse) {
   EXPECT_THAT(told(problems), ElementsAre());
   for (const std::string& note : notes)
     EXPECT_THAT(note, HasSubstr(": "));
+}
+
+std::vector<std::string> guideMistakes(const std::string& ahead, const std::string& practice) {
+  Problems problems;
+  checkGuideText("title: Guide\n\n" + ahead + "\n= Dịch.\n\n" + practice + "\n= Dịch.\n",
+                 "002-x.txt", problems);
+  return told(problems);
+}
+
+TEST(GuideTextCheck, HoldsThePracticeSentencesToTheirPlace) {
+  const std::string marked = std::string(PracticeMark) + "\nThe boat is here.";
+  // Title, line ends, tabs and marks take eleven characters ahead of the second paragraph.
+  EXPECT_THAT(guideMistakes(std::string(692, 'a'), marked), testing::IsEmpty());
+  EXPECT_THAT(guideMistakes(std::string(900, 'a'), marked), testing::IsEmpty());
+  EXPECT_EQ(guideMistakes(std::string(680, 'a'), marked).size(), 1U);
+  EXPECT_EQ(guideMistakes(std::string(980, 'a'), marked).size(), 1U);
+}
+
+TEST(GuideTextCheck, AsksForTheMarkWhereTheTextReachesThatFar) {
+  EXPECT_THAT(guideMistakes("short", "The boat is here."), testing::IsEmpty());
+  EXPECT_EQ(guideMistakes(std::string(700, 'a'), "The boat is here.").size(), 1U);
 }
 
 } // namespace
