@@ -4,6 +4,7 @@
 
 #include "dictionary/Dictionary.h"
 #include "dictionary/VietnameseSide.h"
+#include "learner/FindFolders.h"
 #include "learner/LearnerData.h"
 #include "platform/Platform.h"
 #include "program/Ending.h"

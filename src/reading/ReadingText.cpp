@@ -15,7 +15,8 @@ namespace {
 }
 
 std::string nameOfStore(int stream) {
-  return stream == file::SpeakingTexts ? packfile::SpeakingTexts : packfile::ReadingTexts;
+  return std::string(stream == file::SpeakingTexts ? packfile::SpeakingTexts
+                                                   : packfile::ReadingTexts);
 }
 
 } // namespace
