@@ -81,9 +81,7 @@ void Dictionary::wirePopup() {
     if (button == MouseButton::Left) lookUpInPopup(at);
   };
   // An explanation that lies behind a lesson takes no keys from it.
-  RHD.MouseMove = [this](int, SurfacePoint) {
-    if (!controls_.linkedLessonOpen()) controls_.RHDBT.SetFocus();
-  };
+  RHD.MouseMove = [this](int, SurfacePoint) { shell_.pages.focusExplanationBehind(controls_.RHD); };
 }
 
 void Dictionary::pressPopupCharacter(int code) {
@@ -96,7 +94,8 @@ void Dictionary::pressPopupCharacter(int code) {
 }
 
 void Dictionary::letWordGo() {
-  if (controls_.R2.Visible()) controls_.R2.SelStart(state_.word.ViTriCaret);
+  Surface* const text = shell_.pages.withCaret(SharedCaret::OfText);
+  if (text != nullptr && text->Visible()) text->SelStart(state_.word.ViTriCaret);
 }
 
 void Dictionary::lookUpInPopup(SurfacePoint at) {

@@ -1,9 +1,9 @@
 #include "dictionary/LookUpList.h"
 
-#include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 
@@ -12,6 +12,7 @@ namespace talvora {
 namespace {
 
 constexpr CharClass Typed("[a-z,A-Z,'. /\\,()-]");
+constexpr Colour PaperColour = 0x80000013;
 constexpr int LinesBelow = 10;
 constexpr int CaptionPercent = 3; // of the screen's height; the form has the rest
 
@@ -43,7 +44,15 @@ void LookUpList::wireEvents() {
     shell_.gestures.pointerMoved(RTD, at);
     state_.word.ViTriChuot = at;
   };
-  shell_.gestures.onClose(RTD, [this](Surface&) { giveUp(); });
+  shell_.pages.add({.surface = RTD,
+                    .textFont = true,
+                    .font = FontStep::Smaller,
+                    .bold = true,
+                    .parked = Parked::BelowTheScreen,
+                    .paper = PaperColour,
+                    .pointerName = RTD.Name(),
+                    .hints = {{{"Chuột phải/ESC=thoát,Xóa từ gõ"_x1, "(Sử dụng Roll chuột)"_x1}}}});
+  shell_.gestures.onClose(CloseRank::LookUpList, RTD, [this](Surface&) { giveUp(); });
 }
 
 // -- Opening and closing.
@@ -77,9 +86,13 @@ void LookUpList::load() {
 void LookUpList::saveCarets() {
   CurrentWord& word = state_.word;
   // A lesson over the text has stored its own caret, which is the one to come back to.
-  if (controls_.linkedLessonOpen()) return;
-  if (controls_.R2.Visible()) word.ViTriCaret = controls_.R2.SelStart();
-  if (controls_.R1.Visible()) word.ViTriCaretR1 = controls_.R1.SelStart();
+  if (shell_.pages.pageOverPage()) return;
+  const auto save = [this](SharedCaret caret, int& place) {
+    const Surface* const page = shell_.pages.withCaret(caret);
+    if (page != nullptr && page->Visible()) place = page->SelStart();
+  };
+  save(SharedCaret::OfText, word.ViTriCaret);
+  save(SharedCaret::OfList, word.ViTriCaretR1);
 }
 
 void LookUpList::DongDanhSachTu() {

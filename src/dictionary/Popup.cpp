@@ -132,10 +132,15 @@ void Popup::VeThongBao() {
   controls_.RHD.SelColor(look::Black);
 }
 
+int Popup::rightOfText() const {
+  const Surface* const text = shell_.pages.withCaret(SharedCaret::OfText);
+  if (text != nullptr) return text->Left() + text->Width();
+  return state_.measures.LeTraiBai + state_.measures.RongBai;
+}
+
 void Popup::writeMessage(const std::string& message) {
   Surface& RHD = controls_.RHD;
-  const Surface& R2 = controls_.R2;
-  const double room = R2.Left() + R2.Width() - RHD.Left() - RHD.Width() / 5.0;
+  const double room = rightOfText() - RHD.Left() - RHD.Width() / 5.0;
   const WrappedMessage wrapped =
       wrapMessage(message, room, [this](std::string_view text) { return form_.TextWidth(text); });
   RHD.Text("");

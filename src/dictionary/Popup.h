@@ -45,6 +45,8 @@ class Popup {
   void VeMucTu(const std::string& text);
   void VeThongBao();
   void CoHopNghia();
+  /// Right edge of the text that messages belong to, in twips.
+  [[nodiscard]] int rightOfText() const;
   /// Height of so many lines of text, in twips.
   [[nodiscard]] int heightOf(int lines) const;
 

@@ -32,6 +32,7 @@ ExplanationBox::ExplanationBox(Form& form, Controls& controls, SharedState& stat
       words_(controls, state, shell, services), item_(item), answer_(answer), kinds_(kinds),
       lessons_(lessons) {
   wireEvents();
+  addToShell();
 }
 
 void ExplanationBox::wireEvents() {
@@ -51,8 +52,18 @@ void ExplanationBox::wireEvents() {
   };
   RHDBT.MouseMove = [&RHDBT](int, SurfacePoint) { RHDBT.SetFocus(); };
   RHDBT.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
-  shell_.gestures.onClose(RHDBT, [this](Surface&) { DongGiai(); });
-  shell_.gestures.onClose(controls_.RVP2, [this](Surface&) { DongBaiLienKet(); });
+}
+
+void ExplanationBox::addToShell() {
+  Surface& RHDBT = controls_.RHDBT;
+  shell_.pages.add({.surface = RHDBT, .font = FontStep::Smaller, .explains = true});
+  shell_.pages.add({.surface = controls_.Rnen2});
+  shell_.gestures.onClose(CloseRank::Explanation, RHDBT, [this](Surface&) { DongGiai(); });
+  shell_.focusReturn.onReturnTo(FocusRank::Explanation, RHDBT);
+  // A lesson that was opened from its list is left by its own Esc.
+  shell_.gestures.onClose(
+      CloseRank::LinkedLesson, controls_.RVP2, [this](Surface&) { DongBaiLienKet(); },
+      [this] { return shell_.pages.pageOverPage(); });
 }
 
 // -- Showing.
@@ -267,7 +278,7 @@ void ExplanationBox::DongBaiLienKet() {
 }
 
 void ExplanationBox::takeLessonAway() {
-  if (!controls_.linkedLessonOpen()) return;
+  if (!shell_.pages.pageOverPage()) return;
   giveTextBack();
   controls_.RVP2.Visible(false);
   controls_.Frame3.Visible(false);

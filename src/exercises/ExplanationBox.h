@@ -62,6 +62,7 @@ class ExplanationBox {
 
  private:
   void wireEvents();
+  void addToShell();
   void releaseMouse(MouseButton button, SurfacePoint at);
   void ViTriLoiGiai();
   void DienLoiGiai(const std::string& text, const Surface& surface);

@@ -13,7 +13,6 @@ ItemPage::ItemPage(Surface& surface, ItemServices& services, HeadingAnswers head
   surface.MouseDown = [this](MouseButton, int, SurfacePoint) {
     services_.answer.restore(surface_);
   };
-  services.shell.gestures.onClose(surface, [this](Surface&) { services_.run.ThoatBT(surface_); });
 }
 
 void ItemPage::begin() {
@@ -61,7 +60,7 @@ void ItemPage::pressCtrl(int keyCode, int shift) {
 
 void ItemPage::pressEsc() {
   const Controls& controls = services_.controls;
-  if (controls.linkedLessonOpen()) {
+  if (services_.shell.pages.pageOverPage()) {
     services_.shell.gestures.DongPhu(surface_);
     return;
   }

@@ -42,6 +42,7 @@ class Run {
   void declare(Variables& variables) const;
 
  private:
+  void addToShell();
   void BatDauChay();
   void TronCau();
   void append(int item);

@@ -27,6 +27,8 @@ UnitList::UnitList(Controls& controls, SharedState& state, Stores& stores, Shell
 
 void UnitList::wireEvents() {
   Surface& RN1 = controls_.RN1;
+  shell_.pages.add(
+      {.surface = RN1, .textFont = true, .font = FontStep::Same, .parked = Parked::BelowTheScreen});
   RN1.KeyDown = [this](int& KeyCode, int) {
     if (KeyCode == key::Up || KeyCode == key::Down) shell_.steering.ChonDong();
   };
@@ -35,11 +37,7 @@ void UnitList::wireEvents() {
     const int pressed = std::exchange(KeyAscii, 0);
     if (pressed == key::Enter) GoiRN2();
     if (pressed != key::Esc || shell_.gestures.DongPhu(RN1)) return;
-    if (controls_.RN2.Visible()) {
-      ThoatRN2();
-    } else {
-      ThoatNghe();
-    }
+    if (listening_ == nullptr || !listening_->leaveText()) ThoatNghe();
   };
   RN1.MouseUp = [this](MouseButton button, int, SurfacePoint) {
     if (button == MouseButton::Left) GoiRN2();
@@ -51,13 +49,16 @@ void UnitList::wireEvents() {
 void UnitList::HienBT(int SoCauBT) {
   Surface& Rchon = controls_.Rchon;
   Rchon.LoadFile(stores_.hold(packfile::ListeningPage));
-  Rchon.format({0, Rchon.TextLength()}, {.bold = true, .fontSize = controls_.RN2.Font().size});
+  Rchon.format(
+      {0, Rchon.TextLength()},
+      {.bold = true,
+       .fontSize = listening_ != nullptr ? listening_->page().Font().size : state_.measures.CoChu});
   state_.word.TuHienTai.clear();
   Rchon.format({listeningpage::LabelsFrom, listeningpage::LabelsFrom + listeningpage::LabelsLength},
                {.color = look::Blue});
   if (state_.places.MucMenu == section::Listening) {
     LietKeUnit();
-    setUpListening();
+    if (listening_ != nullptr) listening_->setUp();
   } else {
     LietKeBai(SoCauBT / ItemsPerUnit);
   }
@@ -126,8 +127,11 @@ void UnitList::GoiRN2() {
   SoBaiChon = RN1.GetLineFromChar(RN1.SelStart()) + 1;
   const int section = state_.places.MucMenu;
   if (isBankSection(section)) BatDauBai();
-  if (section == section::Listening) MoBaiNghe(SoBaiChon);
-  shell_.gestures.remindOnFirstOpening(section, controls_.RN2);
+  if (listening_ == nullptr) return;
+  if (section == section::Listening) listening_->openUnit();
+  // The banks remind like the listening section, as long as its text was not moved over; that is
+  // meant.
+  shell_.gestures.remindOnFirstOpening(section, listening_->page());
 }
 
 void UnitList::ThoatNghe() {
@@ -139,7 +143,7 @@ void UnitList::ThoatNghe() {
   state_.word.DaChonRTD = false;
   // The banks go back to the listening button too; that is meant.
   focusButton(section::Listening);
-  closeListening();
+  if (listening_ != nullptr) listening_->close();
 }
 
 } // namespace talvora

@@ -12,6 +12,23 @@
 
 namespace talvora {
 
+/// The listening section, as the list that it shares with the banks needs it.
+class ListeningSection {
+ public:
+  virtual ~ListeningSection() = default;
+
+  /// The list is filled with listening units.
+  virtual void setUp() = 0;
+  /// Opens the unit chosen in the list.
+  virtual void openUnit() = 0;
+  /// Leaves the text that is open; false when none is.
+  virtual bool leaveText() = 0;
+  /// Closes what the section holds open.
+  virtual void close() = 0;
+  /// The surface of its texts.
+  [[nodiscard]] virtual const Surface& page() const = 0;
+};
+
 class UnitList {
  public:
   static constexpr int ItemsPerUnit = 25;
@@ -34,12 +51,9 @@ class UnitList {
 
   /// Starts a unit of the bank that is open; set by the run.
   std::function<void()> BatDauBai = [] {};
-  /// Sets the listening list up, opens a listening unit, leaves a listening text and closes what
-  /// the listening section holds open; set by the program.
-  std::function<void()> setUpListening = [] {};
-  std::function<void(int unit)> MoBaiNghe = [](int) {};
-  std::function<void()> ThoatRN2 = [] {};
-  std::function<void()> closeListening = [] {};
+  /// The listening section shows its units here from now on.
+  void share(ListeningSection& listening) { listening_ = &listening; }
+
   /// Gives the focus to a menu button; set by the program.
   std::function<void(int number)> focusButton = [](int) {};
 
@@ -56,6 +70,7 @@ class UnitList {
   Stores& stores_;
   Shell& shell_;
   Scoring& scoring_;
+  ListeningSection* listening_ = nullptr;
 };
 
 } // namespace talvora

@@ -40,7 +40,15 @@ void XepTu::wireEvents() {
   Rxep.MouseMove = [this, &Rxep](int, SurfacePoint at) { shell_.gestures.followPointer(Rxep, at); };
   Rxep.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   Rxep.DblClick = [this] { state_.word.CoDupChuot = true; };
-  shell_.gestures.onClose(Rxep, [this](Surface&) { ThoatXep(); });
+  shell_.pages.add({.surface = Rxep,
+                    .textFont = true,
+                    .font = FontStep::Larger,
+                    .parked = Parked::BelowTheScreen,
+                    .pointerName = Rxep.Name(),
+                    .hints = {{{"Chuột phải=chọn từ; Chuột Trái=Tra từ; Enter=đáp án,chuyển câu"_x1,
+                                "F6=bỏ từ xếp; Gõ phím=Tra từ; Esc=thoát"_x1}}}});
+  shell_.gestures.onClose(CloseRank::Ordering, Rxep, [this](Surface&) { ThoatXep(); });
+  shell_.focusReturn.onReturnTo(FocusRank::Ordering, Rxep);
 }
 
 // -- Opening and leaving.

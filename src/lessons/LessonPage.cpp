@@ -2,6 +2,7 @@
 
 #include "lessons/LessonMarkup.h"
 #include "surface/Looks.h"
+#include "text/Vietnamese.h"
 
 #include <utility>
 
@@ -12,6 +13,7 @@ LessonPage::LessonPage(Controls& controls, SharedState& state, const Stores& sto
     : controls_(controls), state_(state), stores_(stores), shell_(shell),
       words_(controls, state, shell, services) {
   wireEvents();
+  addToShell();
 }
 
 void LessonPage::wireEvents() {
@@ -29,6 +31,21 @@ void LessonPage::wireEvents() {
   RVP2.SelChange = [this, &RVP2] {
     if (RVP2.SelLength() == 0) state_.word.TuHienTai.clear();
   };
+}
+
+void LessonPage::addToShell() {
+  Surface& RVP2 = controls_.RVP2;
+  shell_.pages.add({.surface = RVP2,
+                    .textFont = true,
+                    .parked = Parked::BelowTheScreen,
+                    .pointerName = RVP2.Name(),
+                    .cardOverPage = &controls_.Frame3,
+                    .hints = {{{"Chuột Trái=Tra từ; Ctrl=Tra từ; Chuột phải= đọc lại"_x1,
+                                "Gõ phím=Tra từ; Esc=thoát."_x1}}}});
+  // A lesson over an item or a text covers all of the page that has opened it.
+  shell_.focusReturn.onReturnTo(FocusRank::LinkedLesson, RVP2,
+                                [this] { return shell_.pages.pageOverPage(); });
+  shell_.focusReturn.onReturnTo(FocusRank::Lesson, RVP2);
 }
 
 // -- Keys and mouse.

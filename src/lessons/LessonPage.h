@@ -39,6 +39,7 @@ class LessonPage {
 
  private:
   void wireEvents();
+  void addToShell();
   void pressKey(int keyCode, int shift);
   void pressCharacter(int& keyAscii);
   void releaseMouse(MouseButton button, SurfacePoint at);

@@ -5,6 +5,7 @@
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <utility>
@@ -48,7 +49,16 @@ void VanPham::wireEvents() {
   RVP1.KeyPress = [this](int& KeyAscii) { pressCharacter(KeyAscii); };
   RVP1.MouseMove = [this, &RVP1](int, SurfacePoint at) { shell_.gestures.followPointer(RVP1, at); };
   RVP1.MouseUp = [this](MouseButton button, int, SurfacePoint) { releaseMouse(button); };
-  shell_.focusReturn.onReturnTo(RVP1, [this] { returnFocus(); });
+  shell_.pages.add({.surface = RVP1,
+                    .textFont = true,
+                    .font = FontStep::Smaller,
+                    .parked = Parked::BelowAndBeside,
+                    .pointerName = RVP1.Name(),
+                    .hints = {{{"Enter/Chuột Trái=Mở bài đọc; Mũi tên Trái/phải=Tiêu đề"_x1,
+                                "Gõ phím=Tra từ; Esc=thoát"_x1}}}});
+  shell_.focusReturn.onReturnTo(FocusRank::LessonList, RVP1,
+                                FocusReturn::unlessVisible(controls_.RVP2),
+                                [this] { returnFocus(); });
   page_.leave = [this] { ExitRVP2(); };
 }
 

@@ -20,14 +20,25 @@ Listening::Listening(Form& form, Controls& controls, SharedState& state, Stores&
       scoring_(scoring), item_(item), items_(stores),
       page_(controls.RN2, controls.Rchon, state.measures, random, item.links), order_(random) {
   wireEvents();
-  wireList();
+  addToShell();
+  units_.share(*this);
 }
 
-void Listening::wireList() {
-  units_.setUpListening = [this] { LapBangNghe(); };
-  units_.MoBaiNghe = [this](int) { MoBaiNghe(); };
-  units_.ThoatRN2 = [this] { ThoatRN2(); };
-  units_.closeListening = [this] { items_.close(); };
+void Listening::addToShell() {
+  Surface& RN2 = controls_.RN2;
+  shell_.pages.add({.surface = RN2,
+                    .textFont = true,
+                    .font = FontStep::Same,
+                    .pointerName = RN2.Name(),
+                    .hints = {{{"Chuột Trái=Chọn câu; Chuột phải=Nghe lại; Next=Qua câu mới"_x1,
+                                "Esc=thoát"_x1}}}});
+  shell_.focusReturn.onReturnTo(FocusRank::Listening, RN2, FocusReturn::withoutSelection(RN2));
+}
+
+bool Listening::leaveText() {
+  if (!controls_.RN2.Visible()) return false;
+  ThoatRN2();
+  return true;
 }
 
 void Listening::wireEvents() {

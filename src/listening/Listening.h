@@ -21,7 +21,7 @@
 
 namespace talvora {
 
-class Listening {
+class Listening final : private ListeningSection {
  public:
   /// Answers for the listening units of `units` from then on.
   Listening(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
@@ -39,8 +39,14 @@ class Listening {
   void declare(Variables& variables) const;
 
  private:
+  void setUp() override { LapBangNghe(); }
+  void openUnit() override { MoBaiNghe(); }
+  bool leaveText() override;
+  void close() override { items_.close(); }
+  [[nodiscard]] const Surface& page() const override { return controls_.RN2; }
+
   void wireEvents();
-  void wireList();
+  void addToShell();
   void LapBangNghe();
   void countItems();
   void CauNgheTiep();

@@ -3,10 +3,10 @@
 #include "formats/GuideText.h"
 #include "formats/Limits.h"
 #include "surface/Looks.h"
-#include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <string_view>
@@ -54,7 +54,14 @@ void NGHE_VIET::wireEvents() {
   Rviet.MouseMove = [this](int, SurfacePoint at) { moveMouse(at); };
   Rviet.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   Rviet.DblClick = [this] { state_.word.CoDupChuot = true; };
-  shell_.focusReturn.onReturnTo(Rviet, [this, &Rviet] {
+  shell_.pages.add(
+      {.surface = Rviet,
+       .font = FontStep::Same,
+       .pointerName = Rviet.Name(),
+       .hints = {{{"Mũi tên Trái=Nghe lại;  Mũi tên phải=Nhắc từ;  Nhấp chuột=Tra từ"_x1,
+                   "Mũi tên lên=lùi 1 câu;  Mũi tên xuống=tới 1 câu;  Esc=thoát."_x1}}}});
+  const auto always = [] { return true; };
+  shell_.focusReturn.onReturnTo(FocusRank::Dictation, Rviet, always, [this, &Rviet] {
     state_.word.TuHienTai = CauMau_;
     state_.word.NghiaHienTai.clear();
     state_.word.ThongBaoHD = "x";

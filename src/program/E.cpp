@@ -40,6 +40,7 @@ E::E(Platform& platform, Folders folders)
       vietnameseSide_(controls_, state_, stores_, shell_, speech_, dictionary_.lookUp()),
       sections_(platform, form_, controls_, state_, stores_, shell_,
                 PageServices{dictionary_, vietnameseSide_, speech_, voice_}, own_) {
+  shell_.check();
   form_.Caption(std::string(DesignCaption));
   declareAll();
   registerProcedures();

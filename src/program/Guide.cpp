@@ -25,6 +25,7 @@ void Guide::open() {
 
 void Guide::wireEvents() {
   Surface& Rcachhoc = controls_.Rcachhoc;
+  shell_.pages.add({.surface = Rcachhoc});
   Rcachhoc.KeyDown = [&Rcachhoc, this](int& KeyCode, int) {
     shell_.hints.showOnF2(KeyCode, Rcachhoc);
     // The guide is not locked, but nothing in it is the learner's to delete.

@@ -5,6 +5,7 @@
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 
@@ -69,17 +70,33 @@ void Reading::wireEvents() {
   };
   R1.MouseMove = [this, &R1](int, SurfacePoint at) { shell_.gestures.pointerMoved(R1, at); };
   R1.MouseUp = [this](MouseButton button, int, SurfacePoint) { releaseMouse(button); };
-  shell_.focusReturn.onReturnTo(R1, [this, &R1] {
-    R1.SelStart(state_.word.ViTriCaretR1);
-    ChonDongR1(R1);
-    R1.SetFocus();
-  });
+  addToShell();
   page_.leave = [this] { ExitR2(); };
   page_.ThemTuVung = [this] { vocabulary_.ThemTuVung(); };
   vocabulary_.ensureListBuilt = [this] {
     if (!DaNapDanhSach) MoDanhSachBai();
   };
   vocabulary_.forgetList = [this] { DaNapDanhSach = false; };
+}
+
+void Reading::addToShell() {
+  Surface& R1 = controls_.R1;
+  shell_.pages.add(
+      {.surface = R1,
+       .textFont = true,
+       .font = FontStep::Smaller,
+       .parked = Parked::BelowAndBeside,
+       .pointerName = R1.Name(),
+       .caret = SharedCaret::OfList,
+       .hints = {
+           {{"Enter/Chuột Trái=Mở bài đọc; Chuột phải= Nghe Viết; Mũi tên Trái/phải=Tiêu đề"_x1,
+             "Esc=thoát; Gõ phím=Tra từ (Sử dụng Roll chuột)"_x1}}}});
+  shell_.focusReturn.onReturnTo(FocusRank::TextList, R1, FocusReturn::unlessVisible(controls_.R2),
+                                [this, &R1] {
+                                  R1.SelStart(state_.word.ViTriCaretR1);
+                                  ChonDongR1(R1);
+                                  R1.SetFocus();
+                                });
 }
 
 // -- Entering and leaving.

@@ -54,6 +54,7 @@ class Reading {
 
  private:
   void wireEvents();
+  void addToShell();
   void XayDanhSachBai();
   /// Appends text i's title line, a heading or an indented title, to the list.
   void appendTitle(int i);

@@ -4,6 +4,7 @@
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
+#include "text/Vietnamese.h"
 #include "text/WordForm.h"
 
 namespace talvora {
@@ -15,6 +16,25 @@ ReadingPage::ReadingPage(Controls& controls, SharedState& state, Shell& shell,
       aloud_(controls.R2, state, sentences_, services.speech, services.voice, shell.steering,
              clock) {
   wireEvents();
+  addToShell();
+}
+
+void ReadingPage::addToShell() {
+  Surface& R2 = controls_.R2;
+  const auto notAnalysed = [this] { return state_.places.MucMenu != section::Analysis; };
+  shell_.pages.add(
+      {.surface = R2,
+       .textFont = true,
+       .parked = Parked::BelowAndBeside,
+       .pointerName = R2.Name(),
+       .caret = SharedCaret::OfText,
+       .hints = {
+           {{"Chuột Trái/Ctrl= Tra từ; Chuột phải= đọc lại; 2Chuột Trái=Xem câu dịch"_x1,
+             "Enter=Chọn từ; F6= Xếp từ; F9= đọc cả bài; Gõ phím=Tra từ; Esc=thoát."_x1},
+            notAnalysed},
+           {{"Chuột Trái/Ctrl= Tra từ; Chuột phải= Giảng ngữ pháp; 2Chuột Trái=Xem câu dịch"_x1,
+             "Enter=Chọn từ; F6= Xếp từ; F9= đọc cả bài; Esc=thoát."_x1}}}});
+  shell_.focusReturn.onReturnTo(FocusRank::Text, R2, FocusReturn::withoutSelection(R2));
 }
 
 void ReadingPage::wireEvents() {
@@ -134,7 +154,7 @@ void ReadingPage::releaseSpace() {
 }
 
 void ReadingPage::readAloud() {
-  shell_.hints.GoiYNghe();
+  shell_.hints.GoiYNghe(controls_.R2);
   aloud_.DocCa();
   shell_.hints.AnRDOS(controls_.R2);
 }

@@ -56,6 +56,7 @@ class ReadingPage {
 
  private:
   void wireEvents();
+  void addToShell();
   void moveMouse(SurfacePoint at);
   void pressKey(int& keyCode, int shift);
   void pressEsc();

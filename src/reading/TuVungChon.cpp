@@ -1,7 +1,6 @@
 #include "reading/TuVungChon.h"
 
 #include "surface/Looks.h"
-#include "text/Bytes.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
@@ -28,6 +27,7 @@ TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, S
     : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
       text_(text), words_(words) {
   wireEvents();
+  addToShell();
 }
 
 // -- The list in memory and on disk.
@@ -262,11 +262,6 @@ void TuVungChon::wireEvents() {
   Surface& Rchon = controls_.Rchon;
   CurrentWord& word = state_.word;
   services_.dictionary.popup().VeCauTuVung = [this](const std::string& text) { VeCauTuVung(text); };
-  shell_.focusReturn.onReturnTo(Rchon, [this, &Rchon, &word] {
-    Rchon.SelStart(word.ViTriCaret);
-    Rchon.SetFocus();
-    ChonDongChon();
-  });
   Rchon.MouseDown = [this](MouseButton, int, SurfacePoint) { shell_.upward.DongNghia(); };
   Rchon.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   Rchon.MouseMove = [this, &Rchon](int, SurfacePoint at) {
@@ -293,6 +288,23 @@ void TuVungChon::wireEvents() {
   Rchon.SelChange = [&Rchon, &word] {
     if (Rchon.SelLength() == 0) word.TuHienTai.clear();
   };
+}
+
+void TuVungChon::addToShell() {
+  Surface& Rchon = controls_.Rchon;
+  shell_.pages.add({.surface = Rchon,
+                    .textFont = true,
+                    .font = FontStep::Smaller,
+                    .parked = Parked::BelowTheScreen,
+                    .pointerName = Rchon.Name(),
+                    .hints = {{{"Chuột Trái=Tra từ; 2 Chuột Trái=Xem câu"_x1,
+                                "Esc=thoát; Gõ phím=Tra từ (Sử dụng Roll chuột)"_x1}}}});
+  const auto always = [] { return true; };
+  shell_.focusReturn.onReturnTo(FocusRank::Vocabulary, Rchon, always, [this, &Rchon] {
+    Rchon.SelStart(state_.word.ViTriCaret);
+    Rchon.SetFocus();
+    ChonDongChon();
+  });
 }
 
 void TuVungChon::releaseMouse(MouseButton button, SurfacePoint at) {

@@ -55,6 +55,7 @@ class TuVungChon {
 
  private:
   void wireEvents();
+  void addToShell();
   /// Puts the list of texts away, which the section builds to have the vocabulary loaded.
   void leaveList();
   void releaseMouse(MouseButton button, SurfacePoint at);

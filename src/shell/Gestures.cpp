@@ -1,31 +1,23 @@
 #include "shell/Gestures.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
 namespace talvora {
 
-Gestures::Gestures(Controls& c, const Measures& measures, CurrentWord& word, HintBar& hints,
-                   const UpwardCalls& upward, Clipboard& clipboard)
-    : controls_(c), measures_(measures), word_(word), hints_(hints), upward_(upward),
+Gestures::Gestures(Controls& controls, const Pages& pages, const Measures& measures,
+                   CurrentWord& word, HintBar& hints, const UpwardCalls& upward,
+                   Clipboard& clipboard)
+    : pages_(pages), measures_(measures), word_(word), hints_(hints), upward_(upward),
       clipboard_(clipboard) {
-  for (const Surface* surface : {&c.R1, &c.R2, &c.RVP1, &c.RVP2, &c.Rchon, &c.RN2, &c.RHD, &c.RTD,
-                                 &c.RDT, &c.RABCD, &c.Rviet, &c.RW2, &c.Rxep}) {
-    TrangThaiChuot_[surface->Name()] = PointerState::NotMovedOver;
-  }
-  const auto nothing = [](Surface&) {};
-  for (const Surface* surface :
-       {&c.RW2, &c.Rxep, &c.RDOS, &c.RTD, &c.RVP2, &c.RHDBT, &c.RHD, &c.Rsai, &c.RABCD, &c.RDT}) {
-    closingRows_.push_back({surface, nothing});
-  }
-  onClose(c.RDOS, [this](Surface& asking) { hints_.AnRDOS(asking); });
-  onClose(c.RHD, [this](Surface&) { upward_.DongNghia(); });
+  onClose(CloseRank::HintBar, controls.RDOS, [this](Surface& asking) { hints_.AnRDOS(asking); });
+  onClose(CloseRank::Popup, controls.RHD, [this](Surface&) { upward_.DongNghia(); });
 }
 
 Gestures::PointerState& Gestures::stateOf(const Surface& surface) {
-  const bool shared = &surface == &controls_.Rsai;
-  return TrangThaiChuot_[shared ? controls_.RDT.Name() : surface.Name()];
+  const Page* const page = pages_.find(surface);
+  const bool shares = page != nullptr && !page->pointerName.empty();
+  return TrangThaiChuot_[shares ? std::string(page->pointerName) : surface.Name()];
 }
 
 bool Gestures::isFar(SurfacePoint at) const {
@@ -59,24 +51,17 @@ void Gestures::RoiChuot(Surface& surface, SurfacePoint at) {
   hints_.AnRDOS(surface);
 }
 
-bool Gestures::mayClose(const Surface& surface) const {
-  if (!surface.Visible()) return false;
-  // A lesson that was opened from its list is left by its own Esc.
-  return &surface != &controls_.RVP2 || controls_.linkedLessonOpen();
-}
-
 bool Gestures::DongPhu(Surface& surface) {
-  const auto row = std::find_if(closingRows_.begin(), closingRows_.end(),
-                                [this](const ClosingRow& each) { return mayClose(*each.surface); });
-  if (row == closingRows_.end()) return false;
+  const ClosingRow* const row = closingRows_.first(
+      [](const ClosingRow& each) { return each.surface->Visible() && each.holds(); });
+  if (row == nullptr) return false;
   row->action(surface);
   return true;
 }
 
-void Gestures::onClose(const Surface& surface, std::function<void(Surface&)> action) {
-  const auto row = std::find_if(closingRows_.begin(), closingRows_.end(),
-                                [&](const ClosingRow& each) { return each.surface == &surface; });
-  if (row != closingRows_.end()) row->action = std::move(action);
+void Gestures::onClose(CloseRank rank, const Surface& surface, std::function<void(Surface&)> action,
+                       std::function<bool()> holds) {
+  closingRows_.take(rank, {&surface, std::move(action), std::move(holds)}, surface.Name());
 }
 
 void Gestures::keyReleased() {
@@ -91,13 +76,21 @@ void Gestures::remindOnFirstOpening(int section, const Surface& surface) {
 
 void Gestures::declare(Variables& variables) const {
   variables.add("TrangThaiChuot", [this] {
-    VariableValue::Record states;
-    for (const auto& [name, state] : TrangThaiChuot_) {
-      states.emplace_back(name, VariableValue(static_cast<int>(state)));
+    auto states = TrangThaiChuot_;
+    for (const Page& page : pages_.all()) {
+      if (!page.pointerName.empty()) states.try_emplace(std::string(page.pointerName));
     }
-    const PointerState shared = TrangThaiChuot_.at(controls_.RDT.Name());
-    states.emplace_back(controls_.Rsai.Name(), VariableValue(static_cast<int>(shared)));
-    return VariableValue(std::move(states));
+    // Last those that share another's.
+    VariableValue::Record record;
+    for (const auto& [name, state] : states)
+      record.emplace_back(name, VariableValue(static_cast<int>(state)));
+    for (const Page& page : pages_.all()) {
+      const std::string& name = page.surface.Name();
+      if (page.pointerName.empty() || page.pointerName == name) continue;
+      const PointerState shared = states.at(std::string(page.pointerName));
+      record.emplace_back(name, VariableValue(static_cast<int>(shared)));
+    }
+    return VariableValue(std::move(record));
   });
 }
 

@@ -4,6 +4,8 @@
 
 #include "platform/Desk.h"
 #include "shell/HintBar.h"
+#include "shell/Pages.h"
+#include "shell/Rows.h"
 #include "shell/UpwardCalls.h"
 #include "surface/Controls.h"
 #include "surface/State.h"
@@ -12,14 +14,28 @@
 #include <map>
 #include <set>
 #include <string>
-#include <vector>
 
 namespace talvora {
 
+/// What Esc closes first.
+enum class CloseRank {
+  Writing,
+  Ordering,
+  HintBar,
+  LookUpList,
+  LinkedLesson,
+  Explanation,
+  Popup,
+  Mistake,
+  Choice,
+  FillIn,
+  Count
+};
+
 class Gestures {
  public:
-  Gestures(Controls& controls, const Measures& measures, CurrentWord& word, HintBar& hints,
-           const UpwardCalls& upward, Clipboard& clipboard);
+  Gestures(Controls& controls, const Pages& pages, const Measures& measures, CurrentWord& word,
+           HintBar& hints, const UpwardCalls& upward, Clipboard& clipboard);
 
   /// Stores where the pointer came in, and takes the hint bar away once it has left that place.
   void pointerMoved(Surface& surface, SurfacePoint at);
@@ -35,7 +51,11 @@ class Gestures {
   /// Closes the top thing that is open; false when nothing was.
   bool DongPhu(Surface& surface);
   /// What `DongPhu` does when that surface is the top thing; it is given the surface that asked.
-  void onClose(const Surface& surface, std::function<void(Surface& asking)> action);
+  /// Where a condition is given, the surface counts only while it holds.
+  /// Throws std::logic_error when the rank is taken.
+  void onClose(
+      CloseRank rank, const Surface& surface, std::function<void(Surface& asking)> action,
+      std::function<bool()> holds = [] { return true; });
 
   /// What every key release begins with: nothing copied stays on the clipboard.
   void keyReleased();
@@ -45,24 +65,27 @@ class Gestures {
 
   void declare(Variables& variables) const;
 
+  /// Throws std::logic_error when a rank is nobody's. For the start.
+  void check() const { closingRows_.check("closing"); }
+
  private:
-  /// One byte for a surface; `RDT` and `Rsai` share theirs.
   enum class PointerState { NotMovedOver = 0, PointStored = 1, BarTakenAway = 2 };
   struct ClosingRow {
     const Surface* surface;
     std::function<void(Surface&)> action;
+    std::function<bool()> holds;
   };
 
+  /// Pages may share theirs.
   [[nodiscard]] PointerState& stateOf(const Surface& surface);
-  [[nodiscard]] bool mayClose(const Surface& surface) const;
 
-  Controls& controls_;
+  const Pages& pages_;
   const Measures& measures_;
   CurrentWord& word_;
   HintBar& hints_;
   const UpwardCalls& upward_;
   Clipboard& clipboard_;
-  std::vector<ClosingRow> closingRows_;
+  Rows<CloseRank, ClosingRow> closingRows_;
   std::map<std::string, PointerState> TrangThaiChuot_;
   std::set<int> reminded_;
 };

@@ -1,8 +1,6 @@
 #include "shell/HintBar.h"
 
-#include "shell/HintTexts.h"
 #include "surface/Looks.h"
-#include "surface/SectionNumbers.h"
 #include "text/Rounding.h"
 #include "text/Vietnamese.h"
 
@@ -16,14 +14,15 @@ constexpr int MostReminders = 3;
 
 } // namespace
 
-HintBar::HintBar(Form& form, Controls& controls, const Places& places, const Measures& measures,
+HintBar::HintBar(Form& form, Controls& controls, Pages& pages, const Measures& measures,
                  Steering& steering)
-    : form_(form), controls_(controls), places_(places), measures_(measures), steering_(steering) {
-  controls_.RDOS.MouseMove = [this](int, SurfacePoint) {
-    controls_.RDOS.Visible(false);
+    : form_(form), controls_(controls), pages_(pages), measures_(measures), steering_(steering) {
+  Surface& RDOS = controls_.RDOS;
+  pages.add({.surface = RDOS, .textFont = true, .parked = Parked::BelowTheScreen});
+  RDOS.MouseMove = [this, &RDOS](int, SurfacePoint) {
+    RDOS.Visible(false);
     // The page that is seen, which need not be the text: the look-up list or a drill may cover it.
-    Control* const page = form_.foremostSurface({&controls_.RHD, &controls_.RHDBT});
-    if (page != nullptr) page->SetFocus();
+    pages_.focusForemost();
   };
 }
 
@@ -66,25 +65,11 @@ void HintBar::NoiDungHD(Surface& surface) {
   clear();
   Surface& RDOS = controls_.RDOS;
   RDOS.SelColor(look::Blue);
-  const auto holds = [&](HintCase when) {
-    switch (when) {
-    case HintCase::Analysis:
-      return places_.MucMenu == section::Analysis;
-    case HintCase::NotAnalysis:
-      return places_.MucMenu != section::Analysis;
-    case HintCase::ItemJudged:
-      return itemJudged();
-    case HintCase::Always:
-    case HintCase::ItemOpen:
-      return true;
-    }
-    return false;
-  };
-  const auto hints = hintTexts();
-  const auto hint = std::find_if(hints.begin(), hints.end(), [&](const Hint& each) {
-    return each.surface == surface.Name() && holds(each.when);
-  });
-  if (hint == hints.end()) return;
+  const Page* const page = pages_.find(surface);
+  if (page == nullptr) return;
+  const auto hint = std::find_if(page->hints.begin(), page->hints.end(),
+                                 [](const Hint& each) { return !each.holds || each.holds(); });
+  if (hint == page->hints.end()) return;
   for (std::size_t line = 0; line < hint->lines.size() && !hint->lines[line].empty(); ++line) {
     if (line > 0) RDOS.SelText('\r');
     RDOS.SelText(hint->lines[line]);
@@ -122,9 +107,9 @@ void HintBar::GoiYF2() {
   ++DemGoiYF2;
 }
 
-void HintBar::GoiYNghe() {
+void HintBar::GoiYNghe(Surface& page) {
   steering_.ChuotGoc();
-  AnRDOS(controls_.R2);
+  AnRDOS(page);
   clear();
   Surface& RDOS = controls_.RDOS;
   RDOS.SelColor(look::Blue);

@@ -1,18 +1,17 @@
 // The hint bar: what the mouse and the keys do on the surface that has the focus.
 #pragma once
 
+#include "shell/Pages.h"
 #include "shell/Steering.h"
 #include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
-#include <functional>
-
 namespace talvora {
 
 class HintBar {
  public:
-  HintBar(Form& form, Controls& controls, const Places& places, const Measures& measures,
+  HintBar(Form& form, Controls& controls, Pages& pages, const Measures& measures,
           Steering& steering);
 
   /// Places the bar on the upper edge of the card, and the label `L1` with it.
@@ -27,16 +26,12 @@ class HintBar {
   void showOnF2(int keyCode, Surface& surface);
   /// The reminder that F2 exists; at most three times in a run.
   void GoiYF2();
-  /// The fixed hint for reading aloud.
-  void GoiYNghe();
+  /// The fixed hint for reading a page aloud.
+  void GoiYNghe(Surface& page);
   /// The bar at double height, for two lines.
   void RDOSCao();
 
   void declare(Variables& variables) const;
-
-  /// Whether the item on show has been judged and its blanks give their answers; set by the
-  /// exercises.
-  std::function<bool()> itemJudged = [] { return false; };
 
   int DemGoiYF2 = 0; ///< times the reminder was shown in this run
   int DemChay = 0;   ///< run counter; start-up sets it to 2 and never reads the stored one
@@ -46,7 +41,7 @@ class HintBar {
 
   Form& form_;
   Controls& controls_;
-  const Places& places_;
+  Pages& pages_;
   const Measures& measures_;
   Steering& steering_;
 };

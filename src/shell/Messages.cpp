@@ -3,8 +3,25 @@
 #include "surface/Looks.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
+#include "text/Vietnamese.h"
 
 namespace talvora {
+
+Messages::Messages(Form& form, Controls& controls, Pages& pages, const Measures& measures,
+                   const UpwardCalls& upward, Clock& clock, Boxes& boxes, Narrator& narrator)
+    : form_(form), controls_(controls), measures_(measures), upward_(upward), clock_(clock),
+      boxes_(boxes), narrator_(narrator) {
+  pages.add({.surface = controls_.RHD,
+             .textFont = true,
+             .font = FontStep::Smaller,
+             .parked = Parked::BelowTheScreen,
+             .paper = look::Box,
+             .pointerName = controls_.RHD.Name(),
+             .explains = true,
+             .hints = {{{"Chuột phải/Esc=thoát; Nhấp chuột=Tra từ"_x1,
+                         "Gõ phím=Tra từ (Sử dụng Roll chuột)"_x1}}}});
+  pages.add({.surface = controls_.Rnen, .parked = Parked::BelowTheScreen});
+}
 
 void Messages::ThongBao(std::string_view text, int ms) {
   Surface& RHD = controls_.RHD;

@@ -4,6 +4,7 @@
 #include "platform/Boxes.h"
 #include "platform/Clock.h"
 #include "platform/Desk.h"
+#include "shell/Pages.h"
 #include "shell/UpwardCalls.h"
 #include "surface/Controls.h"
 #include "surface/Form.h"
@@ -16,10 +17,8 @@ namespace talvora {
 
 class Messages {
  public:
-  Messages(Form& form, Controls& controls, const Measures& measures, const UpwardCalls& upward,
-           Clock& clock, Boxes& boxes, Narrator& narrator)
-      : form_(form), controls_(controls), measures_(measures), upward_(upward), clock_(clock),
-        boxes_(boxes), narrator_(narrator) {}
+  Messages(Form& form, Controls& controls, Pages& pages, const Measures& measures,
+           const UpwardCalls& upward, Clock& clock, Boxes& boxes, Narrator& narrator);
 
   /// Shows a message on `RHD` for `ms` milliseconds, in which no events run; with 0 it stays until
   /// `TatThongBao`. A text longer than the screen still centres by arithmetic.

@@ -25,7 +25,25 @@ ScreenClass screenClassOf(int RongMH) {
   return {13, 20, 76, 300, 110};
 }
 
+double sizeOf(FontStep step, double CoChu) {
+  switch (step) {
+  case FontStep::Smaller:
+    return CoChu - 1;
+  case FontStep::Larger:
+    return CoChu + 2;
+  case FontStep::Same:
+  case FontStep::AsItIs:
+    break;
+  }
+  return CoChu;
+}
+
 } // namespace
+
+ScreenSetup::ScreenSetup(Form& form, Controls& controls, Pages& pages, Measures& measures)
+    : form_(form), controls_(controls), pages_(pages), measures_(measures) {
+  pages.add({.surface = controls.Rnen3});
+}
 
 void ScreenSetup::measureScreen(int pixelWidth, int pixelHeight) {
   measures_.CaoMH = pixelHeight * TwipsPerPixel * 97 / 100;
@@ -60,17 +78,15 @@ void ScreenSetup::adjustSlideStep() {
 }
 
 void ScreenSetup::setTextFont() {
-  Controls& c = controls_;
-  for (Surface* surface :
-       {&c.RHD, &c.RVP1, &c.RVP2, &c.R1, &c.R2, &c.RW1, &c.RW2, &c.RN1, &c.RN2, &c.Rchon, &c.RTD,
-        &c.Rxep, &c.RDOS, &c.RDT, &c.RABCD, &c.Rsai, &c.RAmthanh}) {
-    surface->FontName("x1");
+  for (const Page& page : pages_.all()) {
+    if (page.textFont) page.surface.FontName("x1");
   }
 }
 
 void ScreenSetup::parkSurfaces() {
-  controls_.RHD.BackColor(look::Box);
-  controls_.RTD.BackColor(look::Box);
+  for (const Page& page : pages_.all()) {
+    if (page.paper) page.surface.BackColor(*page.paper);
+  }
   measures_.MauNenHD = controls_.RHD.BackColor();
   shareMeasures();
   parkOffScreen();
@@ -89,33 +105,22 @@ void ScreenSetup::shareMeasures() {
 }
 
 void ScreenSetup::parkOffScreen() {
-  Controls& c = controls_;
   const int right = measures_.RongMH + 2;
   const int below = measures_.parkedTop();
-  for (Control* control : std::initializer_list<Control*>{&c.R1, &c.R2, &c.RW1, &c.MM}) {
-    control->Left(right);
-  }
-  c.RVP1.Left(c.R1.Left());
-  for (Control* control : std::initializer_list<Control*>{
-           &c.R1, &c.RW1, &c.R2, &c.RW2, &c.RN1, &c.RN2, &c.RVP1, &c.RVP2, &c.Rchon, &c.RHD, &c.RTD,
-           &c.Rnen, &c.RDOS, &c.RDT, &c.RABCD, &c.Rsai, &c.Rxep, &c.L1}) {
-    control->Top(below);
+  controls_.MM.Left(right);
+  controls_.L1.Top(below);
+  for (const Page& page : pages_.all()) {
+    if (page.parked == Parked::BelowAndBeside) page.surface.Left(right);
+    if (page.parked != Parked::WhereItIs) page.surface.Top(below);
   }
 }
 
 void ScreenSetup::setFontSizes() {
-  Controls& c = controls_;
-  const double CoChu = measures_.CoChu;
-  form_.FontSize(CoChu - 1);
-  for (Surface* surface : {&c.RHD, &c.RHDBT, &c.RTD, &c.R1, &c.RVP1, &c.Rchon, &c.RAmthanh}) {
-    surface->FontSize(CoChu - 1);
+  form_.FontSize(sizeOf(FontStep::Smaller, measures_.CoChu));
+  for (const Page& page : pages_.all()) {
+    if (page.font != FontStep::AsItIs) page.surface.FontSize(sizeOf(page.font, measures_.CoChu));
+    if (page.bold) page.surface.FontBold(true);
   }
-  for (Surface* surface : {&c.Rviet, &c.RN1, &c.RN2, &c.RDT, &c.Rsai, &c.RABCD}) {
-    surface->FontSize(CoChu);
-  }
-  for (Surface* surface : {&c.Rxep, &c.RW2})
-    surface->FontSize(CoChu + 2);
-  c.RTD.FontBold(true);
 }
 
 void ScreenSetup::measureCard() {

@@ -1,6 +1,7 @@
 // The screen class, the measures that follow from it, and where every surface stands at the start.
 #pragma once
 
+#include "shell/Pages.h"
 #include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
@@ -9,8 +10,7 @@ namespace talvora {
 
 class ScreenSetup {
  public:
-  ScreenSetup(Form& form, Controls& controls, Measures& measures)
-      : form_(form), controls_(controls), measures_(measures) {}
+  ScreenSetup(Form& form, Controls& controls, Pages& pages, Measures& measures);
 
   /// Sets `RongMH` and `CaoMH` from the screen's size in pixels.
   void measureScreen(int pixelWidth, int pixelHeight);
@@ -37,6 +37,7 @@ class ScreenSetup {
 
   Form& form_;
   Controls& controls_;
+  const Pages& pages_;
   Measures& measures_;
 };
 

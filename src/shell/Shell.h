@@ -9,6 +9,7 @@
 #include "shell/Hover.h"
 #include "shell/MENU.h"
 #include "shell/Messages.h"
+#include "shell/Pages.h"
 #include "shell/ScreenSetup.h"
 #include "shell/Steering.h"
 #include "shell/Transitions.h"
@@ -19,16 +20,24 @@ namespace talvora {
 
 struct Shell {
   Shell(Platform& platform, Form& form, Controls& controls, SharedState& state)
-      : setup(form, controls, state.measures), steering(platform.input, state.measures),
+      : pages(form), setup(form, controls, pages, state.measures),
+        steering(platform.input, state.measures),
         menu(form, controls, state.measures, steering, platform.random),
         hover(form, controls, state.places, steering, platform.events, platform.narrator),
-        hints(form, controls, state.places, state.measures, steering),
+        hints(form, controls, pages, state.measures, steering),
         transitions(form, state.measures, hints, upward, platform.clock),
         curtain(form, controls, state.measures, steering, platform.clock, platform.narrator),
-        messages(form, controls, state.measures, upward, platform.clock, platform.boxes,
+        messages(form, controls, pages, state.measures, upward, platform.clock, platform.boxes,
                  platform.narrator),
-        gestures(controls, state.measures, state.word, hints, upward, platform.clipboard),
-        focusReturn(controls, state.word), wordPick(state.word) {}
+        gestures(controls, pages, state.measures, state.word, hints, upward, platform.clipboard),
+        focusReturn(state.word), wordPick(state.word) {}
+
+  /// Throws std::logic_error where the sections have left a surface or a rank to nobody.
+  void check() const {
+    pages.check();
+    gestures.check();
+    focusReturn.check();
+  }
 
   void declare(Variables& variables) const {
     steering.declare(variables);
@@ -40,6 +49,7 @@ struct Shell {
   }
 
   UpwardCalls upward;
+  Pages pages;
   ScreenSetup setup;
   Steering steering;
   MENU menu;

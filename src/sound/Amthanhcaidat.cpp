@@ -33,6 +33,7 @@ Amthanhcaidat::Amthanhcaidat(Controls& controls, SharedState& state, Platform& p
 }
 
 void Amthanhcaidat::wireEvents() {
+  shell_.pages.add({.surface = panel_, .textFont = true, .font = FontStep::Smaller});
   panel_.MouseUp = [this](MouseButton button, int, SurfacePoint) {
     if (button != MouseButton::Left) return;
     ChonMuc();

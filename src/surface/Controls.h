@@ -19,12 +19,6 @@ struct Controls {
   [[nodiscard]] Button& but(int number) { return *but_.at(static_cast<std::size_t>(number - 1)); }
   static constexpr int ButtonCount = 18;
 
-  /// Whether a lesson that a link has opened stands over an item or a text. A lesson that was
-  /// opened from its list is a page of its own and has another card.
-  [[nodiscard]] bool linkedLessonOpen() const noexcept {
-    return RVP2.Visible() && Frame3.Visible();
-  }
-
   Image Im1;                    ///< background picture
   Control MM;                   ///< the multimedia control, which never shows
   Frame Frame1, Frame2, Frame3; ///< white card behind the open surface

@@ -92,7 +92,7 @@ void Form::tellFocus() {
   if (observer_ != nullptr) observer_->focusChanged();
 }
 
-Control* Form::foremostSurface(std::initializer_list<const Control*> butNot) const noexcept {
+Control* Form::foremostSurface(std::span<const Control* const> butNot) const noexcept {
   const auto found =
       std::find_if(controls_.rbegin(), controls_.rend(), [butNot](const Control* control) {
         return takesKeys(*control) && control->kind() == ControlKind::Surface &&

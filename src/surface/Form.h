@@ -8,7 +8,7 @@
 #include "surface/Surface.h"
 #include "surface/VirtualScreen.h"
 
-#include <initializer_list>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -74,7 +74,7 @@ class Form final : public ControlHost {
   /// The foremost surface that can have the keyboard and is none of those given; null where there
   /// is none.
   [[nodiscard]] Control*
-  foremostSurface(std::initializer_list<const Control*> butNot = {}) const noexcept;
+  foremostSurface(std::span<const Control* const> butNot = {}) const noexcept;
   void giveFocus(Control& control) override;
   /// How often the keyboard has passed from one control to another.
   [[nodiscard]] unsigned focusMoves() const noexcept { return focusMoves_; }

@@ -2,6 +2,7 @@
 
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <utility>
@@ -48,11 +49,13 @@ void Writing::wireList() {
     ChonDongViet();
     openLine();
   };
-  shell_.focusReturn.onReturnTo(RW1, [this, &RW1] {
-    RW1.SelStart(state_.word.ViTriCaretR1);
-    ChonDongViet();
-    RW1.SetFocus();
-  });
+  shell_.pages.add({.surface = RW1, .textFont = true, .parked = Parked::BelowAndBeside});
+  shell_.focusReturn.onReturnTo(FocusRank::WritingList, RW1,
+                                FocusReturn::unlessVisible(controls_.RW2), [this, &RW1] {
+                                  RW1.SelStart(state_.word.ViTriCaretR1);
+                                  ChonDongViet();
+                                  RW1.SetFocus();
+                                });
 }
 
 void Writing::wireTask() {
@@ -71,7 +74,14 @@ void Writing::wireTask() {
   RW2.MouseMove = [this, &RW2](int, SurfacePoint at) { shell_.gestures.followPointer(RW2, at); };
   RW2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   RW2.DblClick = [this] { state_.word.CoDupChuot = true; };
-  shell_.gestures.onClose(RW2, [this](Surface&) { ThoatViet2(); });
+  shell_.pages.add({.surface = RW2,
+                    .textFont = true,
+                    .font = FontStep::Larger,
+                    .parked = Parked::BelowTheScreen,
+                    .pointerName = RW2.Name(),
+                    .hints = {{{"Chuột phải= Giảng cách viết; 2Chuột Trái=Xem câu Anh"_x1,
+                                "Gõ phím=Tra từ; Esc=thoát."_x1}}}});
+  shell_.gestures.onClose(CloseRank::Writing, RW2, [this](Surface&) { ThoatViet2(); });
 }
 
 // -- The list.

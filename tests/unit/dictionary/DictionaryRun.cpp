@@ -43,6 +43,7 @@ DictionaryRun::DictionaryRun(const std::vector<Word>& words)
       voice(state.places, machine.wave, shell.messages),
       speech(state, machine.platform, shell.steering, voice),
       dictionary(form, controls, state, stores, shell, speech) {
+  addTextPages();
   folder.writeEmptyStores();
   writeWordFiles(folder, withLetterLines(words));
   state.places.ThuMuc = folder.path();
@@ -66,6 +67,15 @@ DictionaryRun::DictionaryRun(const std::vector<Word>& words)
     surface->Visible(true);
   }
   controls.R2.SetFocus();
+}
+
+void DictionaryRun::addTextPages() {
+  shell.pages.add({.surface = controls.R1, .caret = SharedCaret::OfList});
+  shell.pages.add({.surface = controls.R2, .caret = SharedCaret::OfText});
+  shell.focusReturn.onReturnTo(FocusRank::TextList, controls.R1,
+                               FocusReturn::unlessVisible(controls.R2));
+  shell.focusReturn.onReturnTo(FocusRank::Text, controls.R2,
+                               FocusReturn::withoutSelection(controls.R2));
 }
 
 void DictionaryRun::lookUp(const std::string& word) {

@@ -52,6 +52,10 @@ class DictionaryRun {
   RecordedVoice voice;
   Speech speech;
   Dictionary dictionary;
+
+ private:
+  /// The pages of a reading text and of its list, which the program's sections add.
+  void addTextPages();
 };
 
 } // namespace talvora::test

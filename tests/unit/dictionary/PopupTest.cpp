@@ -260,6 +260,7 @@ TEST_F(PopupTest, GivesTheKeyboardToAnExplanationThatItStandsOver) {
   run.lookUp("cat");
   RHD.moveMouse(shift::None, {10, 10});
   EXPECT_EQ(run.form.ActiveControl(), &run.controls.R2) << "without an explanation it stays";
+  run.shell.pages.add({.surface = run.controls.RHDBT, .explains = true});
   run.controls.RHDBT.Visible(true);
   RHD.moveMouse(shift::None, {10, 10});
   EXPECT_EQ(run.form.ActiveControl(), &run.controls.RHDBT);

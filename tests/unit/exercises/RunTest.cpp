@@ -102,22 +102,33 @@ TEST(UnitListOf, LeavingGoesToTheListeningButton) {
   EXPECT_EQ(run.focus(), "but4");
 }
 
+struct NotedListening final : ListeningSection {
+  explicit NotedListening(ItemRun& itemRun) : run(itemRun) { run.exercises.units.share(*this); }
+
+  void setUp() override { wasSetUp = true; }
+  void openUnit() override { opened = run.state.list.SoBaiChon; }
+  bool leaveText() override { return false; }
+  void close() override {}
+  [[nodiscard]] const Surface& page() const override { return run.controls.RN2; }
+
+  ItemRun& run;
+  bool wasSetUp = false;
+  int opened = 0;
+};
+
 TEST(UnitListOf, TheListeningSectionHasNineLines) {
   ItemRun run(bank(25));
-  bool setUp = false;
-  int opened = 0;
-  run.exercises.units.setUpListening = [&] { setUp = true; };
-  run.exercises.units.MoBaiNghe = [&](int unit) { opened = unit; };
+  const NotedListening listening(run);
   run.state.places.MucMenu = 4;
   run.exercises.units.HienBT(0);
   run.exercises.units.open();
-  EXPECT_TRUE(setUp);
+  EXPECT_TRUE(listening.wasSetUp);
   EXPECT_THAT(run.controls.RN1.Text(), testing::StartsWith("\tUnit  1\r"));
   EXPECT_THAT(run.controls.RN1.Text(), testing::EndsWith("\tUnit  9\r"));
   run.hand.deliverSent();
   run.key(key::Down);
   run.key(key::Enter);
-  EXPECT_EQ(opened, 2);
+  EXPECT_EQ(listening.opened, 2);
   EXPECT_NE(run.stores.readSetting(10), 0);
 }
 

@@ -230,7 +230,7 @@ TEST_F(Dictation, EnterIsAWrongKeyLikeAnyOther) {
 TEST_F(Dictation, EscClosesTheHintThenTheTranslationAndThenEnds) {
   openThree();
   // The program lets the box close itself; here its place is taken.
-  run.base.shell.gestures.onClose(run.controls().RHDBT,
+  run.base.shell.gestures.onClose(CloseRank::Explanation, run.controls().RHDBT,
                                   [this](Surface&) { run.controls().RHDBT.Visible(false); });
   run.key(key::Esc);
   EXPECT_FALSE(run.controls().RDOS.Visible());

@@ -35,6 +35,8 @@ struct DrillRun {
 
   /// Opens the stores that the test has written, with the reading texts chosen.
   void open(int section = 1, int store = file::TextPositions) {
+    // By now the drills have said what is to be known of their pages.
+    base.shell.setup.parkSurfaces();
     stores.MoDuLieu();
     base.state.places.MucMenu = section;
     stores.ChonKho(store);

@@ -17,6 +17,9 @@ class Gesture : public testing::Test {
       ++popupsClosed;
       run.controls.RHD.Visible(false);
     };
+    for (Surface* surface : {&run.controls.R1, &run.controls.R2, &run.controls.RDT})
+      run.shell.pages.add({.surface = *surface, .pointerName = surface->Name()});
+    run.shell.pages.add({.surface = run.controls.Rsai, .pointerName = "RDT"});
     run.show(run.controls.R2);
     run.controls.R2.Text("some words to stand on");
   }
@@ -82,7 +85,7 @@ TEST_F(Gesture, TheHintBarStaysWhileThePointerRestsWhereItCameIn) {
 }
 
 TEST_F(Gesture, EscClosesTheHintBarFirst) {
-  run.shell.hints.HuongDan(run.controls.R2);
+  run.shell.hints.GoiYF2();
   EXPECT_TRUE(run.shell.gestures.DongPhu(run.controls.R2));
   EXPECT_FALSE(run.controls.RDOS.Visible());
   EXPECT_FALSE(run.shell.gestures.DongPhu(run.controls.R2));
@@ -90,7 +93,7 @@ TEST_F(Gesture, EscClosesTheHintBarFirst) {
 
 TEST_F(Gesture, TheLookUpListClosesBeforeThePopup) {
   int listsClosed = 0;
-  run.shell.gestures.onClose(run.controls.RTD, [&](Surface&) {
+  run.shell.gestures.onClose(CloseRank::LookUpList, run.controls.RTD, [&](Surface&) {
     ++listsClosed;
     run.controls.RTD.Visible(false);
   });
@@ -104,9 +107,12 @@ TEST_F(Gesture, TheLookUpListClosesBeforeThePopup) {
   EXPECT_FALSE(run.shell.gestures.DongPhu(run.controls.R2));
 }
 
-TEST_F(Gesture, ALessonIsAnExtraOnlyOverAnExercise) {
+TEST_F(Gesture, WhatIsClosedOnAConditionCountsOnlyWhileItHolds) {
   int lessonsClosed = 0;
-  run.shell.gestures.onClose(run.controls.RVP2, [&](Surface&) { ++lessonsClosed; });
+  run.shell.pages.add({.surface = run.controls.RVP2, .cardOverPage = &run.controls.Frame3});
+  run.shell.gestures.onClose(
+      CloseRank::LinkedLesson, run.controls.RVP2, [&](Surface&) { ++lessonsClosed; },
+      [this] { return run.shell.pages.pageOverPage(); });
   run.controls.RVP2.Visible(true);
   EXPECT_FALSE(run.shell.gestures.DongPhu(run.controls.RVP2));
   run.controls.Frame3.Visible(true);
@@ -125,8 +131,7 @@ TEST_F(Gesture, EverySurfaceHasAPointerStateFromTheStart) {
     }
     return found;
   };
-  for (const char* name :
-       {"R1", "R2", "RVP1", "RVP2", "Rchon", "RN2", "RHD", "RTD", "RDT", "Rsai"}) {
+  for (const char* name : {"R1", "R2", "RHD", "RDT", "Rsai"}) {
     ASSERT_TRUE(states().contains(name)) << name;
     EXPECT_EQ(states()[name], 0) << name;
   }

@@ -100,7 +100,7 @@ TEST(Transitions, ClosingHidesTheHintBarAndThePopup) {
   int closed = 0;
   run.shell.upward.DongNghia = [&closed] { ++closed; };
   run.shell.transitions.MoRan(run.controls.R1, run.controls.Frame1);
-  run.shell.hints.HuongDan(run.controls.R1);
+  run.shell.hints.GoiYF2();
   EXPECT_TRUE(run.controls.RDOS.Visible());
   run.shell.transitions.DongRan(run.controls.R1, run.controls.Frame1);
   EXPECT_FALSE(run.controls.RDOS.Visible());
