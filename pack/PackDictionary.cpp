@@ -34,10 +34,15 @@ PackDictionary::PackDictionary(const std::filesystem::path& folder, Problems& pr
     heads_.push_back(line.text);
 }
 
-std::string PackDictionary::entryAt(std::size_t number) const {
+std::size_t PackDictionary::placeOf(std::size_t number) const {
   // The records have two parts: the entry's first byte, from 1, and where the next line begins.
   const std::int32_t place = integerAt(records_->text(), 2 * number + 1);
-  return storedUntil(entries_->text(), std::int64_t{place} - 1, entryEnd).value_or("");
+  return static_cast<std::size_t>(std::max<std::int32_t>(place, 0));
+}
+
+std::string PackDictionary::entryAt(std::size_t number) const {
+  const auto first = static_cast<std::int64_t>(placeOf(number)) - 1;
+  return storedUntil(entries_->text(), first, entryEnd).value_or("");
 }
 
 std::optional<std::size_t> PackDictionary::find(std::string_view word) const {

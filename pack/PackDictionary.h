@@ -25,6 +25,11 @@ class PackDictionary {
   /// Its entry, without the character that ends it; empty when it cannot be read.
   [[nodiscard]] std::string entryAt(std::size_t number) const;
 
+  /// The record number of its first byte.
+  [[nodiscard]] std::size_t placeOf(std::size_t number) const;
+  /// The bytes of all entries, as they are stored.
+  [[nodiscard]] std::string_view entries() const noexcept { return entries_->text(); }
+
   /// The number of a word, whatever its case.
   [[nodiscard]] std::optional<std::size_t> find(std::string_view word) const;
   /// The same for a word that may have to be shortened as the program shortens it: first by its

@@ -1,5 +1,6 @@
 // The command line of the content compiler.
 #include "pack/Command.h"
+#include "pack/import/ImportCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -20,11 +21,13 @@ int run(int argumentCount, char** arguments) {
       buildCommand(application),  checkCommand(application),    showCommand(application),
       dumpCommand(application),   compressCommand(application), wordsCommand(application),
       statusCommand(application), planCommand(application),     phonesCommand(application)};
+  const ImportCommand import(application);
   try {
     application.parse(argumentCount, arguments);
   } catch (const CLI::ParseError& error) {
     return application.exit(error) == 0 ? 0 : usageOrDiskErrors;
   }
+  if (import.given()) return import.run();
   for (const std::unique_ptr<Command>& command : commands) {
     if (command->given()) return command->run();
   }

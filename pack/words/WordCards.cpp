@@ -18,9 +18,9 @@ constexpr CharClass wordCharacters("[a-zA-Z0-9']");
 /// What a pack knows of words and sentences.
 class KnowingPack {
  public:
-  explicit KnowingPack(const std::string& folder)
-      : dictionary_(folder, problems_), texts_(folder, systemFiles()),
-        fingerprint_(texts_.fingerprint()) {}
+  KnowingPack(const std::string& folder, const LearnersList& list)
+      : dictionary_(dictionaryFolderOf(folder, list.folder, list.files), problems_),
+        texts_(folder, systemFiles()), fingerprint_(texts_.fingerprint()) {}
 
   /// A word whose place belongs to another pack is looked for in this one.
   [[nodiscard]] WordRow placed(WordRow row) {
@@ -85,7 +85,7 @@ std::optional<std::vector<WordCard>> cardsOf(const LearnersList& list, const std
   const auto there = words.peek();
   if (!there) return std::nullopt;
   std::optional<KnowingPack> known;
-  if (!pack.empty()) known.emplace(pack);
+  if (!pack.empty()) known.emplace(pack, list);
   std::vector<WordCard> cards;
   for (WordRow& row : words.rowsOf(*there)) {
     if (row.word.empty()) continue;

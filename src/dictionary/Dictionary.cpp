@@ -29,7 +29,7 @@ Dictionary::Dictionary(Form& form, Controls& controls, SharedState& state, Store
 
 void Dictionary::NapTuDien() {
   words_.NapTuDien(
-      state_.places.ThuMuc, [this] { shell_.menu.TienTrinhNap(); }, stores_.fileSystem());
+      stores_.dictionaryFolder(), [this] { shell_.menu.TienTrinhNap(); }, stores_.fileSystem());
 }
 
 // -- Looking up.

@@ -7,6 +7,9 @@
 #include "surface/SectionNumbers.h"
 #include "text/Text.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace talvora {
 
 namespace {
@@ -20,7 +23,6 @@ struct StoreFile {
 constexpr StoreFile readOnlyFiles[] = {
     {file::TextPositions, packfile::ReadingPositions},
     {file::Texts, packfile::ReadingTexts},
-    {file::Dictionary, packfile::Entries},
     {file::LessonPositions, packfile::LessonPositions},
     {file::Lessons, packfile::Lessons},
     {file::VietnameseSide, packfile::SideEntries},
@@ -33,6 +35,16 @@ constexpr StoreFile readOnlyFiles[] = {
 };
 
 } // namespace
+
+std::string dictionaryFolderOf(const std::string& pack, const std::string& learner,
+                               FileSystem& files) {
+  constexpr std::string_view parts[] = {packfile::Words, packfile::WordRecords, packfile::Entries};
+  std::string merged = learner + "/" + std::string(MergedDictionaryFolder);
+  const bool isWhole = std::all_of(std::begin(parts), std::end(parts), [&](std::string_view part) {
+    return TonTaiFile(pathBelow(merged, part), files);
+  });
+  return isWhole ? merged : pack;
+}
 
 std::int32_t RecordFile::integer(std::int64_t record) const noexcept {
   if (mapped_ == nullptr || record < 1) return 0;
@@ -62,6 +74,8 @@ void Stores::MoDuLieu() {
   for (const StoreFile& each : readOnlyFiles) {
     files_[static_cast<std::size_t>(each.number)] = open(each.name);
   }
+  files_[file::Dictionary] = RecordFile(
+      MappedFile::open(pathBelow(dictionaryFolder(), packfile::Entries), fileSystem_), &ChuoiByte);
   // Beside a pack that is the learner's own, settings that are missing begin empty.
   settings_.open(pathBelow(places_.learnerFolder(), learnerfile::Settings),
                  places_.learner.empty() ? SettingsFile::IfMissing::BeginEmpty
@@ -70,6 +84,10 @@ void Stores::MoDuLieu() {
   std::error_code ignored;
   static_cast<void>(fileSystem_.open(pathBelow(places_.learnerFolder(), learnerfile::Words),
                                      OpenFor::Writing, ignored));
+}
+
+std::string Stores::dictionaryFolder() const {
+  return dictionaryFolderOf(places_.ThuMuc, places_.learnerFolder(), fileSystem_);
 }
 
 std::shared_ptr<const MappedFile> Stores::hold(std::string_view storedName) const {

@@ -96,6 +96,13 @@ class PieceReader {
   std::int64_t left_;
 };
 
+/// The folder in a learner's own that holds the course's dictionary merged with brought ones.
+inline constexpr std::string_view MergedDictionaryFolder = "dictionary";
+
+/// The folder of the dictionary's files among a pack and a learner's folder.
+[[nodiscard]] std::string dictionaryFolderOf(const std::string& pack, const std::string& learner,
+                                             FileSystem& files);
+
 class Stores {
  public:
   static constexpr int ReadingTexts = limit::ReadingTexts;
@@ -108,11 +115,15 @@ class Stores {
   Stores& operator=(const Stores&) = delete;
 
   /// Closes every open file, then opens all that stay open for the run.
+  /// The dictionary's are those of `dictionaryFolder`.
   /// Throws FatalFailure naming a read-only file that is missing. The learner's files are created,
   /// or where that cannot be, done without.
   void MoDuLieu();
   void closeAll();
   [[nodiscard]] bool areOpen() const noexcept { return files_[file::Texts].isOpen(); }
+  /// The folder of the dictionary's files: the learner's, where one that was merged with brought
+  /// dictionaries is whole there, else the pack.
+  [[nodiscard]] std::string dictionaryFolder() const;
   /// Holds a file of the pack. Throws FatalFailure naming it when it is missing.
   [[nodiscard]] std::shared_ptr<const MappedFile> hold(std::string_view storedName) const;
   /// Whether the pack has a file of that name.
