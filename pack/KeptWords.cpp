@@ -16,7 +16,7 @@ KeptWords::KeptWords(const std::string& folder) : folder_(folder) {
   words_.emplace(folder, files, systemCalendar());
   words_->open();
   try {
-    words_->carry(TextCatalogue(folder, files));
+    words_->carry(TextCatalogue(folder, folder, files));
   } catch (const FatalFailure&) {
     // A folder with a list and no whole pack yet: what beside the words is known has to do.
   }
@@ -24,7 +24,7 @@ KeptWords::KeptWords(const std::string& folder) : folder_(folder) {
 
 std::optional<Carried> KeptWords::carry() {
   if (!words_) return std::nullopt;
-  return words_->carry(TextCatalogue(folder_, systemFiles()));
+  return words_->carry(TextCatalogue(folder_, folder_, systemFiles()));
 }
 
 } // namespace talvora::pack

@@ -211,7 +211,7 @@ ListResult checkWords(const LearnersList& list, const std::optional<std::string>
       readWhole(list.files, list.folder + "/" + std::string(learnerfile::Words), error);
   if (!bytes) return tellUnreadable(list, out);
   std::optional<TextCatalogue> catalogue;
-  if (pack) catalogue.emplace(*pack, list.files);
+  if (pack) catalogue.emplace(*pack, list.folder, list.files);
   const VocabularyContent content = vocabularyFrom(*bytes);
   const Oddities found = odditiesOf(content, catalogue ? &*catalogue : nullptr);
   if (!tell(found, content, out)) {

@@ -30,7 +30,8 @@ std::optional<int> slotOf(std::string_view digits, int slots) {
 /// Reads one text line by line; knows whether a sentence still waits for its translation.
 class TextParser {
  public:
-  TextParser(const std::string& file, Problems& problems) : file_(file), problems_(problems) {}
+  TextParser(const std::string& file, Problems& problems, Translated translated)
+      : file_(file), problems_(problems), translated_(translated) {}
 
   void read(const SourceLine& line) {
     if (line.text.starts_with(speakerOpener)) return readSpeaker(line);
@@ -63,7 +64,8 @@ class TextParser {
 
  private:
   void expectNoSentenceWaits(int line) {
-    if (waits_) problems_.add({file_, line, 1}, "a translation (\"= ...\") is missing here");
+    const bool isMissing = waits_ && translated_ == Translated::Always;
+    if (isMissing) problems_.add({file_, line, 1}, "a translation (\"= ...\") is missing here");
     waits_ = false;
   }
 
@@ -118,6 +120,7 @@ class TextParser {
 
   const std::string& file_;
   Problems& problems_;
+  Translated translated_;
   ReadingText text_;
   std::string speaker_; ///< of the next sentence
   bool titleRead_ = false;
@@ -127,8 +130,9 @@ class TextParser {
 
 } // namespace
 
-ReadingText parseReadingText(std::string_view text, const std::string& file, Problems& problems) {
-  TextParser parser(file, problems);
+ReadingText parseReadingText(std::string_view text, const std::string& file, Problems& problems,
+                             Translated translated) {
+  TextParser parser(file, problems, translated);
   const auto lines = linesOf(text);
   for (const SourceLine& line : lines)
     parser.read(line);
@@ -201,7 +205,8 @@ std::string writeReadingText(const ReadingText& text) {
     for (const SentencePair& pair : paragraph) {
       if (!pair.speaker.empty()) source += std::string(speakerOpener) + pair.speaker + "\n";
       source += utf8Of(pair.english) + "\n";
-      source += std::string(translationOpener) + utf8Of(pair.vietnamese) + "\n";
+      if (!pair.vietnamese.empty())
+        source += std::string(translationOpener) + utf8Of(pair.vietnamese) + "\n";
     }
   }
   return source;

@@ -36,9 +36,13 @@ struct ReadingSource {
   std::map<int, std::string> headings;
 };
 
+/// Whether every sentence of a text must have its translation.
+enum class Translated { Always, WhereGiven };
+
 /// Parses one text; what is wrong is reported.
 [[nodiscard]] ReadingText parseReadingText(std::string_view text, const std::string& file,
-                                           Problems& problems);
+                                           Problems& problems,
+                                           Translated translated = Translated::Always);
 
 /// Parses the lines "slot TAB heading" of a list with so many slots.
 [[nodiscard]] std::map<int, std::string> parseHeadings(std::string_view text,

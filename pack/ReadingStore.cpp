@@ -39,22 +39,6 @@ ReadingText textOfSlot(const ReadingSource& source, int slot) {
   return heading != source.headings.end() ? ReadingText{"*" + heading->second, {}} : openText();
 }
 
-/// Each text's record holds the place just ahead of its first byte: records count from 1, so that
-/// this is the length of the stream so far.
-TextStore compileSlots(const std::vector<ReadingText>& texts) {
-  TextStore store;
-  for (const ReadingText& text : texts) {
-    appendInteger(store.positions, store.stream.size());
-    appendStored(store.stream, shownText(text) + textEnd);
-  }
-  for (const ReadingText& text : texts) {
-    appendInteger(store.positions, store.stream.size());
-    appendStored(store.stream, layOutTranslation(text));
-  }
-  appendInteger(store.positions, store.stream.size());
-  return store;
-}
-
 std::vector<std::string> split(std::string_view text, std::string_view separator) {
   std::vector<std::string> parts;
   while (true) {
@@ -101,11 +85,27 @@ std::string openSlotTitle() {
   return ownText("(đang soạn)");
 }
 
+// Each text's record holds the place just ahead of its first byte: records count from 1, so that
+// this is the length of the stream so far.
+TextStore compileTexts(const std::vector<ReadingText>& texts) {
+  TextStore store;
+  for (const ReadingText& text : texts) {
+    appendInteger(store.positions, store.stream.size());
+    appendStored(store.stream, shownText(text) + textEnd);
+  }
+  for (const ReadingText& text : texts) {
+    appendInteger(store.positions, store.stream.size());
+    appendStored(store.stream, layOutTranslation(text));
+  }
+  appendInteger(store.positions, store.stream.size());
+  return store;
+}
+
 TextStore compileReadings(const ReadingSource& source, int slots) {
   std::vector<ReadingText> texts;
   for (int slot = 1; slot <= slots; ++slot)
     texts.push_back(textOfSlot(source, slot));
-  return compileSlots(texts);
+  return compileTexts(texts);
 }
 
 ReadingSource decodeReadings(std::string_view positions, std::string_view stream,

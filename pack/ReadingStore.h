@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace talvora::pack {
 
@@ -19,6 +20,9 @@ struct TextStore {
 
 /// The title of a slot whose text is still being written.
 [[nodiscard]] std::string openSlotTitle();
+
+/// Texts in their order; a title that begins with "*" is a heading.
+[[nodiscard]] TextStore compileTexts(const std::vector<ReadingText>& texts);
 
 /// Every slot filled: texts, headings, and slots still open.
 [[nodiscard]] TextStore compileReadings(const ReadingSource& source, int slots = ReadingSlots);

@@ -3,6 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <array>
 #include <memory>
 #include <stdexcept>
 
@@ -43,7 +44,52 @@ void add(archive* writer, const ZipEntry& each) {
   require(writer, archive_write_data(writer, each.bytes.data(), each.bytes.size()));
 }
 
+struct FreeReader {
+  void operator()(archive* reader) const { archive_read_free(reader); }
+};
+
+std::string problemOf(archive* reader) {
+  const char* const why = archive_error_string(reader);
+  return why == nullptr ? "the archive cannot be read" : why;
+}
+
+/// Reads the entry at hand; false when there is more of it than `room`, or it is damaged.
+bool readEntry(archive* reader, std::string& bytes, std::size_t room) {
+  std::array<char, std::size_t{1} << 16> step{};
+  while (true) {
+    const la_ssize_t count = archive_read_data(reader, step.data(), step.size());
+    if (count <= 0) return count == 0;
+    bytes.append(step.data(), static_cast<std::size_t>(count));
+    if (bytes.size() > room) {
+      archive_set_error(reader, ARCHIVE_FATAL, "the archive is too large");
+      return false;
+    }
+  }
+}
+
 } // namespace
+
+ZipContent zipContentOf(std::string_view bytes, const ZipLimits& limits) {
+  const std::unique_ptr<archive, FreeReader> reader(archive_read_new());
+  archive_read_support_format_zip(reader.get());
+  if (archive_read_open_memory(reader.get(), bytes.data(), bytes.size()) != ARCHIVE_OK)
+    return {std::nullopt, problemOf(reader.get())};
+  std::map<std::string, std::string> entries;
+  std::size_t room = limits.bytes;
+  archive_entry* entry = nullptr;
+  int result = archive_read_next_header(reader.get(), &entry);
+  for (; result == ARCHIVE_OK || result == ARCHIVE_WARN;
+       result = archive_read_next_header(reader.get(), &entry)) {
+    const char* const name = archive_entry_pathname(entry);
+    std::string content;
+    if (!readEntry(reader.get(), content, room)) return {std::nullopt, problemOf(reader.get())};
+    room -= content.size();
+    if (name != nullptr) entries[name] = std::move(content);
+    if (entries.size() > limits.entries) return {std::nullopt, "the archive has too many entries"};
+  }
+  if (result != ARCHIVE_EOF) return {std::nullopt, problemOf(reader.get())};
+  return {std::move(entries), ""};
+}
 
 std::string zipOf(const std::vector<ZipEntry>& entries) {
   std::string bytes;

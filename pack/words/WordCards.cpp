@@ -20,7 +20,7 @@ class KnowingPack {
  public:
   KnowingPack(const std::string& folder, const LearnersList& list)
       : dictionary_(dictionaryFolderOf(folder, list.folder, list.files), problems_),
-        texts_(folder, systemFiles()), fingerprint_(texts_.fingerprint()) {}
+        texts_(folder, list.folder, list.files), fingerprint_(texts_.fingerprint()) {}
 
   /// A word whose place belongs to another pack is looked for in this one.
   [[nodiscard]] WordRow placed(WordRow row) {

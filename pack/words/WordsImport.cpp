@@ -84,12 +84,13 @@ class SentencesByWord {
 
 /// The words that a list has not, each once.
 std::vector<WordRow> newRows(const std::vector<ListedWord>& listed,
-                             const std::vector<VocabularyWord>& there, const std::string& pack) {
+                             const std::vector<VocabularyWord>& there, const LearnersList& list,
+                             const std::string& pack) {
   std::set<std::string> spellings;
   for (const VocabularyWord& word : there)
     spellings.insert(lower(word.word()));
   std::optional<SentencesByWord> sentences;
-  if (!pack.empty()) sentences.emplace(TextCatalogue(pack, systemFiles()));
+  if (!pack.empty()) sentences.emplace(TextCatalogue(pack, list.folder, list.files));
   std::vector<WordRow> rows;
   for (const ListedWord& each : listed) {
     if (!spellings.insert(lower(each.word)).second) continue;
@@ -145,7 +146,7 @@ ListResult importWords(const LearnersList& list, const std::filesystem::path& fi
     out << "Không đọc được từ vựng trong " << list.folder << "\n";
     return ListResult::Impossible;
   }
-  const auto rows = newRows(listed.words, *there, pack);
+  const auto rows = newRows(listed.words, *there, list, pack);
   if (!rows.empty()) {
     if (const auto problem = addRows(words, *there, rows)) {
       out << "Không ghi được: " << *problem << "\n";

@@ -13,6 +13,7 @@ inline constexpr std::string_view Journal = "words.journal";
 inline constexpr std::string_view Lists = "lists.txt";
 inline constexpr std::string_view Lock = "talvora.lock";
 inline constexpr std::string_view Copies = "backups";
+inline constexpr std::string_view Texts = "texts";
 inline constexpr std::string_view DictionaryParts = "parts.txt";
 
 } // namespace talvora::learnerfile

@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "text/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 
@@ -19,15 +20,15 @@ enum Field { Record, Pack, TextNumber, Title, FieldCount };
 /// The list whose caret a record is.
 struct List {
   TextKind kind;
-  int texts;
+  int most; ///< of its texts that it shows
 };
 
 std::optional<List> listOf(int record) {
   switch (record) {
   case setting::ReadingCaret:
-    return List{TextKind::Reading, Stores::ReadingTexts};
+    return List{TextKind::Reading, static_cast<int>(CurrentList::MaxLines)};
   case setting::SpeakingCaret:
-    return List{TextKind::Speaking, Stores::SpeakingTexts};
+    return List{TextKind::Speaking, static_cast<int>(CurrentList::MaxLines)};
   case setting::AnalysisCaret:
     return List{TextKind::Reading, Stores::AnalysedTexts};
   default:
@@ -84,7 +85,8 @@ void ListPlaces::carry(int record, Place& place, const TextCatalogue& catalogue)
   int found = 0;
   int caret = 0;
   int lineStart = 0;
-  for (int text = 1; text <= list.texts; ++text) {
+  const int texts = std::min(list.most, catalogue.textsOf(list.kind));
+  for (int text = 1; text <= texts; ++text) {
     const bool nearer = found == 0 || std::abs(text - place.text) < std::abs(found - place.text);
     if (nearer && readableText(catalogue.titleOf(list.kind, text)) == place.title) {
       found = text;

@@ -1,6 +1,7 @@
 #include "learner/TextCatalogue.h"
 
 #include "formats/PackFiles.h"
+#include "stores/OwnTexts.h"
 #include "text/Text.h"
 
 #include <array>
@@ -40,15 +41,21 @@ std::string sentenceAt(const RecordFile& stream, std::int64_t record) {
 }
 
 TextCatalogue::TextCatalogue(const Stores& stores)
-    : reading_{stores.fileOf(file::TextPositions).quiet(), stores.fileOf(file::Texts).quiet()},
+    : reading_{stores.fileOf(file::TextPositions).quiet(), stores.fileOf(file::Texts).quiet(),
+               stores.readingTexts()},
       speaking_{stores.fileOf(file::SpeakingPositions).quiet(),
-                stores.fileOf(file::SpeakingTexts).quiet()} {}
+                stores.fileOf(file::SpeakingTexts).quiet(), Stores::SpeakingTexts} {}
 
-TextCatalogue::TextCatalogue(const std::string& pack, FileSystem& files)
-    : reading_{opened(pack, packfile::ReadingPositions, files),
-               opened(pack, packfile::ReadingTexts, files)},
-      speaking_{opened(pack, packfile::SpeakingPositions, files),
-                opened(pack, packfile::SpeakingTexts, files)} {}
+TextCatalogue::TextCatalogue(const std::string& pack, const std::string& learner, FileSystem& files)
+    : speaking_{opened(pack, packfile::SpeakingPositions, files), opened(pack, packfile::SpeakingTexts, files),
+                Stores::SpeakingTexts} {
+  TextFiles texts =
+      withOwnTexts({MappedFile::open(pathBelow(pack, packfile::ReadingPositions), files),
+                    MappedFile::open(pathBelow(pack, packfile::ReadingTexts), files), Stores::ReadingTexts},
+                   learner, files);
+  reading_ = {RecordFile(std::move(texts.positions)), RecordFile(std::move(texts.stream)),
+              texts.texts};
+}
 
 std::string TextCatalogue::fingerprint() const {
   std::uint64_t hash = HashStart;
@@ -59,10 +66,6 @@ std::string TextCatalogue::fingerprint() const {
   std::array<char, 17> digits{};
   std::snprintf(digits.data(), digits.size(), "%016llx", static_cast<unsigned long long>(hash));
   return digits.data();
-}
-
-int TextCatalogue::textsOf(TextKind kind) noexcept {
-  return kind == TextKind::Speaking ? Stores::SpeakingTexts : Stores::ReadingTexts;
 }
 
 std::string TextCatalogue::listLine(TextKind kind, int text) const {

@@ -35,8 +35,9 @@ class TextCatalogue {
  public:
   /// The texts of the stores that a program has open.
   explicit TextCatalogue(const Stores& stores);
-  /// The texts of a pack. Throws FatalFailure naming a file that is missing.
-  TextCatalogue(const std::string& pack, FileSystem& files);
+  /// The texts of a pack, and those that the learner has added. Throws FatalFailure naming a file
+  /// that is missing.
+  TextCatalogue(const std::string& pack, const std::string& learner, FileSystem& files);
 
   /// A name for the texts of this pack: sixteen digits, others for other texts.
   [[nodiscard]] std::string fingerprint() const;
@@ -51,12 +52,14 @@ class TextCatalogue {
   [[nodiscard]] std::string listLine(TextKind kind, int text) const;
   /// The same without tabs and line end.
   [[nodiscard]] std::string titleOf(TextKind kind, int text) const;
-  [[nodiscard]] static int textsOf(TextKind kind) noexcept;
+  /// Number of texts of a kind.
+  [[nodiscard]] int textsOf(TextKind kind) const noexcept { return store(kind).texts; }
 
  private:
   struct Store {
     RecordFile positions;
     RecordFile stream;
+    int texts = 0;
   };
 
   [[nodiscard]] const Store& store(TextKind kind) const noexcept {

@@ -93,7 +93,9 @@ void NGHE_VIET::MoNgheViet() {
 
 void NGHE_VIET::openVoice() {
   const int number = state_.list.SoBaiChon;
-  if (stores_.FileChiSo == file::TextPositions && number >= limit::FirstRecordedText) {
+  // The learner's own texts come behind the recorded ones.
+  const bool isRecorded = number >= limit::FirstRecordedText && number <= Stores::ReadingTexts;
+  if (stores_.FileChiSo == file::TextPositions && isRecorded) {
     services_.voice.MoAm(number - limit::FirstRecordedText + 1);
   } else {
     services_.voice.AmThanhThuc = false;

@@ -186,8 +186,11 @@ void Reading::GoiR2() {
 void Reading::openVoice() {
   // A recording that another section has left open belongs to no text from here on.
   services_.voice.AmThanhThuc = false;
-  if (stores_.FileChiSo != file::TextPositions || state_.list.SoBaiChon < FirstScript) return;
-  services_.voice.MoAm(1 + state_.list.SoBaiChon - FirstScript);
+  const int text = state_.list.SoBaiChon;
+  // The learner's own texts come behind the scripts.
+  const bool isScript = text >= FirstScript && text <= Stores::ReadingTexts;
+  if (stores_.FileChiSo == file::TextPositions && isScript)
+    services_.voice.MoAm(1 + text - FirstScript);
 }
 
 void Reading::ExitR2() {

@@ -4,6 +4,7 @@
 #include "formats/LearnerFiles.h"
 #include "formats/PackFiles.h"
 #include "stores/ByteCode.h"
+#include "stores/OwnTexts.h"
 #include "surface/SectionNumbers.h"
 #include "text/Text.h"
 
@@ -21,8 +22,6 @@ struct StoreFile {
 
 // The read-only files that stay open for the run.
 constexpr StoreFile readOnlyFiles[] = {
-    {file::TextPositions, packfile::ReadingPositions},
-    {file::Texts, packfile::ReadingTexts},
     {file::LessonPositions, packfile::LessonPositions},
     {file::Lessons, packfile::Lessons},
     {file::VietnameseSide, packfile::SideEntries},
@@ -74,6 +73,7 @@ void Stores::MoDuLieu() {
   for (const StoreFile& each : readOnlyFiles) {
     files_[static_cast<std::size_t>(each.number)] = open(each.name);
   }
+  openTexts();
   files_[file::Dictionary] = RecordFile(
       MappedFile::open(pathBelow(dictionaryFolder(), packfile::Entries), fileSystem_), &ChuoiByte);
   // Beside a pack that is the learner's own, settings that are missing begin empty.
@@ -84,6 +84,14 @@ void Stores::MoDuLieu() {
   std::error_code ignored;
   static_cast<void>(fileSystem_.open(pathBelow(places_.learnerFolder(), learnerfile::Words),
                                      OpenFor::Writing, ignored));
+}
+
+void Stores::openTexts() {
+  TextFiles texts = withOwnTexts({hold(packfile::ReadingPositions), hold(packfile::ReadingTexts), ReadingTexts},
+                                 places_.learnerFolder(), fileSystem_);
+  files_[file::TextPositions] = RecordFile(std::move(texts.positions), &ChuoiByte);
+  files_[file::Texts] = RecordFile(std::move(texts.stream), &ChuoiByte);
+  readingTexts_ = texts.texts;
 }
 
 std::string Stores::dictionaryFolder() const {
@@ -114,7 +122,7 @@ void Stores::ChonKho(int positionsFile) {
 }
 
 int Stores::textsInTable() const noexcept {
-  return places_.MucMenu == section::Speaking ? SpeakingTexts : ReadingTexts;
+  return places_.MucMenu == section::Speaking ? SpeakingTexts : readingTexts_;
 }
 
 void Stores::NapViTriBai() {

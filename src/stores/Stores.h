@@ -105,6 +105,7 @@ inline constexpr std::string_view MergedDictionaryFolder = "dictionary";
 
 class Stores {
  public:
+  /// Of the course; the learner's own come behind them.
   static constexpr int ReadingTexts = limit::ReadingTexts;
   static constexpr int SpeakingTexts = limit::SpeakingTexts;
   static constexpr int AnalysedTexts = limit::AnalysedTexts;
@@ -139,6 +140,8 @@ class Stores {
   /// section 1, though it shows fewer texts.
   void NapViTriBai();
 
+  /// Number of the course's and the learner's own reading texts.
+  [[nodiscard]] int readingTexts() const noexcept { return readingTexts_; }
   /// Number of texts whose titles and translations the current store's table holds.
   [[nodiscard]] int textsInTable() const noexcept;
   [[nodiscard]] const RecordFile& fileOf(int number) const;
@@ -163,10 +166,14 @@ class Stores {
  private:
   static constexpr int FileCount = 26;
 
+  /// The course's reading texts and the learner's own.
+  void openTexts();
+
   const Places& places_;
   FileSystem& fileSystem_;
   std::array<RecordFile, FileCount> files_;
   SettingsFile settings_;
+  int readingTexts_ = ReadingTexts;
 };
 
 } // namespace talvora

@@ -33,7 +33,7 @@ class SentenceFinderTest : public testing::Test {
     }
     throw std::runtime_error("no such sentence");
   }
-  TextCatalogue catalogue() { return {run.folder.path(), systemFiles()}; }
+  TextCatalogue catalogue() { return {run.folder.path(), run.folder.path(), systemFiles()}; }
   Found find(WordRow& row) { return SentenceFinder(catalogue()).find(row); }
 
   ProgramRun run;
