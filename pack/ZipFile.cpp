@@ -71,7 +71,8 @@ bool readEntry(archive* reader, std::string& bytes, std::size_t room) {
 
 ZipContent zipContentOf(std::string_view bytes, const ZipLimits& limits) {
   const std::unique_ptr<archive, FreeReader> reader(archive_read_new());
-  archive_read_support_format_zip(reader.get());
+  // Read by its directory, which stands at the end: an archive that is cut short is none.
+  archive_read_support_format_zip_seekable(reader.get());
   if (archive_read_open_memory(reader.get(), bytes.data(), bytes.size()) != ARCHIVE_OK)
     return {std::nullopt, problemOf(reader.get())};
   std::map<std::string, std::string> entries;
@@ -95,6 +96,8 @@ std::string zipOf(const std::vector<ZipEntry>& entries) {
   std::string bytes;
   const Writer writer(archive_write_new());
   require(writer.get(), archive_write_set_format_zip(writer.get()));
+  // Without this the end would be filled up to a tape's block, and readers look for it at the end.
+  require(writer.get(), archive_write_set_bytes_in_last_block(writer.get(), 1));
   require(writer.get(), archive_write_open(writer.get(), &bytes, nullptr, append, nullptr));
   for (const ZipEntry& each : entries)
     add(writer.get(), each);

@@ -57,6 +57,7 @@ TEST(BroughtText, APauseOfSubtitlesBeginsAParagraph) {
 
 TEST(ZipFile, WhatWasPackedComesBackWithinItsLimits) {
   const std::string bytes = zipOf({{"a/b", std::string(1000, 'x')}, {"../c", "y"}});
+  EXPECT_EQ(bytes.substr(bytes.size() - 22, 4), "PK\5\6") << "nothing follows the end's mark";
   const ZipContent content = zipContentOf(bytes);
   ASSERT_TRUE(content.entries);
   EXPECT_EQ(content.entries->at("a/b").size(), 1000U);
