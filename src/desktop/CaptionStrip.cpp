@@ -50,7 +50,7 @@ CaptionStrip::CaptionStrip(QWidget* parent)
   }
   QObject::connect(&emphasis_, &QTimer::timeout, this, [this] { emphasise(false); });
   QObject::connect(&noticeEnd_, &QTimer::timeout, this, [this] {
-    notice_->clear();
+    notice_->setText(help_);
     arrange();
   });
   setPlace(StripPlace::Menu);
@@ -111,6 +111,16 @@ void CaptionStrip::notice(const QString& text) {
   noticeEnd_.start();
   arrange();
   told(text);
+}
+
+void CaptionStrip::setHelp(const QString& text) {
+  if (std::exchange(help_, text) == text || noticeEnd_.isActive()) return;
+  notice_->setText(help_);
+  arrange();
+}
+
+void CaptionStrip::setHintTip(const QString& text) {
+  hint_->setToolTip(text);
 }
 
 void CaptionStrip::emphasise(bool emphasised) {

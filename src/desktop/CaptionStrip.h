@@ -27,6 +27,10 @@ class CaptionStrip final : public QWidget {
   void setCaption(const QString& caption);
   /// Shows a short notice where a typed word stands, for two seconds.
   void notice(const QString& text);
+  /// The text that stands there when no notice does; empty for none.
+  void setHelp(const QString& text);
+  /// What the button of the hints says about itself, a line each.
+  void setHintTip(const QString& text);
   void setPlace(StripPlace place);
 
   [[nodiscard]] QString typedWord() const { return typed_->text(); }
@@ -64,6 +68,7 @@ class CaptionStrip final : public QWidget {
   StripButton* close_;
   QTimer emphasis_; ///< runs while the title is new
   QTimer noticeEnd_;
+  QString help_;
   QString firstTitle_; ///< the program's name, which is no news
 };
 

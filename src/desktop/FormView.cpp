@@ -109,6 +109,7 @@ void FormView::settle() {
   }
   tellWhatCameUp();
   updateCursor();
+  onSettled();
 }
 
 void FormView::tellWhatCameUp() {

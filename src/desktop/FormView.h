@@ -40,6 +40,9 @@ class FormView final : public QWidget, public FormObserver {
   /// keyboard.
   std::function<void(const Surface&)> onCameUp = [](const Surface&) {};
 
+  /// Called when what has changed is on its way to the screen.
+  std::function<void()> onSettled = [] {};
+
   /// Places every child anew.
   void setScale(double pixelsPerTwip);
   /// Paints at once what has changed.

@@ -4,7 +4,7 @@
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/KeyCodes.h"
-#include "desktop/Links.h"
+#include "desktop/KeyHelp.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
 #include "text/GlyphMap.h"
@@ -27,8 +27,7 @@ namespace talvora {
 
 namespace {
 
-constexpr double TipSize = 16;         // pixels of the virtual screen
-constexpr int LongestCaretSearch = 60; // pixels
+constexpr double TipSize = 16; // pixels of the virtual screen
 const QColor LetterboxColour(0x12, 0x22, 0x2E);
 // How long the start may wait for the window system to show the window.
 constexpr int ExposeMs = 200;
@@ -36,10 +35,6 @@ constexpr int ExposeMs = 200;
 constexpr qint64 SessionEndMs = 60'000;
 // Letters are made ready when the menu stands.
 constexpr int WarmAfterMs = 700;
-
-bool standsForClick(int key) {
-  return key == Qt::Key_F10 || key == Qt::Key_Menu;
-}
 
 /// Ends a wait when the window system shows the window.
 class ExposeWatch final : public QObject {
@@ -61,7 +56,8 @@ class ExposeWatch final : public QObject {
 } // namespace
 
 Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
-    : machine_(machine), program_(program), bridge_(bridge), warmer_(machine.layout.letters()) {
+    : machine_(machine), program_(program), bridge_(bridge),
+      mouseKeys_(program.form(), program.input(), bridge), warmer_(machine.layout.letters()) {
   setWindowTitle(QStringLiteral("Talvora"));
   QIcon icon;
   for (const int size : {16, 32, 48, 128})
@@ -117,6 +113,8 @@ void Window::connectMachine() {
   machine_.boxes.opening = [this] { program_.input().endPress(); };
   machine_.narrator.sign = [this](const QString& text) { strip_->notice(text); };
   machine_.narrator.say = [this](const QString& text) { announcer_->tell(text); };
+  strip_->setHintTip(allKeyHelp());
+  view_->onSettled = [this] { strip_->setHelp(keyHelp(program_.form())); };
   strip_->told = [this](const QString& text) { announcer_->tell(text); };
   view_->onCameUp = [this](const Surface& surface) {
     if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
@@ -135,6 +133,10 @@ void Window::connectMachine() {
       if (const auto* stroke = std::get_if<SyntheticKey>(&event)) machine_.keys.take(*stroke);
       program_.input().deliver(event, shiftDown());
     });
+  };
+  mouseKeys_.movePointer = [this](PixelPoint at) {
+    machine_.input.SetCursorPos(at);
+    machine_.input.pointerCame(at);
   };
   input.moveTo = [this](PixelPoint at) {
     bridge_.deliver([&] { program_.input().deliverMove(virtualScreen().toForm(at), shiftDown()); });
@@ -214,7 +216,7 @@ void Window::settleHover() {
 // -- Input.
 
 void Window::keyPressEvent(QKeyEvent* event) {
-  if (clickWithKey(*event) || goToLessonLink(*event)) return;
+  if (mouseKeys_.press(*event)) return;
   const int code = keyCodeOf(*event);
   if (code == 0 && characterOf(*event) == 0) return;
   // A stroke that was held back is news to the loops that poll only now.
@@ -232,60 +234,9 @@ void Window::sendStroke(Qt::Key key) {
   }
 }
 
-// A left click at the caret with F10, a right one with Shift+F10 or the Menu key: what the mouse
-// does in a section, the keys do too.
-bool Window::clickWithKey(const QKeyEvent& event) {
-  if (!standsForClick(event.key())) return false;
-  const auto* surface = as<Surface>(program_.form().ActiveControl());
-  if (surface == nullptr || event.isAutoRepeat()) return true;
-  shiftClicks_ = event.modifiers().testFlag(Qt::ShiftModifier);
-  const bool right = shiftClicks_ || event.key() == Qt::Key_Menu;
-  const SyntheticClick click{right ? MouseButton::Right : MouseButton::Left,
-                             pixelAtCaret(*surface)};
-  machine_.input.SetCursorPos(click.at);
-  machine_.input.pointerCame(click.at);
-  bridge_.deliver([&] {
-    program_.input().deliverMove(virtualScreen().toForm(click.at), shift::None);
-    program_.input().deliver(click, shift::None);
-  });
-  return true;
-}
-
-// The box gets the keyboard from a pointer over it only, and any key on the item closes it.
-bool Window::goToLessonLink(const QKeyEvent& event) {
-  auto* const box = dynamic_cast<Surface*>(program_.form().find("RHDBT"));
-  if (event.key() != Qt::Key_Tab || box == nullptr || !box->Visible()) return false;
-  const int link = nextLessonLink(*box, program_.form().hasFocus(*box) ? box->SelStart() : -1);
-  if (link < 0) return false;
-  bridge_.deliver([&] {
-    box->SetFocus();
-    box->SelStart(link);
-  });
-  return true;
-}
-
-PixelPoint Window::pixelAtCaret(const Surface& surface) const {
-  const int caret = surface.SelStart();
-  const SurfacePoint middle = surface.pointOf(caret);
-  const int y = std::clamp(middle.y, TwipsPerPixel, surface.Height() - TwipsPerPixel);
-  PixelPoint pixel = pixelOf({surface.Left() + middle.x, surface.Top() + y});
-  const auto caretOf = [&](PixelPoint each) {
-    const SurfacePoint point = virtualScreen().toForm(each);
-    return surface.caretAt({point.x - surface.Left(), point.y - surface.Top()});
-  };
-  // The caret counts that is nearest to a point; the pointer goes to the near side of the letter.
-  for (int step = 0; step < LongestCaretSearch && caretOf(pixel) > caret; ++step)
-    --pixel.x;
-  for (int step = 0; step < LongestCaretSearch && caretOf(pixel) < caret; ++step)
-    ++pixel.x;
-  return pixel;
-}
-
 void Window::keyReleaseEvent(QKeyEvent* event) {
   const int code = keyCodeOf(*event);
-  if (event->isAutoRepeat() || code == 0 || standsForClick(event->key())) return;
-  // A page takes the release of any key as the end of what is shown: not of those that clicked.
-  if (code == key::Shift && std::exchange(shiftClicks_, false)) return;
+  if (event->isAutoRepeat() || code == 0 || mouseKeys_.release(*event)) return;
   bridge_.deliver([&] { program_.input().releaseKey(code, shiftOf(event->modifiers())); });
 }
 

@@ -7,6 +7,7 @@
 #include "desktop/EventBridge.h"
 #include "desktop/FontWarmer.h"
 #include "desktop/FormView.h"
+#include "desktop/MouseKeys.h"
 #include "desktop/Teller.h"
 #include "program/Program.h"
 
@@ -58,13 +59,6 @@ class Window final : public QWidget {
   bool waitsFor(bool& wish);
   /// Sends a whole stroke of a key to this window.
   void sendStroke(Qt::Key key);
-  /// True when a key stands for a click at the caret, which then has been done.
-  bool clickWithKey(const QKeyEvent& event);
-  /// Tab goes into an explanation and from one lesson that it names to the next; false where there
-  /// is none.
-  bool goToLessonLink(const QKeyEvent& event);
-  /// The pixel of the virtual screen at which a click goes to the caret of a surface.
-  [[nodiscard]] PixelPoint pixelAtCaret(const Surface& surface) const;
   /// Animates the button that has the focus and the pointer, if it is not animated yet.
   void settleHover();
   /// The modifiers that are down, as the Shift argument of events has them.
@@ -79,10 +73,10 @@ class Window final : public QWidget {
   FormView* view_ = nullptr;       ///< owned by this widget
   CaptionStrip* strip_ = nullptr;  ///< owned by this widget
   Announcer* announcer_ = nullptr; ///< owned by this widget
+  MouseKeys mouseKeys_;
   FontWarmer warmer_;
   double scale_ = 1;         ///< real pixels to a virtual one
   QPointF origin_;           ///< of the virtual screen in the window
-  bool shiftClicks_ = false; ///< Shift is down and was part of a click by key
   bool closeWanted_ = false; ///< the window was closed while the program slept
   QElapsedTimer sessionEnd_; ///< since the session was about to end
   bool endWanted_ = false;   ///< the system wanted the program ended while it slept

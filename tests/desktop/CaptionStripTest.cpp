@@ -43,6 +43,41 @@ TEST(CaptionStrip, AScoreOutlivesTheNextItemsNumber) {
   EXPECT_TRUE(strip.notice().isEmpty());
 }
 
+TEST(CaptionStrip, HelpStandsWhereNoNoticeDoes) {
+  CaptionStrip strip(nullptr);
+  strip.resize(1366, 23);
+  strip.setCaption(QStringLiteral("TALVORA 2.4"));
+  strip.setHelp(QStringLiteral("F10"));
+  EXPECT_EQ(strip.notice(), QStringLiteral("F10"));
+  strip.notice(QStringLiteral("Đã lưu: street (5)"));
+  strip.setHelp(QStringLiteral("Tab"));
+  EXPECT_EQ(strip.notice(), QStringLiteral("Đã lưu: street (5)"));
+  QTest::qWait(2200);
+  EXPECT_EQ(strip.notice(), QStringLiteral("Tab"));
+  strip.setHelp({});
+  EXPECT_TRUE(strip.notice().isEmpty());
+}
+
+TEST(CaptionStrip, TheLongestHelpFitsOnEveryScreen) {
+  for (const QSize screen : {QSize(800, 600), QSize(1024, 768), QSize(1280, 1024), QSize(1366, 768),
+                             QSize(1920, 1080), QSize(3840, 2160)}) {
+    CaptionStrip strip(nullptr);
+    strip.resize(screen.width(), screen.height() * 3 / 100);
+    strip.setPlace(StripPlace::Page);
+    strip.setCaption(Padding + QStringLiteral("TALVORA 2.4"));
+    strip.setHelp(QStringLiteral("F10, Shift+F10: chuột trái, phải · Chuột giữa: Enter"));
+    const StripButton* const back = buttonNamed(strip, QStringLiteral("Quay lại"));
+    ASSERT_NE(back, nullptr);
+    for (const QLabel* const label : strip.findChildren<QLabel*>()) {
+      if (label->text().isEmpty()) continue;
+      EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width())
+          << label->text().toStdString() << " at " << screen.width();
+      EXPECT_LE(label->geometry().right(), back->geometry().left())
+          << label->text().toStdString() << " at " << screen.width();
+    }
+  }
+}
+
 TEST(CaptionStrip, TheProgramsNameIsNoNews) {
   CaptionStrip strip(nullptr);
   strip.resize(1366, 23);

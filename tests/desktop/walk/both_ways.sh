@@ -1,6 +1,6 @@
 # Each section that asks for clicks, once with the keys alone and once with the mouse alone:
-# settings, a lesson's items with an explanation's link, and the quiz; with the mouse also keeping
-# and deleting words. Sourced by walk.sh.
+# settings, a lesson's items with an explanation's link, the quiz, and deleting words. Sourced by
+# walk.sh.
 
 walk_both_ways() {
   set_the_speed_by_key
@@ -10,6 +10,7 @@ walk_both_ways() {
   answer_the_quiz_by_key
   answer_the_quiz_by_mouse
   delete_a_word_by_mouse
+  delete_words_by_key
   press Up
   expect_note "focus=but1 "
 }
@@ -161,15 +162,8 @@ work_through_items_by_key() {
   passed "the keys alone mark a lesson, follow a link and work through every kind of item"
 }
 
-# A right click at a word of the line that is to be put in order. Ctrl would look up the Vietnamese
-# words above it.
 shift_f10() { # WORD
-  press ctrl+Home
-  for _ in 1 2 3 4; do
-    press Down
-  done
-  press Home
-  step_to Right "$1"
+  keys_to "$1"
   press shift+F10
 }
 
@@ -244,9 +238,8 @@ answer_the_quiz_by_key() {
   done
   settle 97-answered-by-key
   expect_change 96-quiz 97-answered-by-key 1
-  # The sentence that was heard stands below the links; Ctrl would look its words up.
-  press ctrl+End
-  step_to Left "<Next>"
+  # The sentence that was heard stands below the links.
+  keys_back_to "<Next>"
   press F10
   expect_note "focus=RN2 "
   leave_to RN1
@@ -279,8 +272,12 @@ words_kept() {
   echo $(($(stat -c %s "$work/pack/data.c") / 24))
 }
 
-expect_fewer() { # THAN
-  [ "$(words_kept)" -eq $(($1 - 1)) ] || fail "$(words_kept) words are kept, expected one less than $1"
+expect_kept() { # COUNT
+  for _ in $(seq 20); do
+    [ "$(words_kept)" -eq "$1" ] && return
+    sleep 0.1
+  done
+  fail "$(words_kept) words are kept, expected $1"
 }
 
 # The middle button keeps a word that is looked up.
@@ -321,7 +318,40 @@ delete_a_word_by_mouse() {
   xdotool mouseup 1
   sleep 0.5
   click_yes
-  expect_fewer "$before"
+  expect_kept $((before - 1))
   back_to but2
   passed "the mouse alone deletes a word"
+}
+
+# The first button of the question box.
+answer_yes_by_key() {
+  sleep 0.4
+  press Left
+  press Return
+}
+
+delete_words_by_key() {
+  local before
+  before=$(words_kept)
+  open_by_key 2
+  expect_note "focus=Rchon "
+  press ctrl+Home
+  press Delete
+  sleep 0.4
+  press Return
+  expect_kept "$before"
+  press Delete
+  answer_yes_by_key
+  expect_kept $((before - 1))
+  expect_note "focus=Rchon "
+  press ctrl+Home
+  press shift+Down
+  press F2
+  expect_visible RDOS
+  settle 99-lines-marked-by-key
+  press shift+F10
+  answer_yes_by_key
+  expect_kept $((before - 3))
+  leave_to but2
+  passed "the keys alone delete words, and No keeps them"
 }

@@ -1,0 +1,17 @@
+// What the window adds to the hints of a page: the keys and the mouse button that are its own.
+#pragma once
+
+#include "surface/Form.h"
+
+#include <QString>
+
+namespace talvora {
+
+/// One line for what is open: empty unless the hint bar is called up or an explanation names a
+/// lesson.
+[[nodiscard]] QString keyHelp(const Form& form);
+
+/// The same for all pages, a line each.
+[[nodiscard]] QString allKeyHelp();
+
+} // namespace talvora
