@@ -101,6 +101,8 @@ void VietnameseSide::readEntry(int index) {
 
 void VietnameseSide::HienTuD(Surface& surface) {
   CurrentWord& word = state_.word;
+  // Closing gives the caret back to where the last click or key left it, and keys may have gone on.
+  word.ViTriCaret = surface.SelStart();
   shell_.upward.DongNghia();
   if (controls_.RDOS.Top() == 0) shell_.hints.DatRDOS();
   word.ViTriCaret = surface.SelStart();
