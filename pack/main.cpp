@@ -1,7 +1,5 @@
 // The command line of the content compiler.
 #include "pack/Command.h"
-#include "pack/import/ImportCommand.h"
-#include "pack/texts/TextCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,16 +19,13 @@ int run(int argumentCount, char** arguments) {
   const std::array commands = {
       buildCommand(application),  checkCommand(application),    showCommand(application),
       dumpCommand(application),   compressCommand(application), wordsCommand(application),
-      statusCommand(application), planCommand(application),     phonesCommand(application)};
-  const ImportCommand import(application);
-  const TextCommand text(application);
+      importCommand(application), textCommand(application),     statusCommand(application),
+      planCommand(application),   phonesCommand(application)};
   try {
     application.parse(argumentCount, arguments);
   } catch (const CLI::ParseError& error) {
     return application.exit(error) == 0 ? 0 : usageOrDiskErrors;
   }
-  if (import.given()) return import.run();
-  if (text.given()) return text.run();
   for (const std::unique_ptr<Command>& command : commands) {
     if (command->given()) return command->run();
   }

@@ -1,4 +1,5 @@
 #include "pack/import/DictionaryImport.h"
+#include "pack/import/DictionaryFiles.h"
 
 #include "dictionary/WordList.h"
 #include "learner/LearnerFiles.h"

@@ -4,7 +4,6 @@
 #include "pack/Problems.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,8 +24,7 @@ struct ImportedDictionary {
 
 /// The most of one entry that is read, in bytes; the rest is left.
 inline constexpr std::size_t LongestImportedEntry = std::size_t{16} << 10;
-/// Larger files, more entries and more text are refused.
-inline constexpr std::size_t LargestDictionaryFile = std::size_t{512} << 20;
+/// More entries and more text are refused.
 inline constexpr std::size_t MostImportedEntries = 2'000'000;
 
 /// Adds entries to a dictionary as long as there is room for more.
@@ -47,14 +45,5 @@ class EntryCollector {
   Problems& problems_;
   std::size_t bytes_ = 0;
 };
-
-/// The whole of a file, unpacked if it is packed; empty with a problem when it cannot be read.
-[[nodiscard]] std::string readPacked(const std::filesystem::path& path, Problems& problems);
-
-/// Reads a dictionary by the name of its file: ".ifo" of StarDict, ".index" of dictd, ".tsv",
-/// ".txt" or ".tab" with a word, a tab and its entry a line. What is wrong is reported with the
-/// file and the line or the offset; then the dictionary is not to be used.
-[[nodiscard]] ImportedDictionary readImported(const std::filesystem::path& path,
-                                              Problems& problems);
 
 } // namespace talvora::pack

@@ -47,12 +47,12 @@ TextCatalogue::TextCatalogue(const Stores& stores)
                 stores.fileOf(file::SpeakingTexts).quiet(), Stores::SpeakingTexts} {}
 
 TextCatalogue::TextCatalogue(const std::string& pack, const std::string& learner, FileSystem& files)
-    : speaking_{opened(pack, packfile::SpeakingPositions, files), opened(pack, packfile::SpeakingTexts, files),
-                Stores::SpeakingTexts} {
-  TextFiles texts =
-      withOwnTexts({MappedFile::open(pathBelow(pack, packfile::ReadingPositions), files),
-                    MappedFile::open(pathBelow(pack, packfile::ReadingTexts), files), Stores::ReadingTexts},
-                   learner, files);
+    : speaking_{opened(pack, packfile::SpeakingPositions, files),
+                opened(pack, packfile::SpeakingTexts, files), Stores::SpeakingTexts} {
+  TextFiles texts = withOwnTexts(
+      {MappedFile::open(pathBelow(pack, packfile::ReadingPositions), files),
+       MappedFile::open(pathBelow(pack, packfile::ReadingTexts), files), Stores::ReadingTexts},
+      learner, files);
   reading_ = {RecordFile(std::move(texts.positions)), RecordFile(std::move(texts.stream)),
               texts.texts};
 }

@@ -87,8 +87,9 @@ void Stores::MoDuLieu() {
 }
 
 void Stores::openTexts() {
-  TextFiles texts = withOwnTexts({hold(packfile::ReadingPositions), hold(packfile::ReadingTexts), ReadingTexts},
-                                 places_.learnerFolder(), fileSystem_);
+  TextFiles texts =
+      withOwnTexts({hold(packfile::ReadingPositions), hold(packfile::ReadingTexts), ReadingTexts},
+                   places_.learnerFolder(), fileSystem_);
   files_[file::TextPositions] = RecordFile(std::move(texts.positions), &ChuoiByte);
   files_[file::Texts] = RecordFile(std::move(texts.stream), &ChuoiByte);
   readingTexts_ = texts.texts;
