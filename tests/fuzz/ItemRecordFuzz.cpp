@@ -32,8 +32,7 @@ struct Desk {
         vietnameseSide(controls, state, stores, shell, speech, dictionary.lookUp()),
         lessons(controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice}),
         exercises(form, controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice},
-                  lessons, machine.random),
-        fillIn(exercises.services), choice(exercises.services), mistake(exercises.services) {
+                  lessons, machine.random) {
     shell.setup.measureScreen(1024, 768);
     shell.setup.placeForm();
     shell.setup.LapCoChu();
@@ -41,6 +40,7 @@ struct Desk {
     state.measures.KieuTruot = 5;
     state.list.TenBaiHoc.fill("A title");
     exercises.services.run = RunCalls();
+    exercises.services.run.bankListsLessons = [this] { return listsLessons; };
   }
 
   ScriptedMachine machine;
@@ -55,9 +55,7 @@ struct Desk {
   VietnameseSide vietnameseSide;
   VanPham lessons;
   Exercises exercises;
-  BT_DienTu fillIn;
-  BT_ChonABCD_ choice;
-  BT_Chonsai mistake;
+  bool listsLessons = false;
 };
 
 void click(Desk& desk, Surface& surface, int caret, MouseButton button) {
@@ -100,26 +98,14 @@ void draw(Desk& desk, std::string question, std::string_view answer) {
     item.GoiY = TachGoiY(question);
     item.SoGoiY = static_cast<int>(item.GoiY.size());
   }
-  item.listsLessons = header.code == 6;
+  desk.listsLessons = header.code == 6;
   item.LoiGiai = ThayTenBai(markReferences(answer, header.kind), desk.state.list.TenBaiHoc);
-  const std::string body = TachThan(question);
   desk.state.text.CauHoi = question;
-  item.DapAnDung = keyOf(question);
-  switch (header.code % 3) {
-  case 0:
-    desk.fillIn.VeDienTu(body);
-    use(desk, desk.controls.RDT);
-    break;
-  case 1:
-    item.GoiY = TachPhuongAn(question);
-    desk.choice.VeABCD(body);
-    use(desk, desk.controls.RABCD);
-    break;
-  default:
-    desk.mistake.VeChonSai(body);
-    use(desk, desk.controls.Rsai);
-    break;
-  }
+  constexpr std::array kinds = {ItemKind::FillIn, ItemKind::Choice, ItemKind::Mistake};
+  item.LoaiBT = kinds[static_cast<std::size_t>(header.code) % kinds.size()];
+  ItemKindPage& page = desk.exercises.kinds.of(item.LoaiBT);
+  page.show();
+  use(desk, page.surface());
 }
 
 /// What is accepted as a source of items must survive being written and read again.
