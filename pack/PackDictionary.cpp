@@ -1,5 +1,6 @@
 #include "pack/PackDictionary.h"
 
+#include "formats/Integers.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "platform/FatalFailure.h"
