@@ -19,8 +19,8 @@ int run(int argumentCount, char** arguments) {
   const std::array commands = {
       buildCommand(application),  checkCommand(application),    showCommand(application),
       dumpCommand(application),   compressCommand(application), wordsCommand(application),
-      importCommand(application), textCommand(application),     statusCommand(application),
-      planCommand(application),   phonesCommand(application)};
+      importCommand(application), newCommand(application),      textCommand(application),
+      statusCommand(application), planCommand(application),     phonesCommand(application)};
   try {
     application.parse(argumentCount, arguments);
   } catch (const CLI::ParseError& error) {

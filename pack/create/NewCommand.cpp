@@ -1,0 +1,78 @@
+// talvora-pack new: a commented example to write over.
+#include "pack/Command.h"
+#include "pack/PackFile.h"
+#include "pack/create/NewSource.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <iostream>
+#include <map>
+#include <string>
+#include <system_error>
+
+namespace talvora::pack {
+
+namespace {
+
+std::map<std::string, SourceKind> namedKinds() {
+  std::map<std::string, SourceKind> kinds;
+  for (const SourceKindName& each : SourceKindNames)
+    kinds.emplace(each.name, each.kind);
+  return kinds;
+}
+
+int put(SourceKind kind, const std::filesystem::path& file) {
+  std::error_code error;
+  if (std::filesystem::exists(file, error)) {
+    std::cerr << file.string() << ": tệp này đã có, không ghi đè\n";
+    return usageOrDiskErrors;
+  }
+  const PackFile source{file.filename().string(), std::string(exampleOf(kind))};
+  if (const auto problem = store(source, file.parent_path())) {
+    std::cerr << "Không ghi được: " << *problem << "\n";
+    return usageOrDiskErrors;
+  }
+  std::cout << "Đã ghi " << file.string() << ".\n";
+  // What a text or an item is can be seen of itself; the others are known by their folders.
+  if (kind == SourceKind::Text || kind == SourceKind::Item)
+    std::cout << "Xem thử: talvora-pack show " << file.string() << "\n";
+  return 0;
+}
+
+class NewCommand final : public Command {
+ public:
+  explicit NewCommand(CLI::App& application);
+  [[nodiscard]] bool given() const override { return command_->parsed(); }
+  [[nodiscard]] int run() override;
+
+ private:
+  CLI::App* command_ = nullptr;
+  SourceKind kind_ = SourceKind::Text;
+  std::string file_; ///< empty for standard output
+};
+
+NewCommand::NewCommand(CLI::App& application) {
+  command_ = application.add_subcommand(
+      "new", "put down a commented example to write over: a text, a lesson, an item, a listening "
+             "unit, an analysis");
+  command_->add_option("KIND", kind_, "text, lesson, item, unit or analysis")
+      ->required()
+      ->transform(CLI::CheckedTransformer(namedKinds()));
+  command_->add_option("FILE", file_,
+                       "the file to write, which must not exist; without one it is printed");
+}
+
+int NewCommand::run() {
+  if (!file_.empty()) return put(kind_, std::filesystem::absolute(file_));
+  std::cout << exampleOf(kind_);
+  return 0;
+}
+
+} // namespace
+
+std::unique_ptr<Command> newCommand(CLI::App& application) {
+  return std::make_unique<NewCommand>(application);
+}
+
+} // namespace talvora::pack
