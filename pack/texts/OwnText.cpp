@@ -97,16 +97,21 @@ class Cutter {
   bool newParagraph_ = true;
 };
 
+/// Comments may stand ahead of the title.
+bool hasTitle(std::string_view text) {
+  return text.starts_with(titleOpener) ||
+         text.find("\n" + std::string(titleOpener)) != std::string_view::npos;
+}
+
 bool isTranslated(std::string_view text) {
-  return text.starts_with(titleOpener) || text.find("\n= ") != std::string_view::npos;
+  return hasTitle(text) || text.find("\n= ") != std::string_view::npos;
 }
 
 /// A text that is a source already; its title may be missing.
 OwnTextsFromFile readTranslated(const std::string& text, const std::filesystem::path& file,
                                 Problems& problems) {
-  const bool hasTitle = text.starts_with(titleOpener);
   const std::string source =
-      hasTitle ? text : std::string(titleOpener) + titleOfName(file) + "\n" + text;
+      hasTitle(text) ? text : std::string(titleOpener) + titleOfName(file) + "\n" + text;
   return {{parseReadingText(source, file.string(), problems, Translated::WhereGiven)}, {}};
 }
 

@@ -15,7 +15,8 @@ STORY = """The lighthouse stood on a rock. Mr. Green lived there with his dog.
 
 "Who is there?" he asked. Nobody answered!
 """
-TRANSLATED = """title: Two Lines
+TRANSLATED = """// A comment may stand ahead of the title.
+title: Two Lines
 
 The kettle sings.
 = Cái ấm reo.
