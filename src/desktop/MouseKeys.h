@@ -26,6 +26,8 @@ class MouseKeys {
   /// True when the program must not hear that a key was let go: a page takes that as the end of
   /// what is shown and of what is marked.
   bool release(const QKeyEvent& event);
+  /// Shift is down as part of a click by key: what the program clicks in answer is without it.
+  [[nodiscard]] bool shiftClicks() const noexcept { return shiftClicks_; }
 
  private:
   bool click(const QKeyEvent& event);
@@ -45,7 +47,7 @@ class MouseKeys {
   Form& form_;
   FormInput& input_;
   EventBridge& bridge_;
-  bool shiftClicks_ = false; ///< Shift is down and was part of a click by key
+  bool shiftClicks_ = false;
 };
 
 } // namespace talvora

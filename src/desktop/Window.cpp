@@ -249,7 +249,8 @@ int Window::shiftDown() const {
   const auto bit = [this](int keyCode, int own) {
     return machine_.keys.isDown(keyCode) ? own : shift::None;
   };
-  return bit(key::Shift, shift::Shift) | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
+  const int plainShift = mouseKeys_.shiftClicks() ? shift::None : bit(key::Shift, shift::Shift);
+  return plainShift | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
 }
 
 void Window::closeEvent(QCloseEvent* event) {

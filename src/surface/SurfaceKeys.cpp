@@ -55,11 +55,13 @@ void SurfaceKeys::moveHorizontally(int keyCode, int shift) {
   const Selecting selecting = (shift & shift::Shift) != 0 ? Selecting::Yes : Selecting::No;
   const bool byWord = (shift & shift::Ctrl) != 0;
   const bool left = keyCode == key::Left;
-  const int caret = caret_.activeEnd();
+  // A selection that is left behind is left at the side that the move goes to.
+  const int side = left ? caret_.start() : caret_.end();
+  const int caret = selecting == Selecting::Yes ? caret_.activeEnd() : side;
   if (byWord) {
     surface_.moveCaret(left ? wordStartBefore(caret) : wordStartBehind(caret), selecting);
   } else if (caret_.length() > 0 && selecting == Selecting::No) {
-    surface_.moveCaret(left ? caret_.start() : caret_.end(), selecting);
+    surface_.moveCaret(side, selecting);
   } else {
     surface_.moveCaret(left ? caretBefore(caret) : caretBehind(caret), selecting);
   }

@@ -105,6 +105,15 @@ TEST_F(MouseKeysTest, WithoutMarkedLinesARightClickIsOne) {
   EXPECT_EQ(released, std::vector<std::string>{"boy"});
 }
 
+TEST_F(MouseKeysTest, TheShiftOfARightClickIsNoneForTheAnswer) {
+  press(Qt::Key_Shift, Qt::ShiftModifier);
+  EXPECT_FALSE(keys.shiftClicks());
+  strike(Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(keys.shiftClicks());
+  release(Qt::Key_Shift);
+  EXPECT_FALSE(keys.shiftClicks());
+}
+
 TEST_F(MouseKeysTest, BehindTheLastLineThereIsNothingToDelete) {
   Rchon.SelStart(Rchon.TextLength());
   press(Qt::Key_Delete);

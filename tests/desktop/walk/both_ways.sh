@@ -23,17 +23,21 @@ caret_at() {
 }
 
 # Goes from word to word, from the top of the page, until the caret stands in the WHICH-th word of
-# that pattern.
+# that pattern. Ctrl stays down: each time that it goes down it looks a word up.
 keys_to() { # WORD [WHICH]
   press ctrl+Home
-  step_to ctrl+Right "$@"
+  xdotool keydown ctrl
+  step_to Right "$@"
+  xdotool keyup ctrl
 }
 
 # The same from the end of the page.
 keys_back_to() { # WORD [WHICH]
   press ctrl+End
   press ctrl+Left
-  step_to ctrl+Left "$@"
+  xdotool keydown ctrl
+  step_to Left "$@"
+  xdotool keyup ctrl
 }
 
 step_to() { # KEY WORD [WHICH]
@@ -289,7 +293,7 @@ keep_words_by_mouse() {
   click_word R1 River
   expect_note "focus=R2 "
   sleep 1.5
-  for word in boy spring summer; do
+  for word in boy boys spring summer; do
     click_word R2 "$word"
     xdotool click 2
     sleep 0.3

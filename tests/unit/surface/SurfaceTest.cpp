@@ -312,6 +312,18 @@ TEST_F(SurfaceTest, ArrowsMoveByCharacterWordAndLine) {
   EXPECT_EQ(surface.SelStart(), 8);
 }
 
+TEST_F(SurfaceTest, ByWordASelectionIsLeftAtTheSideOfTheMove) {
+  surface.Text("one two three");
+  surface.SelStart(4);
+  surface.SelLength(3);
+  press(key::Left, shift::Ctrl);
+  EXPECT_EQ(surface.SelStart(), 0);
+  surface.SelStart(4);
+  surface.SelLength(3);
+  press(key::Right, shift::Ctrl);
+  EXPECT_EQ(surface.SelStart(), 8);
+}
+
 TEST_F(SurfaceTest, ShiftExtendsTheSelectionFromItsAnchor) {
   surface.Text("abcdef");
   surface.SelStart(3);
