@@ -1,10 +1,10 @@
 #include "pack/import/DictionaryImport.h"
-#include "pack/import/DictionaryFiles.h"
 
 #include "dictionary/WordList.h"
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "pack/LooseText.h"
 #include "pack/SourceFile.h"
+#include "pack/import/DictionaryFiles.h"
 #include "platform/Files.h"
 #include "stores/Stores.h"
 

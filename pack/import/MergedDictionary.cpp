@@ -1,5 +1,6 @@
 #include "pack/import/MergedDictionary.h"
 
+#include "formats/Integers.h"
 #include "pack/StreamText.h"
 #include "pack/import/ImportedNotation.h"
 #include "text/Text.h"

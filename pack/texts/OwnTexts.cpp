@@ -1,6 +1,6 @@
 #include "pack/texts/OwnTexts.h"
 
-#include "learner/LearnerFiles.h"
+#include "formats/LearnerFiles.h"
 #include "pack/LooseText.h"
 #include "pack/PackFile.h"
 #include "pack/ReadingStore.h"
