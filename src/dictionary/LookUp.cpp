@@ -5,6 +5,7 @@
 #include "text/Text.h"
 
 #include <compare>
+#include <utility>
 
 namespace talvora {
 
@@ -76,47 +77,67 @@ std::string LookUp::entryAt(std::int32_t record) const {
   return entry;
 }
 
-void LookUp::TimTu(std::string_view key, LayNghia layNghia) {
-  // The key may be the very text that is cleared below.
+std::optional<Answer> LookUp::ask(std::string_view key, LayNghia layNghia) const {
   const std::string k = lower(key);
-  word_.NghiaHienTai.clear();
-  TimThay = false;
-  if (k.empty()) {
-    word_.TuHienTai.clear();
-    return;
-  }
+  if (k.empty()) return std::nullopt;
   const LetterRange range = KhoangChuCai(asc(k[0]));
-  TimDau = range.TimDau;
-  TimCuoi = range.TimCuoi;
   const SearchResult found = search(k, range);
-  TimThay = found.TimThay;
-  ViTriGan = found.ViTriGan;
-  if (layNghia == LayNghia::Yes && TimThay) word_.NghiaHienTai = entryAt(found.ViTriNghia);
+  const bool wanted = layNghia == LayNghia::Yes && found.TimThay;
+  return Answer{range, found.TimThay, found.ViTriGan,
+                wanted ? entryAt(found.ViTriNghia) : std::string()};
+}
+
+WordAnswer LookUp::askInAllForms(std::string_view word) const {
+  WordAnswer result{std::string(word), std::nullopt};
+  const auto hasEntry = [&](const std::string& form) {
+    if (auto answer = ask(form, LayNghia::Yes)) {
+      result.answer = std::move(answer);
+    } else {
+      // A word that is nothing but an ending is lost with it.
+      result.word.clear();
+      if (result.answer) result.answer->TimThay = false;
+    }
+    return result.answer && !result.answer->entry.empty();
+  };
+  if (hasEntry(result.word)) return result;
+  std::string form = RutGonDuoi(result.word);
+  bool found = hasEntry(form);
+  if (!found) {
+    // What is longer than any word of the list is not in it.
+    form = result.word.substr(0, WordList::LongestWord);
+    // One letter alone is not searched, except as the word itself.
+    do {
+      found = hasEntry(form);
+      if (!found && form.size() > 1) form.pop_back();
+    } while (!found && form.size() > 1);
+  }
+  if (found) result.word = form;
+  return result;
+}
+
+void LookUp::note(const std::optional<Answer>& answer) {
+  TimThay = answer && answer->TimThay;
+  word_.NghiaHienTai = answer ? answer->entry : std::string();
+  if (!answer) return;
+  TimDau = answer->range.TimDau;
+  TimCuoi = answer->range.TimCuoi;
+  ViTriGan = answer->ViTriGan;
+}
+
+void LookUp::TimTu(std::string_view key, LayNghia layNghia) {
+  const auto answer = ask(key, layNghia);
+  if (!answer) word_.TuHienTai.clear();
+  note(answer);
+}
+
+void LookUp::timMoiDang() {
+  const WordAnswer result = askInAllForms(word_.TuHienTai);
+  word_.TuHienTai = result.word;
+  note(result.answer);
 }
 
 void LookUp::DocNghia(int TuChon) {
   word_.NghiaHienTai = entryAt(words_.ViTriNghia(TuChon));
-}
-
-bool LookUp::fetch(std::string_view key) {
-  TimTu(key, LayNghia::Yes);
-  return !word_.NghiaHienTai.empty();
-}
-
-void LookUp::timMoiDang() {
-  if (fetch(word_.TuHienTai)) return;
-  std::string form = RutGonDuoi(word_.TuHienTai);
-  bool found = fetch(form);
-  if (!found) {
-    // What is longer than any word of the list is not in it.
-    form = word_.TuHienTai.substr(0, WordList::LongestWord);
-    // One letter alone is not searched, except as the word itself.
-    do {
-      found = fetch(form);
-      if (!found && form.size() > 1) form.pop_back();
-    } while (!found && form.size() > 1);
-  }
-  if (found) word_.TuHienTai = form;
 }
 
 void LookUp::declare(Variables& variables) const {

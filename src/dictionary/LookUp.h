@@ -7,6 +7,7 @@
 #include "text/WordForm.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,20 @@ struct SearchResult {
   std::int32_t ViTriNghia = 0; ///< record of the entry of the word found
 };
 
+/// What a key, or the first form of a word that has an entry, gave.
+struct Answer {
+  LetterRange range;
+  bool TimThay = false;
+  int ViTriGan = 0;
+  std::string entry; ///< where it was wanted and found
+};
+
+/// What became of a word in all its forms.
+struct WordAnswer {
+  std::string word;             ///< the form that was found; without one the word as it was
+  std::optional<Answer> answer; ///< to the form that was searched last; empty when none was
+};
+
 class LookUp {
  public:
   LookUp(const WordList& words, const Stores& stores, CurrentWord& word)
@@ -42,6 +57,15 @@ class LookUp {
   [[nodiscard]] SearchResult search(std::string_view key, LetterRange range) const;
   /// The entry from a record of file 5 on, its character 13 included; it ends with the file too.
   [[nodiscard]] std::string entryAt(std::int32_t record) const;
+
+  /// Searches a key in any case of letters, with its entry where that is wanted. Nothing changes.
+  /// An empty key is not searched and gives nothing.
+  [[nodiscard]] std::optional<Answer> ask(std::string_view key, LayNghia layNghia) const;
+  /// Looks a word up: as it stands, by the suffix rules, and shortened letter by letter, until a
+  /// form has an entry. Nothing changes.
+  [[nodiscard]] WordAnswer askInAllForms(std::string_view word) const;
+
+  // -- The same for the word at hand, with what comes of it noted there.
 
   /// Searches a key in any case of letters, and fills `NghiaHienTai` when that is wanted and the
   /// key was found; otherwise `NghiaHienTai` is left empty.
@@ -60,8 +84,7 @@ class LookUp {
   int ViTriGan = 0;     ///< line that the last search settled on; 0 when it lies behind all
 
  private:
-  /// Searches with the entry; true when there is one.
-  bool fetch(std::string_view key);
+  void note(const std::optional<Answer>& answer);
   [[nodiscard]] SearchResult searchPair(std::string_view key, int low, int high) const;
 
   const WordList& words_;

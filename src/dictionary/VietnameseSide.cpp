@@ -8,11 +8,13 @@
 #include "text/WordForm.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace talvora {
 
 namespace {
 
+constexpr std::string_view NotFound = "?";
 // Events are let run so often while the list loads: often enough for the eye, and no wait.
 constexpr std::size_t LinesBetweenEvents = 1024;
 
@@ -55,13 +57,13 @@ std::string_view VietnameseSide::wordAt(int index) const {
   return place < Chu_.size() ? std::string_view(Chu_[place]) : std::string_view();
 }
 
-int VietnameseSide::find(const std::string& key) {
+VietnameseSide::Place VietnameseSide::find(const std::string& key) const {
   int low = 1;
   int high = EntryCount;
   while (high - low > 1) {
     const int middle = (low + high) / 2;
     const std::string word = ChuanHoaTu(wordAt(middle));
-    if (key == word) return middle;
+    if (key == word) return {middle, std::nullopt};
     // A list that ends early is searched as if what is missing stood behind every word.
     const bool before = static_cast<std::size_t>(middle) >= Chu_.size() || key < word;
     (before ? high : low) = middle;
@@ -69,34 +71,39 @@ int VietnameseSide::find(const std::string& key) {
   return findBetween(low, high, key);
 }
 
-int VietnameseSide::findBetween(int low, int high, const std::string& key) {
-  for (int index = low; index <= high; ++index) {
+VietnameseSide::Place VietnameseSide::findBetween(int low, int high, const std::string& key) const {
+  Place place;
+  for (int index = low; index <= high && place.index == 0; ++index) {
     const std::string word = ChuanHoaTu(wordAt(index));
-    if (key <= word) lookUp_.ViTriGan = index;
-    if (key == word) return index;
+    if (key <= word) place.nearest = index;
+    if (key == word) place.index = index;
   }
-  return 0;
+  return place;
+}
+
+VietnameseSide::Answer VietnameseSide::ask(std::string_view key) const {
+  const std::string wanted = lower(key);
+  if (wanted.empty()) return {std::string(NotFound), std::nullopt};
+  const Place place = find(wanted);
+  return {place.index != 0 ? entryAt(place.index) : std::string(NotFound), place.nearest};
 }
 
 void VietnameseSide::TimTuD(std::string_view key) {
-  state_.word.NghiaD = "?";
-  const std::string wanted = lower(key);
-  if (wanted.empty()) {
-    state_.word.TuHienTai.clear();
-    return;
-  }
-  const int index = find(wanted);
-  if (index != 0) readEntry(index);
+  Answer answer = ask(key);
+  if (key.empty()) state_.word.TuHienTai.clear();
+  if (answer.nearest) lookUp_.ViTriGan = *answer.nearest;
+  state_.word.NghiaD = std::move(answer.entry);
 }
 
-void VietnameseSide::readEntry(int index) {
-  state_.word.NghiaD.clear();
+std::string VietnameseSide::entryAt(int index) const {
+  std::string entry;
   PieceReader reader(stores_.fileOf(file::VietnameseSide),
                      ViTriNghia_[static_cast<std::size_t>(index)]);
   while (const auto piece = reader.next()) {
     if (*piece == "\r") break;
-    state_.word.NghiaD += *piece;
+    entry += *piece;
   }
+  return entry;
 }
 
 void VietnameseSide::HienTuD(Surface& surface) {
@@ -110,7 +117,7 @@ void VietnameseSide::HienTuD(Surface& surface) {
   const std::string key = lower(word.TuHienTai);
   TimTuD(key);
   if (word.NghiaD.empty()) return;
-  if (word.NghiaD == "?") word.NghiaD = "Không tìm thấy!"_x1;
+  if (word.NghiaD == NotFound) word.NghiaD = "Không tìm thấy!"_x1;
   word.NghiaD = trim(word.NghiaD);
   capitaliseI(key);
   writeEntry();

@@ -14,6 +14,7 @@
 #include "surface/Variables.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,8 @@ class VietnameseSide {
 
   /// Loads the list. Errors are ignored and the list is left as far as it came.
   void NapTuD(EventLoop& events);
+  /// The entry of a word in any case of letters, or "?". Nothing changes.
+  [[nodiscard]] std::string entryOf(std::string_view key) const { return ask(key).entry; }
   /// Searches a word, in any case of letters, and fills `NghiaD`; "?" means that nothing was found,
   /// and `ViTriGan` is then the line ahead of which the word would stand.
   void TimTuD(std::string_view key);
@@ -50,12 +53,22 @@ class VietnameseSide {
   /// Elements of the table, from 0; a few at its end are never used.
   static constexpr int TableSize = 12241;
 
+  /// A line of the list and what a search has passed on its way there.
+  struct Place {
+    int index = 0;              ///< of the line that equals the key, or 0
+    std::optional<int> nearest; ///< a line that the key does not stand behind
+  };
+  struct Answer {
+    std::string entry;
+    std::optional<int> nearest;
+  };
+
   [[nodiscard]] std::string_view wordAt(int index) const;
-  /// Index of the line that equals the key, or 0.
-  [[nodiscard]] int find(const std::string& key);
+  [[nodiscard]] Answer ask(std::string_view key) const;
+  [[nodiscard]] Place find(const std::string& key) const;
   /// Looks at two neighbours, between which the key lies if it is no line of the list.
-  [[nodiscard]] int findBetween(int low, int high, const std::string& key);
-  void readEntry(int index);
+  [[nodiscard]] Place findBetween(int low, int high, const std::string& key) const;
+  [[nodiscard]] std::string entryAt(int index) const;
   void capitaliseI(const std::string& word);
   void writeEntry();
 

@@ -84,25 +84,16 @@ void E::registerProcedures() {
   registerSearches();
 }
 
-// The searches leave their results in shared state; a call of its own puts back what stood there.
 void E::registerSearches() {
-  procedures_.addOfNumber("CauTaiViTri", [this](int v) {
-    const std::string message = state_.word.ThongBaoHD;
-    const int sentence = sections_.text().CauTaiViTri(v);
-    state_.word.ThongBaoHD = message;
-    return VariableValue(sentence);
-  });
+  procedures_.addOfNumber("CauTaiViTri",
+                          [this](int v) { return VariableValue(sections_.text().sentenceOf(v)); });
   procedures_.addOfNumber("KhoangChuCai", [this](int code) {
     const LetterRange range = dictionary_.lookUp().KhoangChuCai(code);
     return VariableValue(
         VariableValue::Record{{"TimDau", range.TimDau}, {"TimCuoi", range.TimCuoi}});
   });
   procedures_.addOfText("TimTuD", [this](const std::string& key) {
-    const CurrentWord before = state_.word;
-    const int nearest = dictionary_.lookUp().ViTriGan;
-    vietnameseSide_.TimTuD(key);
-    dictionary_.lookUp().ViTriGan = nearest;
-    return VariableValue(std::exchange(state_.word, before).NghiaD);
+    return VariableValue(vietnameseSide_.entryOf(key));
   });
   procedures_.add("TimTu",
                   [this](const Procedures::Arguments& arguments) -> std::optional<VariableValue> {
@@ -115,13 +106,11 @@ void E::registerSearches() {
 }
 
 VariableValue E::search(const std::string& key, LayNghia layNghia) {
-  const CurrentWord before = state_.word;
-  LookUp lookUp = dictionary_.lookUp();
-  lookUp.TimTu(key, layNghia);
-  const CurrentWord after = std::exchange(state_.word, before);
-  return VariableValue::Record{{"TimThay", lookUp.TimThay},
-                               {"ViTriGan", lookUp.ViTriGan},
-                               {"NghiaHienTai", after.NghiaHienTai}};
+  // An empty key is not searched, and the nearest line stays that of the search before.
+  const LookUp& lookUp = dictionary_.lookUp();
+  const Answer answer = lookUp.ask(key, layNghia).value_or(Answer{{}, false, lookUp.ViTriGan, {}});
+  return VariableValue::Record{
+      {"TimThay", answer.TimThay}, {"ViTriGan", answer.ViTriGan}, {"NghiaHienTai", answer.entry}};
 }
 
 // -- Start-up.

@@ -1,4 +1,4 @@
-// How a run of the program ends.
+// Why a program is over.
 #pragma once
 
 namespace talvora {

@@ -6,71 +6,65 @@
 
 namespace talvora {
 
-struct Program::Parts {
-  Parts(Platform& platform, Folders folders) : e(platform, std::move(folders)) {}
-
-  E e;
-};
-
 Program::Program(Platform& platform, Folders folders)
-    : parts_(std::make_unique<Parts>(platform, std::move(folders))) {}
+    : e_(std::make_unique<E>(platform, std::move(folders))) {}
 
 Program::~Program() = default;
 
 void Program::Main() {
-  parts_->e.Main();
+  e_->Main();
 }
 
 void Program::closeWindow() {
-  parts_->e.closeWindow();
+  e_->closeWindow();
 }
 
 void Program::keep() {
-  parts_->e.keep();
+  e_->keep();
 }
 
 void Program::closeAtOnce() {
-  parts_->e.end(Ending::Quit);
+  e_->end(Ending::Quit);
 }
 
 void Program::fail() {
-  parts_->e.end(Ending::Failure);
+  e_->end(Ending::Failure);
 }
 
 Ending Program::ending() const noexcept {
-  return parts_->e.ending();
+  return e_->ending();
 }
 
 Form& Program::form() noexcept {
-  return parts_->e.form();
+  return e_->form();
 }
 
 FormInput& Program::input() noexcept {
-  return parts_->e.input();
+  return e_->input();
 }
 
 Controls& Program::controls() noexcept {
-  return parts_->e.controls();
+  return e_->controls();
 }
 
 const Variables& Program::variables() const noexcept {
-  return parts_->e.variables();
+  return e_->variables();
 }
 
 const Procedures& Program::procedures() const noexcept {
-  return parts_->e.procedures();
+  return e_->procedures();
 }
 
 int Program::section() const noexcept {
-  return parts_->e.places().MucMenu;
+  return e_->places().MucMenu;
 }
 
 int Program::hoveredButton() const noexcept {
-  return parts_->e.hoveredButton();
+  return e_->hoveredButton();
 }
 
 bool Program::busy() const noexcept {
-  return parts_->e.places().DangBan;
+  return e_->places().DangBan;
 }
 
 } // namespace talvora

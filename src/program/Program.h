@@ -1,4 +1,4 @@
-// The program: owns the form and every module, wires them, and says when it is over.
+// The program as the fronts have it: `E` with everything behind it hidden.
 #pragma once
 
 #include "learner/FindFolders.h"
@@ -11,9 +11,10 @@
 #include "surface/Variables.h"
 
 #include <memory>
-#include <string>
 
 namespace talvora {
+
+class E;
 
 class Program {
  public:
@@ -51,8 +52,7 @@ class Program {
   [[nodiscard]] bool busy() const noexcept;
 
  private:
-  struct Parts;
-  std::unique_ptr<Parts> parts_;
+  std::unique_ptr<E> e_;
 };
 
 } // namespace talvora

@@ -43,26 +43,8 @@ void Sections::wireDrills() {
 }
 
 void Sections::wireAnalysis() {
-  ReadingPage& page = reading_.page();
-  const auto takeMarkBack = [this] {
-    if (!exercises_.item.ChuCu.empty()) exercises_.answer.KhoiPhucChu(controls_.R2);
-  };
-  const auto closeBox = [this] {
-    if (controls_.RHDBT.Visible()) exercises_.box.DongGiai();
-  };
-  reading_.NapPhanTich = [this](int n) { analysis_.NapPhanTich(n); };
-  page.GiaiPhanTich = [this] { analysis_.GiaiTuPT(controls_.R2); };
-  page.endExplanation = [takeMarkBack, closeBox](int keyCode) {
-    takeMarkBack();
-    // Esc closes what stands on top, which need not be the box.
-    if (keyCode != key::Esc) closeBox();
-  };
-  page.leaveExplanation = [takeMarkBack, closeBox] {
-    takeMarkBack();
-    closeBox();
-  };
-  page.RoiChuotBT = [this](SurfacePoint at) { exercises_.box.RoiChuotBT(controls_.R2, at); };
-  exercises_.box.keyPressed = [this, takeMarkBack] {
+  reading_.page().explainBy(*this);
+  exercises_.box.keyPressed = [this] {
     if (controls_.R2.Visible()) takeMarkBack();
   };
   analysis_.calls.ThayTenBai = [this](std::string& text) {
@@ -71,6 +53,35 @@ void Sections::wireAnalysis() {
   analysis_.calls.GiaiThich = [this](int p, Surface& surface) {
     exercises_.box.GiaiThich(p, surface);
   };
+}
+
+// -- The explanations of an analysed text.
+
+void Sections::load(int n) {
+  analysis_.NapPhanTich(n);
+}
+
+void Sections::explain() {
+  analysis_.GiaiTuPT(controls_.R2);
+}
+
+void Sections::leave() {
+  takeMarkBack();
+  if (controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+}
+
+void Sections::leaveOnKey(int keyCode) {
+  takeMarkBack();
+  // Esc closes what stands on top, which need not be the box.
+  if (keyCode != key::Esc && controls_.RHDBT.Visible()) exercises_.box.DongGiai();
+}
+
+void Sections::followPointer(SurfacePoint at) {
+  exercises_.box.RoiChuotBT(controls_.R2, at);
+}
+
+void Sections::takeMarkBack() {
+  if (!exercises_.item.ChuCu.empty()) exercises_.answer.KhoiPhucChu(controls_.R2);
 }
 
 void Sections::declare(Variables& variables) const {

@@ -22,7 +22,7 @@
 
 namespace talvora {
 
-class Sections {
+class Sections final : private TextExplanations {
  public:
   Sections(Platform& platform, Form& form, Controls& controls, SharedState& state, Stores& stores,
            Shell& shell, PageServices services, LearnerData& own);
@@ -41,7 +41,7 @@ class Sections {
 
   void declare(Variables& variables) const;
 
-  [[nodiscard]] ReadingText& text() noexcept { return reading_.text(); }
+  [[nodiscard]] const ReadingText& text() noexcept { return reading_.text(); }
   [[nodiscard]] int TimBaiHoc(const std::string& title) const {
     return exercises_.box.TimBaiHoc(title);
   }
@@ -50,6 +50,15 @@ class Sections {
   void wireFocus();
   void wireDrills();
   void wireAnalysis();
+
+  void load(int n) override;
+  void explain() override;
+  void leave() override;
+  void leaveOnKey(int keyCode) override;
+  void followPointer(SurfacePoint at) override;
+  /// The word that an explanation has marked looks as before.
+  void takeMarkBack();
+
   /// Opens a section that begins with a list of texts.
   void openTexts(int section, int store);
   void openAnalysis();

@@ -174,7 +174,7 @@ void Reading::GoiR2() {
   openVoice();
   text_.DocBai(number);
   page_.showText();
-  if (analysed) NapPhanTich(number - FirstAnalysedText + 1);
+  if (analysed) page_.loadExplanations(number - FirstAnalysedText + 1);
   text_.DocDich(number);
   shell_.transitions.MoRan(controls_.R2, controls_.Frame2);
   state_.word.TuHienTai.clear();

@@ -42,8 +42,6 @@ class Reading {
 
   void declare(Variables& variables) const;
 
-  /// Reads analysis n of the text that section 5 opens; set by the program.
-  std::function<void(int n)> NapPhanTich = [](int) {};
   /// What a right click on a line does; set by the program.
   std::function<void()> MoNgheViet;
   /// The button that gets the focus when the section is left; set by the program.

@@ -55,6 +55,14 @@ void ReadingPage::wireEvents() {
   };
 }
 
+TextExplanations* ReadingPage::explanations() const noexcept {
+  return state_.places.MucMenu == section::Analysis ? explanations_ : nullptr;
+}
+
+void ReadingPage::loadExplanations(int n) {
+  if (explanations_ != nullptr) explanations_->load(n);
+}
+
 void ReadingPage::clearStepFlags() {
   state_.word.CoDupChuot = false;
   state_.word.GiuSpace = false;
@@ -82,7 +90,7 @@ void ReadingPage::showText() {
 void ReadingPage::pressKey(int& keyCode, int shift) {
   Surface& R2 = controls_.R2;
   const bool busy = aloud_.DangDocCa;
-  endExplanation(keyCode);
+  if (auto* const shown = explanations()) shown->leaveOnKey(keyCode);
   shell_.hints.showOnF2(keyCode, R2);
   services_.vietnameseSide.showOnCtrl(keyCode, shift, R2);
   if (keyCode == key::Esc) pressEsc();
@@ -163,19 +171,19 @@ void ReadingPage::readAloud() {
 
 void ReadingPage::moveMouse(SurfacePoint at) {
   shell_.gestures.pointerMoved(controls_.R2, at);
-  RoiChuotBT(at);
+  if (auto* const shown = explanations()) shown->followPointer(at);
   shell_.gestures.RoiChuot(controls_.R2, at);
 }
 
 void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
   CurrentWord& word = state_.word;
-  leaveExplanation();
+  if (auto* const shown = explanations()) shown->leave();
   if (button == MouseButton::Left) {
     word.ViTriChuot = at;
     word.ViTriCaret = controls_.R2.SelStart();
     if (word.ChoGiai) {
       word.ChoGiai = false;
-      if (GiaiPhanTich) GiaiPhanTich();
+      if (explanations_ != nullptr) explanations_->explain();
       return;
     }
     takeWordOrSentence();

@@ -24,6 +24,21 @@ struct PageServices {
   RecordedVoice& voice;
 };
 
+/// Explains the words of an analysed text.
+class TextExplanations {
+ public:
+  virtual ~TextExplanations() = default;
+
+  /// Reads the explanations of text n, from 1.
+  virtual void load(int n) = 0;
+  /// Explains the word at the caret.
+  virtual void explain() = 0;
+  /// Ends the explanation on show: the text was clicked, or a key was pressed in it.
+  virtual void leave() = 0;
+  virtual void leaveOnKey(int keyCode) = 0;
+  virtual void followPointer(SurfacePoint at) = 0;
+};
+
 class ReadingPage {
  public:
   ReadingPage(Controls& controls, SharedState& state, Shell& shell, PageServices services,
@@ -42,14 +57,10 @@ class ReadingPage {
   std::function<void()> ThemTuVung;
   /// Starts the word ordering drill on this text; set by the program.
   std::function<void()> GoiRxep;
-  /// Explains the word under a right click in an analysed text; set by the program.
-  std::function<void()> GiaiPhanTich;
-  /// Ends the explanation of a word when the text is clicked again; set by the program.
-  std::function<void()> leaveExplanation = [] {};
-  /// Ends the explanation of a word when a key is pressed; set by the program.
-  std::function<void(int keyCode)> endExplanation = [](int) {};
-  /// Tells the explanation of a word where the pointer is; set by the program.
-  std::function<void(SurfacePoint at)> RoiChuotBT = [](SurfacePoint) {};
+  /// Who explains analysed texts from now on.
+  void explainBy(TextExplanations& explanations) { explanations_ = &explanations; }
+  /// Reads the explanations of analysed text n, from 1, that is shown.
+  void loadExplanations(int n);
 
   bool LaBaiHuongDan = false; ///< the text is the program's guide, with its special clicks
   int ViTriTieuDe = 0;        ///< length of the title line plus 2, where the body starts
@@ -57,6 +68,8 @@ class ReadingPage {
  private:
   void wireEvents();
   void addToShell();
+  /// The explanations of the text on show; null when it is none that is analysed.
+  [[nodiscard]] TextExplanations* explanations() const noexcept;
   void moveMouse(SurfacePoint at);
   void pressKey(int& keyCode, int shift);
   void pressEsc();
@@ -78,6 +91,7 @@ class ReadingPage {
   PageServices services_;
   SentencePick sentences_;
   ReadAloud aloud_;
+  TextExplanations* explanations_ = nullptr;
   int ViTriGiuSpace_ = 0; ///< caret to go back to when Space is let go
 };
 

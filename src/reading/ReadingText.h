@@ -23,6 +23,8 @@ class ReadingText {
   void DocBai(int i);
   /// Reads the translation of text i into `DichCau`.
   void DocDich(int i);
+  /// The number of the sentence that holds character v, from 1; 1 outside all. Nothing changes.
+  [[nodiscard]] int sentenceOf(int v) const noexcept;
   /// The number of the sentence that holds character v, from 1; its translation goes into
   /// `ThongBaoHD`. The title is sentence 1 and has no translation.
   int CauTaiViTri(int v);

@@ -142,6 +142,26 @@ TEST_F(LookUpTest, ClearsTheWordForAnEmptyKey) {
   EXPECT_EQ(lookUp.ViTriGan, 7);
 }
 
+TEST_F(LookUpTest, AskingChangesNothing) {
+  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
+  lookUp.ViTriGan = 7;
+  run.state.word.TuHienTai = "word";
+  run.state.word.NghiaHienTai = "entry";
+  const auto answer = lookUp.ask("Well Known", LayNghia::Yes);
+  ASSERT_TRUE(answer);
+  EXPECT_TRUE(answer->TimThay);
+  EXPECT_EQ(answer->entry, "_famous\r");
+  EXPECT_FALSE(lookUp.ask("", LayNghia::Yes));
+  const WordAnswer shortened = lookUp.askInAllForms("ablexyz");
+  EXPECT_EQ(shortened.word, "able");
+  const WordAnswer nothing = lookUp.askInAllForms("qqq");
+  EXPECT_EQ(nothing.word, "qqq");
+  EXPECT_TRUE(nothing.answer->entry.empty());
+  EXPECT_EQ(lookUp.ViTriGan, 7);
+  EXPECT_EQ(run.state.word.TuHienTai, "word");
+  EXPECT_EQ(run.state.word.NghiaHienTai, "entry");
+}
+
 TEST_F(LookUpTest, LeavesTheEntryWhereItIsWhenItIsNotWanted) {
   LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
   lookUp.TimTu("able", LayNghia::No);

@@ -92,6 +92,15 @@ TEST_F(SentencePickTest, FallsBackToTheFirstSentenceOutsideAll) {
   EXPECT_EQ(reading.CauTaiViTri(14), 2);
 }
 
+TEST_F(SentencePickTest, AskingForASentencesNumberTakesNoMessage) {
+  showText("_Title\r_\tOne.\r_", {"Mot."});
+  run.state.word.ThongBaoHD = "before";
+  EXPECT_EQ(reading.sentenceOf(14), 2);
+  EXPECT_EQ(run.state.word.ThongBaoHD, "before");
+  EXPECT_EQ(reading.CauTaiViTri(14), 2);
+  EXPECT_EQ(run.state.word.ThongBaoHD, "Mot.");
+}
+
 TEST_F(SentencePickTest, SelectsNothingOfAnEmptySentence) {
   showText("_T\r_\tOne. __Two.\r_", {"Mot.", "", "Hai."});
   run.state.word.TuHienTai = "before";
