@@ -102,7 +102,7 @@ std::string_view exampleOf(SourceKind kind) {
     return item;
   case SourceKind::Unit:
     return unit;
-  case SourceKind::Analysis:
+  case SourceKind::AnalysedText:
     break;
   }
   return analysis;

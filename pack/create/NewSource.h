@@ -7,7 +7,7 @@
 
 namespace talvora::pack {
 
-enum class SourceKind { Text, Lesson, Item, Unit, Analysis };
+enum class SourceKind { Text, Lesson, Item, Unit, AnalysedText };
 
 struct SourceKindName {
   SourceKind kind;
@@ -19,7 +19,7 @@ inline constexpr std::array<SourceKindName, 5> SourceKindNames = {{
     {SourceKind::Lesson, "lesson"},
     {SourceKind::Item, "item"},
     {SourceKind::Unit, "unit"},
-    {SourceKind::Analysis, "analysis"},
+    {SourceKind::AnalysedText, "analysis"},
 }};
 
 /// The example of a kind, as a source that has no errors.

@@ -1,5 +1,6 @@
 #include "pack/texts/OwnTexts.h"
 
+#include "formats/Integers.h"
 #include "formats/LearnerFiles.h"
 #include "pack/LooseText.h"
 #include "pack/PackFile.h"

@@ -150,11 +150,11 @@ TEST(Interrupted, ASettingIsStored) {
   {
     const SignalStorm storm;
     SettingsFile settings(systemFiles());
-    settings.open(path, firstSettings());
+    settings.open(path, SettingsFile::IfMissing::BeginFresh);
     settings.write(4, 7);
   }
   SettingsFile settings(systemFiles());
-  settings.open(path, firstSettings());
+  settings.open(path, SettingsFile::IfMissing::BeginFresh);
   EXPECT_EQ(settings.read(4), 7);
 }
 

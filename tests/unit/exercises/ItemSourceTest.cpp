@@ -2,6 +2,7 @@
 
 #include "formats/Integers.h"
 #include "pack/ExerciseStore.h"
+#include "pack/ItemHeadings.h"
 #include "pack/StreamText.h"
 #include "support/TestFolder.h"
 

@@ -2,7 +2,7 @@
 
 #include "pack/SourceFile.h"
 #include "pack/WaveFile.h"
-#include "support/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <sndfile.hh>
@@ -36,7 +36,7 @@ class CompressRecordingsTest : public testing::Test {
   }
 
  private:
-  TemporaryFolder folder_;
+  test::TemporaryFolder folder_;
 };
 
 TEST_F(CompressRecordingsTest, ARecordingKeepsEverySampleInLessRoom) {

@@ -1,4 +1,5 @@
 // Dictionaries that somebody brings: their forms, what is kept of them, and the merged list.
+#include "formats/Integers.h"
 #include "pack/Gunzip.h"
 #include "pack/LooseText.h"
 #include "pack/PlainMarkup.h"

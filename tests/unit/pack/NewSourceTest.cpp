@@ -28,7 +28,7 @@ TEST(NewSource, EveryExampleIsASourceWithoutErrors) {
           .size(),
       1U);
   static_cast<void>(parseListeningUnit(exampleOf(SourceKind::Unit), "unit", problems));
-  EXPECT_EQ(parseAnalysis(exampleOf(SourceKind::Analysis), "analysis", problems).size(), 2U);
+  EXPECT_EQ(parseAnalysis(exampleOf(SourceKind::AnalysedText), "analysis", problems).size(), 2U);
   EXPECT_EQ(told(problems), "");
 }
 
