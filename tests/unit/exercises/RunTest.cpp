@@ -340,9 +340,9 @@ TEST(Items, AnOrderingItemIsHandedOnWithItsTranslations) {
   stores.items = copies(25, {"300_He is very good.", "_Anh.\r?12\r"});
   ItemRun run(stores);
   run.startUnit();
-  EXPECT_EQ(run.state.text.CauHoi, "\xA0He is very good.\xA0"
-                                   "end.")
-      << "the question is the drill's text";
+  // The record's own mark, and the one that the drill puts ahead.
+  EXPECT_EQ(run.state.text.CauHoi, "\xA0\xA0He is very good.\xA0"
+                                   "end.");
   EXPECT_EQ(run.item.LoiGiai, "_Anh.\r") << "a reference ends the record";
   EXPECT_THAT(run.controls.Rxep.Text(), testing::HasSubstr("Anh."));
   EXPECT_TRUE(run.controls.Rxep.Visible());
