@@ -5,7 +5,7 @@
 
 #include <array>
 #include <cstddef>
-#include <memory_resource>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,14 +25,16 @@ class ParagraphRef {
 
  private:
   void findRuns(const Document& document, int start);
+  void add(StyleRun run);
+  [[nodiscard]] std::span<const StyleRun> runs() const noexcept;
 
   /// Runs of a usual paragraph take no memory beside their own.
   static constexpr std::size_t UsualRuns = 24;
 
-  alignas(StyleRun) std::array<std::byte, UsualRuns * sizeof(StyleRun)> room_;
-  std::pmr::monotonic_buffer_resource memory_{room_.data(), room_.size()};
-  std::pmr::vector<StyleRun> runs_{&memory_};
-  std::string joined_; ///< the text, where the document holds it in two pieces
+  std::array<StyleRun, UsualRuns> usual_;
+  std::size_t count_ = 0;
+  std::vector<StyleRun> many_; ///< all of them, when they are more than usual
+  std::string joined_;         ///< the text, where the document holds it in two pieces
   ParagraphView view_;
 };
 

@@ -36,7 +36,7 @@ struct LiteralBytes {
 
   /// `encode` gives the bytes of a code point.
   template <class Encode>
-  consteval void fill(const char (&utf8)[Size], Encode encode) {
+  constexpr void fill(const char (&utf8)[Size], Encode encode) {
     std::size_t at = 0;
     while (at + 1 < Size) {
       const auto first = static_cast<unsigned char>(utf8[at]);

@@ -13,21 +13,24 @@ namespace talvora {
 
 namespace detail {
 
+// Only the literals themselves are of the compiler's time alone: clang 14 takes no function of that
+// kind within another.
+
 /// One or two bytes.
 struct LetterBytes {
   char bytes[2] = {};
   std::size_t count = 0;
 
-  consteval LetterBytes(std::string_view text) : count(text.size()) { // NOLINT
+  constexpr LetterBytes(std::string_view text) : count(text.size()) { // NOLINT
     for (std::size_t at = 0; at < count; ++at)
       bytes[at] = text[at];
   }
-  [[nodiscard]] consteval const char* begin() const { return bytes; }
-  [[nodiscard]] consteval const char* end() const { return bytes + count; }
+  [[nodiscard]] constexpr const char* begin() const { return bytes; }
+  [[nodiscard]] constexpr const char* end() const { return bytes + count; }
 };
 
 /// The byte of a letter in the text font; a letter without one stops the compilation.
-consteval LetterBytes x1BytesOf(char32_t letter) {
+constexpr LetterBytes x1BytesOf(char32_t letter) {
   char byte = static_cast<char>(letter);
   if (letter >= 0x80) {
     const std::size_t place = glyphs::x1Upper.find(static_cast<char16_t>(letter));
@@ -38,7 +41,7 @@ consteval LetterBytes x1BytesOf(char32_t letter) {
 }
 
 /// The bytes of a letter in the menu's font; a letter without any stops the compilation.
-consteval LetterBytes vniBytesOf(char32_t letter) {
+constexpr LetterBytes vniBytesOf(char32_t letter) {
   for (const glyphs::VniLetter& row : glyphs::vniLetters) {
     if (row.letter == letter) return row.bytes;
   }
@@ -55,16 +58,14 @@ consteval LetterBytes vniBytesOf(char32_t letter) {
 template <std::size_t Size>
 struct X1Literal : LiteralBytes<Size> {
   consteval X1Literal(const char (&utf8)[Size]) { // NOLINT(google-explicit-constructor)
-    this->fill(
-        utf8, [](char32_t letter) consteval { return x1BytesOf(letter); });
+    this->fill(utf8, x1BytesOf);
   }
 };
 
 template <std::size_t Size>
 struct VniLiteral : LiteralBytes<Size> {
   consteval VniLiteral(const char (&utf8)[Size]) { // NOLINT(google-explicit-constructor)
-    this->fill(
-        utf8, [](char32_t letter) consteval { return vniBytesOf(letter); });
+    this->fill(utf8, vniBytesOf);
   }
 };
 
