@@ -12,6 +12,8 @@ import re
 import sys
 from pathlib import Path
 
+from repository import repository_of
+
 # The folders of src; a file includes from its own floor or a lower one.
 FLOORS = {
     "text": 0,
@@ -101,10 +103,7 @@ def components_of(graph):
 
 
 def main():
-    if len(sys.argv) > 2 or sys.argv[1:] in (["-h"], ["--help"]):
-        print(__doc__.strip())
-        return 0 if len(sys.argv) == 2 else 2
-    root = Path(sys.argv[1] if len(sys.argv) == 2 else ".")
+    root = repository_of(__doc__)
     faults = []
     graph = {}
     files = 0

@@ -14,6 +14,7 @@ import sys
 from pathlib import Path
 
 from check_includes import FLOORS
+from repository import repository_of
 
 # Whose each surface is.
 OWNERS = {
@@ -44,10 +45,7 @@ def faults_of(path, root):
 
 
 def main():
-    if len(sys.argv) > 2 or sys.argv[1:] in (["-h"], ["--help"]):
-        print(__doc__.strip())
-        return 0 if len(sys.argv) == 2 else 2
-    root = Path(sys.argv[1] if len(sys.argv) == 2 else ".")
+    root = repository_of(__doc__)
     declared = ", ".join(DECLARED.findall((root / CONTROLS).read_text(encoding="utf-8"))).split(", ")
     faults = [f"{CONTROLS}:1: {name} has no owner; give it one in {__file__}"
               for name in declared if name not in OWNERS]

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# The checks of the source tree find what they are for, and take nothing for the tree that is none.
+#
+#   checks.sh REPOSITORY
+set -euo pipefail
+
+root=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+fail() {
+  echo "$1" >&2
+  exit 1
+}
+
+# A check ends with a code for a tree.
+expect() {
+  local code=$1 check=$2
+  shift 2
+  local got=0
+  python3 "$root/tools/$check" "$@" >"$work/said" 2>&1 || got=$?
+  [ "$got" = "$code" ] || fail "$check $*: exit code $got instead of $code: $(head -5 "$work/said")"
+}
+
+for check in check_includes.py check_pages.py check_glossary.py; do
+  expect 0 $check "$root"
+  expect 0 $check --help
+  expect 2 $check "$root/docs"
+  expect 2 $check --all
+  expect 2 $check "$root" "$root"
+done
+
+mkdir "$work/tree"
+for folder in src pack docs tests bench; do cp -r "$root/$folder" "$work/tree/$folder"; done
+
+echo '#include "program/Program.h"' >>"$work/tree/src/text/Text.h"
+expect 1 check_includes.py "$work/tree"
+grep -q 'Text.h:.*higher floor' "$work/said" || fail "the include is not named: $(cat "$work/said")"
+
+echo 'inline int tell(Controls& controls) { return controls.RVP1.Left(); }' >>"$work/tree/src/shell/Names.h"
+expect 1 check_pages.py "$work/tree"
+grep -q 'Names.h:.*RVP1' "$work/said" || fail "the page is not named: $(cat "$work/said")"
+
+echo 'inline int NuocChay = 0; // and what a comment or "KhongRo" says does not count' >>"$work/tree/src/text/Bytes.h"
+expect 1 check_glossary.py "$work/tree"
+grep -q 'Bytes.h:.*NuocChay.*nuoc' "$work/said" || fail "the name is not told: $(cat "$work/said")"
+[ "$(wc -l <"$work/said")" = 1 ] || fail "more than the new name: $(cat "$work/said")"
