@@ -5,13 +5,15 @@
 
 #include <QDataStream>
 #include <QFontMetricsF>
-#include <QList>
 #include <QRawFont>
 #include <QTextBoundaryFinder>
 
 #include <array>
 #include <cmath>
+#include <map>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace talvora {
 
@@ -58,6 +60,45 @@ std::int16_t rounded(double value) {
   return static_cast<std::int16_t>(std::lround(value));
 }
 
+/// The number of each row among the rows that differ, and those.
+std::vector<std::vector<std::int16_t>> differing(const std::vector<std::vector<std::int16_t>>& rows,
+                                                 std::vector<quint16>& numbers) {
+  std::map<std::vector<std::int16_t>, quint16> known;
+  std::vector<std::vector<std::int16_t>> different;
+  for (const std::vector<std::int16_t>& row : rows) {
+    const auto [entry, isNew] = known.try_emplace(row, static_cast<quint16>(different.size()));
+    if (isNew) different.push_back(row);
+    numbers.push_back(entry->second);
+  }
+  return different;
+}
+
+std::vector<std::vector<std::int16_t>> turned(const std::vector<std::vector<std::int16_t>>& rows) {
+  std::vector<std::vector<std::int16_t>> columns(rows.front().size());
+  for (const std::vector<std::int16_t>& row : rows) {
+    for (std::size_t at = 0; at < row.size(); ++at)
+      columns[at].push_back(row[at]);
+  }
+  return columns;
+}
+
+/// A value for each pair of letters. Letters that are alike in it share a row or a column.
+void writePairs(QDataStream& out, const std::vector<std::vector<std::int16_t>>& rows) {
+  std::vector<quint16> rowNumbers;
+  std::vector<quint16> columnNumbers;
+  const auto fewRows = differing(rows, rowNumbers);
+  const auto few = turned(differing(turned(fewRows), columnNumbers));
+  for (const std::vector<quint16>& numbers : {rowNumbers, columnNumbers}) {
+    for (const quint16 number : numbers)
+      out << number;
+  }
+  out << static_cast<quint16>(few.size()) << static_cast<quint16>(few.front().size());
+  for (const std::vector<std::int16_t>& row : few) {
+    for (const std::int16_t value : row)
+      out << value;
+  }
+}
+
 class FaceWriter {
  public:
   FaceWriter(QDataStream& out, const FaceSample& sample, const std::set<char16_t>& letters)
@@ -91,27 +132,17 @@ class FaceWriter {
   }
 
   void writeKerning() {
-    struct Pair {
-      quint16 first;
-      quint16 second;
-      std::int16_t closer;
-    };
-    QList<Pair> pairs;
-    quint16 first = 0;
+    std::vector<std::vector<std::int16_t>> rows;
     for (const char16_t left : letters_) {
-      quint16 second = 0;
+      std::vector<std::int16_t>& row = rows.emplace_back();
+      const std::int16_t first = advanceOf(QString(QChar(left)));
       for (const char16_t right : letters_) {
-        const int apart = advanceOf(QString(QChar(left))) + advanceOf(QString(QChar(right)));
+        const int apart = first + advanceOf(QString(QChar(right)));
         const int together = advanceOf(QString(QChar(left)) + QChar(right));
-        if (together != apart)
-          pairs.append({first, second, static_cast<std::int16_t>(together - apart)});
-        ++second;
+        row.push_back(static_cast<std::int16_t>(together - apart));
       }
-      ++first;
     }
-    out_ << static_cast<quint32>(pairs.size());
-    for (const Pair& pair : pairs)
-      out_ << pair.first << pair.second << pair.closer;
+    writePairs(out_, rows);
   }
 
   QDataStream& out_;
@@ -130,13 +161,16 @@ bool breaksAhead(const QString& text) {
 /// Two bits for each pair of letters: whether a line may break between them, and whether it may
 /// when there are blanks between them.
 void writeBreaks(QDataStream& out, const std::set<char16_t>& letters) {
+  std::vector<std::vector<std::int16_t>> rows;
   for (const char16_t left : letters) {
+    std::vector<std::int16_t>& row = rows.emplace_back();
     for (const char16_t right : letters) {
       const bool close = breaksAhead(QString(QChar(left)) + QChar(right));
       const bool apart = breaksAhead(QString(QChar(left)) + u' ' + QChar(right));
-      out << static_cast<quint8>((close ? 1 : 0) | (apart ? 2 : 0));
+      row.push_back(static_cast<std::int16_t>((close ? 1 : 0) | (apart ? 2 : 0)));
     }
   }
+  writePairs(out, rows);
 }
 
 } // namespace
