@@ -1,0 +1,223 @@
+#include "core/WebMachine.h"
+
+#include "core/Json.h"
+#include "text/GlyphMap.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace talvora::web {
+
+namespace {
+
+constexpr double FrameMs = 1000.0 / 60;
+/// A picture that nobody has looked at for so long moves no more.
+constexpr double RestAfterMs = 20'000;
+constexpr double LongestMovementPauseMs = 200;
+constexpr double ForEver = -1;
+constexpr int Voices = 10;
+
+bool isInput(EventKind kind) {
+  return kind != EventKind::Answer && kind != EventKind::Hidden;
+}
+
+} // namespace
+
+// -- What the page tells.
+
+void Inbox::note(const Event& event) {
+  if (isInput(event.kind)) lastInput_ = hostNow();
+  switch (event.kind) {
+  case EventKind::KeyDown:
+    if (event.extra == 0) keys.press(event.x);
+    break;
+  case EventKind::KeyUp:
+    keys.release(event.x);
+    break;
+  case EventKind::Blur:
+    keys.releaseAll();
+    return;
+  case EventKind::Close:
+    closeWanted_ = true;
+    break;
+  default:
+    break;
+  }
+  // Of several moves in a row only the last one counts.
+  if (event.kind == EventKind::Move && !waiting_.empty() &&
+      waiting_.back().kind == EventKind::Move) {
+    waiting_.pop_back();
+  }
+  waiting_.push_back(event);
+}
+
+void Inbox::gather() {
+  while (const auto event = takeEvent())
+    note(*event);
+}
+
+void Inbox::wait(double ms) {
+  hostWait(ms);
+  gather();
+}
+
+std::optional<Event> Inbox::next() {
+  gather();
+  if (waiting_.empty()) return std::nullopt;
+  const Event event = waiting_.front();
+  waiting_.pop_front();
+  return event;
+}
+
+std::optional<bool> Inbox::takeAnswer() {
+  const auto answer = std::find_if(waiting_.begin(), waiting_.end(), [](const Event& each) {
+    return each.kind == EventKind::Answer;
+  });
+  if (answer == waiting_.end()) return std::nullopt;
+  const bool agreed = answer->x != 0;
+  waiting_.erase(answer);
+  return agreed;
+}
+
+// -- Time.
+
+Flow WebClock::Sleep(int ms) {
+  if (ms > 0 && !inbox_.closeWanted()) {
+    paint();
+    const double end = hostNow() + ms;
+    for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - hostNow())
+      inbox_.wait(left);
+  }
+  return inbox_.closeWanted() ? Flow::Interrupt : Flow::Continue;
+}
+
+Flow WebEventLoop::letEventsRun() {
+  deliver();
+  return flow();
+}
+
+Flow WebEventLoop::letEventsRunUntilNextFrame() {
+  paint();
+  if (inbox_.isEmpty()) {
+    const bool rests = inbox_.quietMs() > RestAfterMs;
+    const double wait = std::clamp(nextFrame_ - hostNow(), 0.0, FrameMs);
+    inbox_.wait(rests ? ForEver : wait);
+    nextFrame_ = hostNow() + FrameMs;
+  }
+  deliver();
+  return flow();
+}
+
+void WebScreen::RefreshStep() {
+  const double now = hostNow();
+  // A step that comes much later than the one before begins a movement of its own.
+  if (now > nextStep_ + LongestMovementPauseMs) nextStep_ = now;
+  const double due = std::exchange(nextStep_, nextStep_ + FrameMs);
+  if (now > due + FrameMs) return;
+  // What the page tells meanwhile stays where it is until somebody takes it.
+  for (double left = due - now; left > 0; left = due - hostNow())
+    hostWait(left);
+  paint();
+}
+
+// -- Keys and pointer.
+
+bool WebInput::GetAsyncKeyState(int keyCode) {
+  inbox_.gather();
+  return inbox_.keys.takePressed(keyCode);
+}
+
+void WebInput::SetCursorPos(PixelPoint point) {
+  pointer_ = point;
+  sent_.push_back(Move{point});
+}
+
+std::optional<WebInput::Sent> WebInput::takeSent() {
+  if (sent_.empty()) return std::nullopt;
+  const Sent next = sent_.front();
+  sent_.pop_front();
+  return next;
+}
+
+// -- Sound.
+
+void WebSpeech::Speak(std::string_view text) {
+  const std::string words = plainAscii(text);
+  if (words.find_first_not_of(' ') == std::string::npos) return;
+  JsonWriter json;
+  json.open('{').field("do", "speak").field("text", std::string_view(words));
+  json.field("speed", wordsPerMinute_).field("voice", voice_).close('}');
+  tellPage(json.text());
+}
+
+void WebSpeech::StopSpeaking() {
+  tellPage(R"({"do":"hush"})");
+}
+
+bool WebSpeech::Select(int voice) {
+  if (voice < 1 || voice > Voices) return false;
+  voice_ = voice;
+  return true;
+}
+
+void WebWave::Open(const std::string& path) {
+  JsonWriter json;
+  json.open('{').field("do", "openWave").field("file", std::string_view(path)).close('}');
+  tellPage(json.text());
+}
+
+void WebWave::Close() {
+  tellPage(R"({"do":"closeWave"})");
+}
+
+void WebWave::Play(int from, int to) {
+  JsonWriter json;
+  json.open('{').field("do", "playWave").field("from", from).field("to", to).close('}');
+  tellPage(json.text());
+}
+
+void WebWave::Stop() {
+  tellPage(R"({"do":"stopWave"})");
+}
+
+// -- What the page shows by itself.
+
+bool WebBoxes::waitForAnswer() {
+  for (;;) {
+    if (const auto answer = inbox_.takeAnswer()) return *answer;
+    inbox_.wait(ForEver);
+  }
+}
+
+BoxAnswer WebBoxes::ask(std::string_view text, std::string_view title, BoxAnswer byDefault) {
+  opening();
+  JsonWriter json;
+  json.open('{').field("do", "ask").field("text", toUnicode(text, Encoding::X1));
+  json.field("title", toUnicode(title, Encoding::Windows1252));
+  json.field("yes", byDefault == BoxAnswer::Yes).close('}');
+  tellPage(json.text());
+  return waitForAnswer() ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+void WebBoxes::tell(std::string_view text) {
+  opening();
+  JsonWriter json;
+  json.open('{').field("do", "tell").field("text", toUnicode(text, Encoding::X1)).close('}');
+  tellPage(json.text());
+  static_cast<void>(waitForAnswer());
+}
+
+void WebNarrator::wordTaken(const std::string& word, WordTaken outcome, int count) {
+  JsonWriter json;
+  json.open('{').field("do", "wordTaken").field("word", toUnicode(word, Encoding::X1));
+  json.field("outcome", static_cast<int>(outcome)).field("count", count).close('}');
+  tellPage(json.text());
+}
+
+Moment WebCalendar::now() const {
+  const auto parts = hostMoment();
+  return {parts[0], parts[1], parts[2], parts[3], parts[4], parts[5]};
+}
+
+} // namespace talvora::web

@@ -1,0 +1,196 @@
+// The machine that a browser is: time, keys, pointer, boxes and sound, through the worker.
+#pragma once
+
+#include "core/Host.h"
+#include "desktop/KeyTable.h"
+#include "platform/Platform.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <variant>
+
+namespace talvora::web {
+
+/// What the page has told and the program has not had yet. It keeps the key table also while the
+/// program sleeps.
+class Inbox {
+ public:
+  /// Takes in what has come; keys count at once for loops that poll them.
+  void gather();
+  /// Waits until something comes or the time is over, and takes it in.
+  void wait(double ms);
+  [[nodiscard]] std::optional<Event> next();
+  [[nodiscard]] bool isEmpty() const noexcept { return waiting_.empty(); }
+  /// Puts an event back that has to wait.
+  void hold(const Event& event) { waiting_.push_front(event); }
+  [[nodiscard]] bool closeWanted() const noexcept { return closeWanted_; }
+  void closeDelivered() noexcept { closeWanted_ = false; }
+  /// Milliseconds since the learner last touched anything.
+  [[nodiscard]] double quietMs() const { return hostNow() - lastInput_; }
+  /// Takes the answer to a box out of what has come.
+  [[nodiscard]] std::optional<bool> takeAnswer();
+
+  KeyTable keys;
+
+ private:
+  void note(const Event& event);
+
+  std::deque<Event> waiting_;
+  double lastInput_ = 0;
+  bool closeWanted_ = false;
+};
+
+class WebClock final : public Clock {
+ public:
+  explicit WebClock(Inbox& inbox) : inbox_(inbox) {}
+
+  [[nodiscard]] std::int64_t nowMs() const override { return static_cast<std::int64_t>(hostNow()); }
+  [[nodiscard]] Flow Sleep(int ms) override;
+
+  /// Brings to the page what has changed; set by whoever paints.
+  std::function<void()> paint = [] {};
+
+ private:
+  Inbox& inbox_;
+};
+
+class WebEventLoop final : public EventLoop {
+ public:
+  explicit WebEventLoop(Inbox& inbox) : inbox_(inbox) {}
+
+  Flow letEventsRun() override;
+  Flow letEventsRunUntilNextFrame() override;
+
+  /// Delivers what has come; set by the program's owner.
+  std::function<void()> deliver = [] {};
+  std::function<void()> paint = [] {};
+  std::function<bool()> programRuns = [] { return true; };
+
+ private:
+  [[nodiscard]] Flow flow() const { return programRuns() ? Flow::Continue : Flow::Interrupt; }
+
+  Inbox& inbox_;
+  double nextFrame_ = 0;
+};
+
+/// The page's pointer cannot be moved: where the program brings it, it is taken to be.
+class WebInput final : public Input {
+ public:
+  struct Click {
+    MouseButton button;
+    PixelPoint at;
+  };
+  struct Stroke {
+    int keyCode;
+    KeyMotion motion;
+  };
+  struct Move {
+    PixelPoint at;
+  };
+  using Sent = std::variant<Click, Stroke, Move>;
+
+  explicit WebInput(Inbox& inbox) : inbox_(inbox) {}
+
+  bool GetAsyncKeyState(int keyCode) override;
+  void SetCursorPos(PixelPoint point) override;
+  [[nodiscard]] PixelPoint cursorPos() const override { return pointer_; }
+  void sendClick(MouseButton button) override { sent_.push_back(Click{button, pointer_}); }
+  void sendClickAside(MouseButton) override {}
+  void sendKey(int keyCode, KeyMotion motion) override { sent_.push_back(Stroke{keyCode, motion}); }
+
+  /// The learner has brought the pointer there.
+  void pointerCame(PixelPoint point) noexcept { pointer_ = point; }
+  [[nodiscard]] std::optional<Sent> takeSent();
+
+ private:
+  Inbox& inbox_;
+  PixelPoint pointer_;
+  std::deque<Sent> sent_;
+};
+
+class WebSpeech final : public SpeechEngine {
+ public:
+  void Speak(std::string_view text) override;
+  void StopSpeaking() override;
+  [[nodiscard]] bool IsSpeaking() const override { return hostIsSpeaking(); }
+  void Speed(int wordsPerMinute) override { wordsPerMinute_ = wordsPerMinute; }
+  bool Select(int voice) override;
+
+ private:
+  int wordsPerMinute_ = 175;
+  int voice_ = 1;
+};
+
+class WebWave final : public WavePlayer {
+ public:
+  void Open(const std::string& path) override;
+  void Close() override;
+  void Play(int from, int to) override;
+  void Stop() override;
+  [[nodiscard]] int Mode() const override { return hostIsPlaying() ? Playing : Stopped; }
+};
+
+class WebBoxes final : public Boxes {
+ public:
+  explicit WebBoxes(Inbox& inbox) : inbox_(inbox) {}
+
+  BoxAnswer ask(std::string_view text, std::string_view title, BoxAnswer byDefault) override;
+  void tell(std::string_view text) override;
+
+  std::function<void()> opening = [] {};
+
+ private:
+  [[nodiscard]] bool waitForAnswer();
+
+  Inbox& inbox_;
+};
+
+class WebScreen final : public Screen {
+ public:
+  WebScreen(int width, int height) : width_(width), height_(height) {}
+
+  [[nodiscard]] int pixelWidth() const override { return width_; }
+  [[nodiscard]] int pixelHeight() const override { return height_; }
+  void Refresh() override { paint(); }
+  /// Steps follow each other sixty times a second.
+  void RefreshStep() override;
+
+  std::function<void()> paint = [] {};
+
+ private:
+  int width_;
+  int height_;
+  double nextStep_ = 0;
+};
+
+/// A page may not read the clipboard, so that it clears nothing that is not its own.
+class WebClipboard final : public Clipboard {
+ public:
+  void clear() override {}
+};
+
+/// Fonts and voice come with the page.
+class WebInstallation final : public Installation {
+ public:
+  void installFonts() override {}
+  [[nodiscard]] bool speechEngineInstalled() const override { return true; }
+  [[nodiscard]] bool englishVoiceInstalled() const override { return true; }
+  void run(const std::string&) override {}
+};
+
+class WebNarrator final : public Narrator {
+ public:
+  void messageShown(const std::string&, int) override {}
+  void messageTakenDown() override {}
+  void frameShown(int, int) override {}
+  void curtainOpened(const std::string&) override {}
+  void wordTaken(const std::string& word, WordTaken outcome, int count) override;
+};
+
+class WebCalendar final : public Calendar {
+ public:
+  [[nodiscard]] Moment now() const override;
+};
+
+} // namespace talvora::web

@@ -1,0 +1,137 @@
+// The program in a worker: starts when the worker says so, and takes what the page tells.
+
+#include "core/Picture.h"
+#include "core/Router.h"
+#include "core/WebFiles.h"
+#include "core/WebMachine.h"
+#include "platform/FatalFailure.h"
+#include "program/Program.h"
+
+#include <emscripten.h>
+
+#include <exception>
+#include <memory>
+
+namespace talvora::web {
+
+namespace {
+
+/// The machine and the program on it, for one run.
+class Run {
+ public:
+  Run(int width, int height, std::span<const unsigned char> measures)
+      : faces_(measures), layout_(faces_), metrics_(faces_), screen_(width, height) {
+    const auto paint = [this] { picture_.send(); };
+    clock_.paint = paint;
+    events_.paint = paint;
+    screen_.paint = paint;
+    boxes_.opening = paint;
+    events_.deliver = [this] { deliverAll(); };
+    events_.programRuns = [this] { return program_.running() && !failed_; };
+  }
+
+  void start() {
+    guarded([this] { program_.Main(); });
+    // The first run has set up what it had to: the next program comes up on it.
+    afterwards();
+  }
+
+  /// Delivers what has come while nothing was going on.
+  void pump() {
+    guarded([this] { deliverAll(); });
+    afterwards();
+  }
+
+  [[nodiscard]] Ending ending() const noexcept { return program_.ending(); }
+
+ private:
+  template <class Deed>
+  void guarded(Deed deed) {
+    if (failed_) return;
+    try {
+      deed();
+    } catch (const FatalFailure& failure) {
+      fail(failure.what());
+    } catch (const std::exception& fault) {
+      fail(std::string("internal fault: ") + fault.what());
+    }
+  }
+
+  void fail(const std::string& message) {
+    failed_ = true;
+    program_.fail();
+    JsonWriter json;
+    json.open('{').field("do", "failed").field("text", std::string_view(message)).close('}');
+    tellPage(json.text());
+  }
+
+  void deliverAll() {
+    while (program_.running()) {
+      if (const auto sent = input_.takeSent()) {
+        router_.deliver(*sent);
+      } else if (const auto event = inbox_.next()) {
+        router_.deliver(*event);
+      } else {
+        return;
+      }
+    }
+  }
+
+  void afterwards() {
+    picture_.send();
+    if (!program_.running() && !failed_ && program_.ending() == Ending::Quit)
+      tellPage(R"({"do":"ended"})");
+  }
+
+  Faces faces_;
+  WebLineLayout layout_;
+  WebTextMetrics metrics_;
+  Inbox inbox_;
+  WebClock clock_{inbox_};
+  WebEventLoop events_{inbox_};
+  WebInput input_{inbox_};
+  WebSpeech speech_;
+  WebWave wave_;
+  WebBoxes boxes_{inbox_};
+  WebScreen screen_;
+  WebClipboard clipboard_;
+  WebInstallation installation_;
+  WebNarrator narrator_;
+  Random random_{hostSeed()};
+  WebFiles files_;
+  WebCalendar calendar_;
+  Platform platform_{clock_,        events_,   input_,  speech_, wave_,
+                     metrics_,      layout_,   boxes_,  screen_, clipboard_,
+                     installation_, narrator_, random_, files_,  calendar_};
+  Program program_{platform_, {PackFolder, LearnerFolder}};
+  Picture picture_{program_.form(), layout_, faces_};
+  Router router_{program_, screen_, input_, inbox_};
+  bool failed_ = false;
+};
+
+// The worker calls functions that are given nothing.
+std::unique_ptr<Run> run;
+
+} // namespace
+
+} // namespace talvora::web
+
+extern "C" {
+
+/// Starts the program on a virtual screen of so many pixels; `measures` are those of the faces.
+EMSCRIPTEN_KEEPALIVE void talvoraStart(int width, int height, const unsigned char* measures,
+                                       std::size_t size) {
+  using namespace talvora;
+  const auto begin = [&] {
+    web::run.reset();
+    web::run = std::make_unique<web::Run>(width, height, std::span(measures, size));
+    web::run->start();
+  };
+  begin();
+  if (web::run->ending() == Ending::FirstRun) begin();
+}
+
+EMSCRIPTEN_KEEPALIVE void talvoraPump() {
+  if (talvora::web::run) talvora::web::run->pump();
+}
+}

@@ -1,0 +1,70 @@
+// The events that the page tells the core, through memory that both see: the core takes them also
+// while it waits.
+
+export const Fields = 6;
+export const Room = 1024; // events
+const Written = 0;
+const Taken = 1;
+export const Head = 4;
+
+export const Kind = Object.freeze({
+  Move: 1,
+  Press: 2,
+  Release: 3,
+  Wheel: 4,
+  KeyDown: 5,
+  KeyUp: 6,
+  Answer: 7,
+  Close: 8,
+  Hidden: 9,
+  Blur: 10,
+});
+
+/** Places of what sounds, in memory of their own. */
+export const Sounds = Object.freeze({ Speaking: 0, Playing: 1, SpeechTurn: 2, WaveTurn: 3, All: 4 });
+
+/** @returns {SharedArrayBuffer} */
+export function makeRing() {
+  return new SharedArrayBuffer((Head + Room * Fields) * Int32Array.BYTES_PER_ELEMENT);
+}
+
+/**
+ * Puts an event into the ring; one for which there is no room is lost.
+ * @param {Int32Array} ring
+ * @param {number[]} event
+ */
+export function put(ring, event) {
+  const written = Atomics.load(ring, Written);
+  if (written - Atomics.load(ring, Taken) >= Room) return;
+  const place = Head + (written % Room) * Fields;
+  for (let field = 0; field < Fields; ++field) ring[place + field] = event[field] ?? 0;
+  Atomics.store(ring, Written, written + 1);
+  Atomics.notify(ring, Written);
+}
+
+/**
+ * Takes the next event out of the ring; 0 when there is none.
+ * @param {Int32Array} ring
+ * @param {Int32Array} into
+ * @param {number} at
+ * @returns {number}
+ */
+export function take(ring, into, at) {
+  const taken = Atomics.load(ring, Taken);
+  if (taken === Atomics.load(ring, Written)) return 0;
+  const place = Head + (taken % Room) * Fields;
+  for (let field = 0; field < Fields; ++field) into[at + field] = ring[place + field];
+  Atomics.store(ring, Taken, taken + 1);
+  return 1;
+}
+
+/**
+ * Returns when something is in the ring or the time is over; less than 0 waits for ever.
+ * @param {Int32Array} ring
+ * @param {number} ms
+ */
+export function wait(ring, ms) {
+  const taken = Atomics.load(ring, Taken);
+  if (taken !== Atomics.load(ring, Written)) return;
+  Atomics.wait(ring, Written, taken, ms < 0 ? Infinity : ms);
+}

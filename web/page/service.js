@@ -1,0 +1,35 @@
+// Keeps the page and the pack for times without a network, and adds the headers that let page and
+// program share memory.
+const Store = 'talvora-1';
+
+self.addEventListener('install', () => self.skipWaiting());
+self.addEventListener('activate', (event) => event.waitUntil(self.clients.claim()));
+
+/** @param {Response} reply */
+function isolated(reply) {
+  const headers = new Headers(reply.headers);
+  headers.set('Cross-Origin-Opener-Policy', 'same-origin');
+  headers.set('Cross-Origin-Embedder-Policy', 'require-corp');
+  return new Response(reply.body, { status: reply.status, statusText: reply.statusText, headers });
+}
+
+/** @param {Request} request */
+async function answer(request) {
+  const store = await caches.open(Store);
+  const isPack = new URL(request.url).pathname.includes('/pack/') && !request.url.endsWith('.json');
+  const kept = await store.match(request);
+  // The files of the pack have their content in their names and never change.
+  if (isPack && kept !== undefined) return isolated(kept);
+  try {
+    const reply = await fetch(request);
+    if (reply.ok) await store.put(request, reply.clone());
+    return isolated(reply);
+  } catch (fault) {
+    if (kept !== undefined) return isolated(kept);
+    throw fault;
+  }
+}
+
+self.addEventListener('fetch', (event) => {
+  if (event.request.method === 'GET') event.respondWith(answer(event.request));
+});

@@ -1,0 +1,76 @@
+// The caption strip: the typed word, the title with the score, notices.
+
+const NewsMs = 2000;
+const Padding = ' '.repeat(20);
+const LongestShown = 20;
+
+/** @param {string} id */
+const byId = (id) => /** @type {HTMLElement} */ (document.getElementById(id));
+
+export class Strip {
+  /** @param {(text: string) => void} announce */
+  constructor(announce) {
+    this.announce = announce;
+    this.firstTitle = '';
+    this.typedWord = '';
+    /** @type {ReturnType<typeof setTimeout> | undefined} */
+    this.emphasis = undefined;
+    /** @type {ReturnType<typeof setTimeout> | undefined} */
+    this.noticeEnd = undefined;
+  }
+
+  /** What is ahead of the caption's padding is the typed word. @param {string} caption */
+  setCaption(caption) {
+    const padding = caption.indexOf(Padding);
+    this.typedWord = padding < 0 ? '' : caption.slice(0, padding);
+    const title = (padding < 0 ? caption : caption.slice(padding)).trim().replace(/\s+/g, ' ');
+    byId('typed').textContent = this.typedWord === '' ? '' : `${this.typedWord}\u258f`;
+    this.setTitle(title);
+  }
+
+  /** @param {string} title */
+  setTitle(title) {
+    const element = byId('title');
+    const before = element.textContent ?? '';
+    if (title === before) return;
+    element.textContent = title;
+    if (this.firstTitle === '') {
+      this.firstTitle = title;
+      return;
+    }
+    const news = title !== this.firstTitle;
+    // A score that the next item's number replaces at once is still to be read.
+    if (news && element.classList.contains('news') && before !== this.firstTitle) this.notice(before);
+    element.classList.toggle('news', news);
+    clearTimeout(this.emphasis);
+    if (!news) return;
+    this.emphasis = setTimeout(() => element.classList.remove('news'), NewsMs);
+    this.announce(title);
+  }
+
+  /** @param {string} text */
+  notice(text) {
+    if (this.typedWord === '') byId('typed').textContent = text;
+    clearTimeout(this.noticeEnd);
+    this.noticeEnd = setTimeout(() => {
+      if (this.typedWord === '') byId('typed').textContent = '';
+    }, NewsMs);
+    this.announce(text);
+  }
+
+  /** @param {{word: string, outcome: number, count: number}} taken */
+  wordTaken({ word, outcome, count }) {
+    const texts = [
+      `Đã lưu: ${word} (${count})`,
+      `Đã có: ${word} (${count})`,
+      `Dài quá, không lưu được: ${word.slice(0, LongestShown)}…`,
+    ];
+    this.notice(texts[outcome]);
+  }
+
+  /** @param {boolean} menu */
+  setPlace(menu) {
+    byId('back').textContent = menu ? 'Thoát (Esc)' : '‹ Quay lại (Esc)';
+    byId('hint').hidden = menu;
+  }
+}
