@@ -8,6 +8,8 @@ import { Strip } from './strip.js';
 const TwipsPerPixel = 15;
 const VirtualHeight = 768;
 const CaptionPart = 0.03;
+const LockTries = 10;
+const LockPauseMs = 200;
 
 /** @param {string} id */
 const byId = (id) => /** @type {HTMLElement} */ (document.getElementById(id));
@@ -144,16 +146,26 @@ function start() {
   worker.postMessage({ do: 'begin', ring, sounds, ...screen });
 }
 
-/** One page at a time writes the learner's files; a second one says so. */
-function startAlone() {
-  navigator.locks.request('talvora-learner', { ifAvailable: true }, (lock) => {
-    if (lock === null) {
-      showEnd('Talvora đang chạy rồi trong một thẻ khác.');
-      return undefined;
-    }
-    start();
-    return new Promise(() => {});
-  });
+/**
+ * One page at a time writes the learner's files; a second one says so. A page that is loaded anew may
+ * come before the one that it replaces is gone.
+ */
+async function startAlone(tries = LockTries) {
+  const started = await navigator.locks.request(
+    'talvora-learner',
+    { ifAvailable: true },
+    async (lock) => {
+      if (lock === null) return false;
+      start();
+      return new Promise(() => {});
+    },
+  );
+  if (started) return;
+  if (tries === 0) {
+    showEnd('Talvora đang chạy rồi trong một thẻ khác.');
+    return;
+  }
+  setTimeout(() => void startAlone(tries - 1), LockPauseMs);
 }
 
 async function main() {
@@ -169,7 +181,7 @@ async function main() {
     }
   }
   if (globalThis.crossOriginIsolated) {
-    startAlone();
+    void startAlone();
   } else {
     showEnd('Trình duyệt này không cho Talvora chạy.');
   }

@@ -5,6 +5,8 @@ const Places = 64;
 const HeaderSize = 512;
 const NameAt = 16;
 const LongestName = 255;
+const OpenTries = 20;
+const OpenPauseMs = 150;
 
 /**
  * @typedef {object} Handle
@@ -209,6 +211,22 @@ export class OwnFiles {
 }
 
 /**
+ * Opens a place; the worker of a page that is just going may still have it.
+ * @param {any} file
+ * @returns {Promise<Handle>}
+ */
+async function openPlace(file) {
+  for (let left = OpenTries; ; --left) {
+    try {
+      return await file.createSyncAccessHandle();
+    } catch (fault) {
+      if (left === 0) throw fault;
+      await new Promise((resolve) => setTimeout(resolve, OpenPauseMs));
+    }
+  }
+}
+
+/**
  * Opens the learner's files; without a store that keeps them they live as long as the page.
  * @returns {Promise<{files: OwnFiles, kept: boolean}>}
  */
@@ -220,8 +238,7 @@ export async function openOwnFiles() {
     const places = [];
     for (let number = 0; number < Places; ++number) {
       const file = await folder.getFileHandle(`place-${number}`, { create: true });
-      // @ts-ignore: not every browser's types know it.
-      places.push(await file.createSyncAccessHandle());
+      places.push(await openPlace(file));
     }
     return { files: new OwnFiles(places), kept: true };
   } catch {

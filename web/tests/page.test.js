@@ -54,10 +54,11 @@ async function open(its) {
 /** @param {string} name */
 const surface = (name) => page.locator(`#c-${name}`);
 
-/** Opens the first reading text. */
+/** Opens the first reading text, which stands below a heading. */
 async function openText() {
   await page.locator('.menu').first().click();
   await surface('R1').locator('.current').waitFor();
+  await page.keyboard.press('ArrowDown');
   await page.keyboard.press('Enter');
   await surface('R2').locator('.line').first().waitFor();
 }
