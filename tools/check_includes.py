@@ -4,7 +4,7 @@ from file to file nor from component to component (a header and its source are o
 
 usage: check_includes.py [REPOSITORY]
 
-Looked at are src, pack, tests and bench.
+Looked at are src, pack, web, tests and bench.
 Exit code 0 when all is well, 1 with a line `file:line: message` for each fault, 2 on a wrong call.
 """
 
@@ -37,7 +37,10 @@ FLOORS = {
 # Beside the house: the compiler knows what the program reads, up to the items' headings; tests and
 # benchmarks see everything.
 PACK_FLOOR = 8
-FREE = ("tests", "bench")
+# The browser's front stands beside the other two; what is made of the desktop's look for it, and the
+# tests of both, see everything.
+WEB_FRONT = ("web", "core")
+FREE = ("tests", "bench", "web")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 
 
@@ -48,6 +51,8 @@ def floor_of(path):
         return FLOORS.get(path.parts[1])
     if top == "pack":
         return PACK_FLOOR
+    if path.parts[:2] == WEB_FRONT:
+        return max(FLOORS.values())
     return max(FLOORS.values()) + 1 if top in FREE else None
 
 
@@ -58,7 +63,7 @@ def includes_of(path, root):
         if not match:
             continue
         name = match.group(1)
-        for base in (Path("src"), Path("."), path.parent, Path("tests/unit"), Path("tests")):
+        for base in (Path("src"), Path("."), path.parent, Path("tests/unit"), Path("tests"), Path("web")):
             if (root / base / name).exists():
                 yield number, (base / name)
                 break

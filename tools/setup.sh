@@ -16,11 +16,14 @@ packages_for() {
     index(purposes, " " $1 " ") && $column != "-" { print $column }' tools/packages.tsv
 }
 
-# Prints the Debian packages for the purposes that are not installed.
+# Prints the Debian packages for the purposes that are not installed; one that another package provides
+# counts as there.
 missing_packages() {
+  local there
+  there=$(dpkg-query -W -f='${db:Status-Status}, ${Package}, ${Provides}\n' |
+    sed -n 's/^installed, //p' | tr ',' '\n' | awk '{ print $1 }')
   packages_for 2 "$@" | while read -r package; do
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
-      printf '%s\n' "$package"
+    grep -qxF "$package" <<<"$there" || printf '%s\n' "$package"
   done
 }
 

@@ -3,7 +3,6 @@
 
 #include "core/Faces.h"
 #include "platform/LineLayout.h"
-#include "surface/StyledText.h"
 
 #include <cstdint>
 #include <string>

@@ -83,26 +83,26 @@ void Picture::write(JsonWriter& json, const Control& control) const {
       json, "box",
       {side(control.Left()), side(control.Top()), side(control.Width()), side(control.Height())});
   json.field("back", std::string_view(hexOf(lightOf(control.BackColor()))));
-  if (const auto* surface = dynamic_cast<const Surface*>(&control)) {
+  if (const auto* surface = as<Surface>(&control)) {
     json.field("kind", "surface");
     writeSurface(json, *surface);
-  } else if (const auto* button = dynamic_cast<const Button*>(&control)) {
+  } else if (const auto* button = as<Button>(&control)) {
     json.field("kind", "button").field("picture", button->Picture());
     json.field("number", button->TabIndex());
     json.field("text", captionOf(button->Caption(), button->Font()));
     json.field("size", sizeOf(button->Font()));
     json.field("face", static_cast<int>(faceOf(button->Font(), false)));
-  } else if (const auto* label = dynamic_cast<const Label*>(&control)) {
+  } else if (const auto* label = as<Label>(&control)) {
     json.field("kind", "label").field("text", unitsOf(label->Caption(), label->Font().name));
     json.field("size", sizeOf(label->Font()));
     json.field("face", static_cast<int>(faceOf(label->Font(), false)));
     json.field("color", std::string_view(hexOf(lightOf(label->ForeColor()))));
     json.field("wide", WebTextMetrics(faces_).widthOf(label->Caption(), label->Font()));
-  } else if (const auto* panel = dynamic_cast<const Panel*>(&control)) {
+  } else if (const auto* panel = as<Panel>(&control)) {
     json.field("kind", "panel").field("alpha", std::clamp(panel->Alpha(), 0, 255) / 255.0);
-  } else if (dynamic_cast<const Frame*>(&control) != nullptr) {
+  } else if (as<Frame>(&control) != nullptr) {
     json.field("kind", "frame");
-  } else if (dynamic_cast<const Image*>(&control) != nullptr) {
+  } else if (as<Image>(&control) != nullptr) {
     json.field("kind", "image");
   } else {
     json.field("kind", "none");
@@ -110,7 +110,7 @@ void Picture::write(JsonWriter& json, const Control& control) const {
 }
 
 const Paragraph& Picture::shaped(const Surface& surface, int paragraph) const {
-  return layout_.shaped(surface.paragraph(paragraph), surface.Font(), surface.Width());
+  return layout_.shaped(surface.paragraph(paragraph).view());
 }
 
 void Picture::writeSurface(JsonWriter& json, const Surface& surface) const {

@@ -1,4 +1,4 @@
-// Brings what the learner does to the form: the one place of the front that knows how.
+// Brings what the page tells to the form.
 #pragma once
 
 #include "core/WebMachine.h"
@@ -8,8 +8,8 @@ namespace talvora::web {
 
 class Router {
  public:
-  Router(Program& program, const Screen& screen, WebInput& input, Inbox& inbox)
-      : program_(program), screen_(screen), input_(input), inbox_(inbox) {}
+  Router(Program& program, WebInput& input, Inbox& inbox)
+      : program_(program), input_(input), inbox_(inbox) {}
 
   /// What an event of the pointer or the keys does to the program.
   void deliver(const Event& event);
@@ -17,20 +17,14 @@ class Router {
   void deliver(const WebInput::Sent& sent);
 
  private:
-  /// The form lies below the caption strip of the virtual screen.
-  [[nodiscard]] SurfacePoint formPoint(int x, int y) const;
-  [[nodiscard]] SurfacePoint formPoint(PixelPoint pixel) const;
-  void move(SurfacePoint at, int buttons, int shift);
-  void moveTo(SurfacePoint at, int shift);
-  void press(SurfacePoint at, const Event& event);
-  void release(SurfacePoint at, const Event& event);
-  void wheel(SurfacePoint at, int twips);
+  /// Takes note of where the pointer is.
+  SurfacePoint pointerOf(const Event& event);
+  void press(const Event& event);
+  [[nodiscard]] int shiftDown() const;
 
   Program& program_;
-  const Screen& screen_;
   WebInput& input_;
   Inbox& inbox_;
-  Control* pressed_ = nullptr;
 };
 
 } // namespace talvora::web

@@ -93,13 +93,4 @@ const Paragraph& WebLineLayout::shaped(const ParagraphView& paragraph) const {
   return entries_.front().paragraph;
 }
 
-const Paragraph& WebLineLayout::shaped(const ParagraphContent& content, const FontSpec& font,
-                                       int width) const {
-  std::vector<StyleRun> runs;
-  runs.reserve(content.styles.size());
-  for (std::size_t run = 0; run < content.styles.size(); ++run)
-    runs.push_back({content.runStarts[run], &content.styles[run]});
-  return shaped(ParagraphView{content.text, runs, content.style, font, width});
-}
-
 } // namespace talvora::web

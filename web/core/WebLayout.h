@@ -39,8 +39,6 @@ class WebLineLayout final : public LineLayout {
 
   /// The paragraph as it is painted; valid until the next call.
   [[nodiscard]] const Paragraph& shaped(const ParagraphView& paragraph) const;
-  [[nodiscard]] const Paragraph& shaped(const ParagraphContent& content, const FontSpec& font,
-                                        int width) const;
 
  private:
   struct Entry {

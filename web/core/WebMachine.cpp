@@ -37,7 +37,7 @@ void Inbox::note(const Event& event) {
     break;
   case EventKind::Blur:
     keys.releaseAll();
-    return;
+    break;
   case EventKind::Close:
     closeWanted_ = true;
     break;

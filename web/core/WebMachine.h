@@ -77,27 +77,22 @@ class WebEventLoop final : public EventLoop {
 /// The page's pointer cannot be moved: where the program brings it, it is taken to be.
 class WebInput final : public Input {
  public:
-  struct Click {
-    MouseButton button;
-    PixelPoint at;
-  };
-  struct Stroke {
-    int keyCode;
-    KeyMotion motion;
-  };
+  /// The program has moved the pointer.
   struct Move {
     PixelPoint at;
   };
-  using Sent = std::variant<Click, Stroke, Move>;
+  using Sent = std::variant<SyntheticEvent, Move>;
 
   explicit WebInput(Inbox& inbox) : inbox_(inbox) {}
 
   bool GetAsyncKeyState(int keyCode) override;
   void SetCursorPos(PixelPoint point) override;
   [[nodiscard]] PixelPoint cursorPos() const override { return pointer_; }
-  void sendClick(MouseButton button) override { sent_.push_back(Click{button, pointer_}); }
+  void sendClick(MouseButton button) override { sent_.push_back(SyntheticClick{button, pointer_}); }
   void sendClickAside(MouseButton) override {}
-  void sendKey(int keyCode, KeyMotion motion) override { sent_.push_back(Stroke{keyCode, motion}); }
+  void sendKey(int keyCode, KeyMotion motion) override {
+    sent_.push_back(SyntheticKey{keyCode, motion});
+  }
 
   /// The learner has brought the pointer there.
   void pointerCame(PixelPoint point) noexcept { pointer_ = point; }

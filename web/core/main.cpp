@@ -105,7 +105,7 @@ class Run {
                      installation_, narrator_, random_, files_,  calendar_};
   Program program_{platform_, {PackFolder, LearnerFolder}};
   Picture picture_{program_.form(), layout_, faces_};
-  Router router_{program_, screen_, input_, inbox_};
+  Router router_{program_, input_, inbox_};
   bool failed_ = false;
 };
 

@@ -135,14 +135,22 @@ export class FormView {
       element = document.createElement(control.kind === 'button' ? 'button' : 'div');
       element.id = `c-${control.name}`;
       element.className = control.kind === 'button' ? 'menu' : control.kind;
-      element.style.zIndex = String(control.depth);
       if (control.kind === 'button') element.tabIndex = -1;
       this.elements.set(control.name, element);
-      this.root.append(element);
+      this.stack(element, control.depth);
     }
     element.hidden = false;
     place(element, control.box);
     this[/** @type {'surface'} */ (control.kind)]?.(element, control, focus);
+  }
+
+  /** Elements stand in the order of the controls. @param {HTMLElement} element @param {number} depth */
+  stack(element, depth) {
+    element.style.zIndex = String(depth);
+    const inFront = [...this.root.children].find(
+      (other) => other instanceof HTMLElement && Number(other.style.zIndex) > depth,
+    );
+    this.root.insertBefore(element, inFront ?? null);
   }
 
   /** @param {HTMLElement} element @param {any} control */

@@ -3,7 +3,9 @@ import { Kind } from './ring.js';
 
 const TwipsPerNotch = 1620;
 const LongPressMs = 600;
-const DoubleTapMs = 350;
+const DoubleClickMs = 400;
+const DoubleClickReach = 5; // pixels between the two presses of a mouse
+const DoubleTapReach = 30; // of a finger
 
 /** Key codes that the core knows, by the browser's names. @type {Record<string, number>} */
 const Codes = {
@@ -69,7 +71,8 @@ export class Input {
     this.tell = tell;
     this.placeOf = placeOf;
     this.open = () => true;
-    this.lastTap = 0;
+    /** The press that a second one may follow. @type {{at: number, x: number, y: number} | null} */
+    this.lastPress = null;
     /** @type {ReturnType<typeof setTimeout> | undefined} */
     this.longPress = undefined;
     this.rightGiven = false;
@@ -117,10 +120,15 @@ export class Input {
     this.tell([Kind.Press, x, y, event.button === 2 ? 2 : 1, shiftOf(event), twice ? 1 : 0]);
   }
 
-  /** @param {PointerEvent} event */
+  /** Whether a press is the second one of a double click. @param {PointerEvent} event */
   isSecond(event) {
-    const second = event.timeStamp - this.lastTap < DoubleTapMs;
-    this.lastTap = second ? 0 : event.timeStamp;
+    const reach = event.pointerType === 'touch' ? DoubleTapReach : DoubleClickReach;
+    const first = this.lastPress;
+    const second =
+      first !== null &&
+      event.timeStamp - first.at < DoubleClickMs &&
+      Math.hypot(event.clientX - first.x, event.clientY - first.y) <= reach;
+    this.lastPress = second ? null : { at: event.timeStamp, x: event.clientX, y: event.clientY };
     return second;
   }
 
