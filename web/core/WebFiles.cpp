@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <sstream>
 
 extern "C" {
@@ -43,6 +44,26 @@ std::optional<std::string> below(std::string_view folder, const std::string& pat
   if (path.size() <= size + 1 || path.compare(0, size, folder) != 0 || path[size] != '/')
     return std::nullopt;
   return path.substr(size + 1);
+}
+
+/// The paths of all of the learner's files.
+std::vector<std::string> ownPaths() {
+  const int size = talvoraOwnList(nullptr, 0);
+  std::string lines(static_cast<std::size_t>(std::max(0, size)), '\0');
+  talvoraOwnList(lines.data(), lines.size());
+  std::istringstream in(lines);
+  std::vector<std::string> paths;
+  for (std::string name; std::getline(in, name);)
+    paths.push_back(std::string(LearnerFolder) + "/" + name);
+  return paths;
+}
+
+/// Folders are nothing of their own: one is there when a file lies in it.
+bool isFolder(const std::string& path) {
+  const std::vector<std::string> paths = ownPaths();
+  return path == PackFolder || path == LearnerFolder ||
+         std::any_of(paths.begin(), paths.end(),
+                     [&](const std::string& each) { return below(path, each).has_value(); });
 }
 
 class HeldBytes final : public FileMapping {
@@ -162,7 +183,7 @@ std::unique_ptr<OpenFile> WebFiles::open(const std::string& path, OpenFor purpos
 
 FileStatus WebFiles::status(const std::string& path, std::error_code& error) {
   error = {};
-  if (path == PackFolder || path == LearnerFolder) {
+  if (isFolder(path)) {
     FileStatus folder;
     folder.kind = FileStatus::Kind::Folder;
     return folder;
@@ -191,25 +212,22 @@ std::error_code WebFiles::rename(const std::string& from, const std::string& to)
 std::error_code WebFiles::remove(const std::string& path) {
   const auto name = below(LearnerFolder, path);
   if (!name) return errorOf(std::errc::read_only_file_system);
+  if (isFolder(path)) return errorOf(std::errc::directory_not_empty);
   return outcome(talvoraOwnRemove(name->data(), name->size()));
 }
 
 std::vector<std::string> WebFiles::list(const std::string& folder, std::error_code& error) {
   error = {};
-  std::vector<std::string> names;
-  if (folder != LearnerFolder) return names;
-  const int size = talvoraOwnList(nullptr, 0);
-  std::string lines(static_cast<std::size_t>(std::max(0, size)), '\0');
-  talvoraOwnList(lines.data(), lines.size());
-  std::istringstream in(lines);
-  for (std::string name; std::getline(in, name);)
-    names.push_back(name);
-  std::sort(names.begin(), names.end());
-  return names;
+  std::set<std::string> names;
+  for (const std::string& path : ownPaths()) {
+    const auto name = below(folder, path);
+    if (name) names.insert(name->substr(0, name->find('/')));
+  }
+  return {names.begin(), names.end()};
 }
 
 bool WebFiles::mayCreateIn(const std::string& folder) {
-  return folder == LearnerFolder;
+  return folder == LearnerFolder || below(LearnerFolder, folder);
 }
 
 } // namespace talvora::web

@@ -28,27 +28,17 @@ bool isInput(EventKind kind) {
 
 void Inbox::note(const Event& event) {
   if (isInput(event.kind)) lastInput_ = hostNow();
-  switch (event.kind) {
-  case EventKind::KeyDown:
-    if (event.extra == 0) keys.press(event.x);
-    break;
-  case EventKind::KeyUp:
-    keys.release(event.x);
-    break;
-  case EventKind::Blur:
-    keys.releaseAll();
-    break;
-  case EventKind::Close:
-    closeWanted_ = true;
-    break;
-  default:
-    break;
-  }
+  const bool repeats = event.kind == EventKind::KeyDown && event.extra != 0;
+  // A key that is held down while the program sleeps counts once.
+  if (repeats && asleep_) return;
+  if (event.kind == EventKind::KeyDown && !repeats) keys.press(event.x);
+  if (event.kind == EventKind::KeyUp) keys.release(event.x);
+  if (event.kind == EventKind::Blur) keys.releaseAll();
+  if (event.kind == EventKind::Close) closeWanted_ = true;
   // Of several moves in a row only the last one counts.
-  if (event.kind == EventKind::Move && !waiting_.empty() &&
-      waiting_.back().kind == EventKind::Move) {
-    waiting_.pop_back();
-  }
+  const bool moves =
+      event.kind == EventKind::Move && !waiting_.empty() && waiting_.back().kind == EventKind::Move;
+  if (moves) waiting_.pop_back();
   waiting_.push_back(event);
 }
 
@@ -62,12 +52,37 @@ void Inbox::wait(double ms) {
   gather();
 }
 
+void Inbox::sleep(double ms) {
+  const bool outer = std::exchange(asleep_, true);
+  wait(ms);
+  asleep_ = outer;
+}
+
+Inbox::Waiting::const_iterator Inbox::findNext() const {
+  const bool holdMoves = (pumps_ > 0 && moveLetThrough_) || (keys.arrowDown() && arrowHoldsMoves());
+  return std::find_if(waiting_.begin(), waiting_.end(), [&](const Event& each) {
+    return !holdMoves || each.kind != EventKind::Move;
+  });
+}
+
 std::optional<Event> Inbox::next() {
   gather();
-  if (waiting_.empty()) return std::nullopt;
-  const Event event = waiting_.front();
-  waiting_.pop_front();
+  const auto found = findNext();
+  if (found == waiting_.end()) return std::nullopt;
+  const Event event = *found;
+  waiting_.erase(found);
+  if (event.kind == EventKind::Move) moveLetThrough_ = true;
   return event;
+}
+
+void Inbox::beginPump() {
+  ++pumps_;
+  moveLetThrough_ = false;
+}
+
+void Inbox::endPump() {
+  --pumps_;
+  moveLetThrough_ = false;
 }
 
 std::optional<bool> Inbox::takeAnswer() {
@@ -87,25 +102,32 @@ Flow WebClock::Sleep(int ms) {
     paint();
     const double end = hostNow() + ms;
     for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - hostNow())
-      inbox_.wait(left);
+      inbox_.sleep(left);
   }
   return inbox_.closeWanted() ? Flow::Interrupt : Flow::Continue;
 }
 
-Flow WebEventLoop::letEventsRun() {
+void WebEventLoop::pump() {
+  inbox_.beginPump();
   deliver();
+  inbox_.endPump();
+}
+
+Flow WebEventLoop::letEventsRun() {
+  pump();
   return flow();
 }
 
 Flow WebEventLoop::letEventsRunUntilNextFrame() {
   paint();
-  if (inbox_.isEmpty()) {
+  inbox_.gather();
+  if (!inbox_.hasNext()) {
     const bool rests = inbox_.quietMs() > RestAfterMs;
     const double wait = std::clamp(nextFrame_ - hostNow(), 0.0, FrameMs);
     inbox_.wait(rests ? ForEver : wait);
     nextFrame_ = hostNow() + FrameMs;
   }
-  deliver();
+  pump();
   return flow();
 }
 
@@ -115,9 +137,8 @@ void WebScreen::RefreshStep() {
   if (now > nextStep_ + LongestMovementPauseMs) nextStep_ = now;
   const double due = std::exchange(nextStep_, nextStep_ + FrameMs);
   if (now > due + FrameMs) return;
-  // What the page tells meanwhile stays where it is until somebody takes it.
   for (double left = due - now; left > 0; left = due - hostNow())
-    hostWait(left);
+    inbox_.sleep(left);
   paint();
 }
 
@@ -212,6 +233,13 @@ void WebNarrator::wordTaken(const std::string& word, WordTaken outcome, int coun
   JsonWriter json;
   json.open('{').field("do", "wordTaken").field("word", toUnicode(word, Encoding::X1));
   json.field("outcome", static_cast<int>(outcome)).field("count", count).close('}');
+  tellPage(json.text());
+}
+
+void WebNarrator::answerJudged(Verdict verdict) {
+  JsonWriter json;
+  json.open('{').field("do", "judged").field("right", verdict.right);
+  json.field("places", verdict.places).close('}');
   tellPage(json.text());
 }
 

@@ -18,12 +18,22 @@ class Inbox {
  public:
   /// Takes in what has come; keys count at once for loops that poll them.
   void gather();
-  /// Waits until something comes or the time is over, and takes it in.
+  /// Waits until something comes or the time is over, and takes it in; less than 0 waits for ever.
   void wait(double ms);
+  /// The same while nothing is delivered.
+  void sleep(double ms);
+  /// What is to be delivered next.
   [[nodiscard]] std::optional<Event> next();
-  [[nodiscard]] bool isEmpty() const noexcept { return waiting_.empty(); }
-  /// Puts an event back that has to wait.
-  void hold(const Event& event) { waiting_.push_front(event); }
+  [[nodiscard]] bool hasNext() const { return findNext() != waiting_.end(); }
+
+  /// While the program lets events run inside a loop of its own, one move of the pointer is let
+  /// through and the others wait: a second one would start a loop inside that loop.
+  void beginPump();
+  void endPump();
+  /// Whether the pointer's moves wait while an arrow is down, as they do over the menu: the button
+  /// that the focus came to is animated when the arrow is let go.
+  std::function<bool()> arrowHoldsMoves = [] { return false; };
+
   [[nodiscard]] bool closeWanted() const noexcept { return closeWanted_; }
   void closeDelivered() noexcept { closeWanted_ = false; }
   /// Milliseconds since the learner last touched anything.
@@ -34,10 +44,16 @@ class Inbox {
   KeyTable keys;
 
  private:
-  void note(const Event& event);
+  using Waiting = std::deque<Event>;
 
-  std::deque<Event> waiting_;
+  void note(const Event& event);
+  [[nodiscard]] Waiting::const_iterator findNext() const;
+
+  Waiting waiting_;
   double lastInput_ = 0;
+  int pumps_ = 0;
+  bool asleep_ = false;
+  bool moveLetThrough_ = false;
   bool closeWanted_ = false;
 };
 
@@ -68,6 +84,7 @@ class WebEventLoop final : public EventLoop {
   std::function<bool()> programRuns = [] { return true; };
 
  private:
+  void pump();
   [[nodiscard]] Flow flow() const { return programRuns() ? Flow::Continue : Flow::Interrupt; }
 
   Inbox& inbox_;
@@ -143,7 +160,8 @@ class WebBoxes final : public Boxes {
 
 class WebScreen final : public Screen {
  public:
-  WebScreen(int width, int height) : width_(width), height_(height) {}
+  /// Size in pixels.
+  WebScreen(Inbox& inbox, int width, int height) : inbox_(inbox), width_(width), height_(height) {}
 
   [[nodiscard]] int pixelWidth() const override { return width_; }
   [[nodiscard]] int pixelHeight() const override { return height_; }
@@ -154,6 +172,7 @@ class WebScreen final : public Screen {
   std::function<void()> paint = [] {};
 
  private:
+  Inbox& inbox_;
   int width_;
   int height_;
   double nextStep_ = 0;
@@ -181,6 +200,7 @@ class WebNarrator final : public Narrator {
   void frameShown(int, int) override {}
   void curtainOpened(const std::string&) override {}
   void wordTaken(const std::string& word, WordTaken outcome, int count) override;
+  void answerJudged(Verdict verdict) override;
 };
 
 class WebCalendar final : public Calendar {

@@ -49,10 +49,18 @@ mergeInto(LibraryManager.library, {
     return Module.host.own.create(UTF8ToString(name, length));
   },
   talvoraOwnRead: function (name, length, offset, into, size) {
-    return Module.host.own.read(UTF8ToString(name, length), offset, HEAPU8.subarray(into, into + size));
+    return Module.host.own.read(
+      UTF8ToString(name, length),
+      offset,
+      HEAPU8.subarray(into, into + size),
+    );
   },
   talvoraOwnWrite: function (name, length, offset, from, size) {
-    return Module.host.own.write(UTF8ToString(name, length), offset, HEAPU8.subarray(from, from + size));
+    return Module.host.own.write(
+      UTF8ToString(name, length),
+      offset,
+      HEAPU8.subarray(from, from + size),
+    );
   },
   talvoraOwnTruncate: function (name, length, size) {
     return Module.host.own.truncate(UTF8ToString(name, length), size);

@@ -20,12 +20,16 @@ namespace {
 class Run {
  public:
   Run(int width, int height, std::span<const unsigned char> measures)
-      : faces_(measures), layout_(faces_), metrics_(faces_), screen_(width, height) {
+      : faces_(measures), layout_(faces_), metrics_(faces_), screen_(inbox_, width, height) {
     const auto paint = [this] { picture_.send(); };
     clock_.paint = paint;
     events_.paint = paint;
     screen_.paint = paint;
-    boxes_.opening = paint;
+    boxes_.opening = [this] {
+      program_.input().endPress();
+      picture_.send();
+    };
+    inbox_.arrowHoldsMoves = [this] { return focusedButton() != nullptr; };
     events_.deliver = [this] { deliverAll(); };
     events_.programRuns = [this] { return program_.running() && !failed_; };
   }
@@ -39,6 +43,7 @@ class Run {
   /// Delivers what has come while nothing was going on.
   void pump() {
     guarded([this] { deliverAll(); });
+    guarded([this] { settleHover(); });
     afterwards();
   }
 
@@ -74,6 +79,22 @@ class Run {
       } else {
         return;
       }
+    }
+  }
+
+  [[nodiscard]] Button* focusedButton() { return as<Button>(program_.form().ActiveControl()); }
+
+  /// The pointer came to a button in one jump, while another one was animated: that animation has
+  /// ended by now, and this one's is due.
+  void settleHover() {
+    for (const Button* before = nullptr; program_.running();) {
+      const Button* const button = focusedButton();
+      const SurfacePoint pointer = program_.form().virtualScreen().toForm(input_.cursorPos());
+      const bool isDue = button != nullptr && program_.hoveredButton() != button->TabIndex() &&
+                         program_.input().meantAt(pointer) == button && !inbox_.keys.arrowDown();
+      if (!isDue || button == before) return;
+      before = button;
+      program_.input().deliverMove(pointer, shift::None);
     }
   }
 

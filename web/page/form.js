@@ -118,13 +118,13 @@ export class FormView {
 
   /** @param {any} message */
   paint(message) {
-    for (const control of message.controls) this.paintControl(control, message.focus);
+    for (const control of message.controls) this.paintControl(control);
     for (const [name, element] of this.elements)
       element.classList.toggle('focused', name === message.focus);
   }
 
-  /** @param {any} control @param {string} focus */
-  paintControl(control, focus) {
+  /** @param {any} control */
+  paintControl(control) {
     let element = this.elements.get(control.name);
     if (!control.shown) {
       if (element !== undefined) element.hidden = true;
@@ -141,7 +141,7 @@ export class FormView {
     }
     element.hidden = false;
     place(element, control.box);
-    this[/** @type {'surface'} */ (control.kind)]?.(element, control, focus);
+    this[/** @type {'surface'} */ (control.kind)]?.(element, control);
   }
 
   /** Elements stand in the order of the controls. @param {HTMLElement} element @param {number} depth */
@@ -230,7 +230,11 @@ export class FormView {
   label(element, control) {
     element.style.background = control.back;
     element.style.color = control.color;
-    const part = Math.min(1, control.box[2] / Math.max(1, control.wide), control.box[3] / (control.size * 1.32));
+    const part = Math.min(
+      1,
+      control.box[2] / Math.max(1, control.wide),
+      control.box[3] / (control.size * 1.32),
+    );
     element.style.font = `${control.size * part}px/1 F${control.face}`;
     element.textContent = control.text;
   }

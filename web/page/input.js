@@ -99,8 +99,13 @@ export class Input {
 
   /** @param {PointerEvent} event */
   down(event) {
-    if (Input.isOwn(event.target) || event.button > 2 || event.button === 1) return;
+    if (Input.isOwn(event.target) || event.button > 2) return;
     event.preventDefault();
+    // The mouse alone can keep a word and begin an exercise.
+    if (event.button === 1) {
+      this.stroke('Enter');
+      return;
+    }
     if (event.pointerType === 'touch') {
       if (!event.isPrimary) {
         // A second finger leads back.
@@ -134,7 +139,7 @@ export class Input {
 
   /** @param {PointerEvent} event */
   up(event) {
-    if (Input.isOwn(event.target)) return;
+    if (Input.isOwn(event.target) || event.button === 1) return;
     clearTimeout(this.longPress);
     if (event.pointerType === 'touch') {
       if (event.isPrimary && !this.rightGiven) this.click(event, 1, this.isSecond(event) ? 1 : 0);

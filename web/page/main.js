@@ -49,6 +49,12 @@ function announce(text) {
   byId('told').textContent = text;
 }
 
+/** @param {{right: number, places: number}} verdict */
+function verdictText({ right, places }) {
+  if (right === places) return 'Đúng';
+  return places === 1 ? 'Chưa đúng' : `Đúng ${right} trên ${places} chỗ`;
+}
+
 /** Shows what stands in the way of starting, over everything. @param {string} text */
 function showEnd(text) {
   byId('loading').hidden = false;
@@ -130,13 +136,14 @@ function start() {
       case 'wordTaken':
         strip.wordTaken(data);
         break;
+      case 'judged':
+        announce(verdictText(data));
+        break;
       case 'ended':
         showEnd('Talvora đã đóng.');
         break;
       case 'failed':
-        showEnd(
-          `Chương trình gặp lỗi nên phải dừng lại. Từ vựng bạn đã lưu vẫn còn. ${data.text}`,
-        );
+        showEnd(`Chương trình gặp lỗi nên phải dừng lại. Từ vựng bạn đã lưu vẫn còn. ${data.text}`);
         break;
       default:
         sound.take(data);

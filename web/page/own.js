@@ -1,15 +1,24 @@
 // The learner's own files, in the browser's private store. The core calls them without waiting, so
-// that a number of nameless places is opened ahead; the first bytes of each tell what it holds.
+// they are held in memory, and what becomes of them is written behind one another into a log: a page
+// that is killed at any moment leaves all that was written up to there, and a rename is one record.
+// Of the two logs one counts; it is written anew into the other when it has grown.
 
-const Places = 64;
-const HeaderSize = 512;
-const NameAt = 16;
-const LongestName = 255;
+const LogNames = ['log-0', 'log-1'];
+const Magic = 0x314c5654;
+const HeaderSize = 12; // magic, generation, checksum
+const RecordHead = 16; // kind, length of the name, number, length of the data
+const RecordTail = 4; // checksum
+const LongestName = 1024;
+const LargestFile = 64 * 1024 * 1024;
+/** A log this much longer than what it says is written anew. */
+const Slack = 256 * 1024;
 const OpenTries = 20;
 const OpenPauseMs = 150;
 
+const Deed = Object.freeze({ Create: 1, Write: 2, Truncate: 3, Rename: 4, Remove: 5 });
+
 /**
- * @typedef {object} Handle
+ * @typedef {object} Place a file of the private store, or memory in its stead
  * @property {(into: Uint8Array, options: {at: number}) => number} read
  * @property {(from: Uint8Array, options: {at: number}) => number} write
  * @property {(size: number) => void} truncate
@@ -17,31 +26,54 @@ const OpenPauseMs = 150;
  * @property {() => void} flush
  */
 
+/** Bytes that grow. */
+class Content {
+  constructor() {
+    this.room = new Uint8Array(0);
+    this.size = 0;
+  }
+  get bytes() {
+    return this.room.subarray(0, this.size);
+  }
+  /** @param {number} size */
+  resize(size) {
+    if (size > this.room.length) {
+      const room = new Uint8Array(Math.max(size, 2 * this.room.length));
+      room.set(this.bytes);
+      this.room = room;
+    }
+    this.room.fill(0, Math.min(size, this.size), Math.max(size, this.size));
+    this.size = size;
+  }
+  /** @param {number} offset @param {Uint8Array} from */
+  write(offset, from) {
+    if (offset + from.length > this.size) this.resize(offset + from.length);
+    this.room.set(from, offset);
+  }
+}
+
 /** A place in memory, for browsers that keep nothing: what is in it goes with the page. */
 export class MemoryPlace {
   constructor() {
-    this.bytes = new Uint8Array(0);
+    this.content = new Content();
   }
   /** @param {Uint8Array} into @param {{at: number}} options */
   read(into, { at }) {
-    const part = this.bytes.subarray(at, at + into.length);
+    const part = this.content.bytes.subarray(at, at + into.length);
     into.set(part);
     return part.length;
   }
   /** @param {Uint8Array} from @param {{at: number}} options */
   write(from, { at }) {
-    if (at + from.length > this.bytes.length) this.truncate(at + from.length);
-    this.bytes.set(from, at);
+    this.content.write(at, from);
     return from.length;
   }
   /** @param {number} size */
   truncate(size) {
-    const bytes = new Uint8Array(size);
-    bytes.set(this.bytes.subarray(0, size));
-    this.bytes = bytes;
+    this.content.resize(size);
   }
   getSize() {
-    return this.bytes.length;
+    return this.content.size;
   }
   flush() {}
 }
@@ -53,67 +85,96 @@ function checksum(bytes) {
   return sum;
 }
 
+/** @param {number} kind @param {string} name @param {number} number @param {Uint8Array} data */
+function record(kind, name, number, data) {
+  const letters = new TextEncoder().encode(name);
+  const bytes = new Uint8Array(RecordHead + letters.length + data.length + RecordTail);
+  const numbers = new DataView(bytes.buffer);
+  [kind, letters.length, number, data.length].forEach((each, at) =>
+    numbers.setUint32(4 * at, each, true),
+  );
+  bytes.set(letters, RecordHead);
+  bytes.set(data, RecordHead + letters.length);
+  const end = bytes.length - RecordTail;
+  numbers.setInt32(end, checksum(bytes.subarray(0, end)), true);
+  return bytes;
+}
+
+/** @param {number} generation */
+function header(generation) {
+  const bytes = new Uint8Array(HeaderSize);
+  const numbers = new DataView(bytes.buffer);
+  numbers.setUint32(0, Magic, true);
+  numbers.setUint32(4, generation, true);
+  numbers.setInt32(8, checksum(bytes.subarray(0, 8)), true);
+  return bytes;
+}
+
+/** @param {Place} place @returns {Uint8Array} */
+function allOf(place) {
+  const bytes = new Uint8Array(place.getSize());
+  return bytes.subarray(0, place.read(bytes, { at: 0 }));
+}
+
+/** The generation of a log; 0 when it is none. @param {Uint8Array} bytes */
+function generationOf(bytes) {
+  if (bytes.length < HeaderSize) return 0;
+  const numbers = new DataView(bytes.buffer, bytes.byteOffset);
+  const whole = numbers.getInt32(8, true) === checksum(bytes.subarray(0, 8));
+  return whole && numbers.getUint32(0, true) === Magic ? numbers.getUint32(4, true) : 0;
+}
+
+const Nothing = new Uint8Array(0);
+
 export class OwnFiles {
-  /** @param {Handle[]} places */
-  constructor(places) {
-    /** @type {Map<string, Handle>} */
+  /** @param {Place[]} logs two of them */
+  constructor(logs) {
+    this.logs = logs;
+    /** @type {Map<string, Content>} */
     this.files = new Map();
-    /** @type {Handle[]} */
-    this.free = [];
-    this.generation = 0;
-    /** @type {Map<string, number>} */
-    const generations = new Map();
-    for (const place of places) {
-      const header = OwnFiles.header(place);
-      if (header === null) {
-        this.free.push(place);
-        continue;
-      }
-      this.generation = Math.max(this.generation, header.generation);
-      // A rename that was cut short leaves two of a name: the younger one is the file.
-      const other = this.files.get(header.name);
-      if (other !== undefined && (generations.get(header.name) ?? 0) > header.generation) {
-        this.empty(place);
-        continue;
-      }
-      if (other !== undefined) this.empty(other);
-      this.files.set(header.name, place);
-      generations.set(header.name, header.generation);
+    const contents = logs.map(allOf);
+    const generations = contents.map(generationOf);
+    this.current = generations[1] > generations[0] ? 1 : 0;
+    this.generation = generations[this.current];
+    this.end = this.generation === 0 ? 0 : this.replay(contents[this.current]);
+    if (this.generation === 0) {
+      this.rewrite(this.files);
+    } else {
+      // What was cut short when it was written goes.
+      OwnFiles.tried(() => (logs[this.current].truncate(this.end), 0));
     }
   }
 
-  /** @param {Handle} place @returns {{name: string, generation: number} | null} */
-  static header(place) {
-    const bytes = new Uint8Array(HeaderSize);
-    if (place.getSize() < HeaderSize || place.read(bytes, { at: 0 }) < HeaderSize) return null;
-    const numbers = new DataView(bytes.buffer);
-    const length = numbers.getUint32(8, true);
-    if (length === 0 || length > LongestName) return null;
-    if (numbers.getInt32(0, true) !== checksum(bytes.subarray(4))) return null;
-    const name = new TextDecoder().decode(bytes.subarray(NameAt, NameAt + length));
-    return { name, generation: numbers.getUint32(4, true) };
+  /** Does what a log says; gives where its last whole record ends. @param {Uint8Array} log */
+  replay(log) {
+    const numbers = new DataView(log.buffer, log.byteOffset, log.length);
+    let at = HeaderSize;
+    while (at + RecordHead + RecordTail <= log.length) {
+      const [kind, nameLength, number, length] = [0, 4, 8, 12].map((each) =>
+        numbers.getUint32(at + each, true),
+      );
+      const end = at + RecordHead + nameLength + length;
+      if (nameLength > LongestName || end + RecordTail > log.length) break;
+      if (numbers.getInt32(end, true) !== checksum(log.subarray(at, end))) break;
+      const name = new TextDecoder().decode(log.subarray(at + RecordHead, end - length));
+      this.perform(kind, name, number, log.subarray(end - length, end));
+      at = end + RecordTail;
+    }
+    return at;
   }
 
-  /** @param {Handle} place @param {string} name */
-  label(place, name) {
-    const bytes = new Uint8Array(HeaderSize);
-    const letters = new TextEncoder().encode(name);
-    if (letters.length > LongestName) return false;
-    const numbers = new DataView(bytes.buffer);
-    numbers.setUint32(4, ++this.generation, true);
-    numbers.setUint32(8, letters.length, true);
-    bytes.set(letters, NameAt);
-    numbers.setInt32(0, checksum(bytes.subarray(4)), true);
-    const whole = place.write(bytes, { at: 0 }) === HeaderSize;
-    place.flush();
-    return whole;
-  }
-
-  /** @param {Handle} place */
-  empty(place) {
-    place.truncate(0);
-    place.flush();
-    this.free.push(place);
+  /** @param {number} kind @param {string} name @param {number} number @param {Uint8Array} data */
+  perform(kind, name, number, data) {
+    const file = this.files.get(name);
+    if (kind === Deed.Create) this.files.set(name, new Content());
+    if (kind === Deed.Remove) this.files.delete(name);
+    if (file === undefined || number + data.length > LargestFile) return;
+    if (kind === Deed.Write) file.write(number, data);
+    if (kind === Deed.Truncate) file.resize(number);
+    if (kind === Deed.Rename) {
+      this.files.delete(name);
+      this.files.set(new TextDecoder().decode(data), file);
+    }
   }
 
   /** Runs what may fail because the store is full or gone; then it is -1.
@@ -126,83 +187,122 @@ export class OwnFiles {
     }
   }
 
+  /**
+   * Writes a deed down, and does it when that went well; else nothing has changed, and it is -1.
+   * @param {number} kind
+   * @param {string} name
+   * @param {number} [number]
+   * @param {Uint8Array} [data]
+   */
+  note(kind, name, number = 0, data = Nothing) {
+    const log = this.logs[this.current];
+    const bytes = record(kind, name, number, data);
+    const done = OwnFiles.tried(() =>
+      log.write(bytes, { at: this.end }) === bytes.length ? 0 : -1,
+    );
+    if (done < 0) {
+      OwnFiles.tried(() => (log.truncate(this.end), 0));
+      return -1;
+    }
+    this.end += bytes.length;
+    this.perform(kind, name, number, data);
+    this.shorten();
+    return 0;
+  }
+
+  /** Writes the log anew when most of it is of no use any more. */
+  shorten() {
+    const live = [...this.files.values()].reduce((sum, file) => sum + file.size, 0);
+    if (this.end > 2 * live + Slack) this.rewrite(this.files);
+  }
+
+  /**
+   * Makes these the learner's files, all or none of them; gives -1 where the store is full or gone.
+   * @param {Map<string, {bytes: Uint8Array}>} files
+   */
+  rewrite(files) {
+    const other = 1 - this.current;
+    const log = this.logs[other];
+    /** @type {Map<string, Content>} */
+    const fresh = new Map();
+    const done = OwnFiles.tried(() => {
+      log.truncate(0);
+      let end = HeaderSize;
+      for (const [name, { bytes }] of files) {
+        for (const each of [
+          record(Deed.Create, name, 0, Nothing),
+          record(Deed.Write, name, 0, bytes),
+        ]) {
+          if (log.write(each, { at: end }) !== each.length) return -1;
+          end += each.length;
+        }
+        const content = new Content();
+        content.write(0, bytes);
+        fresh.set(name, content);
+      }
+      log.flush();
+      if (log.write(header(this.generation + 1), { at: 0 }) !== HeaderSize) return -1;
+      log.flush();
+      return end;
+    });
+    if (done < 0) return -1;
+    OwnFiles.tried(() => (this.logs[this.current].truncate(0), 0));
+    this.generation += 1;
+    this.current = other;
+    this.end = done;
+    this.files = fresh;
+    return 0;
+  }
+
+  // -- What the core calls; less than 0 is a failure.
+
   /** @param {string} name */
   size(name) {
-    const place = this.files.get(name);
-    return place === undefined ? -1 : OwnFiles.tried(() => place.getSize() - HeaderSize);
+    return this.files.get(name)?.size ?? -1;
   }
 
   /** @param {string} name */
   create(name) {
-    const place = this.free.pop();
-    if (place === undefined) return -1;
-    return OwnFiles.tried(() => {
-      place.truncate(HeaderSize);
-      if (!this.label(place, name)) return -1;
-      this.files.set(name, place);
-      return 0;
-    });
+    if (new TextEncoder().encode(name).length > LongestName) return -1;
+    return this.note(Deed.Create, name);
   }
 
   /** @param {string} name @param {number} offset @param {Uint8Array} into */
   read(name, offset, into) {
-    const place = this.files.get(name);
-    if (place === undefined) return -1;
-    return OwnFiles.tried(() => place.read(into, { at: HeaderSize + offset }));
+    const file = this.files.get(name);
+    if (file === undefined) return -1;
+    const part = file.bytes.subarray(offset, offset + into.length);
+    into.set(part);
+    return part.length;
   }
 
   /** @param {string} name @param {number} offset @param {Uint8Array} from */
   write(name, offset, from) {
-    const place = this.files.get(name);
-    if (place === undefined) return -1;
-    return OwnFiles.tried(() =>
-      place.write(from, { at: HeaderSize + offset }) === from.length ? 0 : -1,
-    );
+    if (!this.files.has(name) || offset + from.length > LargestFile) return -1;
+    return this.note(Deed.Write, name, offset, from);
   }
 
   /** @param {string} name @param {number} size */
   truncate(name, size) {
-    const place = this.files.get(name);
-    if (place === undefined) return -1;
-    return OwnFiles.tried(() => {
-      place.truncate(HeaderSize + size);
-      return 0;
-    });
+    if (!this.files.has(name) || size > LargestFile) return -1;
+    return this.note(Deed.Truncate, name, size);
   }
 
   /** @param {string} name */
   sync(name) {
-    const place = this.files.get(name);
-    if (place === undefined) return -1;
-    return OwnFiles.tried(() => {
-      place.flush();
-      return 0;
-    });
+    if (!this.files.has(name)) return -1;
+    return OwnFiles.tried(() => (this.logs[this.current].flush(), 0));
   }
 
   /** @param {string} from @param {string} to */
   rename(from, to) {
-    const place = this.files.get(from);
-    if (place === undefined) return -1;
-    return OwnFiles.tried(() => {
-      if (!this.label(place, to)) return -1;
-      const replaced = this.files.get(to);
-      this.files.delete(from);
-      this.files.set(to, place);
-      if (replaced !== undefined && replaced !== place) this.empty(replaced);
-      return 0;
-    });
+    if (!this.files.has(from)) return -1;
+    return this.note(Deed.Rename, from, 0, new TextEncoder().encode(to));
   }
 
   /** @param {string} name */
   remove(name) {
-    const place = this.files.get(name);
-    if (place === undefined) return 0;
-    return OwnFiles.tried(() => {
-      this.files.delete(name);
-      this.empty(place);
-      return 0;
-    });
+    return this.files.has(name) ? this.note(Deed.Remove, name) : 0;
   }
 
   list() {
@@ -211,11 +311,11 @@ export class OwnFiles {
 }
 
 /**
- * Opens a place; the worker of a page that is just going may still have it.
+ * Opens a log; the worker of a page that is just going may still have it.
  * @param {any} file
- * @returns {Promise<Handle>}
+ * @returns {Promise<Place>}
  */
-async function openPlace(file) {
+async function openLog(file) {
   for (let left = OpenTries; ; --left) {
     try {
       return await file.createSyncAccessHandle();
@@ -234,14 +334,11 @@ export async function openOwnFiles() {
   try {
     const root = await navigator.storage.getDirectory();
     const folder = await root.getDirectoryHandle('learner', { create: true });
-    /** @type {Handle[]} */
-    const places = [];
-    for (let number = 0; number < Places; ++number) {
-      const file = await folder.getFileHandle(`place-${number}`, { create: true });
-      places.push(await openPlace(file));
-    }
-    return { files: new OwnFiles(places), kept: true };
+    const logs = await Promise.all(
+      LogNames.map(async (name) => openLog(await folder.getFileHandle(name, { create: true }))),
+    );
+    return { files: new OwnFiles(logs), kept: true };
   } catch {
-    return { files: new OwnFiles(Array.from({ length: Places }, () => new MemoryPlace())), kept: false };
+    return { files: new OwnFiles([new MemoryPlace(), new MemoryPlace()]), kept: false };
   }
 }

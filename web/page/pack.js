@@ -51,7 +51,6 @@ export async function fetchPack(progress) {
     /** @param {number} file */
     size: (file) => entries[file].size,
     /** @param {number} file @param {number} offset @param {Uint8Array} into */
-    read: (file, offset, into) =>
-      into.set(contents[file].subarray(offset, offset + into.length)),
+    read: (file, offset, into) => into.set(contents[file].subarray(offset, offset + into.length)),
   };
 }

@@ -21,7 +21,13 @@ export const Kind = Object.freeze({
 });
 
 /** Places of what sounds, in memory of their own. */
-export const Sounds = Object.freeze({ Speaking: 0, Playing: 1, SpeechTurn: 2, WaveTurn: 3, All: 4 });
+export const Sounds = Object.freeze({
+  Speaking: 0,
+  Playing: 1,
+  SpeechTurn: 2,
+  WaveTurn: 3,
+  All: 4,
+});
 
 /** @returns {SharedArrayBuffer} */
 export function makeRing() {

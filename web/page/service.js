@@ -2,8 +2,12 @@
 // program share memory.
 const Store = 'talvora-1';
 
-self.addEventListener('install', () => self.skipWaiting());
-self.addEventListener('activate', (event) => event.waitUntil(self.clients.claim()));
+const worker = /** @type {any} */ (self);
+
+worker.addEventListener('install', () => worker.skipWaiting());
+worker.addEventListener('activate', (/** @type {any} */ event) =>
+  event.waitUntil(worker.clients.claim()),
+);
 
 /** @param {Response} reply */
 function isolated(reply) {
@@ -30,6 +34,6 @@ async function answer(request) {
   }
 }
 
-self.addEventListener('fetch', (event) => {
+worker.addEventListener('fetch', (/** @type {any} */ event) => {
   if (event.request.method === 'GET') event.respondWith(answer(event.request));
 });

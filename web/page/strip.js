@@ -40,7 +40,8 @@ export class Strip {
     }
     const news = title !== this.firstTitle;
     // A score that the next item's number replaces at once is still to be read.
-    if (news && element.classList.contains('news') && before !== this.firstTitle) this.notice(before);
+    if (news && element.classList.contains('news') && before !== this.firstTitle)
+      this.notice(before);
     element.classList.toggle('news', news);
     clearTimeout(this.emphasis);
     if (!news) return;

@@ -42,5 +42,7 @@ const server = createServer((request, reply) => {
   createReadStream(file).pipe(reply);
 });
 server.listen(Number(port), '127.0.0.1', () => {
-  console.log(`http://localhost:${/** @type {import('node:net').AddressInfo} */ (server.address()).port}/`);
+  console.log(
+    `http://localhost:${/** @type {import('node:net').AddressInfo} */ (server.address()).port}/`,
+  );
 });
