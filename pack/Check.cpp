@@ -6,6 +6,7 @@
 #include "pack/Guide.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
+#include "pack/WordCoverage.h"
 
 namespace talvora::pack {
 
@@ -131,13 +132,27 @@ class Checker {
   std::string told_;
 };
 
+/// What only the whole pack shows: that it can be made, and that its words are explained.
+void checkCompiled(const Options& options, Problems& problems, const Progress& progress) {
+  const Content content = readContent(options, problems, progress);
+  if (!problems.none()) return;
+  progress("word list");
+  const WordList list = makeWordList(content, options, problems);
+  if (!problems.none()) return;
+  static_cast<void>(compile(content, list, options, problems, progress));
+  // A small list serves for tests and explains what it can.
+  if (options.smallWordList) return;
+  checkCoverage(coverageOf(corporaOf(content), list, readNames(options.source / NamesFile)),
+                problems);
+}
+
 } // namespace
 
 CheckReport checkContent(const Options& options, const std::set<ContentKind>& only,
                          Warnings warnings, Problems& problems, const Progress& progress) {
   std::set<ContentKind> kinds = only;
   if (only.empty()) {
-    static_cast<void>(compile(options, problems, progress));
+    checkCompiled(options, problems, progress);
     if (!problems.none()) return {};
     for (const ContentKindName& each : ContentKindNames)
       kinds.insert(each.kind);

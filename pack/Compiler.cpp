@@ -49,18 +49,16 @@ void appendWords(std::vector<std::string>& words, std::string_view text) {
   finish();
 }
 
-// A small list goes without the installed databases: the words that its texts use confirm the
-// regular forms.
+// The words that the texts use confirm regular forms that the word lists lack. A small list goes
+// without the installed databases and has nothing else.
 WordSources readWordSources(const Options& options, const ReadingSource& readings,
                             Problems& problems, const Progress& progress) {
   WordSources words;
   progress("dictionary sources");
   words.own = readDictionary(options.source / "dictionary", problems);
-  if (options.smallWordList) {
-    for (std::string& word : wordsOfReadings(readings))
-      words.known.insert(std::move(word));
-    return words;
-  }
+  for (std::string& word : wordsOfReadings(readings))
+    words.known.insert(std::move(word));
+  if (options.smallWordList) return words;
   progress("WordNet");
   words.wordNet = readWordNet(options.wordNet, problems);
   progress("word lists");
@@ -166,6 +164,11 @@ std::vector<PackFile> compile(const Options& options, Problems& problems,
   progress("word list");
   const WordList list = makeWordList(content, options, problems);
   if (!problems.none()) return {};
+  return compile(content, list, options, problems, progress);
+}
+
+std::vector<PackFile> compile(const Content& content, const WordList& list, const Options& options,
+                              Problems& problems, const Progress& progress) {
   progress("entries");
   std::vector<PackFile> files = compileDictionary(list);
   progress("texts and settings");

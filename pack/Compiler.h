@@ -66,6 +66,10 @@ struct Content {
 /// the result is not to be used.
 [[nodiscard]] std::vector<PackFile> compile(const Options& options, Problems& problems,
                                             const Progress& progress);
+/// The same for content that is read and its word list.
+[[nodiscard]] std::vector<PackFile> compile(const Content& content, const WordList& list,
+                                            const Options& options, Problems& problems,
+                                            const Progress& progress);
 
 /// The English words of the reading texts, in small letters, in the order of the texts.
 [[nodiscard]] std::vector<std::string> wordsOfReadings(const ReadingSource& readings);

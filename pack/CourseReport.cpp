@@ -3,7 +3,7 @@
 
 #include "pack/AnswerStatistics.h"
 #include "pack/CourseRules.h"
-#include "pack/Status.h"
+#include "pack/WordCoverage.h"
 
 #include <iomanip>
 #include <map>

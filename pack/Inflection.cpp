@@ -259,12 +259,15 @@ void Inflections::readOwn(const OwnEntry& entry, std::size_t block) {
   std::vector<Form> forms;
   std::vector<std::string> pasts;
   for (const std::string& form : entry.block.forms) {
-    const FormKind kind = kindOf(form, classOfForm(entry, form, wordNet_));
+    const auto alternatives = alternativesOf(form);
+    const FormKind kind =
+        kindOf(alternatives.front(), classOfForm(entry, alternatives.front(), wordNet_));
     if (kind == FormKind::PastOrParticiple) {
       pasts.push_back(form);
-    } else {
-      addForm(forms, form, kind);
+      continue;
     }
+    for (const std::string& alternative : alternatives)
+      addForm(forms, alternative, kind);
   }
   for (std::size_t place = 0; place < pasts.size(); ++place) {
     for (const std::string& past : alternativesOf(pasts[place]))

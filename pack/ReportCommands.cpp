@@ -1,5 +1,6 @@
 // The commands that only tell: show, status, plan, phones.
 #include "pack/Command.h"
+#include "pack/ContentCheck.h"
 #include "pack/CourseReport.h"
 #include "pack/PhonesReport.h"
 #include "pack/Planner.h"
@@ -51,7 +52,11 @@ class StatusCommand final : public Command {
     const Content content = readContent(options_, problems, showStep);
     if (!problems.none()) return tell(problems);
     const WordList list = makeWordList(content, options_, problems);
-    std::cout << statusReport(content, list) << "\n"
+    const auto coverage =
+        coverageOf(corporaOf(content), list, readNames(options_.source / NamesFile));
+    const auto findings = checkDictionaryAlone(options_.source, {}, problems);
+    std::cout << statusReport(content, list, coverage) << "\nDictionary\n"
+              << findingsReport(findings) << "\n"
               << courseReport(content.exercises, content.lessons, list);
     return tell(problems);
   }

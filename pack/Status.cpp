@@ -3,11 +3,8 @@
 
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
-#include "pack/StreamText.h"
-#include "text/WordForm.h"
 
-#include <algorithm>
-#include <map>
+#include <array>
 
 namespace talvora::pack {
 
@@ -66,42 +63,14 @@ std::string kindReport(std::string_view title, const Words& words) {
 
 } // namespace
 
-std::optional<std::size_t> lookUp(const WordList& list, const std::string& word) {
-  if (const auto exact = list.find(word)) return exact;
-  if (const auto reduced = list.find(RutGonDuoi(word))) return reduced;
-  for (std::string shorter = word; shorter.size() > 1; shorter.pop_back()) {
-    if (const auto found = list.find(shorter)) return found;
-  }
-  return std::nullopt;
-}
-
-std::vector<MissingWord> missingWords(const WordList& list, const ReadingSource& readings) {
-  std::map<std::string, std::size_t> counts;
-  for (const std::string& word : wordsOfReadings(readings)) {
-    const auto found = lookUp(list, word);
-    if (!found || !list.hasVietnamese(list.at(*found))) ++counts[word];
-  }
-  std::vector<MissingWord> missing;
-  missing.reserve(counts.size());
-  for (const auto& [word, count] : counts)
-    missing.push_back({word, count});
-  std::stable_sort(missing.begin(), missing.end(),
-                   [](const auto& left, const auto& right) { return left.count > right.count; });
-  return missing;
-}
-
-std::string statusReport(const Content& content, const WordList& list) {
+std::string statusReport(const Content& content, const WordList& list,
+                         const CoverageReport& coverage) {
   const auto side = vietnameseSideOf(list, content.words.listed);
   std::string report = slotReport(content) + "\n";
   report += kindReport("Word list", list.words()) + "\n";
   report += kindReport("Vietnamese side, which needs " + std::to_string(VietnameseSideCount), side);
   report += "\n";
-  const auto missing = missingWords(list, content.readings);
-  report +=
-      "Words of the reading texts without a Vietnamese sense: " + std::to_string(missing.size()) +
-      "\n";
-  for (const MissingWord& each : missing)
-    report += line(utf8Of(each.word), each.count);
+  report += "Words without a Vietnamese sense\n" + coverageLines(coverage);
   return report;
 }
 

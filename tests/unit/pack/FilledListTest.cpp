@@ -3,8 +3,8 @@
 
 #include "formats/Integers.h"
 #include "pack/DictionaryStore.h"
-#include "pack/Status.h"
 #include "pack/StreamText.h"
+#include "pack/WordCoverage.h"
 
 #include <gtest/gtest.h>
 

@@ -63,6 +63,17 @@ TEST(Inflection, OurOwnIrregularFormsSayWhatTheyAre) {
             "so sánh hơn của worse\nso sánh nhất của worst\n");
 }
 
+TEST(Inflection, ASlashPartsTheFormsOfNounsAndAdjectivesToo) {
+  EXPECT_EQ(formsIn({entryOf("mango", WordClass::Noun, {"mangoes/mangos"})}, {}, "mango",
+                    {WordClass::Noun}),
+            "dạng số nhiều của mangoes\ndạng số nhiều của mangos\n");
+  EXPECT_EQ(
+      formsIn({entryOf("far", WordClass::Adjective, {"farther/further", "farthest/furthest"})}, {},
+              "far", {WordClass::Adjective}),
+      "so sánh hơn của farther\nso sánh hơn của further\n"
+      "so sánh nhất của farthest\nso sánh nhất của furthest\n");
+}
+
 TEST(Inflection, AVerbWhosePastsAreListedHasNoOtherPast) {
   EXPECT_EQ(formsIn({entryOf("burst", WordClass::Verb, {"burst", "burst"})},
                     {"bursted", "bursts", "bursting"}, "burst", {WordClass::Verb}),
