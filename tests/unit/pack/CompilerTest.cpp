@@ -6,6 +6,7 @@
 #include "pack/SourceFile.h"
 #include "pack/Status.h"
 #include "pack/StreamText.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -32,13 +33,6 @@ std::vector<PackFile> compiled() {
   for (const Problem& problem : problems.all())
     ADD_FAILURE() << describe(problem);
   return files;
-}
-
-std::filesystem::path emptyFolder(const std::string& name) {
-  const auto folder = std::filesystem::path(testing::TempDir()) / name;
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
-  return folder;
 }
 
 std::string bytesOf(const std::vector<PackFile>& files, std::string_view name) {
@@ -103,7 +97,8 @@ TEST(Compiler, BuildsTheSameBytesEveryTime) {
 }
 
 TEST(Compiler, ADumpGivesTheSourcesBack) {
-  const auto pack = emptyFolder("talvora-pack-out");
+  const test::TemporaryFolder owned;
+  const std::filesystem::path& pack = owned.path();
   for (const PackFile& file : compiled())
     ASSERT_FALSE(store(file, pack));
   Problems problems;
@@ -126,7 +121,8 @@ TEST(Compiler, ADumpGivesTheSourcesBack) {
 }
 
 TEST(Compiler, NeverOverwritesWhatTheLearnerOwns) {
-  const auto pack = emptyFolder("talvora-pack-learner");
+  const test::TemporaryFolder owned;
+  const std::filesystem::path& pack = owned.path();
   std::ofstream(pack / "data.c") << "mine";
   std::ofstream(pack / "data.vt") << "old";
   for (const PackFile& file : compiled())
@@ -149,7 +145,8 @@ TEST(Compiler, AMissingSourceIsReported) {
 }
 
 TEST(Compiler, AFullListThatStaysShortIsReported) {
-  const auto folder = emptyFolder("talvora-pack-short");
+  const test::TemporaryFolder owned;
+  const std::filesystem::path& folder = owned.path();
   for (const char* part : {"noun", "verb", "adj", "adv"}) {
     std::ofstream(folder / ("index." + std::string(part))) << "  1 licence\n";
     std::ofstream(folder / ("data." + std::string(part))) << "  1 licence\n";

@@ -1,6 +1,8 @@
 // Reading of the WordNet database.
 #include "pack/WordNet.h"
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -12,8 +14,6 @@ namespace {
 class SmallDatabase : public testing::Test {
  protected:
   void SetUp() override {
-    folder_ = std::filesystem::path(testing::TempDir()) / "talvora-wordnet";
-    std::filesystem::create_directories(folder_);
     for (const char* part : {"noun", "verb", "adj", "adv"}) {
       write("index." + std::string(part), "  1 licence\n");
       write("data." + std::string(part), "  1 licence\n");
@@ -30,15 +30,15 @@ class SmallDatabase : public testing::Test {
   }
 
   void write(const std::string& name, const std::string& text) {
-    std::ofstream(folder_ / name) << text;
+    std::ofstream(folder_.path() / name) << text;
   }
 
-  std::filesystem::path folder_;
+  test::TemporaryFolder folder_;
 };
 
 TEST_F(SmallDatabase, GivesSpellingsDefinitionsAndExceptions) {
   Problems problems;
-  const WordNet wordNet = readWordNet(folder_, problems);
+  const WordNet wordNet = readWordNet(folder_.path(), problems);
   ASSERT_TRUE(problems.none()) << describe(problems.all().front());
   ASSERT_EQ(wordNet.words.size(), 2U);
   EXPECT_EQ(wordNet.words[0].head, "New York");
@@ -51,7 +51,7 @@ TEST_F(SmallDatabase, GivesSpellingsDefinitionsAndExceptions) {
 TEST_F(SmallDatabase, AnIndexThatDoesNotFitItsDataIsReported) {
   write("index.noun", "ox n 1 1 @ 1 0 00000007  \n");
   Problems problems;
-  static_cast<void>(readWordNet(folder_, problems));
+  static_cast<void>(readWordNet(folder_.path(), problems));
   ASSERT_EQ(problems.all().size(), 1U);
   EXPECT_EQ(problems.all()[0].message, "the line does not fit its database");
 }
