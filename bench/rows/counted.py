@@ -62,7 +62,7 @@ def run_program(program: Path, arguments: list[str], work: Path) -> dict[str, Fi
     out = work / f"{program.name}.json"
     command = [
         str(program), *arguments, f"--benchmark_out={out}", "--benchmark_out_format=json",
-        f"--benchmark_repetitions={REPETITIONS}", "--benchmark_min_time=0.05",
+        f"--benchmark_repetitions={REPETITIONS}", "--benchmark_min_time=0.3",
         "--benchmark_enable_random_interleaving=true"]
     env = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": str(work)}
     done = subprocess.run(command, env=env, stdin=subprocess.DEVNULL, capture_output=True, text=True)

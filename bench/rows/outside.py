@@ -3,10 +3,11 @@ from __future__ import annotations
 
 import os
 import shutil
+import sys
 import time
 from pathlib import Path
 
-from .display import Display, Onlooker, end, silent
+from .display import Display, Failed, Onlooker, end, silent
 from .programs import LeastWindow, Program, Tutor, copy_pack, installed_peers, prepare
 from .table import Figure, Row
 
@@ -52,6 +53,14 @@ class Collected:
             for value in values:
                 figure.add(value)
 
+    def run(self, program: Program, onlooker: Onlooker, count: int) -> None:
+        """Takes a program's turn; one that went wrong, as on a machine that stalls, is told."""
+        try:
+            self.add(program.name, program.run(onlooker, count))
+        except Failed as failure:
+            print(f"   a turn left out: {failure}", file=sys.stderr)
+            onlooker.ask("end")
+
     def of(self, program: str, name: str) -> Figure | None:
         return self._figures.get((program, name))
 
@@ -76,9 +85,9 @@ def row_of(collected: Collected, peers: list[Program], program: str, shown: tupl
 def window_rows(binary: Bin, pack: Path, work: Path, home: Path, rounds: int, count: int) -> list[Row]:
     """Every program in turn, and that `rounds` times; of what can be repeated, `count` each time."""
     with Display(work) as display, Onlooker(binary.onlooker, display) as onlooker:
-        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "quiet", sound=False))
+        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "quiet"))
         tutor.find_words(onlooker, work / "trace")
-        loud = Tutor("tutor, sound on", binary.tutor, copy_pack(pack, work / "loud", sound=True))
+        loud = Tutor("tutor, sound on", binary.tutor, copy_pack(pack, work / "loud"), True)
         loud.words = tutor.words
         peers = installed_peers(home)
         for peer in peers:
@@ -86,7 +95,7 @@ def window_rows(binary: Bin, pack: Path, work: Path, home: Path, rounds: int, co
         collected = Collected()
         for _ in range(rounds):
             for program in [LeastWindow("least window", str(binary.least)), tutor, loud, *peers]:
-                collected.add(program.name, program.run(onlooker, count))
+                collected.run(program, onlooker, count)
     rows = [row_of(collected, peers, "tutor", shown) for shown in SHOWN]
     rows += [row_of(collected, peers, loud.name, shown) for shown in SHOWN if shown[0] in WITH_SOUND]
     return [row for row in rows if row is not None]
@@ -95,13 +104,13 @@ def window_rows(binary: Bin, pack: Path, work: Path, home: Path, rounds: int, co
 def large_rows(binary: Bin, pack: Path, work: Path, rounds: int, count: int) -> list[Row]:
     """The same window on a screen of 3840x2160."""
     with Display(work, 3840, 2160) as display, Onlooker(binary.onlooker, display) as onlooker:
-        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "large", sound=False))
+        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "large"))
         tutor.find_words(onlooker, work / "large-trace")
         least = LeastWindow("least window", str(binary.least))
         collected = Collected()
         for _ in range(rounds):
             for program in (least, tutor):
-                collected.add(program.name, program.run(onlooker, count))
+                collected.run(program, onlooker, count)
     shown = [("click", "3840x2160: click to entry", "ms", "16"),
              ("text", "3840x2160: text opened", "ms", "100")]
     return [row for each in shown if (row := row_of(collected, [], "tutor", each))]
@@ -114,7 +123,7 @@ def slow_rows(binary: Bin, pack: Path, work: Path, count: int) -> list[Row]:
         return []
     figures = {}
     with Display(work) as display, Onlooker(binary.onlooker, display) as onlooker:
-        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "slow", sound=False))
+        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "slow"))
         tutor.find_words(onlooker, work / "slow-trace")
         for program in (LeastWindow("least window", str(binary.least)), tutor):
             _, process = program.start(onlooker)
@@ -137,27 +146,32 @@ def slow_rows(binary: Bin, pack: Path, work: Path, count: int) -> list[Row]:
                 limit_name="least window", limit=limit)]
 
 
-def work_of(process: int) -> tuple[float, int]:
-    """Seconds of processor time that a process has had, and how often it was woken."""
-    seconds = sum(map(int, Path(f"/proc/{process}/stat").read_text().rsplit(")")[1].split()[11:13]))
-    wakes = 0
-    for status in Path(f"/proc/{process}/task").glob("*/status"):
-        wakes += int(status.read_text().split("voluntary_ctxt_switches:")[1].split()[0])
-    return seconds / os.sysconf("SC_CLK_TCK"), wakes
+def seconds_of(process: int) -> float:
+    """Seconds of processor time that a process has had."""
+    fields = Path(f"/proc/{process}/stat").read_text().rsplit(")")[1].split()
+    return sum(map(int, fields[11:13])) / os.sysconf("SC_CLK_TCK")
+
+
+def wakes_of(process: int) -> dict[str, int]:
+    """How often each thread of a process was woken."""
+    sign = "\nvoluntary_ctxt_switches:"
+    return {each.parent.name: int(each.read_text().split(sign)[1].split()[0])
+            for each in Path(f"/proc/{process}/task").glob("*/status")}
 
 
 def rest_rows(binary: Bin, pack: Path, work: Path) -> list[Row]:
     """The menu when nothing has been touched for a while."""
     with Display(work) as display, Onlooker(binary.onlooker, display) as onlooker:
-        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "rest", sound=False))
+        tutor = Tutor("tutor", binary.tutor, copy_pack(pack, work / "rest"))
         _, process = tutor.start(onlooker)
         time.sleep(REST_S)
-        seconds, wakes = work_of(process)
+        seconds, wakes = seconds_of(process), wakes_of(process)
         time.sleep(WATCH_S)
-        later, woken = work_of(process)
+        worked = seconds_of(process) - seconds
+        woken = sum(count - wakes.get(thread, 0) for thread, count in wakes_of(process).items())
         onlooker.ask("end")
     return [
-        Row("menu at rest", "% of a core", Figure([100 * (later - seconds) / WATCH_S]), "0"),
-        Row("menu at rest", "wake-ups a second", Figure([(woken - wakes) / WATCH_S]), "0"),
+        Row("menu at rest", "% of a core", Figure([100 * worked / WATCH_S]), "0"),
+        Row("menu at rest", "wake-ups a second", Figure([woken / WATCH_S]), "0"),
     ]
 

@@ -17,14 +17,13 @@ LESSONS_BUTTON = 3
 Samples = dict[str, list[float]]
 
 
-def copy_pack(pack: Path, folder: Path, sound: bool) -> Path:
-    """A pack whose first run is over, by links, with the learner's files new."""
+def copy_pack(pack: Path, folder: Path) -> Path:
+    """A pack whose first run is over, by links and without the learner's files."""
     folder.mkdir(parents=True)
     for file in pack.iterdir():
         if file.name not in LEARNER_FILES:
             (folder / file.name).symlink_to(file.resolve())
     (folder / "Yes1").touch()
-    (folder / "data.Kcu").write_bytes(struct.pack("<4i", 0, int(sound), 0, 5))
     return folder
 
 
@@ -88,9 +87,16 @@ class LeastWindow(Program):
 class Tutor(Program):
     """`words` are the places of words in the text that is opened, in pixels of the display."""
 
-    def __init__(self, name: str, program: Path, pack: Path) -> None:
+    def __init__(self, name: str, program: Path, pack: Path, sound: bool = False) -> None:
         super().__init__(name, f"{program} --dir {pack}")
+        self._settings = pack / "data.Kcu"
+        self._sound = sound
         self.words: list[str] = []
+
+    def start(self, onlooker: Onlooker) -> tuple[float, int]:
+        # Every start is alike: the program keeps where its lists stood.
+        self._settings.write_bytes(struct.pack("<4i", 0, int(self._sound), 0, 5))
+        return super().start(onlooker)
 
     def open_text(self, onlooker: Onlooker) -> float:
         """From the menu, to the text; milliseconds ahead of the curtain."""
@@ -109,7 +115,9 @@ class Tutor(Program):
 
     def find_words(self, onlooker: Onlooker, trace: Path) -> None:
         """Learns where the words stand, from a run that is not measured."""
-        Program(self.name, f"{self.command} --trace {trace}").start(onlooker)
+        plain, self.command = self.command, f"{self.command} --trace {trace}"
+        self.start(onlooker)
+        self.command = plain
         self.open_text(onlooker)
         onlooker.ask("end")
         lines = [line for line in trace.read_text().splitlines() if line.startswith("words R2 ")]
@@ -127,8 +135,9 @@ class Tutor(Program):
         taken = []
         for number in range(count):
             taken.append(onlooker.time(f"click {self.words[number % len(self.words)]}"))
+            onlooker.rest(100)
             onlooker.press("Escape")
-            onlooker.rest(60)
+            onlooker.rest(100)
         return taken
 
     def deeds(self, onlooker: Onlooker, process: int, count: int) -> Samples:
