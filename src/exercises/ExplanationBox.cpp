@@ -1,5 +1,6 @@
 #include "exercises/ExplanationBox.h"
 
+#include "shell/RedPlate.h"
 #include "surface/Looks.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
@@ -186,17 +187,8 @@ void ExplanationBox::DoCaoLoiGiai() {
 
 void ExplanationBox::BongLoiGiai() {
   Surface& RHDBT = controls_.RHDBT;
-  Surface& Rnen2 = controls_.Rnen2;
-  const double W = state_.measures.RongMH;
-  const double H = state_.measures.CaoMH;
   RHDBT.Height(RHDBT.Height() + form_.TextWidth("  "));
-  Rnen2.BackColor(look::Red);
-  Rnen2.Text(" ");
-  Rnen2.Height(RHDBT.Height() + Round(2 * H / 100));
-  Rnen2.Width(RHDBT.Width() + 2 * Round(2 * W / 350));
-  Rnen2.Top(RHDBT.Top() - Round(2 * H / 200));
-  Rnen2.Left(RHDBT.Left() - Round(2 * W / 400));
-  Rnen2.Visible(true);
+  fitRedPlate(controls_.Rnen2, RHDBT, state_.measures, PlateRim::WiderAtRight);
 }
 
 void ExplanationBox::DoiLoiGiai() {

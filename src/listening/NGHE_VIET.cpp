@@ -2,6 +2,7 @@
 
 #include "formats/GuideText.h"
 #include "formats/Limits.h"
+#include "shell/RedPlate.h"
 #include "surface/Looks.h"
 #include "text/CharClass.h"
 #include "text/Rounding.h"
@@ -131,17 +132,7 @@ void NGHE_VIET::BoCucViet() {
 }
 
 void NGHE_VIET::KhungDo() {
-  const double W = state_.measures.RongMH;
-  const double H = state_.measures.CaoMH;
-  const Surface& Rviet = controls_.Rviet;
-  Surface& Rnen3 = controls_.Rnen3;
-  Rnen3.BackColor(look::Red);
-  Rnen3.Text(" ");
-  Rnen3.Height(Rviet.Height() + Round(2 * H / 100));
-  Rnen3.Width(Rviet.Width() + 2 * Round(2 * W / 350));
-  Rnen3.Top(Rviet.Top() - Round(2 * H / 200));
-  Rnen3.Left(Rviet.Left() - Round(2 * W / 400));
-  Rnen3.Visible(true);
+  fitRedPlate(controls_.Rnen3, controls_.Rviet, state_.measures, PlateRim::WiderAtRight);
 }
 
 void NGHE_VIET::ThoatViet() {

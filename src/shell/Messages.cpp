@@ -1,5 +1,6 @@
 #include "shell/Messages.h"
 
+#include "shell/RedPlate.h"
 #include "surface/Looks.h"
 #include "text/Rounding.h"
 #include "text/Text.h"
@@ -56,17 +57,8 @@ void Messages::TatThongBao() {
 
 void Messages::VeKhung() {
   Surface& RHD = controls_.RHD;
-  Surface& Rnen = controls_.Rnen;
-  const double W = measures_.RongMH;
-  const double H = measures_.CaoMH;
   RHD.Height(RHD.Height() + form_.TextWidth("  "));
-  Rnen.BackColor(look::Red);
-  Rnen.Text(" ");
-  Rnen.Height(RHD.Height() + Round(2 * H / 100));
-  Rnen.Width(RHD.Width() + 2 * Round(2 * W / 400));
-  Rnen.Top(RHD.Top() - Round(2 * H / 200));
-  Rnen.Left(RHD.Left() - Round(2 * W / 400));
-  Rnen.Visible(true);
+  fitRedPlate(controls_.Rnen, RHD, measures_, PlateRim::Even);
 }
 
 bool Messages::XacNhan(std::string_view question, std::string_view defaultAnswer) {
