@@ -4,6 +4,7 @@
 
 #include "platform/scripted/KeyNames.h"
 #include "platform/scripted/ScriptedMachine.h"
+#include "surface/Button.h"
 #include "surface/Form.h"
 #include "surface/FormInput.h"
 

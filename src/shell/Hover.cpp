@@ -68,15 +68,7 @@ void Hover::buttonGotFocus(int number) {
   if (number <= 2) TraHinhNut(number);
   if (!steering_.CoMuiTen()) return;
   steering_.pointAtButton(number);
-  steeredTo_ = number;
-}
-
-Button* Hover::steeredButton() {
-  if (steeredTo_ == 0) return nullptr;
-  Button& button = controls_.but(steeredTo_);
-  if (form_.ActiveControl() == &button && steering_.pointsAtButton(steeredTo_)) return &button;
-  steeredTo_ = 0;
-  return nullptr;
+  form_.steerTo(controls_.but(number), steering_.placeOfButton(number));
 }
 
 void Hover::KhungNut(Button& button, int frame) {

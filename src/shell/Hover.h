@@ -22,12 +22,10 @@ class Hover {
 
   /// Animates a button until the focus leaves it, an arrow is pressed, or the front interrupts.
   void NutSang(Button& button);
-  /// The pointer follows a focus that came from the keyboard.
+  /// The pointer follows a focus that came from the keyboard. The places are made for three sizes
+  /// of the screen: on another one it may stand beside the button or over a neighbour, and means
+  /// this one all the same.
   void buttonGotFocus(int number);
-  /// The button to whose place an arrow has brought the pointer, as long as it stands there; else
-  /// null. The places are made for three sizes of the screen: on another one the pointer may stand
-  /// beside its button or over a neighbour, and means this one all the same.
-  [[nodiscard]] Button* steeredButton();
 
   /// The button shows a frame from 1 to 14.
   void KhungNut(Button& button, int frame);
@@ -54,7 +52,6 @@ class Hover {
   Steering& steering_;
   EventLoop& events_;
   Narrator& narrator_;
-  int steeredTo_ = 0; ///< number of the button that an arrow led to; 0 once the pointer went on
 };
 
 } // namespace talvora

@@ -1,14 +1,10 @@
 #include "shell/Steering.h"
 
-#include <cstdlib>
-
 namespace talvora {
 
 namespace {
 
 constexpr int RowsPerColumn = 9;
-/// By how many pixels the pointer may miss a place on a screen of another scale.
-constexpr int ScalingError = 1;
 
 } // namespace
 
@@ -33,13 +29,6 @@ PixelPoint Steering::placeOfButton(int number) const {
 
 void Steering::pointAtButton(int number) {
   pointAt(placeOfButton(number));
-}
-
-bool Steering::pointsAtButton(int number) const {
-  const PixelPoint place = placeOfButton(number);
-  const PixelPoint pointer = input_.cursorPos();
-  return std::abs(pointer.x - place.x) <= ScalingError &&
-         std::abs(pointer.y - place.y) <= ScalingError;
 }
 
 bool Steering::arrowDown() {

@@ -16,8 +16,8 @@ class Steering {
   void XepChuot();
   /// The pointer goes to the menu button of that number.
   void pointAtButton(int number);
-  /// Whether the pointer stands where `pointAtButton` puts it.
-  [[nodiscard]] bool pointsAtButton(int number) const;
+  /// Where that is.
+  [[nodiscard]] PixelPoint placeOfButton(int number) const;
   void pointAt(PixelPoint point) { input_.SetCursorPos(point); }
 
   /// True when an arrow key is down; clears the latches then, unless Esc is down too.
@@ -52,8 +52,6 @@ class Steering {
   int ChuotBuoc = 0; ///< pitch of the rows, likewise
 
  private:
-  [[nodiscard]] PixelPoint placeOfButton(int number) const;
-
   Input& input_;
   const Measures& measures_;
 };

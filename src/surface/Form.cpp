@@ -1,11 +1,15 @@
 #include "surface/Form.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace talvora {
 
 namespace {
+
+/// By how many pixels a pointer may miss its place on a screen of another scale.
+constexpr int ScalingError = 1;
 
 bool takesKeys(const Control& control) {
   return control.Visible() && control.Enabled() && control.TakesKeys();
@@ -45,6 +49,14 @@ Control* Form::controlAt(SurfacePoint point) const noexcept {
         return takesMouse(*control) && holds(*control, point);
       });
   return found == controls_.rend() ? nullptr : *found;
+}
+
+Control* Form::steeredFrom(SurfacePoint point) const {
+  if (steered_.control == nullptr || focus_ != steered_.control) return nullptr;
+  const PixelPoint pixel = virtualScreen().toPixel(point);
+  const bool atPlace = std::abs(pixel.x - steered_.place.x) <= ScalingError &&
+                       std::abs(pixel.y - steered_.place.y) <= ScalingError;
+  return atPlace ? steered_.control : nullptr;
 }
 
 void Form::giveFocus(Control& control) {

@@ -84,6 +84,14 @@ class Form final : public ControlHost {
   void focusNeighbour(Control& control, int step) override;
   void controlChanged(Control& control, ControlChange change) override;
 
+  /// From now on a pointer that stands at a place of the screen means a control, whatever lies
+  /// there, as long as the control has the keyboard.
+  void steerTo(Control& control, PixelPoint place) noexcept { steered_ = {&control, place}; }
+  /// The control that a pointer at a point of the form is so led to; null where it is not.
+  [[nodiscard]] Control* steeredFrom(SurfacePoint point) const;
+  /// The pointer has gone on, and means what lies under it.
+  void endSteering() noexcept { steered_ = {}; }
+
   /// Delivers half a key stroke to whatever has the keyboard; `character` is 0 for a key without.
   void pressKey(int keyCode, int shift, char character);
   void releaseKey(int keyCode, int shift);
@@ -94,6 +102,11 @@ class Form final : public ControlHost {
   void observe(FormObserver* observer) noexcept { observer_ = observer; }
 
  private:
+  struct Steered {
+    Control* control = nullptr;
+    PixelPoint place;
+  };
+
   void dropFocus();
   void tellFocus();
 
@@ -107,6 +120,7 @@ class Form final : public ControlHost {
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
   unsigned focusMoves_ = 0;
+  Steered steered_;
   FormObserver* observer_ = nullptr;
 };
 

@@ -46,7 +46,7 @@ char characterOf(int keyCode) {
 // -- The pointer.
 
 Control* FormInput::meantAt(SurfacePoint at) const {
-  Button* const steered = steeredButton_ ? steeredButton_() : nullptr;
+  Control* const steered = form_.steeredFrom(at);
   return steered != nullptr ? steered : form_.controlAt(at);
 }
 
@@ -139,6 +139,7 @@ void FormInput::deliver(const SyntheticEvent& event, int shift) {
 }
 
 void FormInput::deliverMove(SurfacePoint at, int shift) {
+  if (form_.steeredFrom(at) == nullptr) form_.endSteering();
   Control* const meant = meantAt(at);
   if (meant != nullptr) meant->moveMouse(shift, inside(*meant, at));
 }

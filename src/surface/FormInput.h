@@ -3,12 +3,8 @@
 #pragma once
 
 #include "platform/Input.h"
-#include "surface/Button.h"
 #include "surface/Form.h"
 #include "surface/VirtualScreen.h"
-
-#include <functional>
-#include <utility>
 
 namespace talvora {
 
@@ -18,10 +14,7 @@ enum class MouseHeld { None, Left, Other };
 /// Points are twips of the form; `shift` holds the modifiers that are down.
 class FormInput {
  public:
-  /// `steeredButton` gives the button that a moved pointer means, whatever lies under it; null for
-  /// what lies there.
-  explicit FormInput(Form& form, std::function<Button*()> steeredButton = {})
-      : form_(form), steeredButton_(std::move(steeredButton)) {}
+  explicit FormInput(Form& form) : form_(form) {}
   FormInput(const FormInput&) = delete;
   FormInput& operator=(const FormInput&) = delete;
 
@@ -73,7 +66,6 @@ class FormInput {
   [[nodiscard]] Control* pressedControl() const noexcept;
 
   Form& form_;
-  std::function<Button*()> steeredButton_;
   SurfacePoint pointer_;
   Control* pressed_ = nullptr;
   bool pressing_ = false;         ///< the program answers the press

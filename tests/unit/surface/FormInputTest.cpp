@@ -41,8 +41,7 @@ class FormInputTest : public testing::Test {
   test::ShellRun run;
   Surface& page = run.controls.R2;
   Button& button = run.controls.but(3);
-  Button* steered = nullptr;
-  FormInput input{run.form, [this] { return steered; }};
+  FormInput input{run.form};
   Deeds deeds;
 };
 
@@ -82,10 +81,27 @@ TEST_F(FormInputTest, ACardTakesTheClickAndLeavesTheKeyboard) {
 TEST_F(FormInputTest, AMoveMeansTheSteeredButtonWhateverLiesThere) {
   input.move(OnPage, shift::None, MouseHeld::None);
   EXPECT_EQ(taken(), Deeds{"move0"});
-  steered = &button;
+  button.SetFocus();
+  run.form.steerTo(button, run.form.virtualScreen().toPixel(OnPage));
   input.move(OnPage, shift::None, MouseHeld::None);
   input.deliverMove(OnPage, shift::None);
   EXPECT_EQ(taken(), (Deeds{"hover", "hover"}));
+}
+
+TEST_F(FormInputTest, APointerThatHasGoneOnMeansWhatLiesUnderIt) {
+  const SurfacePoint beside{OnPage.x + 2 * TwipsPerPixel, OnPage.y};
+  button.SetFocus();
+  run.form.steerTo(button, run.form.virtualScreen().toPixel(OnPage));
+  input.move(beside, shift::None, MouseHeld::None);
+  input.move(OnPage, shift::None, MouseHeld::None);
+  EXPECT_EQ(taken(), (Deeds{"move0", "move0"}));
+}
+
+TEST_F(FormInputTest, AControlWithoutTheKeyboardIsNotMeantFromAfar) {
+  run.form.steerTo(button, run.form.virtualScreen().toPixel(OnPage));
+  page.SetFocus();
+  input.move(OnPage, shift::None, MouseHeld::None);
+  EXPECT_EQ(taken(), Deeds{"move0"});
 }
 
 TEST_F(FormInputTest, AModifierCarriesItsBitWhileItGoesDown) {
