@@ -8,6 +8,7 @@ namespace talvora {
 namespace {
 
 constexpr CharClass Kept("[A-Z,a-z,0-9, ,',-]");
+constexpr CharClass FirstLetter("[A-Za-z0-9]");
 constexpr char Mark = chr(160);
 // The two sets differ on purpose: "<" bounds a word only on its left, ">" only on its right, and so
 // do line ends and tabs.
@@ -16,33 +17,37 @@ constexpr std::string_view RightBounds = " ,;:.?>!\x94";
 constexpr std::string_view LeftBoundsBT = "(/\\< ,;:.?!-\r\t\x93";
 constexpr std::string_view RightBoundsBT = " ,;:.?>/\\)!\x94\r\t";
 
-// Both step the caret off a mark or a point at its left, by what the surface itself shows there;
-// true when the word also reaches to the left.
+/// From where a word is picked.
+struct Settled {
+  int caret;
+  bool reachesLeft; ///< the word also reaches to the left of the caret
+};
 
-bool settleCaret(Surface& surface) {
+// Both step off a mark or a point at the caret's left, by what the surface itself shows there.
+
+Settled settledCaret(const Surface& surface) {
   const int p = surface.SelStart();
-  if (p < 2) return true;
+  if (p < 2) return {p, true};
+  const char behind = surface.CharAt(p);
   switch (surface.CharAt(p - 1)) {
   case '\r':
+    // A page without sentence marks has nothing to step over ahead of a line's first word.
+    return {FirstLetter.has(behind) ? p : p + 1, false};
   case ',':
-    surface.SelStart(p + 1);
-    return false;
+    return {p + 1, false};
   case Mark:
-    if (surface.CharAt(p) == '\t') surface.SelStart(p + 1);
-    return false;
+    return {behind == '\t' ? p + 1 : p, false};
   case '\t':
-    return false;
+    return {p, false};
   case '.':
   case '"':
   case '?':
   case '!':
   case ':':
-    if (surface.CharAt(p) != '\r') return false;
     // Behind the last point of a line the line's last word is meant.
-    surface.SelStart(p - 2);
-    return true;
+    return behind == '\r' ? Settled{p - 2, true} : Settled{p, false};
   default:
-    return true;
+    return {p, true};
   }
 }
 
@@ -57,49 +62,59 @@ int startOfFirstWord(const Surface& surface, int lineStart) {
   return at;
 }
 
-bool settleCaretBT(Surface& surface) {
+Settled settledCaretBT(const Surface& surface) {
   const int p = surface.SelStart();
-  if (p < 2) return true;
+  if (p < 2) return {p, true};
   switch (surface.CharAt(p - 1)) {
   case '\r':
-    surface.SelStart(startOfFirstWord(surface, p));
-    return false;
+    return {startOfFirstWord(surface, p), false};
   case ',':
-    surface.SelStart(p + 1);
-    return false;
+    return {p + 1, false};
   case '\t':
   case '.':
   case '"':
   case '?':
   case '!':
   case ':':
-    return false;
+    return {p, false};
   default:
-    return true;
+    return {p, true};
   }
 }
+
+struct WordBounds {
+  std::string_view left;
+  std::string_view right;
+};
+
+/// Selects the word around a place, in one step: a page that listens is told of the word and not
+/// of the way to it.
+void selectWord(Surface& surface, Settled place, WordBounds bounds) {
+  if (place.caret != surface.SelStart()) surface.SelStart(place.caret);
+  TextRange word{surface.SelStart(), surface.SelStart() + surface.SelLength()};
+  if (place.reachesLeft) {
+    word = surface.spanned(word, bounds.left, SpanDirection::Backward, SpanUntil::InSet);
+  }
+  surface.select(surface.spanned(word, bounds.right, SpanDirection::Forward, SpanUntil::InSet));
+}
+
+constexpr WordBounds Bounds{LeftBounds, RightBounds};
+constexpr WordBounds BoundsBT{LeftBoundsBT, RightBoundsBT};
 
 } // namespace
 
 void WordPick::ChonTu(Surface& surface) {
-  if (settleCaret(surface)) {
-    surface.Span(LeftBounds, SpanDirection::Backward, SpanUntil::InSet);
-  }
-  surface.Span(RightBounds, SpanDirection::Forward, SpanUntil::InSet);
+  selectWord(surface, settledCaret(surface), Bounds);
   LayTuChon(surface);
 }
 
 void WordPick::ChonTuBT(Surface& surface) {
-  if (settleCaretBT(surface)) {
-    surface.Span(LeftBoundsBT, SpanDirection::Backward, SpanUntil::InSet);
-  }
-  surface.Span(RightBoundsBT, SpanDirection::Forward, SpanUntil::InSet);
+  selectWord(surface, settledCaretBT(surface), BoundsBT);
   word_.TuHienTai = lettersOf(surface.SelText());
 }
 
 void WordPick::takeShownWord(Surface& surface) {
-  surface.Span(LeftBoundsBT, SpanDirection::Backward, SpanUntil::InSet);
-  surface.Span(RightBoundsBT, SpanDirection::Forward, SpanUntil::InSet);
+  selectWord(surface, {surface.SelStart(), true}, BoundsBT);
   word_.TuHienTai = lettersOf(surface.SelText());
 }
 

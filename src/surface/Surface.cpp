@@ -151,13 +151,19 @@ void Surface::SelText(std::string_view text) {
   write(caret_.range(), text, style ? *style : document_.idOf(document_.defaultStyle()));
 }
 
-void Surface::Span(std::string_view characters, SpanDirection direction, SpanUntil until) {
+void Surface::select(TextRange range) {
+  const Caret::Selection before = caret_.selection();
+  const TextRange inside = clamped(range);
+  caret_.select(inside.from, inside.to);
+  tellSelection(before);
+}
+
+TextRange Surface::spanned(TextRange range, std::string_view characters, SpanDirection direction,
+                           SpanUntil until) const {
   const auto stops = [&](char character) {
     const bool inSet = characters.find(character) != std::string_view::npos;
     return until == SpanUntil::InSet ? inSet : !inSet;
   };
-  const Caret::Selection before = caret_.selection();
-  TextRange range = caret_.range();
   if (direction == SpanDirection::Forward) {
     while (range.to < document_.length() && !stops(document_.at(range.to)))
       ++range.to;
@@ -165,8 +171,11 @@ void Surface::Span(std::string_view characters, SpanDirection direction, SpanUnt
     while (range.from > 0 && !stops(document_.at(range.from - 1)))
       --range.from;
   }
-  caret_.select(range.from, range.to);
-  tellSelection(before);
+  return range;
+}
+
+void Surface::Span(std::string_view characters, SpanDirection direction, SpanUntil until) {
+  select(spanned(caret_.range(), characters, direction, until));
 }
 
 // -- Ranges.

@@ -78,6 +78,11 @@ class Surface final : public Control {
   /// Replaces the selection and leaves the caret behind the new text.
   void SelText(std::string_view text);
   void SelText(char character) { SelText(std::string_view(&character, 1)); }
+  /// Selects a range, held at its start; the view stays. What of it lies outside the text is none.
+  void select(TextRange range);
+  /// The selection as `Span` would extend it from a range; nothing changes.
+  [[nodiscard]] TextRange spanned(TextRange range, std::string_view characters,
+                                  SpanDirection direction, SpanUntil until) const;
   /// Extends the selection forward from its end, or backward from its start, as far as `until`
   /// says; the character that stops it stays outside.
   void Span(std::string_view characters, SpanDirection direction, SpanUntil until);

@@ -93,6 +93,22 @@ TEST_F(WordPickTest, StepsOverTheMarkBehindALineEnd) {
   EXPECT_EQ(pick("One.\r\tTwo here", 5), "Two");
 }
 
+TEST_F(WordPickTest, ALinesFirstWordWithoutAMarkIsTakenWhole) {
+  EXPECT_EQ(pick("One.\rThere is", 5), "There");
+  EXPECT_EQ(word(), "There");
+  EXPECT_EQ(pick("One.\r2nd of it", 5), "2nd");
+}
+
+TEST_F(WordPickTest, APageIsToldOfThePickOnce) {
+  showText("the word here");
+  R2.SelStart(6);
+  int told = 0;
+  R2.SelChange = [&told] { ++told; };
+  pickBehindClick();
+  EXPECT_EQ(R2.SelText(), "word");
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(WordPickTest, StepsOverTheTabBehindASentenceMark) {
   EXPECT_EQ(pick("One.\r\xA0\tTwo here", 6), "Two");
   EXPECT_EQ(R2.SelStart(), 7);
