@@ -19,8 +19,8 @@ constexpr std::string_view WordCharacters =
 
 Dictionary::Dictionary(Form& form, Controls& controls, SharedState& state, Stores& stores,
                        Shell& shell, Speech& speech)
-    : controls_(controls), state_(state), stores_(stores), shell_(shell),
-      lookUp_(words_, stores, state.word), popup_(form, controls, state, shell, speech),
+    : controls_(controls), state_(state), stores_(stores), shell_(shell), speech_(speech),
+      lookUp_(words_, stores), popup_(form, controls, state, shell, speech),
       list_(form, controls, state, shell, words_, lookUp_) {
   shell_.upward.DongNghia = [this] { popup_.DongNghia(); };
   list_.TraTuGan = [this] { TraTuGan(); };
@@ -35,37 +35,40 @@ void Dictionary::NapTuDien() {
 // -- Looking up.
 
 void Dictionary::TraTu() {
-  CurrentWord& word = state_.word;
+  const CurrentWord& word = state_.word;
   lookUp_.TimThay = true;
   if (word.TuHienTai.empty() && word.NghiaHienTai.empty()) return;
   std::string shown;
   if (!word.NghiaHienTai.empty() || !LaTiengAnh(word.TuHienTai)) {
     shown = word.NghiaHienTai;
   } else {
-    word.ThongBaoHD.clear();
-    word.TuDaBam = word.TuHienTai;
-    lookUp_.timMoiDang();
-    if (!word.NghiaHienTai.empty()) shown = takeEntry();
+    const WordAnswer found = lookUp_.timMoiDang(word.TuHienTai);
+    state_.atHand.takeForm(found.word);
+    if (found.answer) shown = headed(found.answer->entry);
   }
-  if (lookUp_.TimThay && !shown.empty()) popup_.HienNghia(shown);
-  word.ChoGiai = false;
+  if (lookUp_.TimThay && !shown.empty()) show(shown);
+  state_.atHand.disarm();
 }
 
 void Dictionary::TraTuGan() {
-  CurrentWord& word = state_.word;
   std::string shown;
-  if (word.NghiaHienTai.empty()) {
-    word.ThongBaoHD.clear();
-    lookUp_.DocNghia(list_.TuChon);
-    if (!word.NghiaHienTai.empty()) shown = takeEntry();
+  if (state_.word.NghiaHienTai.empty()) {
+    state_.atHand.dropMessage();
+    shown = headed(lookUp_.DocNghia(list_.TuChon));
   }
-  word.NghiaHienTai.clear();
-  if (!shown.empty()) popup_.HienNghia(shown);
-  word.ChoGiai = false;
+  state_.atHand.dropEntry();
+  if (!shown.empty()) show(shown);
+  state_.atHand.disarm();
 }
 
-std::string Dictionary::takeEntry() {
-  return state_.word.TuHienTai + "~" + std::exchange(state_.word.NghiaHienTai, {});
+std::string Dictionary::headed(const std::string& entry) const {
+  return entry.empty() ? entry : state_.word.TuHienTai + "~" + entry;
+}
+
+void Dictionary::show(const std::string& text) {
+  const CurrentWord& word = state_.word;
+  speech_.DocTu(utteranceAtHand(state_));
+  popup_.HienNghia({text, word.TuHienTai.size(), word.ThongBaoHD, word.ViTriChuot});
 }
 
 // -- Keys and mouse on the popup.
@@ -101,15 +104,14 @@ void Dictionary::letWordGo() {
 void Dictionary::lookUpInPopup(SurfacePoint at) {
   Surface& RHD = controls_.RHD;
   // The popup is placed as for a click on the page behind it.
-  state_.word.ViTriChuot = {at.x + RHD.Left() - state_.measures.LeTraiBai,
-                            at.y + RHD.Top() - state_.measures.LeTrenBai};
+  state_.atHand.pointAt({at.x + RHD.Left() - state_.measures.LeTraiBai,
+                         at.y + RHD.Top() - state_.measures.LeTrenBai});
   RHD.SelLength(0);
   RHD.Span(WordCharacters, SpanDirection::Backward, SpanUntil::NotInSet);
   RHD.Span(WordCharacters, SpanDirection::Forward, SpanUntil::NotInSet);
-  CurrentWord& word = state_.word;
-  word.TuHienTai.clear();
-  word.NghiaHienTai.clear();
-  word.ThongBaoHD.clear();
+  state_.atHand.drop();
+  state_.atHand.dropEntry();
+  state_.atHand.dropMessage();
   shell_.wordPick.LayTuChon(RHD);
   TraTu();
 }

@@ -46,13 +46,16 @@ class Dictionary {
   void letWordGo();
   /// Looks up the word of the popup that a click has met, at a point of the popup.
   void lookUpInPopup(SurfacePoint at);
-  /// The head word and the entry at hand as one text; the entry is taken.
-  [[nodiscard]] std::string takeEntry();
+  /// The word at hand and its entry as one text; empty without an entry.
+  [[nodiscard]] std::string headed(const std::string& entry) const;
+  /// Speaks the word at hand and shows what is said of it.
+  void show(const std::string& text);
 
   Controls& controls_;
   SharedState& state_;
   const Stores& stores_;
   Shell& shell_;
+  Speech& speech_;
   WordList words_;
   LookUp lookUp_;
   Popup popup_;

@@ -117,27 +117,26 @@ WordAnswer LookUp::askInAllForms(std::string_view word) const {
 
 void LookUp::note(const std::optional<Answer>& answer) {
   TimThay = answer && answer->TimThay;
-  word_.NghiaHienTai = answer ? answer->entry : std::string();
   if (!answer) return;
   TimDau = answer->range.TimDau;
   TimCuoi = answer->range.TimCuoi;
   ViTriGan = answer->ViTriGan;
 }
 
-void LookUp::TimTu(std::string_view key, LayNghia layNghia) {
-  const auto answer = ask(key, layNghia);
-  if (!answer) word_.TuHienTai.clear();
+std::optional<Answer> LookUp::TimTu(std::string_view key, LayNghia layNghia) {
+  auto answer = ask(key, layNghia);
   note(answer);
+  return answer;
 }
 
-void LookUp::timMoiDang() {
-  const WordAnswer result = askInAllForms(word_.TuHienTai);
-  word_.TuHienTai = result.word;
+WordAnswer LookUp::timMoiDang(std::string_view word) {
+  WordAnswer result = askInAllForms(word);
   note(result.answer);
+  return result;
 }
 
-void LookUp::DocNghia(int TuChon) {
-  word_.NghiaHienTai = entryAt(words_.ViTriNghia(TuChon));
+std::string LookUp::DocNghia(int TuChon) const {
+  return entryAt(words_.ViTriNghia(TuChon));
 }
 
 void LookUp::declare(Variables& variables) const {

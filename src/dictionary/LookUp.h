@@ -3,7 +3,7 @@
 
 #include "dictionary/WordList.h"
 #include "stores/Stores.h"
-#include "surface/State.h"
+#include "surface/Variables.h"
 #include "text/WordForm.h"
 
 #include <cstdint>
@@ -47,8 +47,7 @@ struct WordAnswer {
 
 class LookUp {
  public:
-  LookUp(const WordList& words, const Stores& stores, CurrentWord& word)
-      : words_(words), stores_(stores), word_(word) {}
+  LookUp(const WordList& words, const Stores& stores) : words_(words), stores_(stores) {}
 
   /// The bounds of the section of a key whose first character has that code; the whole list for a
   /// code that is no letter's.
@@ -65,16 +64,17 @@ class LookUp {
   /// form has an entry. Nothing changes.
   [[nodiscard]] WordAnswer askInAllForms(std::string_view word) const;
 
-  // -- The same for the word at hand, with what comes of it noted there.
+  /// The entry of a line of the list.
+  [[nodiscard]] std::string DocNghia(int TuChon) const;
 
-  /// Searches a key in any case of letters, and fills `NghiaHienTai` when that is wanted and the
-  /// key was found; otherwise `NghiaHienTai` is left empty.
-  void TimTu(std::string_view key, LayNghia layNghia);
-  /// Fills `NghiaHienTai` with the entry of a line of the list.
-  void DocNghia(int TuChon);
-  /// Looks `TuHienTai` up: as it stands, by the suffix rules, and shortened letter by letter. With
-  /// an entry found `TuHienTai` becomes the form that was found.
-  void timMoiDang();
+  // -- The same, and where the search settled is noted below.
+
+  /// `ask`.
+  std::optional<Answer> TimTu(std::string_view key, LayNghia layNghia);
+  /// `askInAllForms`.
+  WordAnswer timMoiDang(std::string_view word);
+  /// Another list was searched with that result.
+  void settleAt(int line) noexcept { ViTriGan = line; }
 
   void declare(Variables& variables) const;
 
@@ -89,7 +89,6 @@ class LookUp {
 
   const WordList& words_;
   const Stores& stores_;
-  CurrentWord& word_;
 };
 
 } // namespace talvora

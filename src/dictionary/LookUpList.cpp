@@ -42,7 +42,7 @@ void LookUpList::wireEvents() {
   RTD.DblClick = [this] { ChonTuRTD(); };
   RTD.MouseMove = [this, &RTD](int, SurfacePoint at) {
     shell_.gestures.pointerMoved(RTD, at);
-    state_.word.ViTriChuot = at;
+    state_.atHand.pointAt(at);
   };
   shell_.pages.add({.surface = RTD,
                     .textFont = true,
@@ -69,7 +69,7 @@ void LookUpList::MoDanhSachTu(char character) {
   RTD.Height(state_.measures.CaoBai);
   RTD.Visible(true);
   RTD.SetFocus();
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   GoTu(asc(character));
 }
 
@@ -84,15 +84,18 @@ void LookUpList::load() {
 }
 
 void LookUpList::saveCarets() {
-  CurrentWord& word = state_.word;
   // A lesson over the text has stored its own caret, which is the one to come back to.
   if (shell_.pages.pageOverPage()) return;
-  const auto save = [this](SharedCaret caret, int& place) {
+  const auto seen = [this](SharedCaret caret) {
     const Surface* const page = shell_.pages.withCaret(caret);
-    if (page != nullptr && page->Visible()) place = page->SelStart();
+    return page != nullptr && page->Visible() ? page : nullptr;
   };
-  save(SharedCaret::OfText, word.ViTriCaret);
-  save(SharedCaret::OfList, word.ViTriCaretR1);
+  if (const Surface* const text = seen(SharedCaret::OfText)) {
+    state_.atHand.keepCaret(text->SelStart());
+  }
+  if (const Surface* const list = seen(SharedCaret::OfList)) {
+    state_.atHand.keepListCaret(list->SelStart());
+  }
 }
 
 void LookUpList::DongDanhSachTu() {
@@ -102,31 +105,32 @@ void LookUpList::DongDanhSachTu() {
 }
 
 void LookUpList::giveUp() {
-  state_.word.DaChonRTD = false;
+  state_.atHand.endPick();
   DongDanhSachTu();
 }
 
 // -- Typing.
 
 void LookUpList::GoTu(int code) {
-  changeTypedWord(lower(chr(code)));
+  state_.atHand.take(typedWordWith(lower(chr(code))));
   showTypedWord();
   controls_.RTD.SelStart(0);
   if (!state_.word.TuHienTai.empty()) jumpToTypedWord();
 }
 
-void LookUpList::changeTypedWord(char character) {
-  std::string& word = state_.word.TuHienTai;
+std::string LookUpList::typedWordWith(char character) const {
+  std::string word = state_.word.TuHienTai;
   const char last = word.empty() ? ' ' : word.back();
   if (character == key::Backspace) {
     if (!word.empty()) word.pop_back();
-    return;
+    return word;
   }
   const bool afterBreak = last == ' ' || last == '-';
-  if (character == ' ' && afterBreak) return;
-  if (character == '-' && (word.empty() || last == '-')) return;
+  if (character == ' ' && afterBreak) return word;
+  if (character == '-' && (word.empty() || last == '-')) return word;
   if (character == '-' && last == ' ') word.pop_back();
   if (word.size() < LongestWord && Typed.has(character)) word += character;
+  return word;
 }
 
 void LookUpList::showTypedWord() {
@@ -137,6 +141,7 @@ void LookUpList::jumpToTypedWord() {
   std::string sought = state_.word.TuHienTai;
   std::replace(sought.begin(), sought.end(), '-', ' ');
   lookUp_.TimTu(sought, LayNghia::No);
+  state_.atHand.dropEntry();
   if (lookUp_.ViTriGan <= 0) return;
   const int before = --lookUp_.ViTriGan;
   // The way over a line farther down leaves the line itself near the top.
@@ -148,7 +153,7 @@ void LookUpList::jumpToTypedWord() {
 
 bool LookUpList::clearTypedWord() {
   if (state_.word.TuHienTai.empty()) return false;
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   GoTu(key::Backspace);
   return true;
 }
@@ -164,9 +169,9 @@ void LookUpList::ChonDongRTD() {
 }
 
 void LookUpList::ChonTuRTD() {
-  state_.word.DaChonRTD = true;
+  state_.atHand.beginPick();
   ChonDongRTD();
-  state_.word.TuHienTai = ChuChon;
+  state_.atHand.take(ChuChon);
   if (controls_.RTD.Visible()) DongDanhSachTu();
   TraTuGan();
   if (!controls_.RHD.Visible()) {
@@ -197,7 +202,7 @@ void LookUpList::pressCharacter(int code) {
   } else if (state_.word.TuHienTai.empty()) {
     giveUp();
   } else {
-    state_.word.DaChonRTD = false;
+    state_.atHand.endPick();
     clearTypedWord();
   }
 }
@@ -209,7 +214,7 @@ void LookUpList::releaseKey(int keyCode) {
 
 void LookUpList::pressMouse(MouseButton button) {
   if (button != MouseButton::Right) return;
-  state_.word.DaChonRTD = false;
+  state_.atHand.endPick();
   if (!clearTypedWord()) DongDanhSachTu();
 }
 

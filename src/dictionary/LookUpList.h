@@ -53,8 +53,8 @@ class LookUpList {
   void giveUp();
   /// Empties the typed word, if there is one; false when there is none.
   bool clearTypedWord();
-  /// The keystroke's effect on the typed word.
-  void changeTypedWord(char character);
+  /// The typed word after a keystroke.
+  [[nodiscard]] std::string typedWordWith(char character) const;
   void showTypedWord();
   /// Brings the line nearest to the typed word near the top of the view.
   void jumpToTypedWord();

@@ -38,23 +38,21 @@ WrappedMessage wrapMessage(const std::string& message, double room,
 
 // -- Up and down.
 
-void Popup::HienNghia(const std::string& text) {
-  speech_.DocTu();
-  place();
-  if (!text.empty()) {
+void Popup::HienNghia(const PopupContent& content) {
+  place(content.pointer);
+  if (!content.text.empty()) {
     if (XemCauTuVung) {
-      VeCauTuVung(text);
+      VeCauTuVung(content.text);
     } else {
-      VeNghia(text);
+      VeNghia(content);
     }
   }
   controls_.RHD.Visible(true);
 }
 
-void Popup::place() {
+void Popup::place(SurfacePoint pointer) {
   Surface& RHD = controls_.RHD;
   const Measures& m = state_.measures;
-  const SurfacePoint pointer = state_.word.ViTriChuot;
   const double d = m.pointerGap();
   RHD.Left(pointer.x < m.RongBai / 2 ? Round(m.LeTraiBai + d + pointer.x)
                                      : Round(d + (pointer.x - m.Phan3)));
@@ -66,45 +64,40 @@ void Popup::place() {
 
 void Popup::DongNghia() {
   speech_.DungDoc();
-  CurrentWord& word = state_.word;
   if (controls_.RHD.Visible()) controls_.RHD.BackColor(state_.measures.MauNenHD);
   controls_.Rnen.Visible(false);
-  if (word.XoaTuKhiDong) {
-    word.TuHienTai.clear();
-    word.XoaTuKhiDong = false;
-  }
+  state_.atHand.popupClosed();
   controls_.RHD.Visible(false);
   shell_.focusReturn.TraLaiBeMat();
 }
 
 // -- What it shows.
 
-void Popup::VeNghia(const std::string& text) {
+void Popup::VeNghia(const PopupContent& content) {
   Surface& RHD = controls_.RHD;
   RHD.FontName("x1");
   RHD.Text("");
   RHD.SelBold(false);
   RHD.SelItalic(false);
   RHD.SelColor(look::Black);
-  if (state_.word.ThongBaoHD.empty()) {
+  if (content.message.empty()) {
     // A sentence's popup, which is dark, may still be up.
     RHD.BackColor(state_.measures.MauNenHD);
-    VeMucTu(text);
+    VeMucTu(content);
   } else {
-    VeThongBao();
+    VeThongBao(content.message);
   }
   RHD.SelStart(0);
 }
 
-void Popup::VeMucTu(const std::string& text) {
+void Popup::VeMucTu(const PopupContent& content) {
   Surface& RHD = controls_.RHD;
-  const ShownEntry entry = readMarkup(text);
+  const ShownEntry entry = readMarkup(content.text);
   RHD.SelText(entry.text);
   const auto rangeOf = [](EntrySpan span) {
     return TextRange{span.start, span.start + span.length};
   };
-  RHD.format({0, static_cast<int>(state_.word.TuHienTai.size())},
-             {.color = look::Red, .bold = true});
+  RHD.format({0, static_cast<int>(content.headLength)}, {.color = look::Red, .bold = true});
   for (const EntrySpan& span : entry.blue)
     RHD.format(rangeOf(span), {.color = look::Blue});
   for (const EntrySpan& span : entry.redItalic)
@@ -126,8 +119,8 @@ void Popup::CoHopNghia() {
   RHD.SelStart(0);
 }
 
-void Popup::VeThongBao() {
-  writeMessage(state_.word.ThongBaoHD);
+void Popup::VeThongBao(const std::string& message) {
+  writeMessage(message);
   VeKhung();
   controls_.RHD.SelColor(look::Black);
 }

@@ -15,14 +15,20 @@
 
 namespace talvora {
 
+/// What a popup shows, and where.
+struct PopupContent {
+  std::string text;           ///< a head word, "~" and its entry; or what stands in for them
+  std::size_t headLength = 0; ///< of the head word, which stands out
+  std::string message;        ///< shown in the place of the text, where there is one
+  SurfacePoint pointer;       ///< beside which it stands, twips on its surface
+};
+
 class Popup {
  public:
   Popup(Form& form, Controls& controls, SharedState& state, Shell& shell, Speech& speech)
       : form_(form), controls_(controls), state_(state), shell_(shell), speech_(speech) {}
 
-  /// Speaks the word at hand, and shows a text beside the stored pointer: a head word, "~", and its
-  /// entry.
-  void HienNghia(const std::string& text);
+  void HienNghia(const PopupContent& content);
   /// Fits the red plate behind the popup, and moves both up or left by as much as they would leave
   /// the form.
   void VeKhung();
@@ -40,10 +46,10 @@ class Popup {
   bool XemCauTuVung = false; ///< the sentence of a vocabulary word is to be shown
 
  private:
-  void place();
-  void VeNghia(const std::string& text);
-  void VeMucTu(const std::string& text);
-  void VeThongBao();
+  void place(SurfacePoint pointer);
+  void VeNghia(const PopupContent& content);
+  void VeMucTu(const PopupContent& content);
+  void VeThongBao(const std::string& message);
   void CoHopNghia();
   /// Right edge of the text that messages belong to, in twips.
   [[nodiscard]] int rightOfText() const;

@@ -31,6 +31,14 @@ std::vector<std::string> linesOf(std::string_view text, std::size_t most) {
   return lines;
 }
 
+/// The entry of a word, with the pronoun as a capital.
+std::string withCapitalI(std::string entry, std::string_view word) {
+  if (entry.size() < 2) return entry;
+  const bool pronoun = entry[0] == 'i' && (entry[1] == '\'' || entry[1] == ' ');
+  if (word == "i" || pronoun) entry[0] = 'I';
+  return entry;
+}
+
 } // namespace
 
 void VietnameseSide::NapTuD(EventLoop& events) {
@@ -89,10 +97,10 @@ VietnameseSide::Answer VietnameseSide::ask(std::string_view key) const {
 }
 
 void VietnameseSide::TimTuD(std::string_view key) {
-  Answer answer = ask(key);
-  if (key.empty()) state_.word.TuHienTai.clear();
-  if (answer.nearest) lookUp_.ViTriGan = *answer.nearest;
-  state_.word.NghiaD = std::move(answer.entry);
+  const Answer answer = ask(key);
+  if (key.empty()) state_.atHand.drop();
+  if (answer.nearest) lookUp_.settleAt(*answer.nearest);
+  state_.atHand.takeSideEntry(answer.entry);
 }
 
 std::string VietnameseSide::entryAt(int index) const {
@@ -107,30 +115,22 @@ std::string VietnameseSide::entryAt(int index) const {
 }
 
 void VietnameseSide::HienTuD(Surface& surface) {
-  CurrentWord& word = state_.word;
+  const CurrentWord& word = state_.word;
   // Closing gives the caret back to where the last click or key left it, and keys may have gone on.
-  word.ViTriCaret = surface.SelStart();
+  state_.atHand.keepCaret(surface.SelStart());
   shell_.upward.DongNghia();
   if (controls_.RDOS.Top() == 0) shell_.hints.DatRDOS();
-  word.ViTriCaret = surface.SelStart();
+  state_.atHand.keepCaret(surface.SelStart());
   shell_.wordPick.ChonTu(surface);
   const std::string key = lower(word.TuHienTai);
   TimTuD(key);
   if (word.NghiaD.empty()) return;
-  if (word.NghiaD == NotFound) word.NghiaD = "Không tìm thấy!"_x1;
-  word.NghiaD = trim(word.NghiaD);
-  capitaliseI(key);
+  if (word.NghiaD == NotFound) state_.atHand.takeSideEntry("Không tìm thấy!"_x1);
+  state_.atHand.takeSideEntry(withCapitalI(std::string(trim(word.NghiaD)), key));
   writeEntry();
   controls_.RDOS.SelStart(0);
   controls_.RDOS.Visible(true);
-  speech_.DocTu();
-}
-
-void VietnameseSide::capitaliseI(const std::string& word) {
-  std::string& entry = state_.word.NghiaD;
-  if (entry.size() < 2) return;
-  const bool pronoun = entry[0] == 'i' && (entry[1] == '\'' || entry[1] == ' ');
-  if (word == "i" || pronoun) entry[0] = 'I';
+  speech_.DocTu(utteranceAtHand(state_));
 }
 
 void VietnameseSide::writeEntry() {
@@ -163,7 +163,7 @@ void VietnameseSide::writeEntry() {
 void VietnameseSide::DongTuD(Surface& surface) {
   if (state_.word.NghiaD.empty()) return;
   speech_.DungDoc();
-  state_.word.NghiaD.clear();
+  state_.atHand.dropSideEntry();
   controls_.RDOS.Visible(false);
   surface.SetFocus();
 }

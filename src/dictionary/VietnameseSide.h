@@ -69,7 +69,6 @@ class VietnameseSide {
   /// Looks at two neighbours, between which the key lies if it is no line of the list.
   [[nodiscard]] Place findBetween(int low, int high, const std::string& key) const;
   [[nodiscard]] std::string entryAt(int index) const;
-  void capitaliseI(const std::string& word);
   void writeEntry();
 
   Controls& controls_;

@@ -15,6 +15,8 @@ namespace talvora {
 namespace {
 
 constexpr std::string_view UnknownKey = "_______";
+/// Is at hand beside a hint: no word, and not nothing, so that the pointer takes the hint away.
+constexpr std::string_view HintAtHand = " ";
 
 /// Writes the English pronoun as a capital where its small letter stands between two marks.
 void capitaliseFirst(std::string& text, std::string_view pronoun) {
@@ -100,9 +102,8 @@ void BT_DienTu::drawCells() {
 void BT_DienTu::HienGoiY(int p) {
   const int blank = item_.OTrong.find(p);
   if (blank == 0) return;
-  CurrentWord& word = services_.state.word;
-  word.TuHienTai = " ";
-  word.ViTriCaret = RDT_.SelStart();
+  services_.state.atHand.take(HintAtHand);
+  services_.state.atHand.keepCaret(RDT_.SelStart());
   services_.shell.hints.DatRDOS();
   Surface& RDOS = services_.controls.RDOS;
   RDOS.Text("");

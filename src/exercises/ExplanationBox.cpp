@@ -212,7 +212,7 @@ void ExplanationBox::DongGiai() {
   RHDBT.BackColor(state_.measures.MauNenHD);
   controls_.Rnen2.Visible(false);
   RHDBT.Visible(false);
-  state_.word.ViTriCaret = itemCaret_;
+  state_.atHand.keepCaret(itemCaret_);
   if (hadFocus) focusBehind();
 }
 
@@ -230,7 +230,7 @@ void ExplanationBox::RoiChuotBT(Surface& surface, SurfacePoint at) {
     DongGiai();
     answer_.restore(surface);
   }
-  state_.word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
 }
 
 // -- Links.
@@ -247,7 +247,7 @@ bool ExplanationBox::MoLienKet(int p) {
     return each.Dau < p && p <= each.Cuoi;
   });
   if (link == LienKet_.end() || link->Bai == 0) return false;
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   textBehind_ = state_.text.CauHoi;
   lessons_.MoBaiVP(link->Bai);
   shell_.transitions.MoRan(controls_.RVP2, controls_.Frame3);
@@ -255,10 +255,10 @@ bool ExplanationBox::MoLienKet(int p) {
 }
 
 void ExplanationBox::DongBaiLienKet() {
-  state_.word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
   giveTextBack();
   // The lesson has kept a caret of its own; the box and the item take theirs back.
-  state_.word.ViTriCaret = controls_.RHDBT.Visible() ? controls_.RHDBT.SelStart() : itemCaret_;
+  state_.atHand.keepCaret(controls_.RHDBT.Visible() ? controls_.RHDBT.SelStart() : itemCaret_);
   shell_.upward.DongNghia();
   if (state_.measures.slidesAtOnce()) shell_.setup.parkPlate();
   shell_.transitions.DongRan(controls_.RVP2, controls_.Frame3);
@@ -283,17 +283,16 @@ void ExplanationBox::giveTextBack() {
 
 void ExplanationBox::releaseMouse(MouseButton button, SurfacePoint at) {
   Surface& RHDBT = controls_.RHDBT;
-  CurrentWord& word = state_.word;
   shell_.gestures.keyReleased();
   if (button == MouseButton::Right) {
-    if (!word.TuHienTai.empty()) words_.speak();
+    if (!state_.word.TuHienTai.empty()) words_.speak();
     return;
   }
   if (MoLienKet(RHDBT.SelStart() + 1)) return;
   // The popup is placed as for a click on the page behind the box.
-  word.ViTriChuot = {at.x + RHDBT.Left() - state_.measures.LeTraiBai,
-                     at.y + RHDBT.Top() - state_.measures.LeTrenBai};
-  word.ViTriCaret = RHDBT.SelStart();
+  state_.atHand.pointAt({at.x + RHDBT.Left() - state_.measures.LeTraiBai,
+                         at.y + RHDBT.Top() - state_.measures.LeTrenBai});
+  state_.atHand.keepCaret(RHDBT.SelStart());
   if (RHDBT.SelText().ends_with(' ')) RHDBT.SelLength(RHDBT.SelLength() - 1);
   words_.lookUpAtCaret(RHDBT);
 }

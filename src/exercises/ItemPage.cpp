@@ -17,7 +17,7 @@ ItemPage::ItemPage(Surface& surface, ItemServices& services, HeadingAnswers head
 
 void ItemPage::begin() {
   services_.item.KetQuaCau = 0;
-  services_.state.word.ViTriCaret = 0;
+  services_.state.atHand.keepCaret(0);
   surface_.Text("");
   surface_.SelBold(services_.state.measures.largeScreen());
   surface_.SelIndent(look::BodyIndent);
@@ -35,7 +35,7 @@ void ItemPage::goTo(int caret) {
   // The way leads over the top, so that the page is scrolled no further than the caret asks for.
   surface_.SelStart(0);
   surface_.SelStart(caret);
-  services_.state.word.ViTriCaret = surface_.SelStart();
+  services_.state.atHand.keepCaret(surface_.SelStart());
 }
 
 // -- Keys.
@@ -81,16 +81,16 @@ void ItemPage::closeExtras() {
 
 void ItemPage::pressLetter(int keyAscii, int caretToComeBackTo) {
   services_.controls.RDOS.Visible(false);
-  services_.state.word.ViTriCaret = caretToComeBackTo;
+  services_.state.atHand.keepCaret(caretToComeBackTo);
   services_.words.openListOn(keyAscii);
 }
 
 void ItemPage::releaseKey(int shift) {
   services_.shell.gestures.keyReleased();
-  CurrentWord& word = services_.state.word;
-  if (services_.controls.RHD.Visible() && !word.DaChonRTD) services_.shell.upward.DongNghia();
+  if (services_.controls.RHD.Visible() && !services_.state.word.DaChonRTD)
+    services_.shell.upward.DongNghia();
   services_.words.closeWithoutCtrl(shift, surface_);
-  if (surface_.SelLength() == 0) word.ViTriCaret = surface_.SelStart();
+  if (surface_.SelLength() == 0) services_.state.atHand.keepCaret(surface_.SelStart());
 }
 
 // -- Mouse.
@@ -102,19 +102,19 @@ void ItemPage::moveMouse(SurfacePoint at) {
 }
 
 ItemPage::Click ItemPage::releaseMouse(MouseButton button, SurfacePoint at) {
-  CurrentWord& word = services_.state.word;
+  WordAtHand& atHand = services_.state.atHand;
   const int p = position();
   services_.shell.gestures.keyReleased();
-  word.ViTriChuot = at;
+  atHand.pointAt(at);
   services_.box.DongGiai();
   services_.words.hidePopup();
-  word.ViTriCaret = surface_.SelStart();
+  atHand.keepCaret(surface_.SelStart());
   if (button == MouseButton::Right) {
-    word.ChoGiai = true;
+    atHand.arm();
     services_.shell.steering.NhapTrai();
     return Click::Done;
   }
-  if (std::exchange(word.ChoGiai, false)) return Click::Explain;
+  if (atHand.takeArmed()) return Click::Explain;
   if (services_.item.links.holdNext(p)) {
     services_.run.next();
     return Click::Done;

@@ -127,7 +127,7 @@ void Run::BatDauChay() {
   item_.MatNa.clear();
   item_.SoGoiY = 0;
   item_.DaCham = false;
-  state_.word.ChoGiai = false;
+  state_.atHand.disarm();
   ViTriCau_ = 0;
   CauKeTiep();
 }
@@ -149,7 +149,7 @@ void Run::CauKeTiep() {
   item_.LoiGiai.clear();
   item_.OTrong.clearTexts();
   item_.DaCham = false;
-  state_.word.ChoGiai = false;
+  state_.atHand.disarm();
   if (ViTriCau_ > 0) hideItem();
   if (!step()) {
     endRun();
@@ -178,7 +178,7 @@ void Run::hideItem() {
 void Run::XoaTrangThai() {
   item_.XoaTrangThai();
   state_.text.CauHoi.clear();
-  state_.word.ChoGiai = false;
+  state_.atHand.disarm();
 }
 
 bool Run::step() {
@@ -213,7 +213,7 @@ void Run::endRun() {
 
 void Run::ThoatBT(Surface& surface) {
   services_.box.DongGiai();
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   services_.words.stopSpeech();
   parkPlate();
   Transitions& transitions = services_.shell.transitions;

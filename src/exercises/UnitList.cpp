@@ -53,7 +53,7 @@ void UnitList::HienBT(int SoCauBT) {
       {0, Rchon.TextLength()},
       {.bold = true,
        .fontSize = listening_ != nullptr ? listening_->page().Font().size : state_.measures.CoChu});
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   Rchon.format({listeningpage::LabelsFrom, listeningpage::LabelsFrom + listeningpage::LabelsLength},
                {.color = look::Blue});
   if (state_.places.MucMenu == section::Listening) {
@@ -95,7 +95,7 @@ void UnitList::writeList(int units, std::string_view word) {
 }
 
 void UnitList::open() {
-  state_.word.DaChonRTD = false;
+  state_.atHand.endPick();
   controls_.Frame1.BackColor(look::White);
   shell_.transitions.MoRan(controls_.RN1, controls_.Frame1);
   DocViTriList();
@@ -139,8 +139,8 @@ void UnitList::ThoatNghe() {
   controls_.R1.Visible(false);
   controls_.R1.Top(state_.measures.CaoMH);
   shell_.transitions.DongRan(controls_.RN1, controls_.Frame1);
-  state_.word.ChoGiai = false;
-  state_.word.DaChonRTD = false;
+  state_.atHand.disarm();
+  state_.atHand.endPick();
   // The banks go back to the listening button too; that is meant.
   focusButton(section::Listening);
   if (listening_ != nullptr) listening_->close();

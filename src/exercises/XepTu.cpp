@@ -24,8 +24,7 @@ int blanksIn(std::string_view text) {
 XepTu::XepTu(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
              PageServices services, Random& random, BackNextLinks& sharedLinks)
     : links(sharedLinks), controls_(controls), state_(state), shell_(shell), services_(services),
-      words_(controls, state, shell, services), random_(random),
-      text_(stores, state.text, state.word) {
+      words_(controls, state, shell, services), random_(random), text_(stores, state.text) {
   wireEvents();
 }
 
@@ -39,7 +38,7 @@ void XepTu::wireEvents() {
   Rxep.KeyUp = [this](int& KeyCode, int Shift) { releaseKey(KeyCode, Shift); };
   Rxep.MouseMove = [this, &Rxep](int, SurfacePoint at) { shell_.gestures.followPointer(Rxep, at); };
   Rxep.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
-  Rxep.DblClick = [this] { state_.word.CoDupChuot = true; };
+  Rxep.DblClick = [this] { state_.atHand.askForSentence(); };
   shell_.pages.add({.surface = Rxep,
                     .textFont = true,
                     .font = FontStep::Larger,
@@ -85,7 +84,7 @@ void XepTu::ThoatXep() {
     leaveSelfMadeTest();
     return;
   }
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   services_.speech.DungDoc();
   if (origin_ == Origin::Item) {
     controls_.Frame3.Visible(false);
@@ -151,8 +150,8 @@ void XepTu::findSentence() {
 // -- Drawing.
 
 void XepTu::draw(Surface& surface, Foot foot) {
-  state_.word.ChoGiai = false;
-  state_.word.TuHienTai.clear();
+  state_.atHand.disarm();
+  state_.atHand.drop();
   ChoCau_ = true;
   DaXong_ = false;
   surface.Text("");
@@ -229,11 +228,12 @@ void XepTu::DatTu(Surface& surface) {
   const int s = surface.SelLength();
   int w = surface.SelStart();
   const int b = DauDong + BienDung_;
-  std::string& word = state_.word.TuHienTai;
   surface.SelStart(b);
-  if (!word.empty()) {
+  if (!state_.word.TuHienTai.empty()) {
     if (b < w) w += s;
-    surface.SelText(std::exchange(word, std::string()) + " ");
+    const std::string word = state_.word.TuHienTai + " ";
+    state_.atHand.drop();
+    surface.SelText(word);
     surface.SelStart(w);
     surface.SelLength(s);
     surface.SelText("");
@@ -254,7 +254,7 @@ void XepTu::BoDat(Surface& surface) {
   surface.SelLength(lineLength());
   surface.SelText(DongCu_);
   DongXep_ = DongCu_;
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   ToXep(surface);
 }
 
@@ -313,16 +313,14 @@ void XepTu::releaseKey(int keyCode, int shift) {
 // -- Mouse.
 
 void XepTu::takeClick(const Surface& surface, SurfacePoint at) {
-  CurrentWord& word = state_.word;
-  word.ViTriChuot = at;
-  word.ViTriCaret = surface.SelStart();
+  state_.atHand.clickedAt(at, surface.SelStart());
   if (controls_.RHD.Visible()) words_.hidePopup();
 }
 
 void XepTu::arm() {
   // A word that was only looked up must not stand in the way of the one to be moved.
-  state_.word.TuHienTai.clear();
-  state_.word.ChoGiai = true;
+  state_.atHand.drop();
+  state_.atHand.arm();
   shell_.steering.NhapTrai();
 }
 
@@ -354,8 +352,8 @@ void XepTu::releaseLeft() {
 }
 
 void XepTu::releaseArmed(Surface& surface) {
-  CurrentWord& word = state_.word;
-  word.ChoGiai = false;
+  const CurrentWord& word = state_.word;
+  state_.atHand.disarm();
   if (!XepChay || !ChoCau_) return;
   if (word.TuHienTai.empty()) {
     if (word.CoDupChuot) {
@@ -368,9 +366,9 @@ void XepTu::releaseArmed(Surface& surface) {
     }
   }
   if (word.CoDupChuot) {
-    word.CoDupChuot = false;
+    state_.atHand.askForWord();
     surface.SelLength(0);
-    word.TuHienTai.clear();
+    state_.atHand.drop();
   }
 }
 

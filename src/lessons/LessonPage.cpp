@@ -27,9 +27,9 @@ void LessonPage::wireEvents() {
   };
   RVP2.MouseMove = [this, &RVP2](int, SurfacePoint at) { shell_.gestures.followPointer(RVP2, at); };
   RVP2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
-  RVP2.DblClick = [this] { state_.word.CoDupChuot = true; };
+  RVP2.DblClick = [this] { state_.atHand.askForSentence(); };
   RVP2.SelChange = [this, &RVP2] {
-    if (RVP2.SelLength() == 0) state_.word.TuHienTai.clear();
+    if (RVP2.SelLength() == 0) state_.atHand.drop();
   };
 }
 
@@ -53,7 +53,7 @@ void LessonPage::addToShell() {
 void LessonPage::pressKey(int keyCode, int shift) {
   Surface& RVP2 = controls_.RVP2;
   // A pick from the look-up list holds the popup only until the next key.
-  state_.word.DaChonRTD = false;
+  state_.atHand.endPick();
   words_.hidePopup();
   shell_.hints.showOnF2(keyCode, RVP2);
   words_.showOnCtrl(keyCode, shift, RVP2);
@@ -61,7 +61,7 @@ void LessonPage::pressKey(int keyCode, int shift) {
 
 void LessonPage::pressCharacter(int& keyAscii) {
   const int pressed = std::exchange(keyAscii, 0);
-  state_.word.ViTriCaret = controls_.RVP2.SelStart();
+  state_.atHand.keepCaret(controls_.RVP2.SelStart());
   if (pressed == key::Esc) {
     // A lesson over an exercise is an extra, which the shared table closes.
     if (!shell_.gestures.DongPhu(controls_.RVP2)) leave();
@@ -71,16 +71,14 @@ void LessonPage::pressCharacter(int& keyAscii) {
 }
 
 void LessonPage::releaseMouse(MouseButton button, SurfacePoint at) {
-  CurrentWord& word = state_.word;
   shell_.gestures.keyReleased();
   if (button == MouseButton::Right) {
-    if (!word.TuHienTai.empty()) words_.speak();
+    if (!state_.word.TuHienTai.empty()) words_.speak();
     return;
   }
-  word.ViTriChuot = at;
-  word.ViTriCaret = controls_.RVP2.SelStart();
+  state_.atHand.clickedAt(at, controls_.RVP2.SelStart());
   words_.hidePopup();
-  if (std::exchange(word.CoDupChuot, false)) {
+  if (state_.atHand.takeDoubleClick()) {
     shell_.wordPick.LayTuChon(controls_.RVP2);
   } else {
     words_.lookUpAtCaret(controls_.RVP2);

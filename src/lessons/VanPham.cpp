@@ -66,7 +66,7 @@ void VanPham::wireEvents() {
 
 void VanPham::open() {
   state_.places.MucMenu = section::Lessons;
-  state_.word.ChoGiai = false;
+  state_.atHand.disarm();
   BaiTuChon = true;
   Surface& RVP1 = controls_.RVP1;
   RVP1.FontSize(state_.measures.CoChu - 1);
@@ -87,27 +87,23 @@ void VanPham::MoVanPham() {
 }
 
 void VanPham::GoiRVP2() {
-  CurrentWord& word = state_.word;
-  word.ViTriCaretR1 = controls_.RVP1.SelStart();
-  word.NghiaHienTai.clear();
-  word.ViTriCaret = 0;
-  word.CoDupChuot = false;
+  state_.atHand.keepListCaret(controls_.RVP1.SelStart());
+  state_.atHand.enterPage();
   controls_.RHD.FontBold(false);
   page_.MoBaiVP(state_.list.SoBaiChon);
   shell_.transitions.MoRan(controls_.RVP2, controls_.Frame2);
-  word.TuHienTai.clear();
+  state_.atHand.drop();
   shell_.curtain.KeoMan(controls_.RVP2);
 }
 
 void VanPham::ExitRVP2() {
   Surface& RVP1 = controls_.RVP1;
   if (!controls_.RVP2.Visible()) return;
-  CurrentWord& word = state_.word;
-  word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
   shell_.upward.DongNghia();
-  word.ViTriCaret = word.ViTriCaretR1;
+  state_.atHand.backToList();
   shell_.transitions.DongRan(controls_.RVP2, controls_.Frame2);
-  RVP1.SelStart(word.ViTriCaretR1);
+  RVP1.SelStart(state_.word.ViTriCaretR1);
   ChonDongVP();
   RVP1.SetFocus();
 }
@@ -240,7 +236,7 @@ void VanPham::jumpToNextHeading() {
   const int last = list.ViTriNhom[static_cast<std::size_t>(list.SoNhom)];
   if (caret >= last - 1) {
     controls_.RVP1.SelStart(caret - 1);
-    state_.word.ViTriCaret = controls_.RVP1.SelStart();
+    state_.atHand.keepCaret(controls_.RVP1.SelStart());
     return;
   }
   const auto first = list.ViTriNhom.begin() + 1;
@@ -264,7 +260,7 @@ void VanPham::jumpTo(int caret) {
   Surface& RVP1 = controls_.RVP1;
   RVP1.SelStart(static_cast<int>(state_.list.DanhSachBai.size()) - 2);
   RVP1.SelStart(caret);
-  state_.word.ViTriCaret = caret;
+  state_.atHand.keepCaret(caret);
 }
 
 void VanPham::pressCharacter(int& keyAscii) {
@@ -274,7 +270,7 @@ void VanPham::pressCharacter(int& keyAscii) {
   } else if (pressed == key::Esc) {
     pressEsc();
   } else if (Letters.has(chr(pressed))) {
-    state_.word.ViTriCaretR1 = controls_.RVP1.SelStart();
+    state_.atHand.keepListCaret(controls_.RVP1.SelStart());
     page_.openListOn(pressed);
   }
 }
@@ -284,7 +280,7 @@ void VanPham::pressEnter() {
     GoiRVP2();
     return;
   }
-  state_.word.ViTriCaretR1 = controls_.RVP1.SelStart();
+  state_.atHand.keepListCaret(controls_.RVP1.SelStart());
   BatDauChon();
 }
 
@@ -299,7 +295,7 @@ void VanPham::pressEsc() {
   } else if (ConBaiChon()) {
     BoChonBai();
   } else {
-    state_.word.ChoGiai = false;
+    state_.atHand.disarm();
     ExitRVP1();
   }
 }
@@ -325,17 +321,17 @@ void VanPham::BoChonBai() {
   std::replace(TrangThaiVP_.begin(), TrangThaiVP_.end(), LessonMark::Marked, LessonMark::Unmarked);
   showList(DanhSachGoc_);
   controls_.RVP1.SelStart(state_.word.ViTriCaretR1);
-  state_.word.ChoGiai = false;
+  state_.atHand.disarm();
   controls_.RVP1.SetFocus();
 }
 
 void VanPham::releaseMouse(MouseButton button) {
   if (button == MouseButton::Right) {
-    state_.word.ChoGiai = true;
+    state_.atHand.arm();
     shell_.steering.NhapTrai();
   } else if (state_.word.ChoGiai || ConBaiChon()) {
     // A pick from the look-up list clears the flag, and not the marks.
-    state_.word.ChoGiai = true;
+    state_.atHand.arm();
     toggleMark();
   } else {
     openClickedLine();
@@ -344,22 +340,29 @@ void VanPham::releaseMouse(MouseButton button) {
 
 void VanPham::toggleMark() {
   Surface& RVP1 = controls_.RVP1;
-  bool& ChoGiai = state_.word.ChoGiai;
   ChonDongVP();
   LessonMark& mark = markOf(state_.list.SoBaiChon);
   if (mark == LessonMark::NotMarkable) {
-    ChoGiai = ConBaiChon();
+    armWhileMarked();
     return;
   }
   if (RVP1.SelColor() == look::Blue) {
     RVP1.SelColor(look::Body);
     if (mark == LessonMark::Marked) mark = LessonMark::Unmarked;
-    ChoGiai = ConBaiChon();
+    armWhileMarked();
   } else {
     RVP1.SelColor(look::Blue);
     mark = LessonMark::Marked;
   }
-  if (ChoGiai) RVP1.SelLength(0);
+  if (state_.word.ChoGiai) RVP1.SelLength(0);
+}
+
+void VanPham::armWhileMarked() {
+  if (ConBaiChon()) {
+    state_.atHand.arm();
+  } else {
+    state_.atHand.disarm();
+  }
 }
 
 void VanPham::openClickedLine() {

@@ -72,6 +72,8 @@ class VanPham {
   void releaseMouse(MouseButton button);
   void openClickedLine();
   void toggleMark();
+  /// The next click marks, too, as long as a lesson is marked.
+  void armWhileMarked();
   void returnFocus();
   [[nodiscard]] LessonMark& markOf(int lesson);
 

@@ -16,7 +16,7 @@ void WordHelp::lookUpShownWord(Surface& surface) {
 }
 
 void WordHelp::lookUp() {
-  state_.word.ThongBaoHD.clear();
+  state_.atHand.dropMessage();
   if (!ChuanHoaTu(state_.word.TuHienTai).empty()) services_.dictionary.TraTu();
 }
 

@@ -30,7 +30,7 @@ class WordHelp {
   /// Takes the popup off and leaves focus and caret as they are.
   void hidePopup();
   /// Says `TuHienTai`.
-  void speak() { services_.speech.DocTu(); }
+  void speak() { services_.speech.DocTu(utteranceAtHand(state_)); }
   void stopSpeech() { services_.speech.DungDoc(); }
 
  private:

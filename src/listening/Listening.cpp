@@ -59,7 +59,7 @@ void Listening::wireEvents() {
   RN2.MouseUp = [this](MouseButton button, int, SurfacePoint at) {
     if (button == MouseButton::Left) releaseLeft(at);
   };
-  RN2.DblClick = [this] { state_.word.CoDupChuot = true; };
+  RN2.DblClick = [this] { state_.atHand.askForSentence(); };
 }
 
 // -- The section.
@@ -67,10 +67,8 @@ void Listening::wireEvents() {
 void Listening::openSection() {
   state_.places.MucMenu = Section;
   stores_.ChonKho(file::TextPositions);
-  state_.word.NghiaHienTai.clear();
-  state_.word.ViTriCaret = 0;
-  state_.word.CoDupChuot = false;
-  state_.word.TuHienTai.clear();
+  state_.atHand.enterPage();
+  state_.atHand.drop();
   units_.HienBT(0);
   units_.open();
 }
@@ -126,7 +124,7 @@ void Listening::DocCauNghe() {
   state_.places.waitkd = true;
   const ListeningTexts texts = items_.textsAt(ViTriDoc_);
   heard_ = texts.sentence;
-  if (!services_.voice.AmThanhThuc) state_.word.TuHienTai = heard_;
+  if (!services_.voice.AmThanhThuc) state_.atHand.take(heard_);
   item_.KetQuaCau = 0;
   page_.paint(texts);
   shell_.transitions.MoRan(controls_.RN2, controls_.Frame2);
@@ -140,8 +138,8 @@ void Listening::NgheLai() {
     services_.voice.PhatCau(DoanHien_);
   } else {
     // The pointer takes the word at hand away when it leaves.
-    if (state_.word.TuHienTai.empty()) state_.word.TuHienTai = heard_;
-    services_.speech.DocTu();
+    if (state_.word.TuHienTai.empty()) state_.atHand.take(heard_);
+    services_.speech.DocTu(utteranceAtHand(state_));
   }
 }
 
@@ -160,7 +158,7 @@ void Listening::QuaCau() {
 }
 
 void Listening::closePage() {
-  state_.word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
   stopSound();
   shell_.transitions.DongRan(controls_.RN2, controls_.Frame2);
   controls_.RN1.SelStart(listCaret_);
@@ -190,9 +188,8 @@ void Listening::pressCharacter(int& keyAscii) {
 
 void Listening::releaseLeft(SurfacePoint at) {
   Surface& RN2 = controls_.RN2;
-  CurrentWord& word = state_.word;
-  word.ViTriChuot = at;
-  word.ViTriCaret = RN2.SelStart();
+  const CurrentWord& word = state_.word;
+  state_.atHand.clickedAt(at, RN2.SelStart());
   const int p = word.ViTriCaret + 1;
   if (!word.CoDupChuot && p > page_.links.CuoiNext && !page_.isOpen()) {
     words_.lookUpAtCaret(RN2);
@@ -201,7 +198,7 @@ void Listening::releaseLeft(SurfacePoint at) {
   const bool onRed = RN2.SelColor() == look::Red;
   judge(word.ViTriCaret);
   if (onRed && followLink(p)) return;
-  word.CoDupChuot = false;
+  state_.atHand.askForWord();
   shell_.hints.AnRDOS(RN2);
 }
 

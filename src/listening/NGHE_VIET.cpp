@@ -21,6 +21,10 @@ constexpr int GuideText = guidetext::Number;
 constexpr int FlashMs = 20;
 constexpr int SentenceDoneMs = 500;
 constexpr char Prompt = '^';
+// What is at hand is the sentence, which Enter does not take for a word: as the popup closes, and
+// once a word of it was looked up.
+constexpr std::string_view SentenceAtHand = "x";
+constexpr std::string_view SentenceBehindWord = "XX";
 /// A blank stands for these, so that the learner need not know how a sentence is pointed.
 constexpr CharClass BlankWillDo("[-,:;!]");
 
@@ -42,7 +46,7 @@ NGHE_VIET::NGHE_VIET(Form& form, Controls& controls, SharedState& state, Stores&
                      Shell& shell, PageServices services, Clock& clock)
     : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
       services_(services), words_(controls, state, shell, services), clock_(clock),
-      text_(stores, state.text, state.word) {
+      text_(stores, state.text) {
   wireEvents();
 }
 
@@ -54,7 +58,7 @@ void NGHE_VIET::wireEvents() {
   Rviet.MouseDown = [this, &Rviet](MouseButton, int, SurfacePoint) { Rviet.SelStart(CaretViet_); };
   Rviet.MouseMove = [this](int, SurfacePoint at) { moveMouse(at); };
   Rviet.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
-  Rviet.DblClick = [this] { state_.word.CoDupChuot = true; };
+  Rviet.DblClick = [this] { state_.atHand.askForSentence(); };
   shell_.pages.add(
       {.surface = Rviet,
        .font = FontStep::Same,
@@ -63,9 +67,9 @@ void NGHE_VIET::wireEvents() {
                    "Mũi tên lên=lùi 1 câu;  Mũi tên xuống=tới 1 câu;  Esc=thoát."_x1}}}});
   const auto always = [] { return true; };
   shell_.focusReturn.onReturnTo(FocusRank::Dictation, Rviet, always, [this, &Rviet] {
-    state_.word.TuHienTai = CauMau_;
-    state_.word.NghiaHienTai.clear();
-    state_.word.ThongBaoHD = "x";
+    state_.atHand.take(CauMau_);
+    state_.atHand.dropEntry();
+    state_.atHand.showInstead(SentenceAtHand);
     Rviet.SelStart(CaretViet_);
     Rviet.SetFocus();
   });
@@ -77,14 +81,14 @@ void NGHE_VIET::MoNgheViet() {
   CauViet_ = 1;
   shell_.gestures.pointerCameIn(controls_.Rviet);
   listCaret_ = controls_.R1.SelStart();
-  state_.word.NghiaHienTai.clear();
-  state_.word.CoDupChuot = false;
+  state_.atHand.dropEntry();
+  state_.atHand.askForWord();
   const int number = state_.list.SoBaiChon;
   if (stores_.FileChiSo == file::TextPositions && number == GuideText) return;
   openVoice();
   text_.DocBai(number);
   text_.DocDich(number);
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   form_.Refresh();
   controls_.RDOS.FontSize(form_.Font().size);
   controls_.RDOS.FontName("x1");
@@ -173,14 +177,14 @@ void NGHE_VIET::QuaCauViet(int d) {
   CauViet_ = std::max(CauViet_, 2);
   takeSentence();
   LocCau();
-  state_.word.NghiaHienTai = state_.word.ThongBaoHD;
+  state_.atHand.takeMessageAsEntry();
   HienDich();
-  services_.speech.DocTu();
+  services_.speech.DocTu(utteranceAtHand(state_));
 }
 
 void NGHE_VIET::takeSentence() {
   const CurrentText& text = state_.text;
-  state_.word.ThongBaoHD = text_.translationOf(CauViet_);
+  state_.atHand.showInstead(text_.translationOf(CauViet_));
   state_.text.CauChon = CauViet_;
   int s = text_.markOf(CauViet_);
   int n = text_.markOf(CauViet_ + 1) - s - 1;
@@ -190,13 +194,13 @@ void NGHE_VIET::takeSentence() {
   }
   if (characterAt(text.CauHoi, s + n) == '\r') --n;
   // The piece begins with the mark and ends ahead of the sentence's last character, its point.
-  state_.word.TuHienTai = piece(text.CauHoi, s, n);
+  state_.atHand.take(piece(text.CauHoi, s, n));
 }
 
 void NGHE_VIET::LocCau() {
   CauMau_ = WordPick::lettersOf(state_.word.TuHienTai);
-  state_.word.TuHienTai = CauMau_;
-  state_.word.CoDupChuot = false;
+  state_.atHand.take(CauMau_);
+  state_.atHand.askForWord();
 }
 
 void NGHE_VIET::HienDich() {
@@ -214,8 +218,8 @@ void NGHE_VIET::HienDich() {
 
 void NGHE_VIET::speakAgain() {
   services_.speech.DungDoc();
-  state_.word.TuHienTai = CauMau_;
-  services_.speech.DocTu();
+  state_.atHand.take(CauMau_);
+  services_.speech.DocTu(utteranceAtHand(state_));
 }
 
 // -- Typing.
@@ -316,19 +320,17 @@ void NGHE_VIET::moveMouse(SurfacePoint at) {
 
 void NGHE_VIET::releaseMouse(MouseButton button, SurfacePoint at) {
   Surface& Rviet = controls_.Rviet;
-  CurrentWord& word = state_.word;
   if (Rviet.SelStart() == 0) Rviet.SelStart(1);
   const int caret = Rviet.SelStart();
   if (button == MouseButton::Left && caret < CaretViet_) {
-    word.ViTriChuot = at;
-    word.ViTriCaret = caret;
-    word.NghiaHienTai.clear();
+    state_.atHand.clickedAt(at, caret);
+    state_.atHand.dropEntry();
     words_.lookUpShownWord(Rviet);
-    word.TuHienTai = CauMau_;
-    word.ThongBaoHD = "XX";
+    state_.atHand.take(CauMau_);
+    state_.atHand.showInstead(SentenceBehindWord);
   } else {
     shell_.hints.AnRDOS(Rviet);
-    word.CoDupChuot = false;
+    state_.atHand.askForWord();
   }
 }
 

@@ -18,11 +18,11 @@ namespace {
 constexpr std::string_view DesignCaption = "TALVORA 2.4";
 constexpr int NotStoringMs = 4000;
 
-SharedState startingIn(Folders folders) {
-  SharedState state;
-  state.places.ThuMuc = std::move(folders.pack);
-  if (folders.learner != state.places.ThuMuc) state.places.learner = std::move(folders.learner);
-  return state;
+Places startingIn(Folders folders) {
+  Places places;
+  places.ThuMuc = std::move(folders.pack);
+  if (folders.learner != places.ThuMuc) places.learner = std::move(folders.learner);
+  return places;
 }
 
 } // namespace
@@ -34,7 +34,7 @@ E::E(Platform& platform, Folders folders)
       own_(state_.places.learnerFolder(), stores_, platform.files, platform.calendar),
       shell_(platform, form_, controls_, state_), input_(form_),
       voice_(state_.places, platform.wave, shell_.messages, platform.files),
-      speech_(state_, platform, shell_.steering, voice_),
+      speech_(platform, shell_.steering, voice_),
       dictionary_(form_, controls_, state_, stores_, shell_, speech_),
       vietnameseSide_(controls_, state_, stores_, shell_, speech_, dictionary_.lookUp()),
       sections_(platform, form_, controls_, state_, stores_, shell_,
@@ -85,7 +85,7 @@ void E::registerProcedures() {
 
 void E::registerSearches() {
   procedures_.addOfNumber("CauTaiViTri",
-                          [this](int v) { return VariableValue(sections_.text().sentenceOf(v)); });
+                          [this](int v) { return VariableValue(sections_.text().CauTaiViTri(v)); });
   procedures_.addOfNumber("KhoangChuCai", [this](int code) {
     const LetterRange range = dictionary_.lookUp().KhoangChuCai(code);
     return VariableValue(
@@ -177,7 +177,7 @@ void E::wireMenu() {
     button.MouseMove = [this, &button] { shell_.hover.NutSang(button); };
     button.Click = [this, number] { sections_.open(number); };
     button.KeyPress = [this, number](int& KeyAscii) {
-      if (number <= 3) state_.word.DaChonRTD = false;
+      if (number <= 3) state_.atHand.endPick();
       if (KeyAscii == key::Esc) HoiThoat();
     };
   }

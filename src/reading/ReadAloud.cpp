@@ -19,7 +19,7 @@ void ReadAloud::DocCa() {
   speech_.LuiCau = false;
   Progress progress;
   progress.caret = R2_.SelStart();
-  progress.sentence = sentences_.sentenceAt(SentencePick::askedCaret(R2_));
+  progress.sentence = sentences_.takeTranslationAt(SentencePick::askedCaret(R2_));
   progress.pageEnd = pageEndFrom(progress.sentence);
   while (progress.quit == 0) {
     if (silent()) {
@@ -36,7 +36,7 @@ void ReadAloud::DocCa() {
     }
   }
   R2_.SelLength(0);
-  state_.word.ViTriCaret = R2_.SelStart();
+  state_.atHand.keepCaret(R2_.SelStart());
   if (progress.sentence >= lastSentence()) DangDocCa = false;
 }
 
@@ -59,11 +59,11 @@ void ReadAloud::readOne(Progress& progress) {
   if (s >= progress.pageEnd) scrollOn(progress);
   progress.caret = target;
   if (!again) {
-    state_.word.ViTriCaret = target;
+    state_.atHand.keepCaret(target);
     sentences_.ChonCau(R2_, target);
   }
   rest(20, progress);
-  if (progress.quit == 0) speech_.ChoDoc(s, progress.quit);
+  if (progress.quit == 0) speech_.ChoDoc(state_.word.TuHienTai, s, progress.quit);
 }
 
 void ReadAloud::rest(int ms, Progress& progress) {
@@ -77,7 +77,7 @@ void ReadAloud::scrollOn(Progress& progress) {
   R2_.SelStart(0);
   R2_.SelStart(R2_.TextLength() - 3);
   R2_.SelStart(progress.caret);
-  state_.word.TuHienTai = sentence;
+  state_.atHand.take(sentence);
   progress.pageEnd = pageEndFrom(progress.sentence);
 }
 

@@ -27,8 +27,7 @@ constexpr int GreyedTo = 47;
 Reading::Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
                  PageServices services, Clock& clock, LearnerData& own)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
-      own_(own), text_(stores, state.text, state.word),
-      page_(controls, state, shell, services, text_, clock),
+      own_(own), text_(stores, state.text), page_(controls, state, shell, services, text_, clock),
       vocabulary_(controls, state, stores, shell, services, text_, own.words) {
   wireEvents();
 }
@@ -164,9 +163,9 @@ void Reading::keep() {
 
 void Reading::GoiR2() {
   shell_.hints.AnRDOS(controls_.R1);
-  state_.word.ViTriCaretR1 = controls_.R1.SelStart();
-  state_.word.NghiaHienTai.clear();
-  state_.word.ViTriCaret = 0;
+  state_.atHand.keepListCaret(controls_.R1.SelStart());
+  state_.atHand.dropEntry();
+  state_.atHand.keepCaret(0);
   const int number = state_.list.SoBaiChon;
   const bool analysed = state_.places.MucMenu == section::Analysis;
   if (analysed && number < FirstAnalysedText) return;
@@ -177,7 +176,7 @@ void Reading::GoiR2() {
   if (analysed) page_.loadExplanations(number - FirstAnalysedText + 1);
   text_.DocDich(number);
   shell_.transitions.MoRan(controls_.R2, controls_.Frame2);
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   controls_.RDOS.FontSize(controls_.R2.Font().size);
   controls_.RDOS.FontName("x1");
   shell_.curtain.KeoMan(controls_.R2);
@@ -197,9 +196,9 @@ void Reading::ExitR2() {
   services_.speech.DungDoc();
   if (services_.voice.AmThanhThuc) services_.voice.DongAm();
   page_.LaBaiHuongDan = false;
-  state_.word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
   shell_.upward.DongNghia();
-  state_.word.ViTriCaret = state_.word.ViTriCaretR1;
+  state_.atHand.backToList();
   shell_.transitions.DongRan(controls_.R2, controls_.Frame2);
   controls_.Frame3.Visible(false);
   controls_.R1.SelStart(state_.word.ViTriCaretR1);
@@ -287,7 +286,7 @@ void Reading::ChonDongR1(Surface& surface) {
   if (lineEnd != std::string::npos) {
     surface.SelLength(static_cast<int>(lineEnd) + 1 - lineStart);
   }
-  state_.word.ViTriCaretR1 = lineStart;
+  state_.atHand.keepListCaret(lineStart);
   for (int i = 1; i <= stores_.SoBai; ++i) {
     if (lineStart < state_.list.BangViTri[static_cast<std::size_t>(i)]) {
       state_.list.SoBaiChon = i;
@@ -319,14 +318,13 @@ void Reading::pressEsc() {
 
 void Reading::releaseMouse(MouseButton button) {
   if (button == MouseButton::Right) {
-    state_.word.ChoGiai = true;
+    state_.atHand.arm();
     shell_.steering.NhapTrai();
     return;
   }
-  state_.word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
   ChonDongR1(controls_.R1);
-  if (state_.word.ChoGiai) {
-    state_.word.ChoGiai = false;
+  if (state_.atHand.takeArmed()) {
     if (MoNgheViet && lineOpens()) MoNgheViet();
     return;
   }

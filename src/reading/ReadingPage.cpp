@@ -9,6 +9,13 @@
 
 namespace talvora {
 
+namespace {
+
+/// Stands for a sentence of the guide, of which only the translation is shown.
+constexpr std::string_view GuideSentence = "x";
+
+} // namespace
+
 ReadingPage::ReadingPage(Controls& controls, SharedState& state, Shell& shell,
                          PageServices services, ReadingText& text, Clock& clock)
     : controls_(controls), state_(state), shell_(shell), services_(services),
@@ -46,12 +53,12 @@ void ReadingPage::wireEvents() {
   R2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   R2.DblClick = [this] {
     shell_.upward.DongNghia();
-    state_.word.CoDupChuot = true;
+    state_.atHand.askForSentence();
   };
   // The release of Space goes to whoever has the keyboard by then.
   R2.LostFocus = [this] { clearStepFlags(); };
   R2.SelChange = [this, &R2] {
-    if (R2.SelLength() == 0) state_.word.TuHienTai.clear();
+    if (R2.SelLength() == 0) state_.atHand.drop();
   };
 }
 
@@ -64,8 +71,7 @@ void ReadingPage::loadExplanations(int n) {
 }
 
 void ReadingPage::clearStepFlags() {
-  state_.word.CoDupChuot = false;
-  state_.word.GiuSpace = false;
+  state_.atHand.releaseSpace();
 }
 
 void ReadingPage::showText() {
@@ -135,7 +141,7 @@ void ReadingPage::releaseKey(int keyCode, int shift) {
   } else if (shift != shift::Ctrl) {
     services_.vietnameseSide.DongTuD(R2);
     // Closing gives the caret back; where a key has just put it, there it stays.
-    if (R2.SelLength() == 0) state_.word.ViTriCaret = R2.SelStart();
+    if (R2.SelLength() == 0) state_.atHand.keepCaret(R2.SelStart());
     if (R2.Visible()) shell_.upward.DongNghia();
   }
   if (keyCode == key::F6 && GoiRxep) GoiRxep();
@@ -143,19 +149,16 @@ void ReadingPage::releaseKey(int keyCode, int shift) {
 }
 
 void ReadingPage::ChonCauSpace() {
-  CurrentWord& word = state_.word;
-  word.ViTriCaret = controls_.R2.SelStart();
-  ViTriGiuSpace_ = word.ViTriCaret;
-  word.GiuSpace = true;
-  word.CoDupChuot = true;
+  ViTriGiuSpace_ = controls_.R2.SelStart();
+  state_.atHand.keepCaret(ViTriGiuSpace_);
+  state_.atHand.holdSpace();
   sentences_.ChonCau(controls_.R2, SentencePick::askedCaret(controls_.R2));
   lookUp();
 }
 
 void ReadingPage::releaseSpace() {
   Surface& R2 = controls_.R2;
-  state_.word.GiuSpace = false;
-  state_.word.CoDupChuot = false;
+  state_.atHand.releaseSpace();
   shell_.upward.DongNghia();
   R2.SelLength(0);
   R2.SelStart(ViTriGiuSpace_);
@@ -176,13 +179,10 @@ void ReadingPage::moveMouse(SurfacePoint at) {
 }
 
 void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
-  CurrentWord& word = state_.word;
   if (auto* const shown = explanations()) shown->leave();
   if (button == MouseButton::Left) {
-    word.ViTriChuot = at;
-    word.ViTriCaret = controls_.R2.SelStart();
-    if (word.ChoGiai) {
-      word.ChoGiai = false;
+    state_.atHand.clickedAt(at, controls_.R2.SelStart());
+    if (state_.atHand.takeArmed()) {
       if (explanations_ != nullptr) explanations_->explain();
       return;
     }
@@ -190,7 +190,7 @@ void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
   } else if (state_.places.MucMenu == section::Analysis) {
     // A word's entry must not stay over the explanation.
     if (controls_.RHD.Visible()) shell_.upward.DongNghia();
-    word.ChoGiai = true;
+    state_.atHand.arm();
     shell_.steering.NhapTrai();
   } else if (!LaBaiHuongDan) {
     speakAgain();
@@ -198,14 +198,12 @@ void ReadingPage::releaseMouse(MouseButton button, SurfacePoint at) {
 }
 
 void ReadingPage::takeWordOrSentence() {
-  CurrentWord& word = state_.word;
-  if (word.CoDupChuot) {
-    sentences_.ChonCau(controls_.R2, word.ViTriCaret);
-    word.CoDupChuot = false;
+  if (state_.atHand.takeDoubleClick()) {
+    sentences_.ChonCau(controls_.R2, state_.word.ViTriCaret);
   } else {
-    word.ThongBaoHD.clear();
+    state_.atHand.dropMessage();
     // The translation of a sentence may still be there, when the pointer has not moved since.
-    word.NghiaHienTai.clear();
+    state_.atHand.dropEntry();
     shell_.wordPick.ChonTu(controls_.R2);
   }
   lookUp();
@@ -221,10 +219,10 @@ void ReadingPage::lookUp() {
 
 void ReadingPage::lookUpInGuide() {
   Surface& R2 = controls_.R2;
-  CurrentWord& word = state_.word;
+  const CurrentWord& word = state_.word;
   const int c = word.ViTriCaret;
   if (c > guidetext::SentencesFrom && c < guidetext::SentencesTo) {
-    word.TuHienTai = "x";
+    state_.atHand.take(GuideSentence);
     if (R2.SelLength() > 3) R2.SelLength(R2.SelLength() - 3);
     if (!word.ThongBaoHD.empty()) {
       services_.dictionary.TraTu();
@@ -241,10 +239,10 @@ void ReadingPage::lookUpInGuide() {
 }
 
 void ReadingPage::speakAgain() {
-  CurrentWord& word = state_.word;
+  const CurrentWord& word = state_.word;
   if (word.TuHienTai.empty()) return;
-  if (word.ThongBaoHD.empty()) word.TuHienTai = word.TuDaBam;
-  services_.speech.DocTu();
+  if (word.ThongBaoHD.empty()) state_.atHand.takeClickedForm();
+  services_.speech.DocTu(utteranceAtHand(state_));
 }
 
 void ReadingPage::declare(Variables& variables) const {

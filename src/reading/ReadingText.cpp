@@ -104,17 +104,11 @@ int ReadingText::markOf(int k) const noexcept {
   return text_.ViTriCauVan[static_cast<std::size_t>(k - 1)];
 }
 
-int ReadingText::sentenceOf(int v) const noexcept {
+int ReadingText::CauTaiViTri(int v) const noexcept {
   for (int k = 1; k <= text_.SoCauVanBan; ++k) {
     if (markOf(k) <= v && v < markOf(k + 1)) return k;
   }
   return 1;
-}
-
-int ReadingText::CauTaiViTri(int v) {
-  const int sentence = sentenceOf(v);
-  word_.ThongBaoHD = translationOf(sentence);
-  return sentence;
 }
 
 std::string_view ReadingText::translationOf(int k) const noexcept {

@@ -15,25 +15,22 @@ inline constexpr char SentenceMark = static_cast<char>(static_cast<unsigned char
 
 class ReadingText {
  public:
-  ReadingText(const Stores& stores, CurrentText& text, CurrentWord& word)
-      : stores_(stores), text_(text), word_(word) {}
+  ReadingText(const Stores& stores, CurrentText& text) : stores_(stores), text_(text) {}
 
   /// Reads text i, from 1, of the current store into `CauHoi` and finds its sentences.
   /// Throws FatalFailure when it has more marks than the tables hold.
   void DocBai(int i);
   /// Reads the translation of text i into `DichCau`.
   void DocDich(int i);
-  /// The number of the sentence that holds character v, from 1; 1 outside all. Nothing changes.
-  [[nodiscard]] int sentenceOf(int v) const noexcept;
-  /// The number of the sentence that holds character v, from 1; its translation goes into
-  /// `ThongBaoHD`. The title is sentence 1 and has no translation.
-  int CauTaiViTri(int v);
+  /// The number of the sentence that holds character v, from 1; 1 outside all. The title is
+  /// sentence 1.
+  [[nodiscard]] int CauTaiViTri(int v) const noexcept;
   /// Turns the marks "_" of `CauHoi` into character 160 and notes where they stand.
   /// Throws FatalFailure naming `where` when it has more marks than the table holds.
   void TachCau(const std::string& where);
   /// Position, from 1, of the mark that opens sentence k; 0 outside the table.
   [[nodiscard]] int markOf(int k) const noexcept;
-  /// The translation of sentence k; empty when there is none.
+  /// The translation of sentence k; empty when there is none, as for the title.
   [[nodiscard]] std::string_view translationOf(int k) const noexcept;
 
  private:
@@ -41,7 +38,6 @@ class ReadingText {
 
   const Stores& stores_;
   CurrentText& text_;
-  CurrentWord& word_;
 };
 
 } // namespace talvora

@@ -18,8 +18,14 @@ int SentencePick::askedCaret(const Surface& surface) {
   return opens ? caret + 1 : caret;
 }
 
-void SentencePick::ChonCau(Surface& surface, int caret) {
+int SentencePick::takeTranslationAt(int caret) {
   const int k = text_.CauTaiViTri(caret);
+  state_.atHand.showInstead(text_.translationOf(k));
+  return k;
+}
+
+void SentencePick::ChonCau(Surface& surface, int caret) {
+  const int k = takeTranslationAt(caret);
   state_.text.CauChon = k;
   int s = text_.markOf(k);
   int n = text_.markOf(k + 1) - s - 1;
@@ -32,7 +38,7 @@ void SentencePick::ChonCau(Surface& surface, int caret) {
   surface.SelStart(s);
   surface.SelLength(n);
   words_.LayTuChon(surface);
-  state_.word.NghiaHienTai = state_.word.ThongBaoHD;
+  state_.atHand.takeMessageAsEntry();
 }
 
 void SentencePick::seekPhaiR2(Surface& surface) {

@@ -20,7 +20,7 @@ class SentencePick {
   /// that sentence.
   [[nodiscard]] static int askedCaret(const Surface& surface);
   /// Number of the sentence at a caret, from 1; its translation goes into `ThongBaoHD`.
-  int sentenceAt(int caret) { return text_.CauTaiViTri(caret); }
+  int takeTranslationAt(int caret);
   /// Position, from 1, of the mark that opens sentence k.
   [[nodiscard]] int markOf(int k) const noexcept { return text_.markOf(k); }
   /// The caret goes to the end of the word at its right; at the text's end nothing moves.

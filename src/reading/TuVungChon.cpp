@@ -88,6 +88,7 @@ void TuVungChon::ThemTuVung() {
   DaDoiTuVung_ = true;
   // The sentence's translation becomes the message at hand; that is meant.
   const int k = text_.CauTaiViTri(state_.word.ViTriCaret + 1);
+  state_.atHand.showInstead(text_.translationOf(k));
   const std::int32_t place = state_.text.ViTriCauTrongFile.at(static_cast<std::size_t>(k - 1));
   const bool speaking = stores_.FileChiSo == file::SpeakingPositions;
   TuVung_.push_back(
@@ -108,18 +109,15 @@ void TuVungChon::open() {
     leaveList();
     return;
   }
-  CurrentWord& word = state_.word;
-  word.NghiaHienTai.clear();
-  word.ViTriCaret = 0;
-  word.CoDupChuot = false;
+  state_.atHand.enterPage();
   controls_.RHD.FontBold(false);
   Rchon.Text("");
   Rchon.FontSize(state_.measures.CoChu - 1);
   shell_.transitions.MoRan(Rchon, controls_.Frame1);
   HienTuVung();
-  word.TuHienTai.clear();
+  state_.atHand.drop();
   Rchon.SetFocus();
-  word.ViTriCaret = Rchon.SelStart();
+  state_.atHand.keepCaret(Rchon.SelStart());
   shell_.gestures.remindOnFirstOpening(state_.places.MucMenu, Rchon);
 }
 
@@ -140,13 +138,13 @@ void TuVungChon::HienTuVung() {
 }
 
 void TuVungChon::ExitRChon() {
-  state_.word.NghiaHienTai.clear();
+  state_.atHand.dropEntry();
   if (controls_.RHD.Visible()) shell_.upward.DongNghia();
   leaveList();
   shell_.transitions.DongRan(controls_.Rchon, controls_.Frame1);
   controls_.Frame2.Visible(false);
   controls_.Frame3.Visible(false);
-  state_.word.DaChonRTD = false;
+  state_.atHand.endPick();
   focusButton();
 }
 
@@ -166,7 +164,7 @@ void TuVungChon::ChonDongChon() {
   Surface& Rchon = controls_.Rchon;
   const int row = rowOf(Rchon.SelStart());
   if (row > SoTuVung()) {
-    state_.word.TuHienTai.clear();
+    state_.atHand.drop();
     TuVungDangXem_ = {};
     return;
   }
@@ -180,15 +178,15 @@ void TuVungChon::ChonDongChon() {
   if (lineEnd == std::string::npos) return;
   const int caret = static_cast<int>(lineEnd - word.size());
   Rchon.SelStart(caret);
-  state_.word.ViTriCaret = caret;
+  state_.atHand.keepCaret(caret);
   Rchon.SelLength(static_cast<int>(word.size()));
-  state_.word.TuHienTai = word;
+  state_.atHand.take(word);
 }
 
 void TuVungChon::TraTuVung() {
   shell_.upward.DongNghia();
-  state_.word.NghiaHienTai.clear();
-  state_.word.DaChonRTD = false;
+  state_.atHand.dropEntry();
+  state_.atHand.endPick();
   controls_.Rchon.SelStart(state_.word.ViTriCaret);
   ChonDongChon();
   services_.dictionary.TraTu();
@@ -196,7 +194,7 @@ void TuVungChon::TraTuVung() {
 }
 
 void TuVungChon::XemCau() {
-  state_.word.CoDupChuot = false;
+  state_.atHand.askForWord();
   ChonDongChon();
   DocCauTuVung();
   // Without a sentence nothing comes up, and the next popup is a word's again.
@@ -210,8 +208,8 @@ void TuVungChon::DocCauTuVung() {
   ChuoiCau_ = sentenceAt(stores_.fileOf(stream), std::abs(static_cast<std::int64_t>(place)));
   // A sentence that is in the pack no more is shown as it was.
   if (place == 0) ChuoiCau_ = words_.keptSentence(TuVungDangXem_);
-  state_.word.NghiaHienTai = ChuoiCau_;
-  state_.word.TuHienTai = ChuoiCau_;
+  state_.atHand.takeEntry(ChuoiCau_);
+  state_.atHand.take(ChuoiCau_);
 }
 
 void TuVungChon::VeCauTuVung(const std::string& text) {
@@ -260,16 +258,15 @@ void TuVungChon::removeRows(int first, int last) {
 
 void TuVungChon::wireEvents() {
   Surface& Rchon = controls_.Rchon;
-  CurrentWord& word = state_.word;
   services_.dictionary.popup().VeCauTuVung = [this](const std::string& text) { VeCauTuVung(text); };
   Rchon.MouseDown = [this](MouseButton, int, SurfacePoint) { shell_.upward.DongNghia(); };
   Rchon.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
   Rchon.MouseMove = [this, &Rchon](int, SurfacePoint at) {
     shell_.gestures.followPointer(Rchon, at);
   };
-  Rchon.DblClick = [this, &word] {
+  Rchon.DblClick = [this] {
     shell_.upward.DongNghia();
-    word.CoDupChuot = true;
+    state_.atHand.askForSentence();
   };
   Rchon.KeyDown = [this, &Rchon](int& KeyCode, int) { shell_.hints.showOnF2(KeyCode, Rchon); };
   Rchon.KeyPress = [this](int& KeyAscii) {
@@ -282,11 +279,11 @@ void TuVungChon::wireEvents() {
   };
   Rchon.KeyUp = [this, &Rchon](int&, int) {
     shell_.gestures.keyReleased();
-    state_.word.ViTriCaret = Rchon.SelStart();
+    state_.atHand.keepCaret(Rchon.SelStart());
     if (Rchon.Visible()) shell_.upward.DongNghia();
   };
-  Rchon.SelChange = [&Rchon, &word] {
-    if (Rchon.SelLength() == 0) word.TuHienTai.clear();
+  Rchon.SelChange = [this, &Rchon] {
+    if (Rchon.SelLength() == 0) state_.atHand.drop();
   };
 }
 
@@ -308,14 +305,13 @@ void TuVungChon::addToShell() {
 }
 
 void TuVungChon::releaseMouse(MouseButton button, SurfacePoint at) {
-  CurrentWord& word = state_.word;
-  word.ViTriChuot = at;
-  word.ViTriCaret = controls_.Rchon.SelStart();
+  const CurrentWord& word = state_.word;
+  state_.atHand.clickedAt(at, controls_.Rchon.SelStart());
   ChuoiCau_.clear();
   if (CoSoVaChu(controls_.Rchon.SelText())) {
     XoaTuVung();
   } else if (button == MouseButton::Right) {
-    if (!word.TuHienTai.empty()) services_.speech.DocTu();
+    if (!word.TuHienTai.empty()) services_.speech.DocTu(utteranceAtHand(state_));
   } else if (word.CoDupChuot) {
     XemCau();
   } else {

@@ -6,10 +6,10 @@
 namespace talvora {
 
 Gestures::Gestures(Controls& controls, const Pages& pages, const Measures& measures,
-                   CurrentWord& word, HintBar& hints, const UpwardCalls& upward,
+                   WordAtHand& atHand, HintBar& hints, const UpwardCalls& upward,
                    Clipboard& clipboard)
-    : pages_(pages), measures_(measures), word_(word), hints_(hints), upward_(upward),
-      clipboard_(clipboard) {
+    : pages_(pages), measures_(measures), atHand_(atHand), word_(atHand.record()), hints_(hints),
+      upward_(upward), clipboard_(clipboard) {
   onClose(CloseRank::HintBar, controls.RDOS, [this](Surface& asking) { hints_.AnRDOS(asking); });
   onClose(CloseRank::Popup, controls.RHD, [this](Surface&) { upward_.DongNghia(); });
 }
@@ -28,7 +28,7 @@ bool Gestures::isFar(SurfacePoint at) const {
 void Gestures::pointerMoved(Surface& surface, SurfacePoint at) {
   PointerState& state = stateOf(surface);
   if (state == PointerState::NotMovedOver) {
-    word_.ViTriChuot = at;
+    atHand_.pointAt(at);
     state = PointerState::PointStored;
   }
   if (state == PointerState::PointStored && isFar(at)) {
@@ -43,11 +43,11 @@ void Gestures::followPointer(Surface& surface, SurfacePoint at) {
 }
 
 void Gestures::RoiChuot(Surface& surface, SurfacePoint at) {
-  word_.NghiaHienTai.clear();
+  atHand_.dropEntry();
   if (!word_.NghiaD.empty() || word_.GiuSpace || word_.TuHienTai.empty() || !isFar(at)) return;
   surface.SelStart(word_.ViTriCaret);
   upward_.DongNghia();
-  word_.TuHienTai.clear();
+  atHand_.drop();
   hints_.AnRDOS(surface);
 }
 
@@ -66,7 +66,7 @@ void Gestures::onClose(CloseRank rank, const Surface& surface, std::function<voi
 
 void Gestures::keyReleased() {
   clipboard_.clear();
-  word_.NghiaHienTai.clear();
+  atHand_.dropEntry();
 }
 
 void Gestures::remindOnFirstOpening(int section, const Surface& surface) {

@@ -34,7 +34,7 @@ enum class CloseRank {
 
 class Gestures {
  public:
-  Gestures(Controls& controls, const Pages& pages, const Measures& measures, CurrentWord& word,
+  Gestures(Controls& controls, const Pages& pages, const Measures& measures, WordAtHand& atHand,
            HintBar& hints, const UpwardCalls& upward, Clipboard& clipboard);
 
   /// Stores where the pointer came in, and takes the hint bar away once it has left that place.
@@ -81,7 +81,8 @@ class Gestures {
 
   const Pages& pages_;
   const Measures& measures_;
-  CurrentWord& word_;
+  WordAtHand& atHand_;
+  const CurrentWord& word_;
   HintBar& hints_;
   const UpwardCalls& upward_;
   Clipboard& clipboard_;

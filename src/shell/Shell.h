@@ -29,8 +29,8 @@ struct Shell {
         curtain(form, controls, state.measures, steering, platform.clock, platform.narrator),
         messages(form, controls, pages, state.measures, upward, platform.clock, platform.boxes,
                  platform.narrator),
-        gestures(controls, pages, state.measures, state.word, hints, upward, platform.clipboard),
-        focusReturn(state.word), wordPick(state.word) {}
+        gestures(controls, pages, state.measures, state.atHand, hints, upward, platform.clipboard),
+        focusReturn(state.word), wordPick(state.atHand) {}
 
   /// Throws std::logic_error where the sections have left a surface or a rank to nobody.
   void check() const {

@@ -110,12 +110,12 @@ void WordPick::ChonTu(Surface& surface) {
 
 void WordPick::ChonTuBT(Surface& surface) {
   selectWord(surface, settledCaretBT(surface), BoundsBT);
-  word_.TuHienTai = lettersOf(surface.SelText());
+  atHand_.take(lettersOf(surface.SelText()));
 }
 
 void WordPick::takeShownWord(Surface& surface) {
   selectWord(surface, {surface.SelStart(), true}, BoundsBT);
-  word_.TuHienTai = lettersOf(surface.SelText());
+  atHand_.take(lettersOf(surface.SelText()));
 }
 
 std::string WordPick::lettersOf(std::string_view text) {
@@ -128,7 +128,7 @@ std::string WordPick::lettersOf(std::string_view text) {
 
 void WordPick::LayTuChon(const Surface& surface) {
   if (surface.SelLength() == 0) return;
-  word_.TuHienTai = lettersOf(surface.SelText());
+  atHand_.take(lettersOf(surface.SelText()));
 }
 
 void WordPick::LayCumTu(Surface& surface) {
@@ -140,7 +140,7 @@ void WordPick::LayCumTu(Surface& surface) {
   surface.SelStart(from);
   surface.SelLength(length);
   // Last, since a surface may clear the word at hand when its selection ends.
-  word_.TuHienTai = selected.substr(0, blank);
+  atHand_.take(selected.substr(0, blank));
 }
 
 } // namespace talvora

@@ -11,7 +11,7 @@ namespace talvora {
 
 class WordPick {
  public:
-  explicit WordPick(CurrentWord& word) : word_(word) {}
+  explicit WordPick(WordAtHand& atHand) : atHand_(atHand) {}
 
   /// Selects the word at the caret of a reading surface and takes it into `TuHienTai`.
   void ChonTu(Surface& surface);
@@ -29,7 +29,7 @@ class WordPick {
   void LayCumTu(Surface& surface);
 
  private:
-  CurrentWord& word_;
+  WordAtHand& atHand_;
 };
 
 } // namespace talvora

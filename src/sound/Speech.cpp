@@ -47,26 +47,26 @@ void Speech::applySettings() {
   engine_.Speed(wordsPerMinute());
 }
 
-// -- The word or sentence at hand.
+// -- A word or sentence.
+
+Utterance utteranceAtHand(const SharedState& state) {
+  return {state.word.TuHienTai, state.word.ThongBaoHD.empty() ? 0 : state.text.CauChon};
+}
 
 void Speech::DungDoc() {
   engine_.StopSpeaking();
   if (voice_.DangPhat() && voice_.AmThanhThuc) voice_.DungAm();
 }
 
-bool Speech::sentenceIsRecorded() const {
-  return !state_.word.ThongBaoHD.empty() && voice_.AmThanhThuc && state_.text.CauChon > 1;
-}
-
-void Speech::DocTu() {
+void Speech::DocTu(const Utterance& utterance) {
   DungDoc();
-  const std::string text = lower(state_.word.TuHienTai);
-  if (AmThanhBat < 1 || !Speakable.hasAll(state_.word.TuHienTai)) return;
-  if (sentenceIsRecorded()) {
+  if (AmThanhBat < 1 || !Speakable.hasAll(utterance.text)) return;
+  if (voice_.AmThanhThuc && utterance.sentence > 1) {
     // The title counts as sentence 1 and is not in the recording.
-    voice_.PhatCau(state_.text.CauChon - 1);
+    voice_.PhatCau(utterance.sentence - 1);
     return;
   }
+  const std::string text = lower(utterance.text);
   if (text.empty()) return;
   engine_.Speak(text);
   if (text.size() < SentenceLength) engine_.Speak(text);
@@ -74,9 +74,9 @@ void Speech::DocTu() {
 
 // -- Waiting for a sentence while a text is read aloud.
 
-void Speech::ChoDoc(int& position, int& quit) {
+void Speech::ChoDoc(const std::string& text, int& position, int& quit) {
   DungDoc();
-  startSentence(position);
+  startSentence(text, position);
   Wait wait = Wait::GoOn;
   while (wait == Wait::GoOn)
     wait = waitARound(position, quit);
@@ -84,13 +84,13 @@ void Speech::ChoDoc(int& position, int& quit) {
   endSentence();
 }
 
-void Speech::startSentence(int position) {
+void Speech::startSentence(const std::string& text, int position) {
   if (voice_.AmThanhThuc) {
     if (position > 1) voice_.PhatCau(position - 2);
     return;
   }
   if (engine_.IsSpeaking()) engine_.StopSpeaking();
-  engine_.Speak(lower(state_.word.TuHienTai));
+  engine_.Speak(lower(text));
 }
 
 bool Speech::sentenceIsOver() const {

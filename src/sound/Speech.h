@@ -9,15 +9,25 @@
 #include "surface/State.h"
 
 #include <cstdint>
+#include <string>
 
 namespace talvora {
+
+/// What is to be said.
+struct Utterance {
+  std::string text;
+  int sentence = 0; ///< number of the sentence whose recording says it; 0 where none does
+};
+
+/// The word or sentence at hand; a sentence is at hand when its translation is.
+[[nodiscard]] Utterance utteranceAtHand(const SharedState& state);
 
 class Speech {
  public:
   static constexpr int MaxVoices = 100;
 
-  Speech(SharedState& state, Platform& platform, Steering& steering, RecordedVoice& voice)
-      : state_(state), clock_(platform.clock), input_(platform.input), engine_(platform.speech),
+  Speech(Platform& platform, Steering& steering, RecordedVoice& voice)
+      : clock_(platform.clock), input_(platform.input), engine_(platform.speech),
         steering_(steering), voice_(voice) {}
 
   /// Counts the engine's voices into `SoGiong`; an engine without any counts as one.
@@ -33,13 +43,13 @@ class Speech {
   void stopEngine() { engine_.StopSpeaking(); }
   /// Ends all sound, spoken or recorded.
   void DungDoc();
-  /// Speaks `TuHienTai`, a short one twice; a sentence that is recorded is played. Silent with the
-  /// sound off, and for a text with a character that is not of an English sentence.
-  void DocTu();
-  /// Starts the current sentence and waits until it is over or an arrow key or Esc ends it.
-  /// `position` is the number of the sentence to go on with and moves with the arrows; `quit`
-  /// becomes 1 on Esc.
-  void ChoDoc(int& position, int& quit);
+  /// Speaks a text, a short one twice; a sentence that is recorded is played. Silent with the sound
+  /// off, and for a text with a character that is not of an English sentence.
+  void DocTu(const Utterance& utterance);
+  /// Starts a sentence, from its recording or as a text, and waits until it is over or an arrow key
+  /// or Esc ends it. `position` is the number of the sentence to go on with and moves with the
+  /// arrows; `quit` becomes 1 on Esc.
+  void ChoDoc(const std::string& text, int& position, int& quit);
 
   void declare(Variables& variables) const;
 
@@ -55,8 +65,7 @@ class Speech {
 
   /// Speed of the engine in words a minute: level 1 is 50, level 10 is 230.
   [[nodiscard]] int wordsPerMinute() const noexcept;
-  [[nodiscard]] bool sentenceIsRecorded() const;
-  void startSentence(int position);
+  void startSentence(const std::string& text, int position);
   [[nodiscard]] bool sentenceIsOver() const;
   /// One round of the waiting loop: two sleeps, and what the keys say between them.
   Wait waitARound(int& position, int& quit);
@@ -67,7 +76,6 @@ class Speech {
   bool isDown(int keyCode) { return input_.GetAsyncKeyState(keyCode); }
   void endSentence();
 
-  SharedState& state_;
   Clock& clock_;
   Input& input_;
   SpeechEngine& engine_;

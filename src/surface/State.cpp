@@ -4,10 +4,6 @@ namespace talvora {
 
 namespace {
 
-VariableValue pointValue(SurfacePoint point) {
-  return VariableValue::Table{point.x, point.y};
-}
-
 template <class Texts>
 Variables::Reader textTable(const Texts& texts) {
   return [&texts] { return VariableValue(VariableValue::Table(texts.begin(), texts.end())); };
@@ -46,22 +42,6 @@ void Measures::declare(Variables& variables) const {
   variables.add("KhoangDem", &KhoangDem);
   variables.add("TieuDeE", &TieuDeE);
   variables.add("MauNenHD", [this] { return VariableValue(static_cast<double>(MauNenHD)); });
-}
-
-void CurrentWord::declare(Variables& variables) const {
-  variables.add("TuHienTai", &TuHienTai);
-  variables.add("NghiaHienTai", &NghiaHienTai);
-  variables.add("ThongBaoHD", &ThongBaoHD);
-  variables.add("TuDaBam", &TuDaBam);
-  variables.add("NghiaD", &NghiaD);
-  variables.add("ViTriCaret", &ViTriCaret);
-  variables.add("ViTriCaretR1", &ViTriCaretR1);
-  variables.add("ViTriChuot", [this] { return pointValue(ViTriChuot); });
-  variables.add("ChoGiai", &ChoGiai);
-  variables.add("CoDupChuot", &CoDupChuot);
-  variables.add("GiuSpace", &GiuSpace);
-  variables.add("XoaTuKhiDong", &XoaTuKhiDong);
-  variables.add("DaChonRTD", &DaChonRTD);
 }
 
 void CurrentText::declare(Variables& variables) const {

@@ -6,10 +6,12 @@
 #include "platform/TextStyle.h"
 #include "surface/SurfacePoint.h"
 #include "surface/Variables.h"
+#include "surface/WordAtHand.h"
 
 #include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace talvora {
@@ -71,25 +73,6 @@ struct Measures {
   void declare(Variables& variables) const;
 };
 
-/// The word or sentence at hand, and the pointer's part in it.
-struct CurrentWord {
-  std::string TuHienTai;     ///< the word or sentence that speech says
-  std::string NghiaHienTai;  ///< its entry
-  std::string ThongBaoHD;    ///< translation or message that the popup shows instead of an entry
-  std::string TuDaBam;       ///< the word as it was clicked, before any reduction
-  std::string NghiaD;        ///< Vietnamese-side entry on show; "?" means that nothing was found
-  int ViTriCaret = 0;        ///< saved caret of the surface in use
-  int ViTriCaretR1 = 0;      ///< saved caret of the list behind it
-  SurfacePoint ViTriChuot;   ///< stored pointer, twips on its surface
-  bool ChoGiai = false;      ///< a right click is pending
-  bool CoDupChuot = false;   ///< a double click or Space asks for the sentence, not the word
-  bool GiuSpace = false;     ///< Space is held: the sentence stays however the pointer moves
-  bool XoaTuKhiDong = false; ///< the word is cleared when the popup closes
-  bool DaChonRTD = false;    ///< a pick from the look-up list is under way; the focus stays put
-
-  void declare(Variables& variables) const;
-};
-
 /// The text that a section has open.
 struct CurrentText {
   static constexpr std::size_t MaxSentences = limit::SentenceMarks;
@@ -127,9 +110,15 @@ struct CurrentList {
 
 /// One of each, as the program owns them.
 struct SharedState {
+  SharedState() = default;
+  explicit SharedState(Places start) : places(std::move(start)) {}
+  SharedState(const SharedState&) = delete;
+  SharedState& operator=(const SharedState&) = delete;
+
   Places places;
   Measures measures;
-  CurrentWord word;
+  WordAtHand atHand;
+  const CurrentWord& word = atHand.record();
   CurrentText text;
   CurrentList list;
 

@@ -69,7 +69,7 @@ void PTCau::ChonTuPT(Surface& surface) {
   item_.ViTriChuCu = mark.SelStart;
   surface.format(range, {.color = look::Blue});
   // What is explained is no word to look up.
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
 }
 
 void PTCau::declare(Variables& variables) const {

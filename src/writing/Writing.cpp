@@ -20,7 +20,7 @@ Writing::Writing(Form& form, Controls& controls, SharedState& state, const Store
                  Shell& shell, PageServices services, XepTu& ordering)
     : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
       services_(services), words_(controls, state, shell, services), ordering_(ordering),
-      text_(stores, state.text, state.word) {
+      text_(stores, state.text) {
   wireList();
   wireTask();
 }
@@ -73,7 +73,7 @@ void Writing::wireTask() {
   };
   RW2.MouseMove = [this, &RW2](int, SurfacePoint at) { shell_.gestures.followPointer(RW2, at); };
   RW2.MouseUp = [this](MouseButton button, int, SurfacePoint at) { releaseMouse(button, at); };
-  RW2.DblClick = [this] { state_.word.CoDupChuot = true; };
+  RW2.DblClick = [this] { state_.atHand.askForSentence(); };
   shell_.pages.add({.surface = RW2,
                     .textFont = true,
                     .font = FontStep::Larger,
@@ -142,14 +142,14 @@ void Writing::ExitRW1() {
 // -- The task.
 
 void Writing::MoViet() {
-  state_.word.ViTriCaretR1 = controls_.RW1.SelStart();
+  state_.atHand.keepListCaret(controls_.RW1.SelStart());
   ordering_.XepChay = true;
   openTask();
 }
 
 void Writing::openTask() {
-  state_.word.NghiaHienTai.clear();
-  state_.word.CoDupChuot = false;
+  state_.atHand.dropEntry();
+  state_.atHand.askForWord();
   controls_.RHD.FontBold(false);
   text_.DocBai(state_.list.SoBaiChon);
   text_.DocDich(state_.list.SoBaiChon);
@@ -161,7 +161,7 @@ void Writing::openTask() {
 }
 
 void Writing::ThoatViet2() {
-  state_.word.TuHienTai.clear();
+  state_.atHand.drop();
   services_.speech.DungDoc();
   shell_.transitions.DongRan(controls_.RW2, controls_.Frame3);
   controls_.RW1.SelStart(state_.word.ViTriCaretR1);

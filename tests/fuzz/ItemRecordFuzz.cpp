@@ -27,7 +27,7 @@ struct Desk {
       : form(machine.screen, machine.metrics), controls(form, machine.layout), stores(state.places),
         shell(machine.platform, form, controls, state),
         voice(state.places, machine.wave, shell.messages),
-        speech(state, machine.platform, shell.steering, voice),
+        speech(machine.platform, shell.steering, voice),
         dictionary(form, controls, state, stores, shell, speech),
         vietnameseSide(controls, state, stores, shell, speech, dictionary.lookUp()),
         lessons(controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice}),
@@ -59,7 +59,11 @@ struct Desk {
 };
 
 void click(Desk& desk, Surface& surface, int caret, MouseButton button) {
-  desk.state.word.ChoGiai = button == MouseButton::Right;
+  if (button == MouseButton::Right) {
+    desk.state.atHand.arm();
+  } else {
+    desk.state.atHand.disarm();
+  }
   if (surface.MouseDown) surface.MouseDown(MouseButton::Left, shift::None, {});
   surface.SelStart(caret);
   surface.MouseUp(MouseButton::Left, shift::None, {});

@@ -41,10 +41,9 @@ class Folder {
 };
 
 void search(const WordList& words, std::string_view key) {
-  CurrentWord word;
   const Places places;
   const Stores stores(places);
-  LookUp lookUp(words, stores, word);
+  LookUp lookUp(words, stores);
   lookUp.TimTu(key, LayNghia::Yes);
   if (lookUp.ViTriGan < 0 || lookUp.ViTriGan > words.count()) std::abort();
   if (lookUp.TimThay && ChuanHoaTu(words.Chu(lookUp.ViTriGan)) != lower(key)) std::abort();

@@ -41,7 +41,7 @@ DictionaryRun::DictionaryRun(const std::vector<Word>& words)
     : form(machine.screen, machine.metrics), controls(form, machine.layout), stores(state.places),
       shell(machine.platform, form, controls, state),
       voice(state.places, machine.wave, shell.messages),
-      speech(state, machine.platform, shell.steering, voice),
+      speech(machine.platform, shell.steering, voice),
       dictionary(form, controls, state, stores, shell, speech) {
   addTextPages();
   folder.writeEmptyStores();
@@ -79,9 +79,9 @@ void DictionaryRun::addTextPages() {
 }
 
 void DictionaryRun::lookUp(const std::string& word) {
-  state.word.NghiaHienTai.clear();
-  state.word.ThongBaoHD.clear();
-  state.word.TuHienTai = word;
+  state.atHand.dropEntry();
+  state.atHand.dropMessage();
+  state.atHand.take(word);
   dictionary.TraTu();
 }
 

@@ -171,7 +171,7 @@ TEST_F(LookUpListTest, PicksTheLineOnEnter) {
 }
 
 TEST_F(LookUpListTest, MovesThePointerToThePopupOfAPick) {
-  run.state.word.ViTriChuot = {1500, 1500};
+  run.state.atHand.pointAt({1500, 1500});
   open('c');
   run.type("at");
   run.key(key::Enter, key::Enter);
@@ -208,7 +208,7 @@ TEST_F(LookUpListTest, PicksTheLineOnADoubleClick) {
 
 TEST_F(LookUpListTest, ClearsTheTypedWordOnEscAndClosesOnTheNext) {
   open('c');
-  run.state.word.DaChonRTD = true;
+  run.state.atHand.beginPick();
   run.key(key::Esc, key::Esc);
   EXPECT_EQ(typed(), "");
   EXPECT_FALSE(run.state.word.DaChonRTD);

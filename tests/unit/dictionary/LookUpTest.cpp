@@ -98,14 +98,14 @@ TEST_F(LookUpTest, ShowsNothingForAVietnameseSyllable) {
 }
 
 TEST_F(LookUpTest, ShowsTheEntryThatIsAlreadyThereWithoutASearch) {
-  run.state.word.TuHienTai = "able";
-  run.state.word.NghiaHienTai = "given";
+  run.state.atHand.take("able");
+  run.state.atHand.takeEntry("given");
   run.dictionary.TraTu();
   EXPECT_EQ(run.shown(), "given");
 }
 
 TEST_F(LookUpTest, SkipsEverythingWithoutAWordAndAnEntry) {
-  run.state.word.ChoGiai = true;
+  run.state.atHand.arm();
   run.lookUp("");
   EXPECT_FALSE(run.controls.RHD.Visible());
   EXPECT_TRUE(run.state.word.ChoGiai);
@@ -114,39 +114,35 @@ TEST_F(LookUpTest, SkipsEverythingWithoutAWordAndAnEntry) {
 }
 
 TEST_F(LookUpTest, ClearsAMessageWhenItSearches) {
-  run.state.word.TuHienTai = "able";
-  run.state.word.ThongBaoHD = "a translation";
+  run.state.atHand.take("able");
+  run.state.atHand.showInstead("a translation");
   run.dictionary.TraTu();
   EXPECT_TRUE(run.state.word.ThongBaoHD.empty());
 }
 
 TEST_F(LookUpTest, FindsAHyphenatedLineByItsNormalForm) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
-  lookUp.TimTu("well known", LayNghia::Yes);
+  LookUp lookUp(run.dictionary.words(), run.stores);
+  EXPECT_EQ(lookUp.TimTu("well known", LayNghia::Yes)->entry, "_famous\r");
   EXPECT_TRUE(lookUp.TimThay);
-  EXPECT_EQ(run.state.word.NghiaHienTai, "_famous\r");
   // A key does not go through the normal form.
-  lookUp.TimTu("well-known", LayNghia::Yes);
+  EXPECT_EQ(lookUp.TimTu("well-known", LayNghia::Yes)->entry, "");
   EXPECT_FALSE(lookUp.TimThay);
-  EXPECT_TRUE(run.state.word.NghiaHienTai.empty());
 }
 
-TEST_F(LookUpTest, ClearsTheWordForAnEmptyKey) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
+TEST_F(LookUpTest, GivesNothingForAnEmptyKey) {
+  LookUp lookUp(run.dictionary.words(), run.stores);
   lookUp.ViTriGan = 7;
-  run.state.word.TuHienTai = "word";
-  run.state.word.NghiaHienTai = "entry";
-  lookUp.TimTu("", LayNghia::Yes);
-  EXPECT_TRUE(run.state.word.TuHienTai.empty());
-  EXPECT_TRUE(run.state.word.NghiaHienTai.empty());
+  lookUp.TimThay = true;
+  EXPECT_FALSE(lookUp.TimTu("", LayNghia::Yes));
+  EXPECT_FALSE(lookUp.TimThay);
   EXPECT_EQ(lookUp.ViTriGan, 7);
 }
 
 TEST_F(LookUpTest, AskingChangesNothing) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
+  LookUp lookUp(run.dictionary.words(), run.stores);
   lookUp.ViTriGan = 7;
-  run.state.word.TuHienTai = "word";
-  run.state.word.NghiaHienTai = "entry";
+  run.state.atHand.take("word");
+  run.state.atHand.takeEntry("entry");
   const auto answer = lookUp.ask("Well Known", LayNghia::Yes);
   ASSERT_TRUE(answer);
   EXPECT_TRUE(answer->TimThay);
@@ -163,10 +159,9 @@ TEST_F(LookUpTest, AskingChangesNothing) {
 }
 
 TEST_F(LookUpTest, LeavesTheEntryWhereItIsWhenItIsNotWanted) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
-  lookUp.TimTu("able", LayNghia::No);
+  LookUp lookUp(run.dictionary.words(), run.stores);
+  EXPECT_EQ(lookUp.TimTu("able", LayNghia::No)->entry, "");
   EXPECT_TRUE(lookUp.TimThay);
-  EXPECT_TRUE(run.state.word.NghiaHienTai.empty());
 }
 
 TEST_F(LookUpTest, MapsLettersToTheirSections) {
@@ -190,7 +185,7 @@ TEST_F(LookUpTest, MapsLettersToTheirSections) {
 }
 
 TEST_F(LookUpTest, SearchesTheWholeListForAKeyThatStartsWithADigit) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
+  LookUp lookUp(run.dictionary.words(), run.stores);
   lookUp.TimTu("1st", LayNghia::Yes);
   EXPECT_EQ(lookUp.TimDau, 1);
   EXPECT_EQ(lookUp.TimCuoi, run.dictionary.words().count());
@@ -199,13 +194,13 @@ TEST_F(LookUpTest, SearchesTheWholeListForAKeyThatStartsWithADigit) {
 }
 
 TEST_F(LookUpTest, SettlesOnTheHigherOfTwoNeighbours) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
+  LookUp lookUp(run.dictionary.words(), run.stores);
   lookUp.TimTu("abode", LayNghia::No);
   EXPECT_EQ(run.dictionary.words().Chu(lookUp.ViTriGan), "about");
 }
 
 TEST_F(LookUpTest, SearchesASectionOfOneLine) {
-  LookUp lookUp(run.dictionary.words(), run.stores, run.state.word);
+  LookUp lookUp(run.dictionary.words(), run.stores);
   lookUp.TimTu("q", LayNghia::Yes);
   EXPECT_EQ(lookUp.TimDau, lookUp.TimCuoi);
   EXPECT_TRUE(lookUp.TimThay);
@@ -248,13 +243,13 @@ TEST(LookUpSearch, FindsWhatANaiveSearchFinds) {
     const std::vector<Word> words = randomWords(random, 120);
     DictionaryRun run(words);
     const WordList& list = run.dictionary.words();
-    LookUp lookUp(list, run.stores, run.state.word);
+    LookUp lookUp(list, run.stores);
     for (int probe = 0; probe < 300; ++probe) {
       std::string key(1 + random() % 5, 'a');
       for (char& character : key)
         character = "abcxyz' "[random() % 8];
       if (probe % 2 == 0) key = ChuanHoaTu(words[random() % words.size()].line);
-      lookUp.TimTu(key, LayNghia::Yes);
+      const std::string entry = lookUp.TimTu(key, LayNghia::Yes).value().entry;
       int first = 0;
       int next = 0;
       for (int i = lookUp.TimDau; i <= lookUp.TimCuoi; ++i) {
@@ -265,7 +260,7 @@ TEST(LookUpSearch, FindsWhatANaiveSearchFinds) {
       ASSERT_EQ(lookUp.TimThay, first != 0) << key;
       if (first != 0) {
         EXPECT_EQ(ChuanHoaTu(list.Chu(lookUp.ViTriGan)), key);
-        EXPECT_EQ(run.state.word.NghiaHienTai, lookUp.entryAt(list.ViTriNghia(lookUp.ViTriGan)));
+        EXPECT_EQ(entry, lookUp.entryAt(list.ViTriNghia(lookUp.ViTriGan)));
       } else {
         // Ahead of a whole section the search settles on the higher of the first two lines.
         const int settled =
@@ -289,10 +284,9 @@ TEST(LookUpSearch, EndsOnListsThatAreNotSortedOrHaveNoLetters) {
     folder.write("data.mtd", "");
     WordList words;
     words.NapTuDien(folder.path(), [] {});
-    CurrentWord word;
     const Places places;
     const Stores stores(places);
-    LookUp lookUp(words, stores, word);
+    LookUp lookUp(words, stores);
     for (const char* key : {"a", "b", "mm", "z", "zz", "0"}) {
       lookUp.TimTu(key, LayNghia::Yes);
       EXPECT_LE(lookUp.ViTriGan, words.count());

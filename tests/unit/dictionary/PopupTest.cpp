@@ -13,7 +13,7 @@ using test::DictionaryRun;
 class PopupTest : public testing::Test {
  protected:
   void showAt(SurfacePoint pointer, const std::string& word = "cat") {
-    run.state.word.ViTriChuot = pointer;
+    run.state.atHand.pointAt(pointer);
     run.lookUp(word);
   }
   [[nodiscard]] int heightOf(int lines) {
@@ -71,8 +71,9 @@ TEST_F(PopupTest, StaysOnTheFormWithItsPlate) {
 
 TEST_F(PopupTest, ALongTranslationStaysOnTheForm) {
   // The text is parked at the right, so that there is room for all of the message in one line.
-  run.state.word.ViTriChuot = {m.RongBai / 2 - 1, 100};
-  run.state.word.NghiaHienTai = run.state.word.ThongBaoHD = std::string(45, 'w');
+  run.state.atHand.pointAt({m.RongBai / 2 - 1, 100});
+  run.state.atHand.showInstead(std::string(45, 'w'));
+  run.state.atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   const Surface& plate = run.controls.Rnen;
   ASSERT_TRUE(RHD.Visible());
@@ -81,8 +82,9 @@ TEST_F(PopupTest, ALongTranslationStaysOnTheForm) {
 }
 
 TEST_F(PopupTest, WhatIsWiderThanTheFormKeepsItsBeginning) {
-  run.state.word.ViTriChuot = {100, 100};
-  run.state.word.NghiaHienTai = run.state.word.ThongBaoHD = std::string(500, 'w');
+  run.state.atHand.pointAt({100, 100});
+  run.state.atHand.showInstead(std::string(500, 'w'));
+  run.state.atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   EXPECT_GE(run.controls.Rnen.Left(), 0);
 }
@@ -133,10 +135,11 @@ TEST_F(PopupTest, SpeaksTheWordThatWasFound) {
 }
 
 TEST_F(PopupTest, ShowsAMessageInItsOwnColoursAndWidth) {
-  CurrentWord& word = run.state.word;
-  word.ViTriChuot = {100, 100};
-  word.TuHienTai = "the cat sat.";
-  word.NghiaHienTai = word.ThongBaoHD = "one two three";
+  WordAtHand& atHand = run.state.atHand;
+  atHand.pointAt({100, 100});
+  atHand.take("the cat sat.");
+  atHand.showInstead("one two three");
+  atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   EXPECT_EQ(RHD.Text(), "one two three");
   EXPECT_EQ(RHD.BackColor(), 0x750000U);
@@ -146,10 +149,11 @@ TEST_F(PopupTest, ShowsAMessageInItsOwnColoursAndWidth) {
 }
 
 TEST_F(PopupTest, TakesTheWidthOfTheFirstLineOfAMessage) {
-  CurrentWord& word = run.state.word;
-  word.ViTriChuot = {100, 100};
-  word.TuHienTai = "x";
-  word.NghiaHienTai = word.ThongBaoHD = "one two";
+  WordAtHand& atHand = run.state.atHand;
+  atHand.pointAt({100, 100});
+  atHand.take("x");
+  atHand.showInstead("one two");
+  atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   EXPECT_EQ(RHD.Width(), run.form.TextWidth("one two") + run.form.TextWidth("  "));
   const int lines = RHD.GetLineFromChar(RHD.TextLength() - 1) + 1;
@@ -158,16 +162,18 @@ TEST_F(PopupTest, TakesTheWidthOfTheFirstLineOfAMessage) {
 
 TEST_F(PopupTest, IsPlainOnASmallerScreen) {
   run.state.measures.CoNut = 10;
-  CurrentWord& word = run.state.word;
-  word.NghiaHienTai = word.ThongBaoHD = "one";
+  WordAtHand& atHand = run.state.atHand;
+  atHand.showInstead("one");
+  atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   EXPECT_FALSE(styleAt(0).font.bold);
 }
 
 TEST_F(PopupTest, ClosesWithItsPlateItsBackColourAndTheFocus) {
-  CurrentWord& word = run.state.word;
-  word.ViTriCaret = 4;
-  word.NghiaHienTai = word.ThongBaoHD = "one";
+  WordAtHand& atHand = run.state.atHand;
+  atHand.keepCaret(4);
+  atHand.showInstead("one");
+  atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   RHD.SetFocus();
   run.shell.upward.DongNghia();
@@ -183,7 +189,7 @@ TEST_F(PopupTest, ClearsTheWordOnceWhenThatWasAsked) {
   run.lookUp("cat");
   run.shell.upward.DongNghia();
   EXPECT_EQ(run.state.word.TuHienTai, "cat");
-  run.state.word.XoaTuKhiDong = true;
+  run.state.atHand.dropWithPopup();
   run.shell.upward.DongNghia();
   EXPECT_EQ(run.state.word.TuHienTai, "");
   EXPECT_FALSE(run.state.word.XoaTuKhiDong);
@@ -235,15 +241,16 @@ TEST_F(PopupTest, ClosesWithThePressAndComesBackWithTheReleaseBesideThePointer) 
 }
 
 TEST_F(PopupTest, LosesTheColoursOfAMessageWhenAWordOfItIsLookedUp) {
-  CurrentWord& word = run.state.word;
-  word.NghiaHienTai = word.ThongBaoHD = "a cat sat";
+  WordAtHand& atHand = run.state.atHand;
+  atHand.showInstead("a cat sat");
+  atHand.takeMessageAsEntry();
   run.dictionary.TraTu();
   const SurfacePoint at = RHD.pointOf(3);
   RHD.pressMouse(MouseButton::Left, shift::None, at);
   RHD.releaseMouse(MouseButton::Left, shift::None, at);
   EXPECT_TRUE(run.shown().starts_with("cat n.")) << run.shown();
   EXPECT_EQ(RHD.BackColor(), m.MauNenHD);
-  EXPECT_EQ(word.ThongBaoHD, "");
+  EXPECT_EQ(run.state.word.ThongBaoHD, "");
 }
 
 TEST_F(PopupTest, StaysClosedBehindAClickOnNoWord) {
@@ -269,7 +276,7 @@ TEST_F(PopupTest, GivesTheKeyboardToAnExplanationThatItStandsOver) {
 TEST_F(PopupTest, LetsTheWordGoOnAnotherKeyInTheReadingSectionOnly) {
   for (const int section : {7, 1}) {
     run.state.places.MucMenu = section;
-    run.state.word.ViTriCaret = 5;
+    run.state.atHand.keepCaret(5);
     run.controls.R2.SelStart(4);
     run.controls.R2.SelLength(4);
     run.lookUp("cat");

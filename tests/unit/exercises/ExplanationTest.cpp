@@ -76,7 +76,7 @@ class Explanation : public testing::Test {
   }
 
   void explainAt(SurfacePoint pointer, const std::string& text) {
-    run.state.word.ViTriChuot = pointer;
+    run.state.atHand.pointAt(pointer);
     run.exercises.box.HienLoiGiai(text, RDT);
   }
   void openBox() { run.click(RDT, run.item.OTrong.at(1).Dau); }

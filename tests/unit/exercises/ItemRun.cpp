@@ -10,10 +10,10 @@ namespace {
 
 const FixedLayout FixedLines;
 
-SharedState stateIn(const TestFolder& folder) {
-  SharedState state;
-  state.places.ThuMuc = folder.path();
-  return state;
+Places placesIn(const TestFolder& folder) {
+  Places places;
+  places.ThuMuc = folder.path();
+  return places;
 }
 
 std::string record(int value) {
@@ -28,10 +28,10 @@ ItemRun::ItemRun(const ItemStores& contents, const ScriptedOptions& options)
 ItemRun::ItemRun(const ItemStores& contents, const ScriptedOptions& options,
                  const LineLayout& layout)
     : machine(options), screen(machine.screen), form(screen, machine.metrics),
-      controls(form, layout), state(stateIn(folder)), stores(state.places),
+      controls(form, layout), state(placesIn(folder)), stores(state.places),
       shell(machine.platform, form, controls, state),
       voice(state.places, machine.wave, shell.messages),
-      speech(state, machine.platform, shell.steering, voice),
+      speech(machine.platform, shell.steering, voice),
       dictionary(form, controls, state, stores, shell, speech),
       vietnameseSide(controls, state, stores, shell, speech, dictionary.lookUp()),
       lessons(controls, state, stores, shell, {dictionary, vietnameseSide, speech, voice}),

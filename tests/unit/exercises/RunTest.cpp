@@ -265,7 +265,7 @@ TEST_F(BankRun, EscAfterTwoRightTellsTheScore) {
 }
 
 TEST_F(BankRun, LeavingAnItemForgetsIt) {
-  run.state.word.ChoGiai = true;
+  run.state.atHand.arm();
   run.key(key::Esc);
   EXPECT_EQ(run.state.text.CauHoi, "");
   EXPECT_EQ(run.item.MatNa, "");

@@ -79,7 +79,7 @@ class Ordering : public testing::Test {
   void openText(const std::string& text, const std::string& translation) {
     run.writeTexts({{5, {text, translation}}});
     run.open();
-    ReadingText reading(run.stores, run.state().text, run.state().word);
+    ReadingText reading(run.stores, run.state().text);
     reading.DocBai(5);
     reading.DocDich(5);
     run.base.show(run.controls().R2);
@@ -242,7 +242,7 @@ TEST_F(Ordering, TheFirstBackShowsTheFollowingSentenceAndTheNextOnesTheSame) {
 
 TEST_F(Ordering, AWordThatWasLookedUpDoesNotStandInTheWayOfAMove) {
   openItem("_She sees seven red birds.", "_X.");
-  run.state().word.TuHienTai = "birds";
+  run.state().atHand.take("birds");
   pick("sees");
   EXPECT_TRUE(text("DongXep").starts_with("She sees "));
 }
@@ -256,7 +256,7 @@ TEST_F(Ordering, TheLinksStandWhereTheSharedTableSays) {
 TEST_F(Ordering, ADoubleClickIsDroppedByTheNextRightClick) {
   openItem("_She sees seven red birds.", "_X.");
   const std::string before = text("DongXep");
-  run.state().word.CoDupChuot = true;
+  run.state().atHand.askForSentence();
   run.rightClick(Rxep, caretOf("sees") + 1);
   EXPECT_EQ(text("DongXep"), before);
   EXPECT_FALSE(run.state().word.CoDupChuot);

@@ -156,7 +156,7 @@ TEST_F(LessonList, WhileALessonIsMarkedALeftClickMarksToo) {
 
 TEST_F(LessonList, ALookUpAmongMarkedLessonsLeavesThemMarked) {
   rightClick("Present");
-  run.state.word.ChoGiai = false; // as a word picked from the look-up list leaves it
+  run.state.atHand.disarm(); // as a word picked from the look-up list leaves it
   run.click(RVP1, ItemRun::caretOf(RVP1, "Future"));
   EXPECT_EQ(mark(5), 2);
   EXPECT_FALSE(RVP2.Visible());
@@ -345,7 +345,7 @@ TEST_F(LessonOpen, ANumberOutsideTheListOpensNothing) {
 }
 
 TEST_F(LessonOpen, ARightClickSpeaksTheWordThatWasClicked) {
-  run.state.word.TuHienTai = "word";
+  run.state.atHand.take("word");
   run.machine.log.take();
   const SurfacePoint at = RVP2.pointOf(3);
   RVP2.releaseMouse(MouseButton::Right, shift::None, at);

@@ -256,7 +256,7 @@ TEST_F(Dictation, AClickLooksUpTheWholeWordWhereverTheTextHasItsLineEnds) {
 TEST_F(Dictation, AClosingPopupGivesTheSentenceBack) {
   openThree();
   run.type("the");
-  run.state().word.TuHienTai = "cat";
+  run.state().atHand.take("cat");
   run.base.shell.focusReturn.TraLaiBeMat();
   EXPECT_EQ(run.state().word.TuHienTai, "The cat sat");
   EXPECT_EQ(run.state().word.ThongBaoHD, "x");

@@ -23,7 +23,7 @@ struct DrillRun {
   explicit DrillRun(const ScriptedOptions& options = {})
       : base(options), stores(base.state.places),
         voice(base.state.places, base.machine.wave, base.shell.messages),
-        speech(base.state, base.machine.platform, base.shell.steering, voice),
+        speech(base.machine.platform, base.shell.steering, voice),
         dictionary(base.form, base.controls, base.state, stores, base.shell, speech),
         vietnameseSide(base.controls, base.state, stores, base.shell, speech, dictionary.lookUp()),
         services{dictionary, vietnameseSide, speech, voice} {

@@ -40,7 +40,7 @@ class SentencePickTest : public testing::Test {
 
   ShellRun run;
   Stores stores{run.state.places};
-  ReadingText reading{stores, run.state.text, run.state.word};
+  ReadingText reading{stores, run.state.text};
   SentencePick sentences{reading, run.state, run.shell.wordPick};
   Surface& R2 = run.controls.R2;
 };
@@ -94,16 +94,16 @@ TEST_F(SentencePickTest, FallsBackToTheFirstSentenceOutsideAll) {
 
 TEST_F(SentencePickTest, AskingForASentencesNumberTakesNoMessage) {
   showText("_Title\r_\tOne.\r_", {"Mot."});
-  run.state.word.ThongBaoHD = "before";
-  EXPECT_EQ(reading.sentenceOf(14), 2);
-  EXPECT_EQ(run.state.word.ThongBaoHD, "before");
+  run.state.atHand.showInstead("before");
   EXPECT_EQ(reading.CauTaiViTri(14), 2);
+  EXPECT_EQ(run.state.word.ThongBaoHD, "before");
+  EXPECT_EQ(sentences.takeTranslationAt(14), 2);
   EXPECT_EQ(run.state.word.ThongBaoHD, "Mot.");
 }
 
 TEST_F(SentencePickTest, SelectsNothingOfAnEmptySentence) {
   showText("_T\r_\tOne. __Two.\r_", {"Mot.", "", "Hai."});
-  run.state.word.TuHienTai = "before";
+  run.state.atHand.take("before");
   EXPECT_EQ(sentenceAt(11), "");
   EXPECT_EQ(run.state.text.CauChon, 3);
   EXPECT_EQ(run.state.word.TuHienTai, "before");

@@ -26,9 +26,9 @@ class Gesture : public testing::Test {
 
   /// A word is at hand, with its popup, clicked at a point.
   void takeWord(SurfacePoint at) {
-    run.state.word.TuHienTai = "word";
-    run.state.word.ViTriChuot = at;
-    run.state.word.ViTriCaret = 7;
+    run.state.atHand.take("word");
+    run.state.atHand.pointAt(at);
+    run.state.atHand.keepCaret(7);
     run.controls.RHD.Visible(true);
   }
 
@@ -62,7 +62,7 @@ TEST_F(Gesture, APopupStaysWithinATwelfthOfTheScreenAndGoesBeyond) {
 
 TEST_F(Gesture, WhileSpaceIsHeldThePointerMayWander) {
   takeWord({5000, 4000});
-  run.state.word.GiuSpace = true;
+  run.state.atHand.holdSpace();
   run.shell.gestures.followPointer(run.controls.R2, {0, 0});
   EXPECT_EQ(run.state.word.TuHienTai, "word");
   EXPECT_EQ(popupsClosed, 0);
@@ -70,7 +70,7 @@ TEST_F(Gesture, WhileSpaceIsHeldThePointerMayWander) {
 
 TEST_F(Gesture, AVietnameseSideEntryKeepsTheWord) {
   takeWord({5000, 4000});
-  run.state.word.NghiaD = "entry";
+  run.state.atHand.takeSideEntry("entry");
   run.shell.gestures.followPointer(run.controls.R2, {0, 0});
   EXPECT_EQ(run.state.word.TuHienTai, "word");
 }
@@ -146,7 +146,7 @@ TEST_F(Gesture, EverySurfaceHasAPointerStateFromTheStart) {
 }
 
 TEST_F(Gesture, AKeyReleaseClearsTheClipboardAndTheEntry) {
-  run.state.word.NghiaHienTai = "entry";
+  run.state.atHand.takeEntry("entry");
   run.shell.gestures.keyReleased();
   EXPECT_EQ(run.machine.log.count("clipboard"), 1);
   EXPECT_EQ(run.state.word.NghiaHienTai, "");

@@ -20,7 +20,7 @@ class WordPickTest : public testing::Test {
   /// Picks the word at a caret of a text and gives the selection.
   std::string pick(const std::string& text, int caret) {
     showText(text);
-    run.state.word.TuHienTai = "before";
+    run.state.atHand.take("before");
     R2.SelStart(caret);
     pickBehindClick();
     return R2.SelText();
@@ -194,7 +194,7 @@ TEST_F(WordPickTest, KeepsOnlyTheCharactersOfWordsAndTrims) {
 }
 
 TEST_F(WordPickTest, LeavesTheWordWhereNothingIsSelected) {
-  run.state.word.TuHienTai = "before";
+  run.state.atHand.take("before");
   showText("one");
   run.shell.wordPick.LayTuChon(R2);
   EXPECT_EQ(word(), "before");

@@ -79,7 +79,7 @@ class SoundRun : public testing::Test {
   ShellRun run;
   Stores stores{run.state.places};
   RecordedVoice voice{run.state.places, run.machine.wave, run.shell.messages};
-  Speech speech{run.state, run.machine.platform, run.shell.steering, voice};
+  Speech speech{run.machine.platform, run.shell.steering, voice};
 };
 
 using Texts = std::vector<std::string>;

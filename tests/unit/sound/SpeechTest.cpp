@@ -15,8 +15,8 @@ class SpeechTest : public SoundRun {
   SpeechTest() { setSettings(1, 5); }
 
   void speakWord(std::string_view word) {
-    run.state.word.TuHienTai = word;
-    speech.DocTu();
+    run.state.atHand.take(word);
+    speech.DocTu(utteranceAtHand(run.state));
   }
 };
 
@@ -25,7 +25,7 @@ int countVoices(int voices) {
   options.voices = voices;
   test::ShellRun run(options);
   RecordedVoice voice(run.state.places, run.machine.wave, run.shell.messages);
-  Speech speech(run.state, run.machine.platform, run.shell.steering, voice);
+  Speech speech(run.machine.platform, run.shell.steering, voice);
   speech.DemGiong();
   return speech.SoGiong;
 }
@@ -115,7 +115,7 @@ TEST_F(SpeechTest, AnEmptyWordIsNotSpoken) {
 TEST_F(SpeechTest, WithTheSoundOffNothingIsSpokenOrPlayed) {
   openRecording({500, 900});
   setSettings(0, 5);
-  run.state.word.ThongBaoHD = "a translation";
+  run.state.atHand.showInstead("a translation");
   run.state.text.CauChon = 2;
   speakWord("word");
   EXPECT_EQ(spoken(), Texts{});
@@ -124,7 +124,7 @@ TEST_F(SpeechTest, WithTheSoundOffNothingIsSpokenOrPlayed) {
 
 TEST_F(SpeechTest, ARecordedSentenceIsPlayedInsteadOfSpoken) {
   openRecording({500, 900, 1700});
-  run.state.word.ThongBaoHD = "a translation";
+  run.state.atHand.showInstead("a translation");
   run.state.text.CauChon = 3;
   speakWord("A sentence of the text.");
   EXPECT_EQ(spoken(), Texts{});
@@ -133,13 +133,13 @@ TEST_F(SpeechTest, ARecordedSentenceIsPlayedInsteadOfSpoken) {
 
 TEST_F(SpeechTest, TheTitleAWordAndATextWithoutRecordingAreSpoken) {
   openRecording({500, 900, 1700});
-  run.state.word.ThongBaoHD = "a translation";
+  run.state.atHand.showInstead("a translation");
   run.state.text.CauChon = 1;
   speakWord("The title of the text");
-  run.state.word.ThongBaoHD = "";
+  run.state.atHand.showInstead("");
   run.state.text.CauChon = 2;
   speakWord("A word of the text alone");
-  run.state.word.ThongBaoHD = "a translation";
+  run.state.atHand.showInstead("a translation");
   voice.AmThanhThuc = false;
   speakWord("Nothing is recorded of this");
   EXPECT_EQ(spoken().size(), 3U);
@@ -164,9 +164,9 @@ class WaitTest : public SpeechTest {
  protected:
   /// Waits for a sentence of 10 characters, which takes 600 ms.
   void wait() {
-    run.state.word.TuHienTai = "A Sentence";
+    run.state.atHand.take("A Sentence");
     before = run.machine.time.nowMs();
-    speech.ChoDoc(position, quit);
+    speech.ChoDoc(run.state.word.TuHienTai, position, quit);
   }
   [[nodiscard]] std::int64_t waited() const { return run.machine.time.nowMs() - before; }
   void press(int keyCode, int after) { run.machine.input.hold(keyCode, after, 15); }

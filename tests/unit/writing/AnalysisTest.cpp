@@ -84,7 +84,7 @@ class AnalysedText : public testing::Test {
     run.folder.writeIntegers("dataPt.vt", {0});
     run.folder.writeStream("dataPt.v", record);
     run.open(5);
-    ReadingText text(run.stores, run.state().text, run.state().word);
+    ReadingText text(run.stores, run.state().text);
     text.DocBai(4);
     R2.Text(run.state().text.CauHoi);
     run.base.show(R2);
