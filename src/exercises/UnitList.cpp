@@ -142,7 +142,7 @@ void UnitList::ThoatNghe() {
   state_.atHand.disarm();
   state_.atHand.endPick();
   // The banks go back to the listening button too; that is meant.
-  focusButton(section::Listening);
+  controls_.but(section::Listening).SetFocus();
   if (listening_ != nullptr) listening_->close();
 }
 

@@ -54,9 +54,6 @@ class UnitList {
   /// The listening section shows its units here from now on.
   void share(ListeningSection& listening) { listening_ = &listening; }
 
-  /// Gives the focus to a menu button; set by the program.
-  std::function<void(int number)> focusButton = [](int) {};
-
  private:
   void wireEvents();
   void LietKeBai(int units);

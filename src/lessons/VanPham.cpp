@@ -113,7 +113,7 @@ void VanPham::ExitRVP1() {
   controls_.Frame3.Visible(false);
   shell_.transitions.DongRan(controls_.RVP1, controls_.Frame1);
   BaiTuChon = false;
-  focusButton(section::Lessons);
+  controls_.but(section::Lessons).SetFocus();
 }
 
 void VanPham::returnFocus() {

@@ -48,8 +48,6 @@ class VanPham {
 
   /// Starts a run of the items of the marked lessons; set by the program.
   std::function<void()> BatDauChon = [] {};
-  /// Gives the focus to a menu button; set by the program.
-  std::function<void(int number)> focusButton = [](int) {};
 
   bool BaiTuChon = false; ///< a run of items has its origin in this list and returns to it
 

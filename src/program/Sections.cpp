@@ -18,22 +18,11 @@ Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedSta
       dictation_(form, controls, state, stores, shell, services, platform.clock),
       writing_(form, controls, state, stores, shell, services, exercises_.ordering),
       analysis_(state, stores, shell, exercises_.item), guide_(controls, state, stores, shell) {
-  wireFocus();
   wireDrills();
   wireAnalysis();
 }
 
 // -- What the modules ask of each other.
-
-void Sections::wireFocus() {
-  const auto focusButton = [this](int number) { controls_.but(number).SetFocus(); };
-  soundSettings_.focusButton = focusButton;
-  reading_.focusButton = focusButton;
-  reading_.vocabulary().focusButton = [focusButton] { focusButton(section::Vocabulary); };
-  lessons_.focusButton = focusButton;
-  exercises_.units.focusButton = focusButton;
-  writing_.focusButton = focusButton;
-}
 
 void Sections::wireDrills() {
   reading_.page().GoiRxep = [this] { exercises_.ordering.openFromText(); };

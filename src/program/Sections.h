@@ -47,7 +47,6 @@ class Sections final : private TextExplanations {
   }
 
  private:
-  void wireFocus();
   void wireDrills();
   void wireAnalysis();
 

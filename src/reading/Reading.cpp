@@ -145,7 +145,10 @@ void Reading::ExitR1() {
   controls_.Frame2.Visible(false);
   controls_.Frame3.Visible(false);
   const int section = state_.places.MucMenu;
-  if (section == 1 || section == 5 || section == 6 || section == 7) focusButton(section);
+  if (section == section::Reading || section == section::Analysis || section == section::Writing ||
+      section == section::Speaking) {
+    controls_.but(section).SetFocus();
+  }
 }
 
 void Reading::storeCaret() {

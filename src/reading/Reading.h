@@ -44,8 +44,6 @@ class Reading {
 
   /// What a right click on a line does; set by the program.
   std::function<void()> MoNgheViet;
-  /// The button that gets the focus when the section is left; set by the program.
-  std::function<void(int number)> focusButton = [](int) {};
 
   bool DaNapDanhSach = false; ///< the section is entered and its list is built
   int ViTriDanhSachBai = 0;   ///< caret in the list, kept in data.Kcu

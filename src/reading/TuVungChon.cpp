@@ -1,6 +1,7 @@
 #include "reading/TuVungChon.h"
 
 #include "surface/Looks.h"
+#include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
@@ -145,7 +146,7 @@ void TuVungChon::ExitRChon() {
   controls_.Frame2.Visible(false);
   controls_.Frame3.Visible(false);
   state_.atHand.endPick();
-  focusButton();
+  controls_.but(section::Vocabulary).SetFocus();
 }
 
 void TuVungChon::leaveList() {

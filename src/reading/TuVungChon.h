@@ -50,8 +50,6 @@ class TuVungChon {
   std::function<void()> ensureListBuilt = [] {};
   /// Forgets that the list of texts was built; set by the program.
   std::function<void()> forgetList = [] {};
-  /// Gives the focus to the section's button; set by the program.
-  std::function<void()> focusButton = [] {};
 
  private:
   void wireEvents();

@@ -104,7 +104,7 @@ void Amthanhcaidat::keep() {
 void Amthanhcaidat::ExitRAmThanh() {
   store();
   shell_.transitions.DongRan(panel_, controls_.Frame1);
-  focusButton(section::Settings);
+  controls_.but(section::Settings).SetFocus();
 }
 
 // -- Finding a cell. Positions count from 1, carets from 0.

@@ -10,7 +10,6 @@
 #include "surface/State.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -35,9 +34,6 @@ class Amthanhcaidat {
   void keep();
 
   void declare(Variables& variables) const;
-
-  /// The menu button of that number gets the focus; set by the program.
-  std::function<void(int number)> focusButton = [](int) {};
 
   std::int16_t SoCell = 0;   ///< number of the last cell
   std::int32_t CellChon = 1; ///< the cell that the last click chose

@@ -136,7 +136,7 @@ void Writing::ExitRW1() {
   shell_.transitions.DongRan(controls_.RW1, controls_.Frame1);
   controls_.Frame2.Visible(false);
   controls_.Frame3.Visible(false);
-  focusButton(section::Writing);
+  controls_.but(section::Writing).SetFocus();
 }
 
 // -- The task.

@@ -12,8 +12,6 @@
 #include "surface/Form.h"
 #include "surface/State.h"
 
-#include <functional>
-
 namespace talvora {
 
 class Writing {
@@ -31,9 +29,6 @@ class Writing {
   void ThoatViet2();
   /// Leaves the list, or first the task that was opened from it.
   void ExitRW1();
-
-  /// The button that gets the focus when the section is left; set by the program.
-  std::function<void(int number)> focusButton = [](int) {};
 
  private:
   void wireList();

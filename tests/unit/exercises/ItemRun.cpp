@@ -55,12 +55,8 @@ ItemRun::ItemRun(const ItemStores& contents, const ScriptedOptions& options,
   state.declare(variables);
   lessons.declare(variables);
   exercises.declare(variables);
-  const auto focusButton = [this](int button) {
+  for (int button = 1; button <= Controls::ButtonCount; ++button)
     controls.but(button).Visible(true);
-    controls.but(button).SetFocus();
-  };
-  lessons.focusButton = focusButton;
-  exercises.units.focusButton = focusButton;
 }
 
 void ItemRun::writeStores(const ItemStores& contents) const {

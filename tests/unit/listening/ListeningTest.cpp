@@ -36,7 +36,7 @@ class Quiz : public testing::Test {
         listening(run.base.form, run.controls(), run.state(), run.stores, run.base.shell,
                   run.services, run.base.machine.random, units, scoring, shown),
         RN2(run.controls().RN2) {
-    units.focusButton = [this](int number) { focused = number; };
+    run.controls().but(4).Visible(true);
     run.folder.write("dataABCD.rtf", Template);
   }
 
@@ -97,7 +97,6 @@ class Quiz : public testing::Test {
   ItemState shown;
   Scoring scoring;
   UnitList units;
-  int focused = 0;
   Listening listening;
   Surface& RN2;
 };
@@ -393,7 +392,7 @@ TEST_F(Quiz, LeavingGivesTheFocusToButtonFourWhicheverSectionWasOpen) {
   open(ThreeUnits);
   run.state().places.MucMenu = 12;
   units.ThoatNghe();
-  EXPECT_EQ(focused, 4);
+  EXPECT_EQ(run.focus(), "but4");
   EXPECT_EQ(run.base.form.Caption(), run.state().measures.TieuDeE);
   EXPECT_FALSE(run.controls().RN1.Visible());
   EXPECT_EQ(run.controls().R1.Top(), run.state().measures.CaoMH);

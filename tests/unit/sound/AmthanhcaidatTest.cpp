@@ -24,7 +24,7 @@ class PanelTest : public SoundRun {
  protected:
   // With so many voices every level can be chosen.
   explicit PanelTest(int voiceCount = 20) : SoundRun(voices(voiceCount)) {
-    panel.focusButton = [this](int number) { focused = number; };
+    run.controls.but(8).Visible(true);
     setSettings(1, 5);
   }
 
@@ -64,7 +64,6 @@ class PanelTest : public SoundRun {
   [[nodiscard]] Colour onColour() { return colourAt(caretOf("BÏt"_bytes)); }
   [[nodiscard]] Colour offColour() { return colourAt(caretOf("TÁt"_bytes)); }
 
-  int focused = 0;
   Amthanhcaidat panel{run.controls, run.state, run.machine.platform, stores, run.shell, speech};
 };
 
@@ -318,7 +317,7 @@ TEST_F(PanelTest, EscStoresTheSettingsAndGoesBackToTheButton) {
   EXPECT_EQ(stores.readSetting(setting::SpeedLevel), 8);
   EXPECT_FALSE(surface().Visible());
   EXPECT_FALSE(run.controls.Frame1.Visible());
-  EXPECT_EQ(focused, 8);
+  EXPECT_TRUE(run.form.hasFocus(run.controls.but(8)));
 }
 
 TEST_F(PanelTest, AChangeThatIsNotLeftByEscIsNotStored) {
@@ -333,7 +332,7 @@ TEST_F(PanelTest, AnotherKeyLeavesThePanelOpen) {
   int KeyAscii = 'a';
   surface().KeyPress(KeyAscii);
   EXPECT_TRUE(surface().Visible());
-  EXPECT_EQ(focused, 0);
+  EXPECT_FALSE(run.form.hasFocus(run.controls.but(8)));
 }
 
 TEST_F(PanelTest, F2ShowsNothingHere) {

@@ -19,7 +19,7 @@ class WritingPage : public testing::Test {
         writing(run.base.form, run.controls(), run.state(), run.stores, run.base.shell,
                 run.services, ordering),
         RW2(run.controls().RW2) {
-    writing.focusButton = [this](int number) { focused = number; };
+    run.controls().but(6).Visible(true);
     std::string text = "T\r";
     std::string translation;
     for (const char* name : {"a", "b", "c", "d", "e"}) {
@@ -53,7 +53,6 @@ class WritingPage : public testing::Test {
   XepTu ordering;
   Writing writing;
   Surface& RW2;
-  int focused = 0;
 };
 
 TEST_F(WritingPage, TheCaretChoosesALine) {
@@ -152,7 +151,7 @@ TEST_F(WritingPage, EscGoesToTheListAndThenToTheButton) {
   EXPECT_EQ(run.focus(), "RW1");
   run.key(key::Esc);
   EXPECT_FALSE(run.controls().RW1.Visible());
-  EXPECT_EQ(focused, 6);
+  EXPECT_EQ(run.focus(), "but6");
 }
 
 } // namespace
