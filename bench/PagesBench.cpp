@@ -8,7 +8,7 @@ using namespace talvora;
 
 using Measured = void (*)(benchmark::State&, test::ItemRun&, const std::function<void()>&);
 
-void onSurface(benchmark::State& state, Measured measured, Surface Controls::*surface) {
+void onSurface(benchmark::State& state, Measured measured, Surface ProgramControls::*surface) {
   test::ItemRun run(bench::pages());
   Surface& seen = run.controls.*surface;
   measured(state, run, [&seen] {
@@ -19,15 +19,15 @@ void onSurface(benchmark::State& state, Measured measured, Surface Controls::*su
 
 } // namespace
 
-BENCHMARK_CAPTURE(onSurface, lesson, bench::openLessons, &Controls::RVP2)
+BENCHMARK_CAPTURE(onSurface, lesson, bench::openLessons, &ProgramControls::RVP2)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(onSurface, nextItem, bench::stepItems, &Controls::RDT)
+BENCHMARK_CAPTURE(onSurface, nextItem, bench::stepItems, &ProgramControls::RDT)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(onSurface, judgedItem, bench::judgeItems, &Controls::RDT)
+BENCHMARK_CAPTURE(onSurface, judgedItem, bench::judgeItems, &ProgramControls::RDT)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(onSurface, typedLetter, bench::typeLetters, &Controls::RDT)
+BENCHMARK_CAPTURE(onSurface, typedLetter, bench::typeLetters, &ProgramControls::RDT)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);

@@ -17,7 +17,7 @@ from pathlib import Path
 from repository import repository_of
 
 GLOSSARY = Path("docs/glossary.md")
-CONTROLS = Path("src/surface/Controls.h")
+CONTROLS = "src/*/*Controls.h"
 
 ONSET = "ngh|ng|gh|gi|kh|nh|ph|th|tr|ch|qu|[bcdghklmnprstvx]"
 NUCLEUS = ("uye|uyu|uoi|uou|oai|oao|oay|uay|ieu|yeu|uya|ia|ie|ua|uo|oa|oe|ue|uy|oo|ai|ao|au|ay|eo|eu|iu"
@@ -56,7 +56,7 @@ def names_in(path, text):
     if path.suffix == ".h":
         code = blanked(text)
         yield from ((found.group(), line_of(code, found.start()), False) for found in NAME.finditer(code))
-    if path == CONTROLS:
+    if path.match(CONTROLS):
         for found in DECLARED_SURFACE.finditer(text):
             yield from ((name, line_of(text, found.start()), True) for name in found.group(1).split(", "))
     for found in DRIVERS_NAME.finditer(text):

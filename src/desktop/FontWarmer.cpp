@@ -34,7 +34,7 @@ QString everyLetter() {
 
 } // namespace
 
-std::vector<CharStyle> stylesOf(const Controls& controls) {
+std::vector<CharStyle> stylesOf(const ReadingControls& controls) {
   std::vector<CharStyle> styles;
   const auto add = [&](const FontSpec& font, bool italic) {
     CharStyle style;

@@ -3,7 +3,7 @@
 
 #include "desktop/LetterAtlas.h"
 #include "platform/TextStyle.h"
-#include "surface/Controls.h"
+#include "reading/ReadingControls.h"
 
 #include <QObject>
 #include <QString>
@@ -14,7 +14,7 @@
 namespace talvora {
 
 /// The styles that pages are mostly written in: first those of the popup, which a click waits for.
-[[nodiscard]] std::vector<CharStyle> stylesOf(const Controls& controls);
+[[nodiscard]] std::vector<CharStyle> stylesOf(const ReadingControls& controls);
 
 /// Loads faces, shapes the Vietnamese letters and has Qt draw their pictures in the scale of the
 /// screen, a few letters at a time, so that no click waits for that.

@@ -17,7 +17,7 @@ constexpr std::string_view WordCharacters =
 
 } // namespace
 
-Dictionary::Dictionary(Form& form, Controls& controls, SharedState& state, Stores& stores,
+Dictionary::Dictionary(Form& form, DictionaryControls& controls, SharedState& state, Stores& stores,
                        Shell& shell, Speech& speech)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), speech_(speech),
       lookUp_(words_, stores), popup_(form, controls, state, shell, speech),

@@ -1,6 +1,7 @@
 // The English dictionary as the sections use it: word list, look-up, popup and look-up list.
 #pragma once
 
+#include "dictionary/DictionaryControls.h"
 #include "dictionary/LookUp.h"
 #include "dictionary/LookUpList.h"
 #include "dictionary/Popup.h"
@@ -8,7 +9,6 @@
 #include "shell/Shell.h"
 #include "sound/Speech.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -16,8 +16,8 @@ namespace talvora {
 
 class Dictionary {
  public:
-  Dictionary(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-             Speech& speech);
+  Dictionary(Form& form, DictionaryControls& controls, SharedState& state, Stores& stores,
+             Shell& shell, Speech& speech);
   Dictionary(const Dictionary&) = delete;
   Dictionary& operator=(const Dictionary&) = delete;
 
@@ -51,7 +51,7 @@ class Dictionary {
   /// Speaks the word at hand and shows what is said of it.
   void show(const std::string& text);
 
-  Controls& controls_;
+  DictionaryControls& controls_;
   SharedState& state_;
   const Stores& stores_;
   Shell& shell_;

@@ -18,7 +18,7 @@ constexpr int CaptionPercent = 3; // of the screen's height; the form has the re
 
 } // namespace
 
-LookUpList::LookUpList(Form& form, Controls& controls, SharedState& state, Shell& shell,
+LookUpList::LookUpList(Form& form, DictionaryControls& controls, SharedState& state, Shell& shell,
                        WordList& words, LookUp& lookUp)
     : form_(form), controls_(controls), state_(state), shell_(shell), words_(words),
       lookUp_(lookUp) {

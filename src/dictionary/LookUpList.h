@@ -1,10 +1,10 @@
 // The look-up list: the whole word list on `RTD`, in which the learner types to jump to a word.
 #pragma once
 
+#include "dictionary/DictionaryControls.h"
 #include "dictionary/LookUp.h"
 #include "dictionary/WordList.h"
 #include "shell/Shell.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -18,8 +18,8 @@ class LookUpList {
   /// The most characters of a typed word.
   static constexpr std::size_t LongestWord = 50;
 
-  LookUpList(Form& form, Controls& controls, SharedState& state, Shell& shell, WordList& words,
-             LookUp& lookUp);
+  LookUpList(Form& form, DictionaryControls& controls, SharedState& state, Shell& shell,
+             WordList& words, LookUp& lookUp);
 
   /// Opens the list with a typed letter; its first opening loads the text.
   void MoDanhSachTu(char character);
@@ -61,7 +61,7 @@ class LookUpList {
   void pointAtPopup();
 
   Form& form_;
-  Controls& controls_;
+  DictionaryControls& controls_;
   SharedState& state_;
   Shell& shell_;
   WordList& words_;

@@ -2,10 +2,10 @@
 // sentence.
 #pragma once
 
+#include "dictionary/DictionaryControls.h"
 #include "dictionary/EntryMarkup.h"
 #include "shell/Shell.h"
 #include "sound/Speech.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -25,7 +25,7 @@ struct PopupContent {
 
 class Popup {
  public:
-  Popup(Form& form, Controls& controls, SharedState& state, Shell& shell, Speech& speech)
+  Popup(Form& form, DictionaryControls& controls, SharedState& state, Shell& shell, Speech& speech)
       : form_(form), controls_(controls), state_(state), shell_(shell), speech_(speech) {}
 
   void HienNghia(const PopupContent& content);
@@ -57,7 +57,7 @@ class Popup {
   [[nodiscard]] int heightOf(int lines) const;
 
   Form& form_;
-  Controls& controls_;
+  DictionaryControls& controls_;
   SharedState& state_;
   Shell& shell_;
   Speech& speech_;

@@ -2,6 +2,7 @@
 // word at the caret is looked up here and its entry stands in the hint bar.
 #pragma once
 
+#include "dictionary/DictionaryControls.h"
 #include "dictionary/LookUp.h"
 #include "formats/Limits.h"
 #include "platform/EventLoop.h"
@@ -9,7 +10,6 @@
 #include "shell/Shell.h"
 #include "sound/Speech.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 #include "surface/Variables.h"
 
@@ -25,8 +25,8 @@ class VietnameseSide {
  public:
   static constexpr int EntryCount = limit::SideEntries;
 
-  VietnameseSide(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
-                 Speech& speech, LookUp& lookUp)
+  VietnameseSide(DictionaryControls& controls, SharedState& state, const Stores& stores,
+                 Shell& shell, Speech& speech, LookUp& lookUp)
       : controls_(controls), state_(state), stores_(stores), shell_(shell), speech_(speech),
         lookUp_(lookUp) {}
 
@@ -71,7 +71,7 @@ class VietnameseSide {
   [[nodiscard]] std::string entryAt(int index) const;
   void writeEntry();
 
-  Controls& controls_;
+  DictionaryControls& controls_;
   SharedState& state_;
   const Stores& stores_;
   Shell& shell_;

@@ -4,7 +4,7 @@
 
 namespace talvora {
 
-Exercises::Exercises(Form& form, Controls& controls, SharedState& state, Stores& stores,
+Exercises::Exercises(Form& form, ExerciseControls& controls, SharedState& state, Stores& stores,
                      Shell& shell, PageServices pageServices, VanPham& lessons, Random& random)
     : store(stores), scoring(form, state.places, state.measures), answer(controls, item, kinds),
       box(form, controls, state, shell, pageServices, item, answer, kinds, lessons.page()),

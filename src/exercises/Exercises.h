@@ -17,8 +17,8 @@
 namespace talvora {
 
 struct Exercises {
-  Exercises(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-            PageServices pageServices, VanPham& lessons, Random& random);
+  Exercises(Form& form, ExerciseControls& controls, SharedState& state, Stores& stores,
+            Shell& shell, PageServices pageServices, VanPham& lessons, Random& random);
   Exercises(const Exercises&) = delete;
   Exercises& operator=(const Exercises&) = delete;
 

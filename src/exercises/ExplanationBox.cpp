@@ -26,9 +26,9 @@ std::string firstWords(const std::string& text, std::size_t count) {
 
 } // namespace
 
-ExplanationBox::ExplanationBox(Form& form, Controls& controls, SharedState& state, Shell& shell,
-                               PageServices services, ItemState& item, ModelAnswer& answer,
-                               const ItemKinds& kinds, LessonPage& lessons)
+ExplanationBox::ExplanationBox(Form& form, ExerciseControls& controls, SharedState& state,
+                               Shell& shell, PageServices services, ItemState& item,
+                               ModelAnswer& answer, const ItemKinds& kinds, LessonPage& lessons)
     : form_(form), controls_(controls), state_(state), shell_(shell),
       words_(controls, state, shell, services), item_(item), answer_(answer), kinds_(kinds),
       lessons_(lessons) {

@@ -1,13 +1,13 @@
 // The box `RHDBT` in which an exercise explains itself, beside the pointer, with links to lessons.
 #pragma once
 
+#include "exercises/ExerciseControls.h"
 #include "exercises/ExplanationMarkup.h"
 #include "exercises/ItemState.h"
 #include "exercises/ModelAnswer.h"
 #include "lessons/LessonPage.h"
 #include "lessons/WordHelp.h"
 #include "shell/Shell.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -31,7 +31,7 @@ class ExplanationBox {
  public:
   static constexpr std::size_t MostLinks = 1000;
 
-  ExplanationBox(Form& form, Controls& controls, SharedState& state, Shell& shell,
+  ExplanationBox(Form& form, ExerciseControls& controls, SharedState& state, Shell& shell,
                  PageServices services, ItemState& item, ModelAnswer& answer,
                  const ItemKinds& kinds, LessonPage& lessons);
 
@@ -82,7 +82,7 @@ class ExplanationBox {
   void focusBehind();
 
   Form& form_;
-  Controls& controls_;
+  ExerciseControls& controls_;
   SharedState& state_;
   Shell& shell_;
   WordHelp words_;

@@ -59,7 +59,7 @@ void ItemPage::pressCtrl(int keyCode, int shift) {
 }
 
 void ItemPage::pressEsc() {
-  const Controls& controls = services_.controls;
+  const ExerciseControls& controls = services_.controls;
   if (services_.shell.pages.pageOverPage()) {
     services_.shell.gestures.DongPhu(surface_);
     return;

@@ -2,12 +2,12 @@
 // rule, and the first questions that a click is asked.
 #pragma once
 
+#include "exercises/ExerciseControls.h"
 #include "exercises/ExplanationBox.h"
 #include "exercises/ItemState.h"
 #include "exercises/ModelAnswer.h"
 #include "lessons/WordHelp.h"
 #include "shell/Shell.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -31,7 +31,7 @@ struct RunCalls {
 
 /// What the pages of items work with.
 struct ItemServices {
-  Controls& controls;
+  ExerciseControls& controls;
   SharedState& state;
   Shell& shell;
   WordHelp& words;

@@ -1,16 +1,16 @@
 // An answer shown in the place of what the learner wrote, and taken back.
 #pragma once
 
+#include "exercises/ExerciseControls.h"
 #include "exercises/ItemKinds.h"
 #include "exercises/ItemState.h"
-#include "surface/Controls.h"
 #include "surface/Surface.h"
 
 namespace talvora {
 
 class ModelAnswer {
  public:
-  ModelAnswer(Controls& controls, ItemState& item, const ItemKinds& kinds)
+  ModelAnswer(ExerciseControls& controls, ItemState& item, const ItemKinds& kinds)
       : controls_(controls), item_(item), kinds_(kinds) {}
 
   /// Shows the model answer of the blank at position p, from 1, in bold.
@@ -27,7 +27,7 @@ class ModelAnswer {
   void restore(Surface& surface);
 
  private:
-  Controls& controls_;
+  ExerciseControls& controls_;
   ItemState& item_;
   const ItemKinds& kinds_;
 };

@@ -62,7 +62,7 @@ class Run {
   Form& form_;
   ItemServices& services_;
   SharedState& state_;
-  Controls& controls_;
+  ExerciseControls& controls_;
   ItemState& item_;
   const ItemKinds& kinds_;
   ItemStore& store_;

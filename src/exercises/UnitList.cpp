@@ -19,7 +19,7 @@ constexpr int ListeningCaret = 10;
 
 } // namespace
 
-UnitList::UnitList(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+UnitList::UnitList(ExerciseControls& controls, SharedState& state, Stores& stores, Shell& shell,
                    Scoring& scoring)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), scoring_(scoring) {
   wireEvents();

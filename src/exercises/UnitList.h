@@ -1,10 +1,10 @@
 // The list of units on `RN1`, which the exercise banks and the listening section share.
 #pragma once
 
+#include "exercises/ExerciseControls.h"
 #include "exercises/Scoring.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -34,7 +34,8 @@ class UnitList {
   static constexpr int ItemsPerUnit = 25;
   static constexpr int ListeningUnits = 9;
 
-  UnitList(Controls& controls, SharedState& state, Stores& stores, Shell& shell, Scoring& scoring);
+  UnitList(ExerciseControls& controls, SharedState& state, Stores& stores, Shell& shell,
+           Scoring& scoring);
 
   /// Loads the template of listening items and fills the list: in section 4 with the listening
   /// units, otherwise with the units of a bank of so many items.
@@ -62,7 +63,7 @@ class UnitList {
   void writeList(int units, std::string_view word);
   [[nodiscard]] int caretRecord() const;
 
-  Controls& controls_;
+  ExerciseControls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;

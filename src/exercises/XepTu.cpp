@@ -21,7 +21,7 @@ int blanksIn(std::string_view text) {
 
 } // namespace
 
-XepTu::XepTu(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+XepTu::XepTu(ExerciseControls& controls, SharedState& state, const Stores& stores, Shell& shell,
              PageServices services, Random& random, BackNextLinks& sharedLinks)
     : links(sharedLinks), controls_(controls), state_(state), shell_(shell), services_(services),
       words_(controls, state, shell, services), random_(random), text_(stores, state.text) {

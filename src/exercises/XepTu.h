@@ -4,13 +4,13 @@
 #pragma once
 
 #include "exercises/BackNextLinks.h"
+#include "exercises/ExerciseControls.h"
 #include "lessons/WordHelp.h"
 #include "platform/Random.h"
 #include "reading/ReadingPage.h"
 #include "reading/ReadingText.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -35,7 +35,7 @@ struct OrderingRunCalls {
 
 class XepTu {
  public:
-  XepTu(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+  XepTu(ExerciseControls& controls, SharedState& state, const Stores& stores, Shell& shell,
         PageServices services, Random& random, BackNextLinks& sharedLinks);
 
   // -- Opening.
@@ -110,7 +110,7 @@ class XepTu {
   [[nodiscard]] int lineLength() const noexcept { return CuoiDong_ - 1 - DauDong; }
   void leaveSelfMadeTest();
 
-  Controls& controls_;
+  ExerciseControls& controls_;
   SharedState& state_;
   Shell& shell_;
   PageServices services_;

@@ -8,8 +8,8 @@
 
 namespace talvora {
 
-LessonPage::LessonPage(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
-                       PageServices services)
+LessonPage::LessonPage(LessonControls& controls, SharedState& state, const Stores& stores,
+                       Shell& shell, PageServices services)
     : controls_(controls), state_(state), stores_(stores), shell_(shell),
       words_(controls, state, shell, services) {
   wireEvents();

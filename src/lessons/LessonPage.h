@@ -2,10 +2,10 @@
 // mouse on it.
 #pragma once
 
+#include "lessons/LessonControls.h"
 #include "lessons/WordHelp.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <array>
@@ -17,7 +17,7 @@ namespace talvora {
 
 class LessonPage {
  public:
-  LessonPage(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+  LessonPage(LessonControls& controls, SharedState& state, const Stores& stores, Shell& shell,
              PageServices services);
 
   /// Reads where every lesson begins.
@@ -47,7 +47,7 @@ class LessonPage {
   void deleteFirst();
   void styleTitle();
 
-  Controls& controls_;
+  LessonControls& controls_;
   SharedState& state_;
   const Stores& stores_;
   Shell& shell_;

@@ -19,7 +19,7 @@ constexpr int FirstLineBar = 8;
 
 } // namespace
 
-VanPham::VanPham(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+VanPham::VanPham(LessonControls& controls, SharedState& state, const Stores& stores, Shell& shell,
                  PageServices services)
     : controls_(controls), state_(state), stores_(stores), shell_(shell),
       page_(controls, state, stores, shell, services) {

@@ -2,10 +2,10 @@
 // marks for a test of their own.
 #pragma once
 
+#include "lessons/LessonControls.h"
 #include "lessons/LessonPage.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <array>
@@ -20,7 +20,7 @@ enum class LessonMark : std::uint8_t { NotMarkable = 0, Unmarked = 1, Marked = 2
 
 class VanPham {
  public:
-  VanPham(Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
+  VanPham(LessonControls& controls, SharedState& state, const Stores& stores, Shell& shell,
           PageServices services);
 
   /// Enters the section.
@@ -75,7 +75,7 @@ class VanPham {
   void returnFocus();
   [[nodiscard]] LessonMark& markOf(int lesson);
 
-  Controls& controls_;
+  LessonControls& controls_;
   SharedState& state_;
   const Stores& stores_;
   Shell& shell_;

@@ -2,16 +2,16 @@
 // Vietnamese side, a letter opens the look-up list.
 #pragma once
 
+#include "lessons/LessonControls.h"
 #include "reading/ReadingPage.h"
 #include "shell/Shell.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 namespace talvora {
 
 class WordHelp {
  public:
-  WordHelp(Controls& controls, SharedState& state, Shell& shell, PageServices services)
+  WordHelp(LessonControls& controls, SharedState& state, Shell& shell, PageServices services)
       : controls_(controls), state_(state), shell_(shell), services_(services) {}
 
   /// Selects the word at the caret of a surface, speaks it and shows its entry.
@@ -36,7 +36,7 @@ class WordHelp {
  private:
   void lookUp();
 
-  Controls& controls_;
+  LessonControls& controls_;
   SharedState& state_;
   Shell& shell_;
   PageServices services_;

@@ -12,7 +12,7 @@ constexpr int EmptyUnitMessageMs = 2000;
 
 } // namespace
 
-Listening::Listening(Form& form, Controls& controls, SharedState& state, Stores& stores,
+Listening::Listening(Form& form, ListeningControls& controls, SharedState& state, Stores& stores,
                      Shell& shell, PageServices services, Random& random, UnitList& units,
                      Scoring& scoring, ItemState& item)
     : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),

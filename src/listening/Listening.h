@@ -6,13 +6,13 @@
 #include "exercises/UnitList.h"
 #include "lessons/WordHelp.h"
 #include "listening/DrawOrder.h"
+#include "listening/ListeningControls.h"
 #include "listening/ListeningItems.h"
 #include "listening/ListeningPage.h"
 #include "platform/Random.h"
 #include "reading/ReadingPage.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -24,8 +24,8 @@ namespace talvora {
 class Listening final : private ListeningSection {
  public:
   /// Answers for the listening units of `units` from then on.
-  Listening(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-            PageServices services, Random& random, UnitList& units, Scoring& scoring,
+  Listening(Form& form, ListeningControls& controls, SharedState& state, Stores& stores,
+            Shell& shell, PageServices services, Random& random, UnitList& units, Scoring& scoring,
             ItemState& item);
 
   /// Opens the section: the list of units with its stored caret.
@@ -62,7 +62,7 @@ class Listening final : private ListeningSection {
   bool followLink(int p);
 
   Form& form_;
-  Controls& controls_;
+  ListeningControls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;

@@ -42,7 +42,7 @@ char characterAt(const std::string& text, int position) {
 
 } // namespace
 
-NGHE_VIET::NGHE_VIET(Form& form, Controls& controls, SharedState& state, Stores& stores,
+NGHE_VIET::NGHE_VIET(Form& form, ListeningControls& controls, SharedState& state, Stores& stores,
                      Shell& shell, PageServices services, Clock& clock)
     : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
       services_(services), words_(controls, state, shell, services), clock_(clock),

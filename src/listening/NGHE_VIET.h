@@ -3,12 +3,12 @@
 #pragma once
 
 #include "lessons/WordHelp.h"
+#include "listening/ListeningControls.h"
 #include "platform/Clock.h"
 #include "reading/ReadingPage.h"
 #include "reading/ReadingText.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -19,8 +19,8 @@ namespace talvora {
 
 class NGHE_VIET {
  public:
-  NGHE_VIET(Form& form, Controls& controls, SharedState& state, Stores& stores, Shell& shell,
-            PageServices services, Clock& clock);
+  NGHE_VIET(Form& form, ListeningControls& controls, SharedState& state, Stores& stores,
+            Shell& shell, PageServices services, Clock& clock);
 
   /// Opens dictation on the line `SoBaiChon` of the title list; the guide text has none.
   void MoNgheViet();
@@ -58,7 +58,7 @@ class NGHE_VIET {
   void releaseMouse(MouseButton button, SurfacePoint at);
 
   Form& form_;
-  Controls& controls_;
+  ListeningControls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;

@@ -9,12 +9,12 @@
 #include "platform/Platform.h"
 #include "program/Ending.h"
 #include "program/Procedures.h"
+#include "program/ProgramControls.h"
 #include "program/Sections.h"
 #include "shell/Shell.h"
 #include "sound/AmthanhThuc.h"
 #include "sound/Speech.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/FormInput.h"
 #include "surface/State.h"
 #include "surface/Variables.h"
@@ -45,7 +45,7 @@ class E {
   [[nodiscard]] Ending ending() const noexcept { return ending_; }
   [[nodiscard]] Form& form() noexcept { return form_; }
   [[nodiscard]] FormInput& input() noexcept { return input_; }
-  [[nodiscard]] Controls& controls() noexcept { return controls_; }
+  [[nodiscard]] ProgramControls& controls() noexcept { return controls_; }
   [[nodiscard]] const Variables& variables() const noexcept { return variables_; }
   [[nodiscard]] const Procedures& procedures() const noexcept { return procedures_; }
   [[nodiscard]] const Places& places() const noexcept { return state_.places; }
@@ -67,7 +67,7 @@ class E {
 
   Platform& platform_;
   Form form_;
-  Controls controls_;
+  ProgramControls controls_;
   SharedState state_;
   Stores stores_;
   LearnerData own_;

@@ -8,7 +8,8 @@
 
 namespace talvora {
 
-Guide::Guide(Controls& controls, const SharedState& state, const Stores& stores, Shell& shell)
+Guide::Guide(ProgramControls& controls, const SharedState& state, const Stores& stores,
+             Shell& shell)
     : controls_(controls), state_(state), stores_(stores), shell_(shell) {
   wireEvents();
 }

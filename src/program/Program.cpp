@@ -43,7 +43,7 @@ FormInput& Program::input() noexcept {
   return e_->input();
 }
 
-Controls& Program::controls() noexcept {
+ProgramControls& Program::controls() noexcept {
   return e_->controls();
 }
 

@@ -5,7 +5,7 @@
 #include "platform/Platform.h"
 #include "program/Ending.h"
 #include "program/Procedures.h"
-#include "surface/Controls.h"
+#include "program/ProgramControls.h"
 #include "surface/Form.h"
 #include "surface/FormInput.h"
 #include "surface/Variables.h"
@@ -41,7 +41,7 @@ class Program {
   [[nodiscard]] Form& form() noexcept;
   /// Where every front delivers what the learner does with pointer and keys.
   [[nodiscard]] FormInput& input() noexcept;
-  [[nodiscard]] Controls& controls() noexcept;
+  [[nodiscard]] ProgramControls& controls() noexcept;
   [[nodiscard]] const Variables& variables() const noexcept;
   [[nodiscard]] const Procedures& procedures() const noexcept;
   /// The section last entered.

@@ -6,7 +6,7 @@
 
 namespace talvora {
 
-Sections::Sections(Platform& platform, Form& form, Controls& controls, SharedState& state,
+Sections::Sections(Platform& platform, Form& form, ProgramControls& controls, SharedState& state,
                    Stores& stores, Shell& shell, PageServices services, LearnerData& own)
     : platform_(platform), controls_(controls), state_(state), stores_(stores), shell_(shell),
       soundSettings_(controls, state, platform, stores, shell, services.speech),

@@ -10,11 +10,11 @@
 #include "listening/NGHE_VIET.h"
 #include "platform/Platform.h"
 #include "program/Guide.h"
+#include "program/ProgramControls.h"
 #include "reading/Reading.h"
 #include "shell/Shell.h"
 #include "sound/Amthanhcaidat.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 #include "surface/Variables.h"
 #include "writing/PTCau.h"
@@ -24,8 +24,8 @@ namespace talvora {
 
 class Sections final : private TextExplanations {
  public:
-  Sections(Platform& platform, Form& form, Controls& controls, SharedState& state, Stores& stores,
-           Shell& shell, PageServices services, LearnerData& own);
+  Sections(Platform& platform, Form& form, ProgramControls& controls, SharedState& state,
+           Stores& stores, Shell& shell, PageServices services, LearnerData& own);
 
   /// Opens the section of a menu button, 1 to 18. While the program is busy only the closed section
   /// answers.
@@ -64,7 +64,7 @@ class Sections final : private TextExplanations {
   void openBank(int section);
 
   Platform& platform_;
-  Controls& controls_;
+  ProgramControls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;

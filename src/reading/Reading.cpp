@@ -24,7 +24,7 @@ constexpr int GreyedTo = 47;
 
 } // namespace
 
-Reading::Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+Reading::Reading(ReadingControls& controls, SharedState& state, Stores& stores, Shell& shell,
                  PageServices services, Clock& clock, LearnerData& own)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
       own_(own), text_(stores, state.text), page_(controls, state, shell, services, text_, clock),

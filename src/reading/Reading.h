@@ -3,12 +3,12 @@
 #pragma once
 
 #include "learner/LearnerData.h"
+#include "reading/ReadingControls.h"
 #include "reading/ReadingPage.h"
 #include "reading/ReadingText.h"
 #include "reading/TuVungChon.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -18,7 +18,7 @@ namespace talvora {
 
 class Reading {
  public:
-  Reading(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+  Reading(ReadingControls& controls, SharedState& state, Stores& stores, Shell& shell,
           PageServices services, Clock& clock, LearnerData& own);
 
   /// Common opening of the sections that begin with a title list.
@@ -70,7 +70,7 @@ class Reading {
   void pressEsc();
   void releaseMouse(MouseButton button);
 
-  Controls& controls_;
+  ReadingControls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;

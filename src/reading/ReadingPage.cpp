@@ -16,7 +16,7 @@ constexpr std::string_view GuideSentence = "x";
 
 } // namespace
 
-ReadingPage::ReadingPage(Controls& controls, SharedState& state, Shell& shell,
+ReadingPage::ReadingPage(ReadingControls& controls, SharedState& state, Shell& shell,
                          PageServices services, ReadingText& text, Clock& clock)
     : controls_(controls), state_(state), shell_(shell), services_(services),
       sentences_(text, state, shell.wordPick),

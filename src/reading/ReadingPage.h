@@ -4,12 +4,12 @@
 #include "dictionary/Dictionary.h"
 #include "dictionary/VietnameseSide.h"
 #include "reading/ReadAloud.h"
+#include "reading/ReadingControls.h"
 #include "reading/ReadingText.h"
 #include "reading/SentencePick.h"
 #include "shell/Shell.h"
 #include "sound/AmthanhThuc.h"
 #include "sound/Speech.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -41,7 +41,7 @@ class TextExplanations {
 
 class ReadingPage {
  public:
-  ReadingPage(Controls& controls, SharedState& state, Shell& shell, PageServices services,
+  ReadingPage(ReadingControls& controls, SharedState& state, Shell& shell, PageServices services,
               ReadingText& text, Clock& clock);
 
   /// Clears what a former text has left of double clicks and held keys.
@@ -85,7 +85,7 @@ class ReadingPage {
   void speakAgain();
   void readAloud();
 
-  Controls& controls_;
+  ReadingControls& controls_;
   SharedState& state_;
   Shell& shell_;
   PageServices services_;

@@ -23,7 +23,7 @@ bool CoSoVaChu(std::string_view text) {
   return text.find('\t') != std::string_view::npos && holds(digits) && holds(smallLetters);
 }
 
-TuVungChon::TuVungChon(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+TuVungChon::TuVungChon(ReadingControls& controls, SharedState& state, Stores& stores, Shell& shell,
                        PageServices services, ReadingText& text, LearnerWords& words)
     : controls_(controls), state_(state), stores_(stores), shell_(shell), services_(services),
       text_(text), words_(words) {

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "learner/LearnerWords.h"
+#include "reading/ReadingControls.h"
 #include "reading/ReadingPage.h"
 #include "reading/SentencePick.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <functional>
@@ -23,7 +23,7 @@ namespace talvora {
 
 class TuVungChon {
  public:
-  TuVungChon(Controls& controls, SharedState& state, Stores& stores, Shell& shell,
+  TuVungChon(ReadingControls& controls, SharedState& state, Stores& stores, Shell& shell,
              PageServices services, ReadingText& text, LearnerWords& words);
 
   /// Reads the list from disk. What is not there to be read is made again from memory.
@@ -71,7 +71,7 @@ class TuVungChon {
   void store();
   void tellOfProblem();
 
-  Controls& controls_;
+  ReadingControls& controls_;
   SharedState& state_;
   Stores& stores_;
   Shell& shell_;

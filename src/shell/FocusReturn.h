@@ -2,7 +2,7 @@
 // closes. The sections register what that means for their surfaces.
 #pragma once
 
-#include "shell/Rows.h"
+#include "surface/Rows.h"
 #include "surface/State.h"
 #include "surface/Surface.h"
 

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "platform/Desk.h"
+#include "shell/Controls.h"
 #include "shell/HintBar.h"
 #include "shell/Pages.h"
-#include "shell/Rows.h"
 #include "shell/UpwardCalls.h"
-#include "surface/Controls.h"
+#include "surface/Rows.h"
 #include "surface/State.h"
 
 #include <functional>

@@ -1,9 +1,9 @@
 // The hint bar: what the mouse and the keys do on the surface that has the focus.
 #pragma once
 
+#include "shell/Controls.h"
 #include "shell/Pages.h"
 #include "shell/Steering.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 

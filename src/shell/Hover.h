@@ -4,8 +4,8 @@
 
 #include "platform/Desk.h"
 #include "platform/EventLoop.h"
+#include "shell/Controls.h"
 #include "shell/Steering.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/Random.h"
+#include "shell/Controls.h"
 #include "shell/Steering.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 

@@ -4,9 +4,9 @@
 #include "platform/Boxes.h"
 #include "platform/Clock.h"
 #include "platform/Desk.h"
+#include "shell/Controls.h"
 #include "shell/Pages.h"
 #include "shell/UpwardCalls.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 

@@ -17,6 +17,7 @@ void Pages::add(Page page) {
 }
 
 void Pages::check() const {
+  form_.check();
   for (const Control* control : form_.controls()) {
     const auto* const surface = as<Surface>(control);
     if (surface != nullptr && find(*surface) == nullptr) {

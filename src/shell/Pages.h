@@ -2,7 +2,7 @@
 // The shell names none of them.
 #pragma once
 
-#include "surface/Controls.h"
+#include "shell/Controls.h"
 #include "surface/Form.h"
 
 #include <array>
@@ -54,7 +54,8 @@ class Pages {
 
   /// Throws std::logic_error when the surface or its shared caret is taken.
   void add(Page page);
-  /// Throws std::logic_error naming a surface of the form that nobody has added. For the start.
+  /// Throws std::logic_error naming a surface of the form that nobody has added, or when a layer of
+  /// the form is nobody's. For the start.
   void check() const;
 
   [[nodiscard]] const std::vector<Page>& all() const noexcept { return pages_; }

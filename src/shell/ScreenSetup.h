@@ -1,8 +1,8 @@
 // The screen class, the measures that follow from it, and where every surface stands at the start.
 #pragma once
 
+#include "shell/Controls.h"
 #include "shell/Pages.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "shell/Controls.h"
 #include "shell/HintBar.h"
 #include "shell/UpwardCalls.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 

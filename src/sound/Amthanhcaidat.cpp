@@ -25,7 +25,7 @@ constexpr int LastLevel = 14;
 
 } // namespace
 
-Amthanhcaidat::Amthanhcaidat(Controls& controls, SharedState& state, Platform& platform,
+Amthanhcaidat::Amthanhcaidat(SoundControls& controls, SharedState& state, Platform& platform,
                              Stores& stores, Shell& shell, Speech& speech)
     : controls_(controls), state_(state), engine_(platform.speech), stores_(stores), shell_(shell),
       speech_(speech), panel_(controls.RAmthanh) {

@@ -4,9 +4,9 @@
 
 #include "platform/Platform.h"
 #include "shell/Shell.h"
+#include "sound/SoundControls.h"
 #include "sound/Speech.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace talvora {
 
 class Amthanhcaidat {
  public:
-  Amthanhcaidat(Controls& controls, SharedState& state, Platform& platform, Stores& stores,
+  Amthanhcaidat(SoundControls& controls, SharedState& state, Platform& platform, Stores& stores,
                 Shell& shell, Speech& speech);
 
   /// Brings the panel in and fills it: what the menu button does.
@@ -58,7 +58,7 @@ class Amthanhcaidat {
   void stopIfSpeaking();
   void speakTest();
 
-  Controls& controls_;
+  SoundControls& controls_;
   SharedState& state_;
   SpeechEngine& engine_;
   Stores& stores_;

@@ -37,6 +37,14 @@ void Form::Show() {
   screen_.Refresh();
 }
 
+void Form::add(Control& control, Layer layer) {
+  layers_.take(layer, &control, control.Name());
+  Control* const* const above = layers_.above(layer);
+  const auto place =
+      above == nullptr ? controls_.end() : std::find(controls_.begin(), controls_.end(), *above);
+  controls_.insert(place, &control);
+}
+
 Control* Form::find(std::string_view name) const noexcept {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [&](const Control* control) { return control->Name() == name; });

@@ -5,6 +5,8 @@
 #include "platform/Desk.h"
 #include "platform/TextMetrics.h"
 #include "surface/Control.h"
+#include "surface/Layer.h"
+#include "surface/Rows.h"
 #include "surface/Surface.h"
 #include "surface/VirtualScreen.h"
 
@@ -60,6 +62,11 @@ class Form final : public ControlHost {
 
   /// Adds a control in front of those added before. The form does not own it.
   void add(Control& control) { controls_.push_back(&control); }
+  /// Adds it at its place in the stack, in front of all that have none.
+  /// Throws std::logic_error when the layer is taken.
+  void add(Control& control, Layer layer);
+  /// Throws std::logic_error when a layer is nobody's. For the start.
+  void check() const { layers_.check("layers"); }
   /// The controls from the back to the front.
   [[nodiscard]] const std::vector<Control*>& controls() const noexcept { return controls_; }
   /// The control of that name, or null.
@@ -118,6 +125,7 @@ class Form final : public ControlHost {
   int height_ = 0;
   bool visible_ = false;
   std::vector<Control*> controls_;
+  Rows<Layer, Control*> layers_;
   Control* focus_ = nullptr;
   unsigned focusMoves_ = 0;
   Steered steered_;

@@ -4,9 +4,9 @@
 #include "exercises/ItemState.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/State.h"
 #include "writing/Analysis.h"
+#include "writing/WritingControls.h"
 
 #include <functional>
 #include <string>

@@ -16,7 +16,7 @@ constexpr int FirstLineLength = 13;
 
 } // namespace
 
-Writing::Writing(Form& form, Controls& controls, SharedState& state, const Stores& stores,
+Writing::Writing(Form& form, WritingControls& controls, SharedState& state, const Stores& stores,
                  Shell& shell, PageServices services, XepTu& ordering)
     : form_(form), controls_(controls), state_(state), stores_(stores), shell_(shell),
       services_(services), words_(controls, state, shell, services), ordering_(ordering),

@@ -8,16 +8,16 @@
 #include "reading/ReadingText.h"
 #include "shell/Shell.h"
 #include "stores/Stores.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
+#include "writing/WritingControls.h"
 
 namespace talvora {
 
 class Writing {
  public:
-  Writing(Form& form, Controls& controls, SharedState& state, const Stores& stores, Shell& shell,
-          PageServices services, XepTu& ordering);
+  Writing(Form& form, WritingControls& controls, SharedState& state, const Stores& stores,
+          Shell& shell, PageServices services, XepTu& ordering);
 
   /// Opens the task of the current line, with its words shuffled.
   void MoViet();
@@ -42,7 +42,7 @@ class Writing {
   void stepBack();
 
   Form& form_;
-  Controls& controls_;
+  WritingControls& controls_;
   SharedState& state_;
   const Stores& stores_;
   Shell& shell_;

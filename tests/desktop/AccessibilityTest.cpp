@@ -8,7 +8,7 @@
 #include "desktop/Teller.h"
 #include "desktop/Window.h"
 #include "program/Program.h"
-#include "surface/Controls.h"
+#include "program/ProgramControls.h"
 
 #include "NoScreen.h"
 
@@ -61,7 +61,7 @@ class OfferedForm : public ::testing::Test {
   QtTextMetrics metrics;
   QtLineLayout layout;
   Form form{screen, metrics};
-  Controls controls{form, layout};
+  ProgramControls controls{form, layout};
   FormInput input{form};
   EventBridge bridge;
   QWidget window;

@@ -1,7 +1,7 @@
 // The mouse on the form's view: what Qt tells of it, and what comes of it.
 #include "desktop/FormMouse.h"
 #include "platform/scripted/ScriptedMachine.h"
-#include "surface/Controls.h"
+#include "program/ProgramControls.h"
 
 #include <QMouseEvent>
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ class FormMouseTest : public testing::Test {
 
   ScriptedMachine machine{ScriptedOptions{}};
   Form form{machine.screen, machine.metrics};
-  Controls controls{form, machine.layout};
+  ProgramControls controls{form, machine.layout};
   EventBridge bridge;
   FormInput input{form};
   FormMouse mouse{input, bridge};

@@ -3,7 +3,7 @@
 #include "desktop/MouseKeys.h"
 #include "desktop/KeyHelp.h"
 #include "platform/scripted/ScriptedMachine.h"
-#include "surface/Controls.h"
+#include "program/ProgramControls.h"
 
 #include <QKeyEvent>
 #include <gtest/gtest.h>
@@ -52,7 +52,7 @@ class MouseKeysTest : public testing::Test {
 
   ScriptedMachine machine{ScriptedOptions{}};
   Form form{machine.screen, machine.metrics};
-  Controls controls{form, machine.layout};
+  ProgramControls controls{form, machine.layout};
   EventBridge bridge;
   FormInput input{form};
   MouseKeys keys{form, input, bridge};

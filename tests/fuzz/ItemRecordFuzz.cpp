@@ -5,6 +5,7 @@
 #include "exercises/ItemRecord.h"
 #include "pack/ItemSource.h"
 #include "platform/scripted/ScriptedMachine.h"
+#include "program/ProgramControls.h"
 #include "sound/AmthanhThuc.h"
 #include "text/Bytes.h"
 
@@ -45,7 +46,7 @@ struct Desk {
 
   ScriptedMachine machine;
   Form form;
-  Controls controls;
+  ProgramControls controls;
   SharedState state;
   Stores stores;
   Shell shell;

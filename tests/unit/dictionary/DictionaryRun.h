@@ -3,6 +3,7 @@
 
 #include "dictionary/Dictionary.h"
 #include "platform/scripted/ScriptedMachine.h"
+#include "program/ProgramControls.h"
 #include "sound/AmthanhThuc.h"
 #include "support/TestFolder.h"
 
@@ -45,7 +46,7 @@ class DictionaryRun {
   TestFolder folder;
   ScriptedMachine machine;
   Form form;
-  Controls controls;
+  ProgramControls controls;
   SharedState state;
   Stores stores;
   Shell shell;

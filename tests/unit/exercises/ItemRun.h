@@ -6,6 +6,7 @@
 #include "exercises/Exercises.h"
 #include "lessons/VanPham.h"
 #include "platform/scripted/ScriptedMachine.h"
+#include "program/ProgramControls.h"
 #include "sound/AmthanhThuc.h"
 #include "support/TestFolder.h"
 
@@ -72,7 +73,7 @@ class ItemRun {
   Form form;
   FormInput input{form};
   Hand hand{machine, form, input};
-  Controls controls;
+  ProgramControls controls;
   SharedState state;
   Stores stores;
   Shell shell;

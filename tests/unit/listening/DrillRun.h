@@ -85,7 +85,7 @@ struct DrillRun {
     const Control* control = base.form.ActiveControl();
     return control == nullptr ? std::string() : control->Name();
   }
-  [[nodiscard]] Controls& controls() { return base.controls; }
+  [[nodiscard]] ProgramControls& controls() { return base.controls; }
   [[nodiscard]] SharedState& state() { return base.state; }
   /// What was spoken since the log was last taken.
   [[nodiscard]] std::vector<std::string> spoken() { return texts("speak", "text"); }

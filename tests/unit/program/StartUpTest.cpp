@@ -136,7 +136,7 @@ TEST(StartUp, PadsTheCaption) {
 TEST(StartUp, ParksTheSurfacesOffTheScreen) {
   ProgramRun run;
   run.start();
-  Controls& c = run.controls();
+  ProgramControls& c = run.controls();
   for (const Control* control : std::initializer_list<Control*>{&c.R1, &c.R2, &c.RW1, &c.RVP1}) {
     EXPECT_EQ(control->Left(), 15362) << control->Name();
   }
@@ -264,7 +264,7 @@ TEST(StartUp, TheColumnsHaveOneFaceEachAndOneStartInThreeTheOtherPair) {
     options.seed = seed;
     ProgramRun run(options);
     run.start();
-    Controls& c = run.controls();
+    ProgramControls& c = run.controls();
     // The rest faces of the menu at large: the animation's first picture turned the columns over.
     looks.insert({c.but(16).StoredPicture(), c.but(17).StoredPicture()});
     for (int number = 2; number <= 15; ++number) {

@@ -36,7 +36,7 @@ TEST_F(Hints, F2ShowsTheHintOfASurfaceAtDoubleHeightAndAtTheTop) {
 }
 
 TEST_F(Hints, APointerOverTheBarGivesTheKeyboardToTheForemostPage) {
-  Controls& c = run.controls;
+  ProgramControls& c = run.controls;
   run.show(c.R2);
   const auto pointAtBar = [&] {
     bar.Visible(true);

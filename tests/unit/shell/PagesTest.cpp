@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace talvora {
 namespace {
@@ -44,6 +46,34 @@ TEST(PagesTest, ARankThatIsNoneIsRefused) {
                std::logic_error);
   EXPECT_THROW(run.shell.focusReturn.onReturnTo(FocusRank::Count, run.controls.R2),
                std::logic_error);
+}
+
+TEST(PagesTest, ALayerBelongsToOneControlWhateverTheOrder) {
+  test::ShellRun run;
+  Form form(run.machine.screen, run.machine.metrics);
+  Frame card("card", form);
+  Frame text("text", form);
+  Frame background("background", form);
+  form.add(background);
+  form.add(text, Layer::Text);
+  EXPECT_THROW(form.check(), std::logic_error) << "the others are nobody's";
+  form.add(card, Layer::ListCard);
+  EXPECT_EQ(form.controls(), (std::vector<Control*>{&background, &card, &text}));
+  EXPECT_THROW(form.add(background, Layer::Text), std::logic_error);
+  EXPECT_THROW(form.add(background, Layer::Count), std::logic_error);
+  EXPECT_EQ(form.controls().size(), 3U);
+}
+
+TEST(PagesTest, TheControlsOfAllSectionsFillTheStack) {
+  const ShellRun run;
+  run.form.check();
+  std::string stack;
+  for (const Control* control : run.form.controls())
+    stack += control->Name() + " ";
+  EXPECT_EQ(stack, "Im1 MM but1 but2 but3 but4 but5 but6 but7 but8 but9 but10 but11 but12 but13 "
+                   "but14 but15 but16 but17 but18 Frame1 R1 RVP1 RN1 RW1 Rchon RAmthanh Rcachhoc "
+                   "Rnen3 Frame2 R2 RN2 RDT RABCD Rsai Rviet Rnen2 RHDBT Frame3 Rxep RW2 RVP2 RTD "
+                   "Rnen RHD RDOS L1 FC1 FC2 ");
 }
 
 TEST(PagesTest, WhatIsLeftToNobodyIsFoundAtTheStart) {

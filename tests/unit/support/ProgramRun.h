@@ -39,7 +39,7 @@ class ProgramRun {
   /// A whole click at a caret of a surface, and what the program then sends itself.
   void click(Surface& surface, int caret, MouseButton button = MouseButton::Left);
   void doubleClick(Surface& surface, int caret);
-  [[nodiscard]] Controls& controls() { return program.controls(); }
+  [[nodiscard]] ProgramControls& controls() { return program.controls(); }
   [[nodiscard]] Form& form() { return program.form(); }
   /// A variable of the program as a number, a text or a flag.
   [[nodiscard]] double number(const std::string& name) const;

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/scripted/ScriptedMachine.h"
+#include "program/ProgramControls.h"
 #include "shell/Shell.h"
-#include "surface/Controls.h"
 #include "surface/Form.h"
 #include "surface/State.h"
 
@@ -35,7 +35,7 @@ struct ShellRun {
 
   ScriptedMachine machine;
   Form form;
-  Controls controls;
+  ProgramControls controls;
   SharedState state;
   Shell shell;
 };

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -18,7 +19,7 @@ class Rows {
   void take(Rank rank, Row row, const std::string& who) {
     const auto place = static_cast<std::size_t>(rank);
     if (place >= rows_.size()) throw std::logic_error(who + " has a rank that is none");
-    if (rows_[place]) throw std::logic_error(who + " has the rank of another surface");
+    if (rows_[place]) throw std::logic_error(who + " has the rank of another one");
     rows_[place] = std::move(row);
   }
 
@@ -27,6 +28,14 @@ class Rows {
   [[nodiscard]] const Row* first(Question question) const {
     const auto found = std::find_if(rows_.begin(), rows_.end(),
                                     [&](const auto& each) { return each && question(*each); });
+    return found == rows_.end() ? nullptr : &**found;
+  }
+
+  /// The row of the lowest rank above one; null when there is none.
+  [[nodiscard]] const Row* above(Rank rank) const {
+    const auto from = rows_.begin() + static_cast<std::ptrdiff_t>(rank) + 1;
+    const auto found =
+        std::find_if(from, rows_.end(), [](const auto& each) { return each.has_value(); });
     return found == rows_.end() ? nullptr : &**found;
   }
 
