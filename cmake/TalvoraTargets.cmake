@@ -17,5 +17,6 @@ endif()
 
 # For the programs that tell their version.
 function(talvora_knows_its_version program)
-  target_compile_definitions(${program} PRIVATE TALVORA_VERSION="${PROJECT_VERSION}")
+  target_compile_definitions(${program} PRIVATE
+    TALVORA_VERSION="${PROJECT_VERSION}" TALVORA_WITHOUT="${TALVORA_WITHOUT}")
 endfunction()

@@ -2,6 +2,7 @@
 #include "formats/PackFiles.h"
 #include "pack/Command.h"
 #include "pack/KeptWords.h"
+#include "pack/Lexicon.h"
 #include "pack/Recordings.h"
 
 #include <CLI/CLI.hpp>
@@ -44,6 +45,10 @@ class BuildCommand final : public Command {
 
 int BuildCommand::run() {
   Problems problems;
+  if (!hasLexicon()) {
+    std::cerr << "talvora-pack was built without speech: the recordings will be silent, and the "
+                 "words of our own will have no pronunciation\n";
+  }
   options_.earlierPack = out_;
   const auto files = compile(options_, problems, showStep);
   if (!problems.none()) return tell(problems);

@@ -1,6 +1,7 @@
 // Options by length and by sound, stretches by their class.
 #include "pack/DrillChecks.h"
 
+#include "pack/Lexicon.h"
 #include "pack/StreamText.h"
 #include "pack/TextWords.h"
 #include "pack/WordPhones.h"
@@ -44,6 +45,8 @@ bool isCanAndCant(const std::string& first, const std::string& second) {
 
 bool wordsSoundAlike(const std::string& first, const std::string& second) {
   if (isCanAndCant(first, second)) return true;
+  // Without a lexicon nobody can tell.
+  if (!hasLexicon()) return false;
   const auto left = wordPhones(first);
   const auto right = wordPhones(second);
   if (left.size() != right.size()) return false;

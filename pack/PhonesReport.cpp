@@ -1,6 +1,7 @@
 // The lines of the review.
 #include "pack/PhonesReport.h"
 
+#include "pack/Lexicon.h"
 #include "pack/Pronouncer.h"
 #include "pack/StreamText.h"
 
@@ -24,6 +25,9 @@ std::string lineOf(const Pronouncer& pronouncer, const std::string& word, WordCl
 
 std::string phonesReport(const std::filesystem::path& source, const std::vector<std::string>& words,
                          Problems& problems) {
+  if (!hasLexicon())
+    problems.add({source.string()},
+                 "this talvora-pack was built without speech and knows no sounds");
   const Pronouncer pronouncer(readPronunciations(source / "pronunciation.txt", problems));
   std::map<std::string, std::vector<WordClass>> classesOfHeads;
   std::vector<std::string> asked = words;

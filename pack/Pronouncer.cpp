@@ -1,30 +1,24 @@
 // Look-ups in the voice's lexicon.
 #include "pack/Pronouncer.h"
 
+#include "pack/Lexicon.h"
 #include "pack/StreamText.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
-
-#include <flite/flite.h>
 
 #include <algorithm>
 #include <array>
 #include <unordered_set>
 #include <utility>
 
-// The lexicon comes without a header.
-extern "C" {
-cst_lexicon* cmu_lex_init();
-}
-
 namespace talvora::pack {
 
 namespace {
 
 /// The letters by which the lexicon tells classes apart.
-constexpr std::array<const char*, 5> lexiconClasses = {"0", "n", "v", "j", "r"};
+constexpr std::array<char, 5> lexiconClasses = {'0', 'n', 'v', 'j', 'r'};
 
-const char* lexiconClass(WordClass wordClass) {
+char lexiconClass(WordClass wordClass) {
   switch (wordClass) {
   case WordClass::Noun:
     return lexiconClasses[1];
@@ -40,20 +34,10 @@ const char* lexiconClass(WordClass wordClass) {
   }
 }
 
-Phones lookUp(const std::string& word, const char* wordClass) {
-  static cst_lexicon* const lexicon = cmu_lex_init();
-  cst_val* const found = lex_lookup(lexicon, word.c_str(), wordClass, nullptr);
-  Phones phones;
-  for (const cst_val* each = found; each != nullptr; each = val_cdr(each))
-    phones.emplace_back(val_string(val_car(each)));
-  delete_val(found);
-  return phones;
-}
-
 bool isSaidInSeveralWays(const std::string& word) {
-  const Phones first = lookUp(word, lexiconClasses[0]);
+  const Phones first = lexiconPhones(word, lexiconClasses[0]);
   return std::any_of(lexiconClasses.begin(), lexiconClasses.end(),
-                     [&](const char* each) { return lookUp(word, each) != first; });
+                     [&](char each) { return lexiconPhones(word, each) != first; });
 }
 
 bool isAbbreviation(std::string_view word) {
@@ -151,7 +135,7 @@ Phones Pronouncer::phonesOfWord(const std::string& word, WordClass wordClass) co
       phones.push_back(std::move(phone));
     return phones;
   }
-  if (!isAbbreviation(word)) return lookUp(lower(word), lexiconClass(wordClass));
+  if (!isAbbreviation(word)) return lexiconPhones(lower(word), lexiconClass(wordClass));
   Phones phones;
   for (const char letter : word) {
     for (std::string& phone : phonesOf(letterNames.at(static_cast<std::size_t>(letter - 'A'))))

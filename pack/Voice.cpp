@@ -7,7 +7,6 @@
 #include <flite/flite.h>
 #include <flite/flite_version.h>
 
-#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
@@ -36,12 +35,6 @@ int syllablesOf(cst_utterance& utterance) {
 
 } // namespace
 
-std::optional<Speaker> speakerNamed(std::string_view name) {
-  const auto found = std::find(SpeakerNames.begin(), SpeakerNames.end(), name);
-  if (found == SpeakerNames.end()) return std::nullopt;
-  return static_cast<Speaker>(found - SpeakerNames.begin());
-}
-
 Voice::Voice(Speaker speaker) {
   flite_init();
   voice_ = speaker == Speaker::Rms ? register_cmu_us_rms(nullptr) : register_cmu_us_slt(nullptr);
@@ -50,7 +43,7 @@ Voice::Voice(Speaker speaker) {
 
 void Voice::learn(const Pronunciations& pronunciations) {
   flite_init();
-  teach(*cmu_lex_init(), pronunciations);
+  teach(*cmu_lex_init(), pronunciations.lexicon());
 }
 
 SpokenSentence Voice::speak(std::string_view sentence, float stretch) const {

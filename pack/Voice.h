@@ -1,24 +1,16 @@
 // The voices of the recordings.
 #pragma once
 
+#include "pack/Speakers.h"
 #include "pack/WaveFile.h"
 #include "sound/Pronunciations.h"
 
-#include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 
 struct cst_voice_struct;
 
 namespace talvora::pack {
-
-/// A man, and the woman who speaks live as well.
-enum class Speaker { Rms, Slt };
-
-/// The names that scripts call the speakers by.
-inline constexpr std::array<std::string_view, 2> SpeakerNames = {"rms", "slt"};
-[[nodiscard]] std::optional<Speaker> speakerNamed(std::string_view name);
 
 /// A sentence as it was spoken.
 struct SpokenSentence {

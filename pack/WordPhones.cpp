@@ -1,40 +1,16 @@
-// Look-up in the lexicon.
+// The lexicon's phones without their stress.
 #include "pack/WordPhones.h"
 
-#include <flite/flite.h>
-
-#include <stdexcept>
-
-// The lexicon comes without a header.
-extern "C" {
-cst_lexicon* cmu_lex_init(void);
-}
+#include "pack/Lexicon.h"
 
 namespace talvora::pack {
 
-namespace {
-
-cst_lexicon& lexicon() {
-  static cst_lexicon* const loaded = [] {
-    flite_init();
-    return cmu_lex_init();
-  }();
-  if (loaded == nullptr) throw std::runtime_error("flite gives no lexicon for the words");
-  return *loaded;
-}
-
-} // namespace
-
 std::vector<std::string> wordPhones(const std::string& word) {
-  std::vector<std::string> phones;
-  cst_val* const found = lex_lookup(&lexicon(), word.c_str(), nullptr, nullptr);
-  for (const cst_val* at = found; at != nullptr; at = val_cdr(at)) {
-    std::string phone = val_string(val_car(at));
+  Phones phones = lexiconPhones(word, '0');
+  for (std::string& phone : phones) {
     while (!phone.empty() && phone.back() >= '0' && phone.back() <= '9')
       phone.pop_back();
-    phones.push_back(std::move(phone));
   }
-  delete_val(found);
   return phones;
 }
 

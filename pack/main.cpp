@@ -14,7 +14,7 @@ using namespace talvora::pack;
 
 int run(int argumentCount, char** arguments) {
   CLI::App application("Compiles content sources to the files that Talvora opens");
-  application.set_version_flag("--version", "talvora-pack " TALVORA_VERSION);
+  application.set_version_flag("--version", "talvora-pack " TALVORA_VERSION TALVORA_WITHOUT);
   application.require_subcommand(1);
   const std::array commands = {
       buildCommand(application),  checkCommand(application),    showCommand(application),

@@ -5,8 +5,9 @@
 //   talvora-bench-Sound PACK_FOLDER [benchmark options]
 #include "PackCopy.h"
 
-#include "desktop/FliteSpeech.h"
+#include "desktop/Sound.h"
 #include "desktop/SoundDevice.h"
+#include "desktop/ThreadedSpeech.h"
 #include "desktop/WaveOutput.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
@@ -129,12 +130,12 @@ void wordToFirstSample(benchmark::State& state) {
   const bool fresh = state.range(0) == 1;
   constexpr std::array words = {"bank", "elephant", "the", "internationalisation"};
   Ear ear;
-  std::optional<FliteSpeech> speech;
+  std::optional<ThreadedSpeech> speech;
   Report report(state, WordLimitMs);
   std::size_t turn = 0;
   for (auto _ : state) {
     if (fresh || !speech) {
-      speech.emplace(heardBy(ear));
+      speech.emplace(heardBy(ear), loadVoices);
       speech->Select(ClearestVoice);
       speech->Speed(NormalSpeed);
     }
@@ -156,7 +157,7 @@ BENCHMARK(wordToFirstSample)
 
 void stopToSilence(benchmark::State& state) {
   Ear ear;
-  FliteSpeech speech(heardBy(ear));
+  ThreadedSpeech speech(heardBy(ear), loadVoices);
   speech.Select(ClearestVoice);
   Report report(state, StopLimitMs);
   for (auto _ : state) {
@@ -180,13 +181,13 @@ std::string packFolder;
 class SpeakingProgram {
  public:
   explicit SpeakingProgram(Ear& ear)
-      : speech_(heardBy(ear)), platform_{machine_.clock,        machine_.events,
-                                         machine_.input,        speech_,
-                                         machine_.wave,         machine_.metrics,
-                                         machine_.layout,       machine_.boxes,
-                                         machine_.screen,       machine_.clipboard,
-                                         machine_.installation, machine_.narrator,
-                                         machine_.random},
+      : speech_(heardBy(ear), loadVoices), platform_{machine_.clock,        machine_.events,
+                                                     machine_.input,        speech_,
+                                                     machine_.wave,         machine_.metrics,
+                                                     machine_.layout,       machine_.boxes,
+                                                     machine_.screen,       machine_.clipboard,
+                                                     machine_.installation, machine_.narrator,
+                                                     machine_.random},
         program_(platform_, pack_.path()) {
     program_.Main();
     program_.controls().but(1).Click();
@@ -225,7 +226,7 @@ class SpeakingProgram {
 
   bench::PackCopy pack_{packFolder};
   ScriptedMachine machine_;
-  FliteSpeech speech_;
+  ThreadedSpeech speech_;
   Platform platform_;
   Program program_;
 };
@@ -254,7 +255,7 @@ void stretchBounds(benchmark::State& state) {
   constexpr int From = 400;
   constexpr int To = 900;
   Ear ear;
-  WaveOutput wave(heardBy(ear));
+  WaveOutput wave(heardBy(ear), openRecording);
   wave.Open(packFolder + "/sound/1.wav");
   Report report(state, StretchLimitMs);
   for (auto _ : state) {

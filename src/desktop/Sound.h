@@ -1,11 +1,16 @@
-// The sound of the desktop: the speech engine and the wave player that this machine has.
+// The sound of the desktop: the speech engine and the wave player.
 #pragma once
 
+#include "desktop/Recording.h"
+#include "desktop/Voices.h"
 #include "platform/Speech.h"
 #include "platform/WavePlayer.h"
+#include "sound/Pronunciations.h"
 
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace talvora {
 
@@ -15,8 +20,13 @@ struct Sound {
 };
 
 /// Makes both, for a pack in a folder, which tells what the voices say wrong of themselves. They
-/// look for the default sound device when the first sound comes, and keep their timing silently
-/// where there is none. What the program was built without is replaced by a silent one.
+/// look for the default sound device, for voices and for what reads recordings when the first sound
+/// comes. What is missing keeps its timing silently.
 [[nodiscard]] Sound makeSound(const std::filesystem::path& pack);
+
+/// The voices and the reader of recordings that lie in libraries beside the program, which are
+/// loaded here. Null when they cannot be loaded; standard error says why, once.
+[[nodiscard]] std::unique_ptr<Voices> loadVoices(const std::vector<LexiconEntry>& lexicon);
+[[nodiscard]] std::unique_ptr<Recording> openRecording(const std::string& path);
 
 } // namespace talvora

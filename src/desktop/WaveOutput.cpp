@@ -1,63 +1,41 @@
 #include "desktop/WaveOutput.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <numeric>
-#include <span>
-#include <utility>
 
 namespace talvora {
 
 namespace {
 
-/// How much of a stretch is read at once.
-constexpr std::int64_t PieceFrames = 4096;
-
-std::int64_t frameAt(int ms, int rate) {
-  return std::int64_t{ms} * rate / 1000;
-}
-
-void appendMixed(Samples& single, std::span<const std::int16_t> frames, int channels) {
-  for (auto frame = frames.begin(); frame != frames.end(); frame += channels) {
-    single.push_back(
-        static_cast<std::int16_t>(std::accumulate(frame, frame + channels, 0) / channels));
+/// Silence in place of a recording that nothing can read.
+class SilentRecording final : public Recording {
+ public:
+  [[nodiscard]] int rate() const override { return Rate; }
+  [[nodiscard]] Samples read(int from, int to) override {
+    const int ms = std::clamp(to - from, 0, LongestMs);
+    return Samples(static_cast<std::size_t>(ms) * Rate / 1000);
   }
-}
+
+ private:
+  static constexpr int Rate = 8000;
+  static constexpr int LongestMs = 600'000;
+};
 
 } // namespace
 
 void WaveOutput::Open(const std::string& path) {
   Close();
-  file_ = SndfileHandle(path);
+  recording_ = openRecording_(path);
+  if (!recording_) recording_ = std::make_unique<SilentRecording>();
 }
 
 void WaveOutput::Close() {
   player_.stop();
-  file_ = SndfileHandle();
+  recording_.reset();
 }
 
 void WaveOutput::Play(int from, int to) {
   player_.stop();
-  player_.play(read(from, to), file_.samplerate());
-}
-
-Samples WaveOutput::read(int from, int to) {
-  if (!file_ || file_.error() != SF_ERR_NO_ERROR) return {};
-  const std::int64_t first = std::max<std::int64_t>(frameAt(from, file_.samplerate()), 0);
-  const std::int64_t last = std::min<std::int64_t>(frameAt(to, file_.samplerate()), file_.frames());
-  if (first >= last || file_.seek(first, SEEK_SET) != first) return {};
-  // Room is made for what is there: a header may claim any length.
-  const auto channels = static_cast<std::size_t>(file_.channels());
-  Samples single;
-  Samples piece(PieceFrames * channels);
-  for (std::int64_t next = first; next < last;) {
-    const sf_count_t count = file_.readf(piece.data(), std::min(PieceFrames, last - next));
-    if (count <= 0) break;
-    const std::span frames(piece.data(), static_cast<std::size_t>(count) * channels);
-    appendMixed(single, frames, file_.channels());
-    next += count;
-  }
-  return single;
+  if (recording_) player_.play(recording_->read(from, to), recording_->rate());
 }
 
 } // namespace talvora

@@ -1,19 +1,26 @@
-// The wave player of the desktop: stretches of a wave file, read by libsndfile.
+// The wave player of the desktop: stretches of a recording.
 #pragma once
 
 #include "desktop/PcmPlayer.h"
+#include "desktop/Recording.h"
 #include "platform/WavePlayer.h"
 
-#include <sndfile.hh>
-
+#include <functional>
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace talvora {
 
-/// A file that cannot be read counts as not open: nothing plays then. A stretch ends with the file.
+/// A file that cannot be read counts as not open: nothing plays then. Where there is nothing to
+/// read files with, a stretch takes its time silently.
 class WaveOutput final : public WavePlayer {
  public:
-  explicit WaveOutput(PcmPlayer::MakeDevice makeDevice) : player_(std::move(makeDevice)) {}
+  /// Opens a file; null when there is nothing to read it with.
+  using OpenRecording = std::function<std::unique_ptr<Recording>(const std::string& path)>;
+
+  WaveOutput(PcmPlayer::MakeDevice makeDevice, OpenRecording openRecording)
+      : openRecording_(std::move(openRecording)), player_(std::move(makeDevice)) {}
 
   void Open(const std::string& path) override;
   void Close() override;
@@ -22,10 +29,8 @@ class WaveOutput final : public WavePlayer {
   [[nodiscard]] int Mode() const override { return player_.isPlaying() ? Playing : Stopped; }
 
  private:
-  /// The samples of a stretch in milliseconds, its channels mixed to one.
-  [[nodiscard]] Samples read(int from, int to);
-
-  SndfileHandle file_;
+  OpenRecording openRecording_;
+  std::unique_ptr<Recording> recording_; ///< null when none is open
   PcmPlayer player_;
 };
 

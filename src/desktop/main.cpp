@@ -186,7 +186,8 @@ int startAgain(const char* name, const talvora::Folders& folders,
 } // namespace
 
 int main(int argc, char** argv) {
-  const talvora::CommandLine line = talvora::readCommandLine(argc, argv, TALVORA_VERSION);
+  const talvora::CommandLine line =
+      talvora::readCommandLine(argc, argv, TALVORA_VERSION TALVORA_WITHOUT);
   if (line.over) return *line.over;
   ToolkitArguments arguments(argv[0], line.rest);
   auto guard = std::make_optional<talvora::DisplayGuard>();

@@ -7,9 +7,9 @@
 
 namespace talvora {
 
-void teach(lexicon_struct& lexicon, const Pronunciations& pronunciations) {
+void teach(lexicon_struct& lexicon, std::span<const LexiconEntry> corrections) {
   cst_val* entries = nullptr;
-  for (const LexiconEntry& each : pronunciations.lexicon()) {
+  for (const LexiconEntry& each : corrections) {
     // The zero means a word of any class.
     const std::string line = each.word + " 0 : " + each.phones;
     entries = cons_val(cst_lex_make_entry(&lexicon, line.c_str()), entries);

@@ -1,6 +1,6 @@
 #!/bin/bash
-# What `cmake --install` puts into a folder runs and speaks from there: the sound device is found,
-# and no path of the building machine is inside.
+# What `cmake --install` puts into a folder runs and speaks from there: what is loaded with the first
+# sound is found, the program does not link it, and no path of the building machine is inside.
 #
 #   prefix.sh BUILD_FOLDER
 set -u
@@ -17,16 +17,22 @@ fail() {
 cmake --install "$build" --prefix "$work/place" >"$work/log" 2>&1 ||
   fail "$(tail -n 5 "$work/log")"
 program=$work/place/bin/talvora
-device=$(find "$work/place" -name talvora-sound-device.so)
-[ -n "$device" ] || fail "no sound device is installed"
+modules=()
+for module in talvora-sound-device talvora-voices talvora-recordings; do
+  modules+=("$(find "$work/place" -name $module.so)")
+  [ -n "${modules[-1]}" ] || fail "no $module is installed"
+done
 
-for file in "$program" "$work/place/bin/talvora-pack" "$device"; do
+for file in "$program" "$work/place/bin/talvora-pack" "${modules[@]}"; do
   readelf -d "$file" | grep -E 'R(UN)?PATH' && fail "a path of the build is in $file"
 done
 
-# The program looks where the device is, seen from itself.
-from_bin=$(realpath -m --relative-to="$work/place/bin" "$(dirname "$device")")
+readelf -d "$program" | grep -E 'NEEDED.*(flite|sndfile|Multimedia)' &&
+  fail "the start pays for what only sound needs"
+
+# The program looks where the modules are, seen from itself.
+from_bin=$(realpath -m --relative-to="$work/place/bin" "$(dirname "${modules[0]}")")
 strings -a "$program" >"$work/strings"
 grep -qxF "$from_bin" "$work/strings" || strings -a -el "$program" | grep -qF "$from_bin" ||
-  fail "the program does not look for the device in $from_bin"
-echo "ok: an installed program finds its sound device and knows no folder of the build"
+  fail "the program does not look for modules in $from_bin"
+echo "ok: an installed program finds what makes sound and knows no folder of the build"

@@ -1,6 +1,7 @@
 // A teacher's own recordings, and the speakers that a script names.
 #include "pack/OwnRecording.h"
 
+#include "pack/Lexicon.h"
 #include "pack/ReadingSource.h"
 #include "pack/Recordings.h"
 #include "pack/SourceFile.h"
@@ -102,6 +103,7 @@ TEST(Speakers, AreNamedInTheLineAheadOfASentence) {
 }
 
 TEST(Speakers, HaveOneLevelAndTheRateOfTheirUnit) {
+  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
   EXPECT_DOUBLE_EQ(syllablesASecond(1), 3.0);
   EXPECT_DOUBLE_EQ(syllablesASecond(9), 4.8);
   ReadingSource readings = oneScript();

@@ -1,5 +1,6 @@
 // How words are said: the source, the notation, and what the voice is told.
 #include "pack/EntryLines.h"
+#include "pack/Lexicon.h"
 #include "pack/PhonesReport.h"
 #include "pack/Pronouncer.h"
 #include "pack/StreamText.h"
@@ -78,6 +79,7 @@ TEST(Phonetics, OneSyllableHasTheMainStress) {
 }
 
 TEST(Pronouncer, AClassThatIsSaidInItsOwnWaySaysSo) {
+  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
   Problems problems;
   auto entries = parseDictionary("use A1\n  v. dùng\n  n. [u] cách dùng\n\n"
                                  "walk\n  v. đi bộ\n  n. cuộc đi bộ\n",
@@ -90,6 +92,7 @@ TEST(Pronouncer, AClassThatIsSaidInItsOwnWaySaysSo) {
 }
 
 TEST(Pronouncer, TheSourceGoesBeforeTheLexicon) {
+  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
   const Pronouncer pronouncer(
       rulesOf("Hue = hh w ey1\nuse n. = y uw1 z\nthe = /ðə/\nlive = l ay1 v : I live\n"));
   EXPECT_EQ(pronouncer.shownOf("Hue", WordClass::Noun), "/hwei/");
@@ -102,6 +105,7 @@ TEST(Pronouncer, TheSourceGoesBeforeTheLexicon) {
 }
 
 TEST(Pronouncer, AClickedHeadWordIsSaidAsItsCommonestClassIs) {
+  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
   Problems problems;
   const auto entries = parseDictionary("use\n  v. dùng\n  n. cách dùng\n\nwalk\n  v. đi bộ\n\n"
                                        "Dr\n  abbr. bác sĩ\n",

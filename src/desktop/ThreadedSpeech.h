@@ -1,7 +1,8 @@
-// The speech engine of the desktop: flite, which speaks on a thread of its own.
+// The speech engine of the desktop: voices that speak on a thread of their own.
 #pragma once
 
 #include "desktop/PcmPlayer.h"
+#include "desktop/Voices.h"
 #include "platform/Speech.h"
 #include "sound/Pronunciations.h"
 
@@ -9,32 +10,29 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <span>
 #include <string>
 #include <thread>
-
-struct cst_voice_struct;
+#include <vector>
 
 namespace talvora {
 
-/// The flite voice of a number, from 1 to 10; several numbers have the same one. Null when its
-/// library is not installed. A voice takes up memory, and stays for the whole process.
-[[nodiscard]] cst_voice_struct* loadFliteVoice(int number);
-
-/// flite keeps its voices for the whole process: one engine at a time. A voice is loaded with its
-/// first word; one that is not there keeps the timing silently.
-class FliteSpeech final : public SpeechEngine {
+/// A text for which there is no voice takes the time that speaking it would take, silently.
+class ThreadedSpeech final : public SpeechEngine {
  public:
-  using LoadVoice = std::function<cst_voice_struct*(int number)>;
+  /// Makes the voices, with what they say wrong of themselves. Called on the engine's thread with
+  /// the first word; null when there are none.
+  using MakeVoices = std::function<std::unique_ptr<Voices>(std::vector<LexiconEntry> lexicon)>;
 
   /// `pronunciations` is what the voices say wrong of themselves, and for words that are said in
   /// several ways what they cannot know.
-  explicit FliteSpeech(PcmPlayer::MakeDevice makeDevice, LoadVoice loadVoice = loadFliteVoice,
-                       Pronunciations pronunciations = {});
-  FliteSpeech(const FliteSpeech&) = delete;
-  FliteSpeech& operator=(const FliteSpeech&) = delete;
-  ~FliteSpeech() override;
+  ThreadedSpeech(PcmPlayer::MakeDevice makeDevice, MakeVoices makeVoices,
+                 Pronunciations pronunciations = {});
+  ThreadedSpeech(const ThreadedSpeech&) = delete;
+  ThreadedSpeech& operator=(const ThreadedSpeech&) = delete;
+  ~ThreadedSpeech() override;
 
   void Speak(std::string_view text) override;
   void StopSpeaking() override;
@@ -49,19 +47,15 @@ class FliteSpeech final : public SpeechEngine {
     int voice = 1;
     int wordsPerMinute = 0;
   };
-  /// What flite's callback is given.
-  struct Stream;
 
   void run(const std::stop_token& ending);
-  void say(const Utterance& utterance, std::uint64_t stops);
-  void synthesise(const Utterance& utterance, cst_voice_struct& voice, std::uint64_t stops);
+  void say(const Utterance& utterance, Voices* voices, std::uint64_t stops);
   /// Plays what belongs to the text that was begun after so many stops; false when that is over.
   bool playPart(std::span<const std::int16_t> samples, int rate, std::uint64_t stops);
 
   PcmPlayer player_;
-  LoadVoice loadVoice_;
+  const MakeVoices makeVoices_;
   const Pronunciations pronunciations_;
-  bool taught_ = false; ///< whether the lexicon has them; the thread's own
   mutable std::mutex mutex_;
   std::condition_variable_any changed_;
   std::deque<Utterance> queue_;

@@ -1,0 +1,42 @@
+// Look-up in flite's lexicon.
+#include "pack/Lexicon.h"
+
+#include <flite/flite.h>
+
+#include <stdexcept>
+
+// The lexicon comes without a header.
+extern "C" {
+cst_lexicon* cmu_lex_init(void);
+}
+
+namespace talvora::pack {
+
+namespace {
+
+cst_lexicon& lexicon() {
+  static cst_lexicon* const loaded = [] {
+    flite_init();
+    return cmu_lex_init();
+  }();
+  if (loaded == nullptr) throw std::runtime_error("flite gives no lexicon for the words");
+  return *loaded;
+}
+
+} // namespace
+
+bool hasLexicon() {
+  return true;
+}
+
+Phones lexiconPhones(const std::string& word, char classLetter) {
+  const std::string letter(1, classLetter);
+  Phones phones;
+  cst_val* const found = lex_lookup(&lexicon(), word.c_str(), letter.c_str(), nullptr);
+  for (const cst_val* at = found; at != nullptr; at = val_cdr(at))
+    phones.emplace_back(val_string(val_car(at)));
+  delete_val(found);
+  return phones;
+}
+
+} // namespace talvora::pack

@@ -1,0 +1,18 @@
+// What the voices know of words.
+#pragma once
+
+#include "pack/Phonetics.h"
+
+#include <string>
+
+namespace talvora::pack {
+
+/// Whether there is a lexicon at all; without one every word has no phones.
+[[nodiscard]] bool hasLexicon();
+
+/// The phones of a word in small letters, the vowels with their stress ("sh ih1 p"), from the
+/// lexicon of the voices or by its letter-to-sound rules. The class is one of its letters: n, v, j,
+/// r, or 0 for any. Throws std::runtime_error when the lexicon cannot be had.
+[[nodiscard]] Phones lexiconPhones(const std::string& word, char classLetter);
+
+} // namespace talvora::pack

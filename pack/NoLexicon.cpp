@@ -1,0 +1,14 @@
+// A build without speech knows nothing of how words are said.
+#include "pack/Lexicon.h"
+
+namespace talvora::pack {
+
+bool hasLexicon() {
+  return false;
+}
+
+Phones lexiconPhones(const std::string&, char) {
+  return {};
+}
+
+} // namespace talvora::pack
