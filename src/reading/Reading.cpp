@@ -18,9 +18,6 @@ constexpr int GuideText = guidetext::Number;
 constexpr int MostHeadings = 38;
 // Texts from here on are the scripts of the recordings.
 constexpr int FirstScript = limit::FirstRecordedText;
-// The guide's title, which section 5 shows but does not analyse.
-constexpr int GreyedFrom = 20;
-constexpr int GreyedTo = 47;
 
 } // namespace
 
@@ -259,7 +256,7 @@ void Reading::VeDauMuc() {
     styleHeading(state_.list.ViTriNhom[static_cast<std::size_t>(heading)]);
   }
   if (state_.places.MucMenu == section::Analysis) {
-    R1.format({GreyedFrom, GreyedTo}, {.color = look::Greyed});
+    R1.format({guidetext::GreyedFrom, guidetext::GreyedTo}, {.color = look::Greyed});
   }
   R1.SelStart(0);
 }

@@ -206,25 +206,70 @@ TEST(CourseChecks, KeepEveryRuleInTheCourse) {
     EXPECT_THAT(note, HasSubstr(": "));
 }
 
-std::vector<std::string> guideMistakes(const std::string& ahead, const std::string& practice) {
+/// The line of a heading with eighteen letters, with its star and line end.
+constexpr std::string_view headingAhead = "*eighteen letters..\r";
+
+/// A title of so many letters, the ones ahead of it, then two paragraphs.
+std::vector<std::string> guideMistakes(const std::string& title, const std::string& ahead,
+                                       const std::string& practice,
+                                       std::string_view lineAhead = headingAhead) {
   Problems problems;
-  checkGuideText("title: Guide\n\n" + ahead + "\n= Dịch.\n\n" + practice + "\n= Dịch.\n",
-                 "002-x.txt", problems);
+  checkGuideText(title + "\n\n" + ahead + "\n= Dịch.\n\n" + practice + "\n= Dịch.\n", "002-x.txt",
+                 lineAhead, problems);
   return told(problems);
 }
 
-TEST(GuideTextCheck, HoldsThePracticeSentencesToTheirPlace) {
-  const std::string marked = std::string(PracticeMark) + "\nThe boat is here.";
-  // Title, line ends, tabs and marks take eleven characters ahead of the second paragraph.
-  EXPECT_THAT(guideMistakes(std::string(692, 'a'), marked), testing::IsEmpty());
-  EXPECT_THAT(guideMistakes(std::string(900, 'a'), marked), testing::IsEmpty());
-  EXPECT_EQ(guideMistakes(std::string(680, 'a'), marked).size(), 1U);
-  EXPECT_EQ(guideMistakes(std::string(980, 'a'), marked).size(), 1U);
+std::string marked(std::string_view mark, const std::string& what) {
+  return std::string(mark) + "\n" + what;
 }
 
-TEST(GuideTextCheck, AsksForTheMarkWhereTheTextReachesThatFar) {
-  EXPECT_THAT(guideMistakes("short", "The boat is here."), testing::IsEmpty());
-  EXPECT_EQ(guideMistakes(std::string(700, 'a'), "The boat is here.").size(), 1U);
+const std::string greyedTitle = marked(GreyedMark, "title: " + std::string(25, 't'));
+const std::string practice = marked(PracticeMark, "The boat is here.");
+
+TEST(GuideTextCheck, HoldsThePracticeSentencesToTheirPlace) {
+  EXPECT_THAT(guideMistakes(greyedTitle, std::string(672, 'a'), practice), testing::IsEmpty());
+  EXPECT_THAT(guideMistakes(greyedTitle, std::string(900, 'a'), practice), testing::IsEmpty());
+  EXPECT_THAT(guideMistakes(greyedTitle, std::string(660, 'a'), practice),
+              ElementsAre(HasSubstr("the practice paragraph takes the characters 689 to 708")));
+  EXPECT_THAT(guideMistakes(greyedTitle, std::string(960, 'a'), practice),
+              testing::Contains(HasSubstr("the practice paragraph takes the characters 989 to")));
+}
+
+/// A practice paragraph with one of words behind it.
+std::string withWords(const std::string& words) {
+  return practice + "\n= Dịch.\n\n" + marked(WordsMark, words);
+}
+
+TEST(GuideTextCheck, HoldsTheWordsBehindThem) {
+  const std::string ahead(930, 'a');
+  EXPECT_THAT(guideMistakes(greyedTitle, ahead, withWords("Look up a bank.")),
+              ElementsAre(HasSubstr("the mark names no word")));
+  const auto mistakes = [&](const std::string& lead) {
+    const std::string mark = std::string(WordsMark) + " light\n" + lead + "light, bank.";
+    return guideMistakes(greyedTitle, ahead, practice + "\n= Dịch.\n\n" + mark);
+  };
+  EXPECT_THAT(mistakes("Look these up: "), testing::IsEmpty());
+  EXPECT_THAT(mistakes(""),
+              ElementsAre(HasSubstr("from \"light\" on, takes the characters 981 to")));
+  EXPECT_THAT(mistakes(std::string(150, 'b') + " "), ElementsAre(HasSubstr("and 1142")));
+}
+
+TEST(GuideTextCheck, HoldsTheGreyedTitleToItsPlaceInTheList) {
+  const std::string ahead(680, 'a');
+  EXPECT_THAT(guideMistakes(marked(GreyedMark, "title: " + std::string(24, 't')), ahead, practice),
+              ElementsAre(HasSubstr("takes the characters 20 to 46")));
+  EXPECT_THAT(guideMistakes(greyedTitle, ahead, practice, "*seventeen letter.\r"),
+              ElementsAre(HasSubstr("takes the characters 19 to 46")));
+}
+
+TEST(GuideTextCheck, AsksForTheMarksWhereTheTextReachesThatFar) {
+  EXPECT_THAT(guideMistakes("title: Guide", "short", "The boat is here."), testing::IsEmpty());
+  EXPECT_THAT(guideMistakes("title: Guide", std::string(700, 'a'), "The boat is here."),
+              ElementsAre(HasSubstr("\"// place: practice\" is missing"),
+                          HasSubstr("\"// place: greyed\" is missing ahead of the title")));
+  EXPECT_THAT(guideMistakes(greyedTitle, std::string(900, 'a'),
+                            practice + "\n= Dịch.\n\n" + std::string(60, 'b')),
+              ElementsAre(HasSubstr("\"// place: words\" is missing")));
 }
 
 } // namespace
