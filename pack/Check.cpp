@@ -1,7 +1,9 @@
 // Reading and counting of what is to be checked.
 #include "pack/Check.h"
 
+#include "pack/CourseChecks.h"
 #include "pack/CourseRules.h"
+#include "pack/DictionaryFindings.h"
 #include "pack/DictionaryStore.h"
 #include "pack/Guide.h"
 #include "pack/SourceFile.h"
@@ -68,7 +70,7 @@ class Checker {
       count(counted_, readDictionary(source_ / "dictionary", problems_).size(), "dictionary entry",
             "dictionary entries");
     }
-    return {counted_, told_};
+    return {counted_, told_, {}};
   }
 
  private:
@@ -101,14 +103,14 @@ class Checker {
     const auto exercises = readExercises(source_, lessons, problems_);
     count(counted_, lessons.lessons.size(), "lesson", "lessons");
     count(counted_, itemsIn(exercises), "item", "items");
-    if (problems_.none()) checkRules(lessons, exercises);
+    if (problems_.none()) checkCourseRules(lessons, exercises);
   }
 
-  void checkRules(const LessonSource& lessons, const ExerciseSource& exercises) {
+  void checkCourseRules(const LessonSource& lessons, const ExerciseSource& exercises) {
     progress_("rules of the course");
     const auto items = courseItemsOf(exercises);
     const WordList words = ownWordsOf(items);
-    told_ = settleRules(checkCourse({lessons, exercises, items, words}),
+    told_ = settleRules(checkRules({lessons, exercises, items, words}),
                         warnings_ == Warnings::Listed, problems_);
   }
 
@@ -146,6 +148,15 @@ void checkCompiled(const Options& options, Problems& problems, const Progress& p
                 problems);
 }
 
+/// Lines on what breaks a rule of the dictionary without being an error: how often, and where when
+/// the dictionary was asked for by name.
+std::string checkDictionaryOf(const std::filesystem::path& source, bool byName,
+                              Problems& problems) {
+  const auto findings = checkDictionaryAlone(source, {}, problems);
+  reportErrors(findings, problems);
+  return (byName ? warningsOf(findings) : "") + findingsReport(findings);
+}
+
 } // namespace
 
 CheckReport checkContent(const Options& options, const std::set<ContentKind>& only,
@@ -157,7 +168,14 @@ CheckReport checkContent(const Options& options, const std::set<ContentKind>& on
     for (const ContentKindName& each : ContentKindNames)
       kinds.insert(each.kind);
   }
-  return Checker(options, kinds, warnings, problems, progress).run();
+  CheckReport report = Checker(options, kinds, warnings, problems, progress).run();
+  if (problems.none() && kinds.contains(ContentKind::Dictionary))
+    report.warnings += checkDictionaryOf(options.source, !only.empty(), problems);
+  if (problems.none() && only.empty()) {
+    progress("rules of texts and drills");
+    report.notes = checkTextsAndDrills(options.source, problems);
+  }
+  return report;
 }
 
 } // namespace talvora::pack

@@ -1,4 +1,6 @@
-// The checks of a content tree: of all of it, or of a few kinds for a quick answer while writing.
+// The checks of a content tree, in front of all that is looked at: what cannot be read, the rules
+// of the course (CourseRules.h), the dictionary (DictionaryFindings.h), texts and drills
+// (CourseChecks.h). Of all of the tree, or of a few kinds for a quick answer while writing.
 #pragma once
 
 #include "pack/Compiler.h"
@@ -7,6 +9,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace talvora::pack {
 
@@ -37,17 +40,19 @@ inline constexpr std::array<ContentKindName, 8> ContentKindNames = {
      {ContentKind::Guide, "guide"},
      {ContentKind::Dictionary, "dictionary"}}};
 
-/// What a check tells when all is well.
+/// What a check tells beside what is wrong.
 struct CheckReport {
-  std::string counted;  ///< "104 lessons, 1154 items"
-  std::string warnings; ///< lines about rules with exceptions that pass
+  std::string counted;            ///< "104 lessons, 1154 items"
+  std::string warnings;           ///< lines about what passes and is an exception
+  std::vector<std::string> notes; ///< on texts and drills: what is counted and breaks nothing
 };
 
 /// Whether warnings name their places.
 enum class Warnings { Counted, Listed };
 
-/// Checks some kinds, or everything for none, with what these refer to; the rules of the course are
-/// looked at when the sources can be read.
+/// Checks some kinds, or everything for none, with what these refer to. Each further check is only
+/// made when the ones before found nothing wrong; texts and drills are looked at together with
+/// everything.
 [[nodiscard]] CheckReport checkContent(const Options& options, const std::set<ContentKind>& only,
                                        Warnings warnings, Problems& problems,
                                        const Progress& progress);

@@ -1,8 +1,6 @@
 // talvora-pack check: what is wrong with sources.
 #include "pack/Check.h"
 #include "pack/Command.h"
-#include "pack/ContentCheck.h"
-#include "pack/CourseChecks.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,24 +12,6 @@
 namespace talvora::pack {
 
 namespace {
-
-/// Tells what breaks a rule of the dictionary without being an error: how often, and where when the
-/// dictionary was asked for by name.
-void checkDictionary(const Options& options, const std::set<ContentKind>& only,
-                     Problems& problems) {
-  const bool named = only.contains(ContentKind::Dictionary);
-  if (!only.empty() && !named) return;
-  const auto findings = checkDictionaryAlone(options.source, {}, problems);
-  if (named) std::cout << warningsOf(findings);
-  std::cout << findingsReport(findings);
-  reportErrors(findings, problems);
-}
-
-void checkTexts(const Options& options, Problems& problems) {
-  showStep("rules of texts and drills");
-  for (const std::string& note : checkCourse(options.source, problems))
-    std::cerr << "note: " << note << "\n";
-}
 
 std::map<std::string, ContentKind> namedKinds() {
   std::map<std::string, ContentKind> kinds;
@@ -65,8 +45,8 @@ int CheckCommand::run() {
   Problems problems;
   const CheckReport report = checkContent(options_, only, warnings, problems, showStep);
   std::cout << report.warnings;
-  if (problems.none()) checkDictionary(options_, only, problems);
-  if (problems.none() && only.empty()) checkTexts(options_, problems);
+  for (const std::string& note : report.notes)
+    std::cerr << "note: " << note << "\n";
   if (problems.none()) std::cout << report.counted << ": no errors\n";
   return tell(problems);
 }

@@ -25,7 +25,8 @@ std::unordered_set<std::string> headsOf(const std::vector<OwnEntry>& own) {
 
 } // namespace
 
-std::vector<std::string> checkCourse(const std::filesystem::path& source, Problems& problems) {
+std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source,
+                                             Problems& problems) {
   const auto heads = headsOf(readDictionary(source / "dictionary", problems));
   checkTexts(source / "reading", TextUse::Reading, heads, problems);
   checkGuideTextIn(source / "reading", problems);

@@ -11,7 +11,7 @@ namespace talvora::pack {
 
 /// Checks a content tree that can be read. What is only counted is told in lines, which are no
 /// problems.
-[[nodiscard]] std::vector<std::string> checkCourse(const std::filesystem::path& source,
-                                                   Problems& problems);
+[[nodiscard]] std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source,
+                                                           Problems& problems);
 
 } // namespace talvora::pack

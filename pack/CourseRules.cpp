@@ -3,7 +3,7 @@
 
 namespace talvora::pack {
 
-std::vector<RuleReport> checkCourse(const Course& course) {
+std::vector<RuleReport> checkRules(const Course& course) {
   return {explanationsAreThere(course), reasonsAreGiven(course),
           termsAreOfTheList(course),    linksTeachTheirPoint(course),
           sentencesDiffer(course),      sentencesDifferFromExamples(course),

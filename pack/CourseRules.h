@@ -32,7 +32,7 @@ struct RuleReport {
 };
 
 /// All rules, those that are kept with nothing found.
-[[nodiscard]] std::vector<RuleReport> checkCourse(const Course& course);
+[[nodiscard]] std::vector<RuleReport> checkRules(const Course& course);
 
 /// Puts the places of rules with too many exceptions to the problems, and tells the others: a line
 /// for each rule, with its places when they are `listed`.

@@ -1,7 +1,7 @@
 // The commands that only tell: show, status, plan, phones.
 #include "pack/Command.h"
-#include "pack/ContentCheck.h"
 #include "pack/CourseReport.h"
+#include "pack/DictionaryFindings.h"
 #include "pack/PhonesReport.h"
 #include "pack/Planner.h"
 #include "pack/Show.h"

@@ -200,7 +200,7 @@ TEST(DrillChecks, CutOnePhraseAStretch) {
 
 TEST(CourseChecks, KeepEveryRuleInTheCourse) {
   Problems problems;
-  const auto notes = checkCourse(TALVORA_CONTENT, problems);
+  const auto notes = checkTextsAndDrills(TALVORA_CONTENT, problems);
   EXPECT_THAT(told(problems), ElementsAre());
   for (const std::string& note : notes)
     EXPECT_THAT(note, HasSubstr(": "));

@@ -1,7 +1,7 @@
 // The rules of the dictionary: each is broken once and kept once.
 #include "pack/DictionaryCheck.h"
 
-#include "pack/ContentCheck.h"
+#include "pack/DictionaryFindings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,7 @@
 // Gathering what the checks need.
-#include "pack/ContentCheck.h"
+#include "pack/DictionaryFindings.h"
 
 #include "pack/DictionaryStore.h"
-
 #include "pack/SourceFile.h"
 
 #include <utility>
@@ -27,8 +26,7 @@ bool isError(const Finding& finding) {
   return DictionaryRules[static_cast<std::size_t>(finding.rule)].error;
 }
 
-} // namespace
-
+/// What the dictionary breaks. `entries` holds the normal forms of its word list.
 std::vector<Finding> findingsIn(const std::filesystem::path& source,
                                 const std::vector<OwnEntry>& own, WordSet entries,
                                 const CheckLists& lists) {
@@ -40,6 +38,8 @@ std::vector<Finding> findingsIn(const std::filesystem::path& source,
   measures.irregularVerbs = verbsOfLesson(irregularVerbsText(source));
   return checkDictionary(own, measures);
 }
+
+} // namespace
 
 std::vector<Finding> checkDictionaryAlone(const std::filesystem::path& source,
                                           const CheckLists& lists, Problems& problems) {

@@ -1,9 +1,10 @@
-// The checks that go beyond what a build needs.
+// What the dictionary of a content tree breaks, gathered with what its checks need.
 #pragma once
 
 #include "pack/Compiler.h"
 #include "pack/DictionaryCheck.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -16,11 +17,6 @@ struct CheckLists {
                                                 "/usr/share/dict/british-english-huge",
                                                 "/usr/share/dict/american-english-huge"};
 };
-
-/// What the dictionary of a content tree breaks. `entries` holds the normal forms of its word list.
-[[nodiscard]] std::vector<Finding> findingsIn(const std::filesystem::path& source,
-                                              const std::vector<OwnEntry>& own, WordSet entries,
-                                              const CheckLists& lists);
 
 /// The dictionary alone, without the databases: its own words and their forms, as far as the word
 /// lists know them.
