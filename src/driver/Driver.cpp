@@ -115,8 +115,8 @@ const std::map<std::string, Driver::Entry>& Driver::commands() {
 }
 
 Driver::Driver(const ScriptedOptions& options, const Folders& folders,
-               std::optional<LearnerLock> lock)
-    : machine_(options), lock_(std::move(lock)), program_(machine_.platform, folders),
+               std::optional<LearnerLock> lock, FileSystem& files)
+    : machine_(options, files), lock_(std::move(lock)), program_(machine_.platform, folders),
       learner_(machine_, program_) {}
 
 std::string Driver::answer(std::string_view line) {

@@ -20,7 +20,7 @@ class Driver {
   /// `lock` is on the learner's folder; it goes when the program has ended. When another program
   /// has the folder, the start fails.
   Driver(const ScriptedOptions& options, const Folders& folders,
-         std::optional<LearnerLock> lock = std::nullopt);
+         std::optional<LearnerLock> lock = std::nullopt, FileSystem& files = systemFiles());
 
   /// Carries out one command and gives its reply. A command that cannot be understood changes
   /// nothing; a fatal failure of the program is a reply.

@@ -3,9 +3,11 @@
 #include "platform/Files.h"
 #include "text/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <iterator>
 
 namespace talvora {
 
@@ -13,6 +15,8 @@ namespace {
 
 constexpr char AddedSign = '+';
 constexpr char RemovedSign = '-';
+/// Removed together with the word of the next line.
+constexpr char RemovedWithNextSign = '~';
 constexpr std::size_t CheckDigits = 8;
 
 /// What a line's bytes add up to, so that half a line is not taken for a whole one.
@@ -25,22 +29,33 @@ std::string checkOf(std::string_view text) {
   return digits.data();
 }
 
-std::string lineOf(const WordDeed& deed) {
-  std::string text(1, deed.kind == WordDeed::Kind::Added ? AddedSign : RemovedSign);
+bool removes(const WordDeed& deed) {
+  return deed.kind == WordDeed::Kind::Removed;
+}
+
+std::string lineOf(const WordDeed& deed, char sign) {
+  std::string text(1, sign);
   text += '\t' + lineOf(deed.row);
   return checkOf(text) + '\t' + text;
 }
 
-std::optional<WordDeed> deedFrom(std::string_view line) {
+/// A line of the journal.
+struct Entry {
+  WordDeed deed;
+  bool goesOn = false; ///< the next line belongs to the same deletion
+};
+
+std::optional<Entry> entryFrom(std::string_view line) {
   // Check, tab, sign, tab.
   constexpr std::size_t ahead = CheckDigits + 3;
   if (line.size() < ahead || line[CheckDigits] != '\t') return std::nullopt;
   const std::string_view text = line.substr(CheckDigits + 1);
   if (checkOf(text) != line.substr(0, CheckDigits) || text[1] != '\t') return std::nullopt;
   auto row = rowFrom(text.substr(2));
-  if (!row || (text[0] != AddedSign && text[0] != RemovedSign)) return std::nullopt;
+  constexpr std::array signs = {AddedSign, RemovedSign, RemovedWithNextSign};
+  if (!row || std::find(signs.begin(), signs.end(), text[0]) == signs.end()) return std::nullopt;
   const auto kind = text[0] == AddedSign ? WordDeed::Kind::Added : WordDeed::Kind::Removed;
-  return WordDeed{kind, std::move(*row)};
+  return Entry{{kind, std::move(*row)}, text[0] == RemovedWithNextSign};
 }
 
 } // namespace
@@ -50,17 +65,29 @@ std::vector<WordDeed> WordJournal::read() const {
   std::error_code error;
   const auto content = readWhole(files_, path_, error);
   if (!content) return deeds;
+  std::vector<WordDeed> deletion; // as far as it is known
   for (const std::string& line : split(textOfBytes(*content), '\n')) {
-    if (auto deed = deedFrom(line)) deeds.push_back(std::move(*deed));
+    auto entry = entryFrom(line);
+    if (!entry || !removes(entry->deed)) deletion.clear();
+    if (!entry) continue;
+    deletion.push_back(std::move(entry->deed));
+    if (entry->goesOn) continue;
+    deeds.insert(deeds.end(), deletion.begin(), deletion.end());
+    deletion.clear();
   }
   return deeds;
 }
 
 std::error_code WordJournal::append(const std::vector<WordDeed>& deeds) {
-  std::string text;
-  // Each line begins with a line end: half a line that a kill has left does not spoil it.
-  for (const WordDeed& deed : deeds)
-    text += '\n' + lineOf(deed);
+  std::string text = "\n";
+  // Begins with an empty line: what a kill has left, half a line or half a deletion, does not spoil
+  // it.
+  for (auto deed = deeds.begin(); deed != deeds.end(); ++deed) {
+    const bool goesOn =
+        removes(*deed) && std::next(deed) != deeds.end() && removes(*std::next(deed));
+    const char removed = goesOn ? RemovedWithNextSign : RemovedSign;
+    text += '\n' + lineOf(*deed, removes(*deed) ? removed : AddedSign);
+  }
   std::error_code error;
   const bool made = files_.status(path_, error).kind == FileStatus::Kind::Missing;
   if (error) return error;

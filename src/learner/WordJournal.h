@@ -27,7 +27,8 @@ class WordJournal {
   WordJournal(std::string path, FileSystem& files) : files_(files), path_(std::move(path)) {}
 
   /// All deeds in their order. A line that is not whole, as a kill leaves the last one, counts for
-  /// nothing; so does a journal that cannot be read.
+  /// nothing; so does a deletion of several words that is not whole, and a journal that cannot be
+  /// read.
   [[nodiscard]] std::vector<WordDeed> read() const;
   /// Returns when the deeds are on the disk. After a failure the journal is what it was.
   [[nodiscard]] std::error_code append(const std::vector<WordDeed>& deeds);

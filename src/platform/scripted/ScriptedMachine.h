@@ -29,7 +29,7 @@ struct ScriptedOptions {
 
 class ScriptedMachine {
  public:
-  explicit ScriptedMachine(const ScriptedOptions& options = {});
+  explicit ScriptedMachine(const ScriptedOptions& options = {}, FileSystem& files = systemFiles());
   ScriptedMachine(const ScriptedMachine&) = delete;
   ScriptedMachine& operator=(const ScriptedMachine&) = delete;
 

@@ -1,8 +1,8 @@
 // Dated copies of what the learner owns.
 #include "learner/DatedCopies.h"
 
-#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Where the pack and the learner's folder are looked for.
 #include "learner/FindFolders.h"
 
-#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <gtest/gtest.h>
 

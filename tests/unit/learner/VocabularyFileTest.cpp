@@ -1,8 +1,8 @@
 #include "learner/VocabularyFile.h"
 
 #include "platform/FatalFailure.h"
-#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

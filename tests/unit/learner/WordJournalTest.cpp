@@ -2,8 +2,8 @@
 #include "learner/WordJournal.h"
 
 #include "platform/Files.h"
-#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 #include "text/Bytes.h"
 
 #include <gtest/gtest.h>
@@ -104,6 +104,22 @@ TEST_F(Journal, CutOffAnywhereKeepsEveryDeedThatIsWhole) {
     EXPECT_FALSE(journal.append({added("river")}));
     ASSERT_FALSE(journal.read().empty());
     EXPECT_EQ(journal.read().back(), added("river")) << length;
+  }
+}
+
+TEST_F(Journal, WordsThatWereDeletedTogetherAreGoneTogetherOrStay) {
+  EXPECT_FALSE(journal.append({added("bank"), added("go"), added("river")}));
+  const std::string before = folder.read("words.journal");
+  EXPECT_FALSE(journal.append({removed("bank"), removed("go"), removed("river")}));
+  const std::string content = folder.read("words.journal");
+  EXPECT_EQ(journal.read().size(), 6U);
+  for (std::size_t length = before.size(); length < content.size() - 1; ++length) {
+    folder.write("words.journal", content.substr(0, length));
+    EXPECT_EQ(journal.read().size(), 3U) << length;
+    // Nor does a later deletion take the half one along.
+    EXPECT_FALSE(journal.append({removed("river")}));
+    EXPECT_EQ(journal.read(), (Deeds{added("bank"), added("go"), added("river"), removed("river")}))
+        << length;
   }
 }
 

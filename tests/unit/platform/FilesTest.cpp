@@ -2,8 +2,8 @@
 #include "platform/Files.h"
 
 #include "platform/FatalFailure.h"
-#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

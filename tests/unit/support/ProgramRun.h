@@ -4,8 +4,8 @@
 #include "driver/Hand.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/Program.h"
-#include "support/FaultyFiles.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <optional>
 #include <string>
