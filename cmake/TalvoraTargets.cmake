@@ -14,6 +14,11 @@ if(TALVORA_SANITIZE)
     -fsanitize=${TALVORA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(talvora-settings INTERFACE -fsanitize=${TALVORA_SANITIZE})
 endif()
+if(TALVORA_FUZZER)
+  target_compile_options(talvora-settings INTERFACE
+    -fsanitize=fuzzer-no-link -fprofile-instr-generate -fcoverage-mapping)
+  target_link_options(talvora-settings INTERFACE -fprofile-instr-generate)
+endif()
 
 # For the programs that tell their version.
 function(talvora_knows_its_version program)

@@ -27,12 +27,12 @@ struct Options {
   long runs = 100000;
   double seconds = 0;
   std::uint64_t seed = 1;
-  std::string seeds;
+  std::vector<std::string> seeds; ///< folders
 };
 
 [[noreturn]] void showUsage(int exitCode) {
-  std::puts("usage: talvora-fuzz-NAME [--runs N] [--seconds N] [--seed N] [--seeds FOLDER]\n"
-            "Runs the target on the files of FOLDER and on N mutations of them,\n"
+  std::puts("usage: talvora-fuzz-NAME [--runs N] [--seconds N] [--seed N] [--seeds FOLDER]...\n"
+            "Runs the target on the files of each FOLDER and on N mutations of them,\n"
             "or for so many seconds when --seconds is given.");
   std::exit(exitCode);
 }
@@ -51,7 +51,7 @@ Options readOptions(int argc, char** argv) {
     } else if (name == "--seed") {
       options.seed = std::stoull(value);
     } else if (name == "--seeds") {
-      options.seeds = value;
+      options.seeds.push_back(value);
     } else {
       showUsage(2);
     }
@@ -59,12 +59,14 @@ Options readOptions(int argc, char** argv) {
   return options;
 }
 
-std::vector<Input> readSeeds(const std::string& folder) {
+std::vector<Input> readSeeds(const std::vector<std::string>& folders) {
   std::vector<Input> seeds = {Input{}};
-  if (folder.empty() || !std::filesystem::is_directory(folder)) return seeds;
   std::vector<std::filesystem::path> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(folder))
-    paths.push_back(entry);
+  for (const std::string& folder : folders) {
+    if (!std::filesystem::is_directory(folder)) continue;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+      paths.push_back(entry);
+  }
   std::sort(paths.begin(), paths.end());
   for (const auto& path : paths) {
     std::ifstream file(path, std::ios::binary);

@@ -1,0 +1,40 @@
+#!/usr/bin/env python3
+"""Makes seeds of a pack: its stores as the targets take them that read several files at once.
+
+usage: pack-seeds.py PACK FOLDER
+"""
+
+import sys
+from pathlib import Path
+
+MARK = b"\n%%\n"
+# A seed is no use that is larger than what the targets are given.
+LONGEST = 20000
+
+STORES = {
+    "reading": ("data.vt", "data.av", "DataS"),
+    "speaking": ("datasp.vt", "datasp.av", "DataS"),
+    "items": ("data.vbt", "data.bt", "data.Muc"),
+    "lessons": ("datavp.vt", "datavp.n", "data.Muc"),
+    "listening": ("dataN.vt", "dataN.av", "DataS"),
+    "analyses": ("dataPt.vt", "dataPt.v", "data.Muc"),
+    "words": ("data.mtd", "data.avt", "datatu.txt"),
+    "side": ("dataD.vt", "dataD.av", "datatuD.txt"),
+}
+
+
+def main():
+    pack, folder = Path(sys.argv[1]), Path(sys.argv[2])
+    for target in ("Stores", "PackStores"):
+        (folder / target).mkdir(parents=True, exist_ok=True)
+        for name, files in STORES.items():
+            parts = [(pack / file).read_bytes()[:LONGEST] for file in files]
+            (folder / target / name).write_bytes(MARK.join(parts))
+    spoken = folder / "Pronunciations"
+    spoken.mkdir(exist_ok=True)
+    rules = (pack / "pronunciation.txt").read_bytes()[:LONGEST]
+    (spoken / "course").write_bytes(rules + MARK + b"He has read the record; they record what they read.")
+
+
+if __name__ == "__main__":
+    main()
