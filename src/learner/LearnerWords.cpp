@@ -111,7 +111,9 @@ void LearnerWords::clearLeftOvers() {
   std::error_code error;
   for (const std::string& entry : files_.list(folder_, error)) {
     const bool left = entry == OldNewName || isLeftOver(entry, learnerfile::Words) ||
-                      isLeftOver(entry, learnerfile::Rows) || isLeftOver(entry, learnerfile::Lists);
+                      isLeftOver(entry, learnerfile::Rows) ||
+                      isLeftOver(entry, learnerfile::Lists) ||
+                      isLeftOver(entry, learnerfile::Settings);
     if (left) static_cast<void>(files_.remove(pathOf(entry)));
   }
 }

@@ -22,6 +22,15 @@ std::vector<std::int32_t> recordsOf(std::span<const unsigned char> bytes) {
   return records;
 }
 
+std::vector<unsigned char> bytesOfRecords(const std::vector<std::int32_t>& records) {
+  std::vector<unsigned char> bytes;
+  for (const std::int32_t record : records) {
+    const auto integer = bytesOf(record);
+    bytes.insert(bytes.end(), integer.begin(), integer.end());
+  }
+  return bytes;
+}
+
 } // namespace
 
 void SettingsFile::open(std::string path, IfMissing ifMissing) {
@@ -29,7 +38,9 @@ void SettingsFile::open(std::string path, IfMissing ifMissing) {
   std::error_code error;
   const auto content = readWhole(files_, path_, error);
   mayWrite_ = content.has_value() || error == std::errc::no_such_file_or_directory;
-  if (content) {
+  // An empty one is what a kill has left of one that was being made.
+  const bool begins = !content || (content->empty() && ifMissing == IfMissing::BeginFresh);
+  if (!begins) {
     records_ = recordsOf(*content);
     return;
   }
@@ -59,24 +70,21 @@ void SettingsFile::write(int record, std::int32_t value) {
   store(at);
 }
 
-// A file that somebody took away meanwhile is made again, whole.
+// A file that somebody took away meanwhile is made again. It is made whole or not at all: one that
+// is empty would turn the sound off. A setting that stays behind is as it was: that is all.
 void SettingsFile::store(std::size_t fromRecord) {
   if (!mayWrite_) return;
   std::error_code error;
+  const FileStatus status = files_.status(path_, error);
+  const bool lacksRecords = status.size < fromRecord * IntegerSize || status.size == 0;
+  if (!error && lacksRecords) {
+    static_cast<void>(replaceFile(files_, path_, bytesOfRecords(records_)));
+    return;
+  }
+  if (error || status.kind != FileStatus::Kind::File) return;
   const auto file = files_.open(path_, OpenFor::Writing, error);
   if (file == nullptr) return;
-  const FileStatus status = file->status(error);
-  if (error || status.kind != FileStatus::Kind::File) return;
-  const bool whole = status.size < fromRecord * IntegerSize;
-  const std::size_t from = whole ? 0 : fromRecord;
-  const std::size_t to = whole || fromRecord == 0 ? records_.size() : fromRecord + 1;
-  std::vector<unsigned char> bytes;
-  for (std::size_t record = from; record < to; ++record) {
-    const auto integer = bytesOf(records_[record]);
-    bytes.insert(bytes.end(), integer.begin(), integer.end());
-  }
-  // A setting that stays behind is as it was: that is all.
-  if (!bytes.empty()) static_cast<void>(file->write(from * IntegerSize, bytes));
+  static_cast<void>(file->write(fromRecord * IntegerSize, bytesOf(records_[fromRecord])));
 }
 
 } // namespace talvora
