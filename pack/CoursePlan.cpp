@@ -70,7 +70,7 @@ class RowParser {
     series.words = band(fields[3], "words a text");
     series.sentence = band(fields[4], "words a sentence");
     series.newLemmas = newLemmas(fields[5]);
-    series.holds = holds(fields[6]);
+    series.held = held(fields[6]);
     return series;
   }
 
@@ -106,10 +106,25 @@ class RowParser {
     return number;
   }
 
-  bool holds(const Field& field) {
-    if (field.text != "holds" && field.text != "aims")
-      report(field, "a budget \"holds\" or is what the texts aim at: \"aims\"");
-    return field.text == "holds";
+  Budgets held(const Field& field) {
+    Budgets budgets{};
+    if (field.text == "aims") return budgets;
+    if (field.text == "holds") {
+      budgets.fill(true);
+      return budgets;
+    }
+    for (std::string_view rest = field.text; !rest.empty();) {
+      const std::string_view name = rest.substr(0, rest.find(','));
+      rest.remove_prefix(std::min(rest.size(), name.size() + 1));
+      const auto* const found = std::find(BudgetNames.begin(), BudgetNames.end(), name);
+      if (found == BudgetNames.end()) {
+        report(field, "a row closes with \"holds\", \"aims\" or the budgets that hold: words, "
+                      "sentence, new, twice, return, known");
+        break;
+      }
+      budgets.at(static_cast<std::size_t>(found - BudgetNames.begin())) = true;
+    }
+    return budgets;
   }
 
   const std::string& file_;
@@ -135,7 +150,7 @@ std::vector<Series> parsePlan(std::string_view text, const std::string& file, Pr
     if (fields.size() != columns) {
       problems.add({file, line.number, 1},
                    "a row is: slots, kind, level, words a text, words a sentence, new lemmas, "
-                   "\"holds\" or \"aims\"");
+                   "the budgets that hold");
       continue;
     }
     Series series = RowParser(file, line.number, problems).read(fields);

@@ -3,6 +3,8 @@
 
 #include "pack/Problems.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -23,6 +25,21 @@ struct Band {
   [[nodiscard]] bool has(double value) const noexcept { return value >= from && value <= to; }
 };
 
+/// What the texts of a series keep to, each by itself.
+enum class Budget : std::uint8_t {
+  Words,    ///< the words of a text
+  Sentence, ///< the words of a sentence
+  New,      ///< the new lemmas
+  Twice,    ///< a new lemma comes twice in its text
+  Return,   ///< a new lemma returns in time
+  Known     ///< the share of words known at first sight
+};
+/// As the plan writes them.
+inline constexpr std::array<std::string_view, 6> BudgetNames = {"words", "sentence", "new",
+                                                                "twice", "return",   "known"};
+/// By budget.
+using Budgets = std::array<bool, BudgetNames.size()>;
+
 /// A row of the plan.
 struct Series {
   Band slots;
@@ -31,7 +48,11 @@ struct Series {
   Band words;                   ///< of a text
   Band sentence;                ///< words a sentence, on an average
   std::optional<int> newLemmas; ///< at most, a text; none when the texts are free
-  bool holds = false;           ///< a text outside its budget is an error, else it is only counted
+  Budgets held{}; ///< a text outside one of these is an error; outside another it is only counted
+
+  [[nodiscard]] bool holds(Budget budget) const noexcept {
+    return held.at(static_cast<std::size_t>(budget));
+  }
 };
 
 /// The share of running words, in per cent, that a text must have known at first sight; 0 when its

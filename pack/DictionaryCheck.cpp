@@ -2,10 +2,10 @@
 #include "pack/DictionaryCheck.h"
 
 #include "pack/EntryLines.h"
+#include "pack/SmallLetters.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "sound/Pronunciations.h"
-#include "text/GlyphMap.h"
 #include "text/Text.h"
 #include "text/WordForm.h"
 
@@ -39,15 +39,6 @@ std::size_t shownLetters(const OwnEntry& entry) {
   return letters;
 }
 
-/// The small letter of a Latin capital, the Vietnamese ones too.
-char32_t smallLetter(char32_t letter) {
-  if (letter < 0x80) return static_cast<unsigned char>(lower(static_cast<char>(letter)));
-  if (letter >= 0x1EA0 && letter <= 0x1EF9) return letter | 1U;
-  if (letter >= 0xC0 && letter <= 0xDD) return letter + 0x20;
-  const bool paired = std::u32string_view(U"ĂĐĨŨƠƯ").find(letter) != std::u32string_view::npos;
-  return paired ? letter + 1 : letter;
-}
-
 /// A syllable with its tone mark on the second vowel, where it stands on the first: "thỏa" and
 /// "thoả" are both in use, and a word list has one of them.
 std::string toneMovedBack(const std::string& syllable) {
@@ -75,17 +66,6 @@ std::string toneMovedBack(const std::string& syllable) {
       return syllable.substr(0, syllable.size() - twin.ours.size()).append(twin.theirs);
   }
   return syllable;
-}
-
-/// Small letters of a UTF-8 text, the Vietnamese ones too.
-std::string smallUtf8(std::string_view text) {
-  std::string small;
-  for (std::size_t at = 0; at < text.size();) {
-    const auto letter = nextCodePoint(text, at);
-    if (!letter) return small;
-    appendUtf8(small, smallLetter(*letter));
-  }
-  return small;
 }
 
 /// The syllables of a Vietnamese text: stretches of letters, ASCII or not.

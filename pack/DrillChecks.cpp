@@ -5,6 +5,7 @@
 #include "pack/StreamText.h"
 #include "pack/TextWords.h"
 #include "pack/WordPhones.h"
+#include "pack/WordingChecks.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -78,6 +79,7 @@ class UnitChecker {
   std::string check() {
     for (const ListeningQuestion& item : items_) {
       checkSounds(item);
+      checkWording(item);
       if (!optionsAreLike(item)) tellLength(item);
     }
     const std::size_t exact = exactKeys();
@@ -96,8 +98,24 @@ class UnitChecker {
   void checkSounds(const ListeningQuestion& item) {
     for (const std::string& wrong : item.wrong) {
       const std::string reason = notHeardApart(item.sentence, wrong);
-      if (!reason.empty()) problems_.add(item.where, "\"" + utf8Of(wrong) + "\": " + reason);
+      if (!reason.empty()) problems_.add(item.where, quotedOption(wrong) + reason);
     }
+  }
+
+  /// The heard sentence is checked where it stands, in the script.
+  void checkWording(const ListeningQuestion& item) {
+    checkWording(item.where, item.right);
+    for (const std::string& wrong : item.wrong)
+      checkWording(item.where, wrong);
+  }
+
+  void checkWording(const Where& where, const std::string& option) {
+    for (const OddWording& odd : oddWordings(option))
+      problems_.add(where, quotedOption(option) + odd.message);
+  }
+
+  static std::string quotedOption(const std::string& option) {
+    return "\"" + utf8Of(option) + "\": ";
   }
 
   static std::vector<double> lengthsOf(const ListeningQuestion& item) {

@@ -5,6 +5,9 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
 
 namespace talvora::pack {
 
@@ -15,6 +18,22 @@ ClassSet classesOf(const OwnEntry& entry) {
   for (const Sense& sense : entry.block.senses)
     classes.add(sense.wordClass == WordClass::Modal ? WordClass::Verb : sense.wordClass);
   return classes;
+}
+
+/// Adverbs that do not mean what their adjective means.
+constexpr std::array<std::string_view, 6> estranged = {"hardly", "lately",  "nearly",
+                                                       "barely", "shortly", "likely"};
+
+/// How the adjective of an adverb in -ly may be spelled: "quick", "happy", "gentle".
+std::vector<std::string> adjectivesOf(const std::string& adverb) {
+  const std::string stem = adverb.substr(0, adverb.size() - 2);
+  std::vector<std::string> adjectives = {stem, stem + "le"};
+  if (stem.ends_with('i')) adjectives.push_back(stem.substr(0, stem.size() - 1) + "y");
+  return adjectives;
+}
+
+bool isParticiple(std::string_view word) {
+  return word.ends_with("ing") || word.ends_with("ed");
 }
 
 std::string textOf(const TextWord& word) {
@@ -28,7 +47,8 @@ Lemmas::Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::s
   const Inflections inflections(own, nothing, met);
   for (const OwnEntry& entry : own) {
     const std::string head = lower(entry.head);
-    heads_.try_emplace(head, Head{entry.block.level, head != entry.head, entry.formsFirst});
+    heads_.try_emplace(
+        head, Head{entry.block.level, head != entry.head, entry.formsFirst, classesOf(entry)});
     for (const Form& form : inflections.formsOf(entry.head, classesOf(entry))) {
       const std::string text = lower(form.text);
       auto& bases = bases_[text];
@@ -36,6 +56,31 @@ Lemmas::Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::s
       if (text != head && isNew) bases.push_back(head);
     }
   }
+  for (const OwnEntry& entry : own) {
+    const std::string head = lower(entry.head);
+    if (classesOf(entry).has(WordClass::Adverb)) joinAdverb(entry);
+    const auto bases = bases_.find(head);
+    if (bases == bases_.end() || !isParticiple(head)) continue;
+    for (const std::string& base : bases->second)
+      join(base, head);
+  }
+}
+
+void Lemmas::joinAdverb(const OwnEntry& adverb) {
+  const std::string head = lower(adverb.head);
+  const bool isEstranged = std::find(estranged.begin(), estranged.end(), head) != estranged.end();
+  if (!head.ends_with("ly") || isEstranged) return;
+  for (const std::string& adjective : adjectivesOf(head)) {
+    const auto found = heads_.find(adjective);
+    if (found == heads_.end() || !found->second.classes.has(WordClass::Adjective)) continue;
+    join(head, adjective);
+    join(adjective, head);
+    return;
+  }
+}
+
+void Lemmas::join(const std::string& head, const std::string& other) {
+  kin_[head].push_back(other);
 }
 
 std::vector<std::string> Lemmas::of(const std::string& word) const {
@@ -46,6 +91,15 @@ std::vector<std::string> Lemmas::of(const std::string& word) const {
   if (head != heads_.end())
     found.insert(head->second.formsFirst ? found.end() : found.begin(), word);
   if (found.empty()) found.push_back(word);
+  const std::size_t own = found.size();
+  for (std::size_t at = 0; at < own; ++at) {
+    const auto kin = kin_.find(found[at]);
+    if (kin == kin_.end()) continue;
+    std::copy_if(kin->second.begin(), kin->second.end(), std::back_inserter(found),
+                 [&found](const std::string& each) {
+                   return std::find(found.begin(), found.end(), each) == found.end();
+                 });
+  }
   return found;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pack/DictionarySource.h"
+#include "pack/Inflection.h"
 #include "pack/TextWords.h"
 
 #include <string>
@@ -18,7 +19,8 @@ class Lemmas {
   /// `met` holds the words of the texts in small letters; regular forms are made only of those.
   Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::string>& met);
 
-  /// The head words that a word in small letters may belong to, the likeliest first. A word
+  /// The head words that a word in small letters may belong to, the likeliest first, and behind
+  /// them its next of kin: who knows "slow" knows "slowly" at sight, and the other way round. A word
   /// without an entry is its own.
   [[nodiscard]] std::vector<std::string> of(const std::string& word) const;
   [[nodiscard]] bool hasEntry(const std::string& head) const;
@@ -32,9 +34,14 @@ class Lemmas {
     std::string level;
     bool capital = false;
     bool formsFirst = false;
+    ClassSet classes;
   };
+  void joinAdverb(const OwnEntry& adverb);
+  void join(const std::string& head, const std::string& other);
+
   std::unordered_map<std::string, Head> heads_;
   std::unordered_map<std::string, std::vector<std::string>> bases_; ///< by form
+  std::unordered_map<std::string, std::vector<std::string>> kin_;   ///< by head word
 };
 
 /// The words of a set of texts as they stand in small and in capital letters: tells names.

@@ -2,16 +2,18 @@
 #include "pack/PlanChecks.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 namespace talvora::pack {
 
 namespace {
 
-std::string outside(const Band& band, double value, std::string_view what) {
-  if (band.has(value)) return {};
-  return std::to_string(std::lround(value)) + " " + std::string(what) + " instead of " +
-         std::to_string(band.from) + " to " + std::to_string(band.to);
+std::string outside(const Band& band, std::string_view what) {
+  return " " + std::string(what) + " instead of " + std::to_string(band.from) + " to " +
+         std::to_string(band.to);
 }
 
 std::string namesOf(const std::vector<std::string>& lemmas) {
@@ -21,36 +23,80 @@ std::string namesOf(const std::vector<std::string>& lemmas) {
   return names;
 }
 
+/// Holds one text against its series.
+class TextBudget {
+ public:
+  TextBudget(const Planner& planner, int slot, const Series& series, const TextWords& text)
+      : planner_(planner), slot_(slot), series_(series), text_(text) {}
+
+  std::vector<OverBudget> over() {
+    checkLength();
+    if (series_.newLemmas) checkNewLemmas(*series_.newLemmas);
+    checkKnown();
+    return std::move(over_);
+  }
+
+ private:
+  void report(Budget budget, std::string line) { over_.push_back({budget, std::move(line)}); }
+
+  void checkLength() {
+    if (!series_.words.has(text_.words))
+      report(Budget::Words, std::to_string(text_.words) + outside(series_.words, "words"));
+    if (!series_.sentence.has(text_.wordsASentence())) {
+      report(Budget::Sentence,
+             withDecimal(text_.wordsASentence()) + outside(series_.sentence, "words a sentence"));
+    }
+  }
+
+  void checkNewLemmas(int most) {
+    if (static_cast<int>(text_.newLemmas.size()) > most) {
+      report(Budget::New, std::to_string(text_.newLemmas.size()) +
+                              " new lemmas instead of at most " + std::to_string(most));
+    }
+    std::vector<std::string> once;
+    std::copy_if(text_.newLemmas.begin(), text_.newLemmas.end(), std::back_inserter(once),
+                 [this](const std::string& lemma) { return text_.lemmas.at(lemma) < 2; });
+    if (!once.empty()) report(Budget::Twice, "new and only once in its text: " + namesOf(once));
+    std::vector<std::string> missed;
+    for (const DueLemma& due : planner_.book.missedOf(slot_))
+      missed.push_back(due.lemma);
+    if (!missed.empty())
+      report(Budget::Return, "brought here and not returned in time: " + namesOf(missed));
+  }
+
+  void checkKnown() {
+    if (text_.knownShare() >= knownShareOf(series_.kind)) return;
+    report(Budget::Known, withDecimal(text_.knownShare()) +
+                              " % of the words known at first sight instead of " +
+                              std::to_string(std::lround(knownShareOf(series_.kind))) + " (" +
+                              namesOf(text_.newLemmas) + ")");
+  }
+
+  const Planner& planner_;
+  int slot_;
+  const Series& series_;
+  const TextWords& text_;
+  std::vector<OverBudget> over_;
+};
+
+/// "4 twice, 2 known", by budget; empty when no text is outside.
+std::string countsOf(const std::array<int, BudgetNames.size()>& over) {
+  std::string counts;
+  for (std::size_t budget = 0; budget < over.size(); ++budget) {
+    if (over.at(budget) == 0) continue;
+    counts += (counts.empty() ? "" : ", ") + std::to_string(over.at(budget)) + " by \"" +
+              std::string(BudgetNames.at(budget)) + "\"";
+  }
+  return counts;
+}
+
 } // namespace
 
-std::vector<std::string> overBudget(const Planner& planner, int slot) {
+std::vector<OverBudget> overBudget(const Planner& planner, int slot) {
   const Series* series = seriesOf(planner.plan, slot);
   const TextWords* text = planner.book.textAt(slot);
   if (series == nullptr || text == nullptr) return {};
-  std::vector<std::string> lines = {
-      outside(series->words, text->words, "words"),
-      outside(series->sentence, text->wordsASentence(), "words a sentence")};
-  if (series->newLemmas && static_cast<int>(text->newLemmas.size()) > *series->newLemmas) {
-    lines.push_back(std::to_string(text->newLemmas.size()) + " new lemmas instead of at most " +
-                    std::to_string(*series->newLemmas));
-  }
-  std::vector<std::string> once;
-  std::vector<std::string> missed;
-  if (series->newLemmas) {
-    std::copy_if(text->newLemmas.begin(), text->newLemmas.end(), std::back_inserter(once),
-                 [text](const std::string& lemma) { return text->lemmas.at(lemma) < 2; });
-    for (const DueLemma& due : planner.book.missedOf(slot))
-      missed.push_back(due.lemma);
-  }
-  if (!once.empty()) lines.push_back("new and only once in its text: " + namesOf(once));
-  if (!missed.empty()) lines.push_back("brought here and not returned in time: " + namesOf(missed));
-  if (text->knownShare() < knownShareOf(series->kind)) {
-    lines.push_back(std::to_string(std::lround(text->knownShare())) +
-                    " % of the words known at first sight instead of " +
-                    std::to_string(std::lround(knownShareOf(series->kind))));
-  }
-  std::erase(lines, "");
-  return lines;
+  return TextBudget(planner, slot, *series, *text).over();
 }
 
 std::vector<std::string> checkBudgets(const Planner& planner, const std::filesystem::path& folder,
@@ -58,22 +104,23 @@ std::vector<std::string> checkBudgets(const Planner& planner, const std::filesys
   std::vector<std::string> notes;
   for (const Series& series : planner.plan) {
     int texts = 0;
-    int over = 0;
+    std::array<int, BudgetNames.size()> aimed{};
     for (const auto& [slot, text] : planner.book.texts()) {
       if (!series.slots.has(slot)) continue;
       ++texts;
-      const auto lines = overBudget(planner, slot);
-      if (!lines.empty()) ++over;
-      for (const std::string& line : lines) {
-        if (series.holds)
-          problems.add({folder.string()}, "text " + std::to_string(slot) + ": " + line);
+      for (const OverBudget& each : overBudget(planner, slot)) {
+        if (series.holds(each.budget)) {
+          problems.add({folder.string()}, "text " + std::to_string(slot) + ": " + each.line);
+        } else {
+          ++aimed.at(static_cast<std::size_t>(each.budget));
+        }
       }
     }
-    if (over > 0 && !series.holds) {
-      notes.push_back("reading texts " + std::to_string(series.slots.from) + " to " +
-                      std::to_string(series.slots.to) + ": " + std::to_string(over) + " of " +
-                      std::to_string(texts) + " outside the budget that they aim at");
-    }
+    const std::string counts = countsOf(aimed);
+    if (counts.empty()) continue;
+    notes.push_back("reading texts " + std::to_string(series.slots.from) + " to " +
+                    std::to_string(series.slots.to) + ": of " + std::to_string(texts) +
+                    " are outside a budget that they aim at " + counts);
   }
   return notes;
 }

@@ -10,11 +10,17 @@
 
 namespace talvora::pack {
 
-/// What a text does that its series does not allow, a line each; none for a text in no series.
-[[nodiscard]] std::vector<std::string> overBudget(const Planner& planner, int slot);
+/// A budget that a text breaks, and how.
+struct OverBudget {
+  Budget budget = Budget::Words;
+  std::string line;
+};
 
-/// Reports the texts of series that hold their budgets, and counts those of series that aim at
-/// them: a line for each such series with a text outside its budget.
+/// What a text does that its series does not allow; nothing for a text in no series.
+[[nodiscard]] std::vector<OverBudget> overBudget(const Planner& planner, int slot);
+
+/// Reports the texts outside a budget that their series holds, and counts those outside one that
+/// it aims at: a line for each series with such texts.
 [[nodiscard]] std::vector<std::string>
 checkBudgets(const Planner& planner, const std::filesystem::path& folder, Problems& problems);
 

@@ -14,12 +14,6 @@ namespace {
 constexpr std::size_t lineWidth = 110;
 constexpr std::array<std::string_view, 6> levels = {"A1", "A2", "B1", "B2", "C1", ""};
 
-std::string withDecimal(double value) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f", value);
-  return text.data();
-}
-
 std::string padded(std::string text, std::size_t width) {
   if (text.size() < width) text.append(width - text.size(), ' ');
   return text;
@@ -223,6 +217,12 @@ Planner readPlanner(const std::filesystem::path& source, Problems& problems) {
                       NameFinder(readings).words());
   LemmaBook book(readings, slotsOf(plan, readings), lemmas);
   return {std::move(readings), std::move(plan), lemmas, std::move(book)};
+}
+
+std::string withDecimal(double value) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%.1f", value);
+  return text.data();
 }
 
 std::string overview(const Planner& planner) {

@@ -25,6 +25,9 @@ struct Planner {
 /// One line a text: length, new lemmas, known words, what it returns; as UTF-8.
 [[nodiscard]] std::string overview(const Planner& planner);
 
+/// An average or a share as reports write it: "9.4".
+[[nodiscard]] std::string withDecimal(double value);
+
 /// How long a sheet is.
 enum class Detail { Short, Full };
 

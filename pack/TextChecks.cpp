@@ -3,6 +3,7 @@
 
 #include "pack/SourceFile.h"
 #include "pack/TextWords.h"
+#include "pack/WordingChecks.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -68,10 +69,11 @@ class TextChecker {
  public:
   TextChecker(const std::string& file, TextUse use, const std::unordered_set<std::string>& heads,
               Problems& problems)
-      : file_(file), use_(use), heads_(heads), problems_(problems) {}
+      : file_(file), use_(use), heads_(heads), problems_(problems), wording_(file, problems) {}
 
   void read(const SourceLine& line) {
     if (line.text.empty()) newParagraph_ = true;
+    if (line.text.starts_with('=')) checkTranslation(line);
     if (!isSentence(line.text)) return;
     if (newParagraph_) ++paragraphs_;
     newParagraph_ = false;
@@ -79,10 +81,12 @@ class TextChecker {
     line_ = line.number;
     checkSentence(line.text);
     checkHyphens(line.text);
+    wording_.readSentence(line);
     if (use_ == TextUse::Speaking) checkSpoken(line.text);
   }
 
   void finish() {
+    wording_.finish();
     if (use_ == TextUse::Speaking && asks_ && paragraphs_ == 1) {
       problems_.add({file_}, "somebody asks here and all is one paragraph: each turn of a "
                              "conversation is a paragraph of its own");
@@ -100,6 +104,12 @@ class TextChecker {
     }
     if (const auto second = secondSentence(line))
       report(*second, "a second sentence begins here; each has a line of its own");
+  }
+
+  void checkTranslation(const SourceLine& line) {
+    line_ = line.number;
+    if (!endsClosed(line.text)) report(line.text.size(), "the translation has no closing point");
+    wording_.readTranslation(line);
   }
 
   void checkHyphens(std::string_view line) {
@@ -145,6 +155,7 @@ class TextChecker {
   TextUse use_;
   const std::unordered_set<std::string>& heads_;
   Problems& problems_;
+  WordingChecker wording_;
   int line_ = 0;
   int paragraphs_ = 0;
   bool newParagraph_ = true;

@@ -40,14 +40,18 @@ TEST(TextWords, TellsWhatOpensASentenceOrASpeech) {
 TEST(CoursePlan, ReadsSeriesAndFindsThemBySlot) {
   Problems problems;
   const auto plan = parsePlan("// comment\n4-14 free A1 150-180 8-10 - aims\n"
-                              "16-40 story A1 80-120 6-8 2 holds\n",
+                              "16-40 story A1 80-120 6-8 2 holds\n"
+                              "42-78 story A1 80-120 6-8 2 known,sentence\n",
                               "plan.txt", problems);
   EXPECT_THAT(told(problems), ElementsAre());
-  ASSERT_EQ(plan.size(), 2U);
+  ASSERT_EQ(plan.size(), 3U);
   EXPECT_EQ(seriesOf(plan, 15), nullptr);
   ASSERT_NE(seriesOf(plan, 40), nullptr);
   EXPECT_EQ(seriesOf(plan, 40)->newLemmas, 2);
-  EXPECT_TRUE(seriesOf(plan, 40)->holds);
+  EXPECT_TRUE(seriesOf(plan, 40)->holds(Budget::Return));
+  EXPECT_TRUE(seriesOf(plan, 42)->holds(Budget::Known));
+  EXPECT_FALSE(seriesOf(plan, 42)->holds(Budget::Return));
+  EXPECT_FALSE(seriesOf(plan, 4)->holds(Budget::Words));
   EXPECT_FALSE(seriesOf(plan, 4)->newLemmas.has_value());
 }
 
@@ -60,7 +64,7 @@ TEST(CoursePlan, TellsWhereARowIsWrong) {
               ElementsAre(HasSubstr("p:1:1: slots are two numbers"),
                           HasSubstr("p:2:5: a series is"), HasSubstr("p:2:10: a level is"),
                           HasSubstr("p:2:13: words a text are"),
-                          HasSubstr("p:2:22: new lemmas are"), HasSubstr("p:2:24: a budget"),
+                          HasSubstr("p:2:22: new lemmas are"), HasSubstr("p:2:24: a row closes"),
                           HasSubstr("p:3:1: a row is"), HasSubstr("p:4:1: the slots of a series")));
 }
 
@@ -89,6 +93,23 @@ TEST(Lemmas, LeadsFormsToTheirHeadWords) {
   EXPECT_THAT(lemmas.of("lotus"), ElementsAre("lotus"));
   EXPECT_FALSE(lemmas.hasEntry("lotus"));
   EXPECT_THAT(lemmas.heads(), ElementsAre("be", "boat", "build", "building"));
+}
+
+TEST(Lemmas, CountTheNextOfKinAsKnown) {
+  Problems problems;
+  const auto own = parseDictionary("quick\n  adj. nhanh\n\nquickly\n  adv. nhanh\n\n"
+                                   "hard\n  adj. cứng\n\nhardly\n  adv. hầu như không\n\n"
+                                   "gentle\n  adj. dịu\n\ngently\n  adv. dịu dàng\n\n"
+                                   "swim\n  v. bơi\n  forms: swam, swum\n\n"
+                                   "swimming\n  n. môn bơi\n",
+                                   "d", problems);
+  const Lemmas lemmas(own, {"swimming"});
+  EXPECT_THAT(lemmas.of("quickly"), ElementsAre("quickly", "quick"));
+  EXPECT_THAT(lemmas.of("quick"), ElementsAre("quick", "quickly"));
+  EXPECT_THAT(lemmas.of("gently"), ElementsAre("gently", "gentle"));
+  EXPECT_THAT(lemmas.of("hardly"), ElementsAre("hardly")) << "it means something else";
+  EXPECT_THAT(lemmas.of("swam"), ElementsAre("swim", "swimming"));
+  EXPECT_THAT(lemmas.of("swimming"), ElementsAre("swimming", "swim"));
 }
 
 TEST(Lemmas, TakesLevelsAndTheCommonerReadingFromTheEntry) {
