@@ -1,7 +1,7 @@
 #include "Visit.h"
 
 #include "driver/Driver.h"
-#include "surface/Controls.h"
+#include "shell/Controls.h"
 
 #include <fstream>
 

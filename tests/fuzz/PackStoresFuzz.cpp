@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(decodeReadings(table, stream, problems));
   const LessonSource lessons = decodeLessons(table, stream, problems);
   static_cast<void>(decodeExercises({table, stream, third}, lessons, problems));
-  static_cast<void>(decodeListening(table, stream, problems));
+  static_cast<void>(decodeListening(table, stream, third, problems));
   static_cast<void>(decodeAnalyses(table, stream, problems));
   static_cast<void>(decodeOwnEntries(third, table, stream, problems));
   return 0;

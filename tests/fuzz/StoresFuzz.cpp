@@ -12,7 +12,9 @@
 #include "sound/AmthanhThuc.h"
 #include "tests/fuzz/Pieces.h"
 #include "tests/support/MemoryFiles.h"
+#include "text/Text.h"
 #include "writing/PTCau.h"
+#include "writing/WritingControls.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -41,7 +43,7 @@ struct Desk {
 
   ScriptedMachine machine;
   Form form;
-  Controls controls;
+  WritingControls controls;
   SharedState state;
   Stores stores;
   Shell shell;
@@ -58,7 +60,7 @@ void trying(const std::function<void()>& reading) {
 }
 
 void readTexts(Desk& desk) {
-  ReadingText text(desk.stores, desk.state.text, desk.state.word);
+  ReadingText text(desk.stores, desk.state.text);
   desk.stores.NapViTriBai();
   for (const int number : {1, 2, 3, 14, 407, 408}) {
     trying([&] {

@@ -1,6 +1,6 @@
 #include "Chance.h"
 
-#include "surface/Controls.h"
+#include "shell/Controls.h"
 #include "surface/VirtualScreen.h"
 
 #include <algorithm>

@@ -78,7 +78,7 @@ class RoundTrip : public testing::Test {
           ++sentence;
           EXPECT_THAT(read, HasSubstr(pair.english)) << slot;
           const int caret = static_cast<int>(read.find(pair.english)) + 2;
-          EXPECT_EQ(reader.sentenceOf(caret), static_cast<int>(sentence)) << pair.english;
+          EXPECT_EQ(reader.CauTaiViTri(caret), static_cast<int>(sentence)) << pair.english;
           EXPECT_THAT(std::string(reader.translationOf(static_cast<int>(sentence))),
                       HasSubstr(pair.vietnamese));
         }
@@ -92,8 +92,7 @@ class RoundTrip : public testing::Test {
   Places places;
   Stores stores{places};
   CurrentText text;
-  CurrentWord word;
-  talvora::ReadingText reader{stores, text, word};
+  talvora::ReadingText reader{stores, text};
 };
 
 TEST_F(RoundTrip, ReadingTexts) {
@@ -229,7 +228,7 @@ TEST_F(RoundTrip, Dictionary) {
   const auto entries = readDictionary(content / "dictionary", problems);
   talvora::WordList words;
   words.NapTuDien(folder->path(), [] {});
-  talvora::LookUp lookUp(words, stores, word);
+  talvora::LookUp lookUp(words, stores);
   ASSERT_FALSE(entries.empty());
   for (const OwnEntry& entry : entries) {
     const auto answer = lookUp.ask(entry.head, LayNghia::Yes);
