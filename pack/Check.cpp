@@ -8,7 +8,11 @@
 #include "pack/Guide.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
+#include "pack/SpellingCheck.h"
 #include "pack/WordCoverage.h"
+#include "pack/WordListRules.h"
+
+#include <utility>
 
 namespace talvora::pack {
 
@@ -36,6 +40,15 @@ std::size_t itemsIn(const ListeningSource& listening) {
   std::size_t count = 0;
   for (const auto& [unit, items] : listening.units)
     count += items.size();
+  return count;
+}
+
+std::size_t examplesIn(const std::vector<OwnEntry>& entries) {
+  std::size_t count = 0;
+  for (const OwnEntry& entry : entries) {
+    for (const Sense& sense : entry.block.senses)
+      if (!sense.example.empty()) ++count;
+  }
   return count;
 }
 
@@ -67,8 +80,9 @@ class Checker {
     }
     if (wants(ContentKind::Dictionary)) {
       progress_("dictionary sources");
-      count(counted_, readDictionary(source_ / "dictionary", problems_).size(), "dictionary entry",
-            "dictionary entries");
+      const auto entries = readDictionary(source_ / "dictionary", problems_);
+      count(counted_, entries.size(), "head", "heads");
+      count(counted_, examplesIn(entries), "example", "examples");
     }
     return {counted_, told_, {}};
   }
@@ -146,15 +160,10 @@ void checkCompiled(const Options& options, Problems& problems, const Progress& p
   if (options.smallWordList) return;
   checkCoverage(coverageOf(corporaOf(content), list, readNames(options.source / NamesFile)),
                 problems);
-}
-
-/// Lines on what breaks a rule of the dictionary without being an error: how often, and where when
-/// the dictionary was asked for by name.
-std::string checkDictionaryOf(const std::filesystem::path& source, bool byName,
-                              Problems& problems) {
-  const auto findings = checkDictionaryAlone(source, {}, problems);
-  reportErrors(findings, problems);
-  return (byName ? warningsOf(findings) : "") + findingsReport(findings);
+  for (Problem& problem : hiddenForms(list, content.words))
+    problems.add(std::move(problem.where), std::move(problem.message));
+  for (Problem& problem : englishSenses(list))
+    problems.add(std::move(problem.where), std::move(problem.message));
 }
 
 } // namespace
@@ -169,10 +178,13 @@ CheckReport checkContent(const Options& options, const std::set<ContentKind>& on
       kinds.insert(each.kind);
   }
   CheckReport report = Checker(options, kinds, warnings, problems, progress).run();
-  if (problems.none() && kinds.contains(ContentKind::Dictionary))
-    report.warnings += checkDictionaryOf(options.source, !only.empty(), problems);
+  if (problems.none() && kinds.contains(ContentKind::Dictionary)) {
+    progress("rules of the dictionary");
+    reportErrors(checkDictionaryAlone(options.source, {}, problems), problems);
+  }
   if (problems.none() && only.empty()) {
     progress("rules of texts and drills");
+    checkSpellings(options.source, problems);
     report.notes = checkTextsAndDrills(options.source, problems);
   }
   return report;

@@ -47,7 +47,7 @@ int CheckCommand::run() {
   std::cout << report.warnings;
   for (const std::string& note : report.notes)
     std::cerr << "note: " << note << "\n";
-  if (problems.none()) std::cout << report.counted << ": no errors\n";
+  if (problems.none()) std::cout << report.counted << ", no errors\n";
   return tell(problems);
 }
 

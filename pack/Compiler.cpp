@@ -3,6 +3,7 @@
 
 #include "formats/PackFiles.h"
 #include "pack/AnalysisStore.h"
+#include "pack/DictionaryCheck.h"
 #include "pack/DictionaryStore.h"
 #include "pack/ExerciseStore.h"
 #include "pack/Guide.h"
@@ -49,8 +50,8 @@ void appendWords(std::vector<std::string>& words, std::string_view text) {
   finish();
 }
 
-// The words that the texts use confirm regular forms that the word lists lack. A small list goes
-// without the installed databases and has nothing else.
+// The words that the texts use, and accepted ones, confirm regular forms that the word lists lack.
+// A small list goes without the installed databases and has nothing else.
 WordSources readWordSources(const Options& options, const ReadingSource& readings,
                             Problems& problems, const Progress& progress) {
   WordSources words;
@@ -58,6 +59,7 @@ WordSources readWordSources(const Options& options, const ReadingSource& reading
   words.own = readDictionary(options.source / "dictionary", problems);
   for (std::string& word : wordsOfReadings(readings))
     words.known.insert(std::move(word));
+  words.known.merge(wordSetOf(options.source / AcceptedFile));
   if (options.smallWordList) return words;
   progress("WordNet");
   words.wordNet = readWordNet(options.wordNet, problems);
@@ -79,7 +81,8 @@ std::map<int, std::size_t> sentenceCounts(const ReadingSource& readings) {
 void pronounceWords(const Options& options, Content& content, Problems& problems) {
   const Pronouncer pronouncer(readPronunciations(options.source / "pronunciation.txt", problems));
   pronouncer.pronounce(content.words.own);
-  content.pronunciations = pronouncer.correctionsFor(content.words.own);
+  content.pronunciations =
+      pronouncer.correctionsFor(content.words.own, spokenFormsOf(content.words));
 }
 
 void readDrills(const Options& options, Content& content, Problems& problems) {

@@ -1,11 +1,16 @@
 // The rules of the dictionary, one procedure each.
 #include "pack/DictionaryCheck.h"
 
+#include "dictionary/SyllableGate.h"
+#include "pack/ClickedWords.h"
 #include "pack/EntryLines.h"
+#include "pack/ExampleRules.h"
 #include "pack/SmallLetters.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "sound/Pronunciations.h"
+#include "text/CharClass.h"
+#include "text/GlyphMap.h"
 #include "text/Text.h"
 #include "text/WordForm.h"
 
@@ -68,18 +73,16 @@ std::string toneMovedBack(const std::string& syllable) {
   return syllable;
 }
 
-/// The syllables of a Vietnamese text: stretches of letters, ASCII or not.
-std::vector<std::string> syllablesOf(std::string_view utf8) {
+/// The syllables of a Vietnamese text in the text font's bytes, in UTF-8: stretches of letters.
+std::vector<std::string> syllablesOf(std::string_view text) {
   std::vector<std::string> syllables;
   std::string syllable;
   const auto finish = [&] {
-    if (!syllable.empty()) syllables.push_back(syllable);
+    if (!syllable.empty()) syllables.push_back(utf8Of(syllable));
     syllable.clear();
   };
-  for (const char character : utf8) {
-    const bool letter = static_cast<unsigned char>(character) >= 0x80 ||
-                        (lower(character) >= 'a' && lower(character) <= 'z');
-    if (letter) {
+  for (const char character : text) {
+    if (Letters.has(character) || isVietnameseLetter(character)) {
       syllable += character;
     } else {
       finish();
@@ -164,28 +167,54 @@ class Checker {
     const std::string english = sense.example.substr(0, equals);
     checkEnglish(english);
     checkEnglish(sense.pattern);
-    for (const std::string& word : spokenWordsOf(english)) {
-      if (!measures_.entries.empty() && !measures_.entries.contains(ChuanHoaTu(word)))
+    for (const std::string& word : clickedWords(english)) {
+      if (!measures_.entries.empty() && LaTiengAnh(word) && !hasEntry(word))
         find(DictionaryRule::ExampleWordWithoutEntry, "\"" + word + "\" has no entry");
     }
-    if (equals != std::string::npos) checkVietnamese(sense.example.substr(equals + 3));
     checkVietnamese(sense.text);
+    if (equals == std::string::npos) return;
+    const std::string vietnamese = sense.example.substr(equals + 3);
+    checkVietnamese(vietnamese);
+    for (std::string& fault : exampleFaults(utf8Of(english), utf8Of(vietnamese)))
+      find(DictionaryRule::TranslationDiffers, std::move(fault));
   }
 
+  /// Whether a word, what an apostrophe shortens, or each part of a word with a hyphen has a line
+  /// in the word list. The words of the head word itself are explained there.
+  [[nodiscard]] bool hasEntry(const std::string& word) const {
+    const auto& entries = measures_.entries;
+    const std::string form = ChuanHoaTu(lower(word));
+    if (entries.contains(form) || entries.contains(form.substr(0, form.find('\'')))) return true;
+    const bool plural = form.ends_with('s') && entries.contains(form.substr(0, form.size() - 1));
+    if (plural && form.find(' ') != std::string::npos) return true;
+    const auto parts = split(form, ' ');
+    const auto ofHead = split(ChuanHoaTu(entry_->head), ' ');
+    return std::ranges::all_of(parts, [&](const std::string& part) {
+      return (parts.size() > 1 && entries.contains(part)) ||
+             std::ranges::find(ofHead, part) != ofHead.end();
+    });
+  }
+
+  // A name is right when it has an entry, and a head word as it is.
   void checkEnglish(const std::string& text) {
     if (measures_.english.empty()) return;
-    for (const std::string& word : spokenWordsOf(text)) {
-      const std::string base = word.substr(0, word.find('\''));
-      if (!measures_.english.contains(word) && !measures_.english.contains(base) && word != "sb" &&
-          word != "sth")
-        find(DictionaryRule::EnglishWordUnknown, "\"" + word + "\" is in no word list");
+    for (const std::string& word : clickedWords(text)) {
+      const auto ofHead = split(ChuanHoaTu(entry_->head), ' ');
+      const bool known = std::ranges::find(ofHead, lower(word)) != ofHead.end() ||
+                         (lower(word) != word && hasEntry(word));
+      if (known || word == "sb" || word == "sth" || word == "sb's") continue;
+      for (const std::string& part : spokenWordsOf(word)) {
+        if (!measures_.english.contains(part) &&
+            !measures_.english.contains(part.substr(0, part.find('\''))))
+          find(DictionaryRule::EnglishWordUnknown, "\"" + part + "\" is in no word list");
+      }
     }
   }
 
   // English words stand in translations too, as names and in remarks.
   void checkVietnamese(const std::string& text) {
     if (measures_.vietnamese.empty()) return;
-    for (const std::string& syllable : syllablesOf(utf8Of(text))) {
+    for (const std::string& syllable : syllablesOf(text)) {
       const std::string small = smallUtf8(syllable);
       const bool name = syllable != small;
       if (name || measures_.vietnamese.contains(small) ||
@@ -261,7 +290,7 @@ std::string findingsReport(const std::vector<Finding>& findings) {
     const auto count =
         std::count_if(findings.begin(), findings.end(),
                       [&rule](const Finding& each) { return each.rule == rule.rule; });
-    if (count > 0) report += std::to_string(count) + " " + std::string(rule.name) + "\n";
+    report += "  " + std::string(rule.name) + ": " + std::to_string(count) + "\n";
   }
   return report;
 }

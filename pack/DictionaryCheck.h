@@ -14,8 +14,7 @@
 
 namespace talvora::pack {
 
-/// A rule of the dictionary. Those of the first kind are errors; of the others the count is told,
-/// until the sources meet them.
+/// A rule of the dictionary; what breaks one is an error.
 enum class DictionaryRule : std::uint8_t {
   EntryTooLong,
   PhraseWithoutHead,
@@ -24,24 +23,25 @@ enum class DictionaryRule : std::uint8_t {
   LevelWithoutExample,
   ExampleWordWithoutEntry,
   UnknownSyllable,
-  EnglishWordUnknown
+  EnglishWordUnknown,
+  TranslationDiffers
 };
 
 struct DictionaryRuleName {
   DictionaryRule rule;
-  bool error;
   std::string_view name; ///< of what breaks it, in the plural
 };
 
-inline constexpr std::array<DictionaryRuleName, 8> DictionaryRules = {{
-    {DictionaryRule::EntryTooLong, true, "entries of more than 450 letters"},
-    {DictionaryRule::PhraseWithoutHead, true, "phrases without their head word"},
-    {DictionaryRule::GlossTooLong, false, "first glosses of more than 24 letters"},
-    {DictionaryRule::FormsUnlikeLesson, false, "verbs whose forms differ from the lesson's table"},
-    {DictionaryRule::LevelWithoutExample, false, "classes of A1 to B1 heads without an example"},
-    {DictionaryRule::ExampleWordWithoutEntry, false, "words of examples without an entry"},
-    {DictionaryRule::UnknownSyllable, false, "Vietnamese syllables that no word list has"},
-    {DictionaryRule::EnglishWordUnknown, false, "English words that no word list has"},
+inline constexpr std::array<DictionaryRuleName, 9> DictionaryRules = {{
+    {DictionaryRule::EntryTooLong, "entries of more than 450 letters"},
+    {DictionaryRule::PhraseWithoutHead, "phrases without their head word"},
+    {DictionaryRule::GlossTooLong, "first glosses of more than 24 letters"},
+    {DictionaryRule::FormsUnlikeLesson, "verbs whose forms differ from the lesson's table"},
+    {DictionaryRule::LevelWithoutExample, "classes of A1 to B1 heads without an example"},
+    {DictionaryRule::ExampleWordWithoutEntry, "words of examples without an entry"},
+    {DictionaryRule::UnknownSyllable, "Vietnamese syllables that no word list has"},
+    {DictionaryRule::EnglishWordUnknown, "English words that no word list has"},
+    {DictionaryRule::TranslationDiffers, "examples that their translations do not match"},
 }};
 
 /// A place where a source breaks a rule.
@@ -52,6 +52,9 @@ struct Finding {
 
 /// Words in small letters; empty where a list is not installed, and its rule then says nothing.
 using WordSet = std::unordered_set<std::string>;
+
+/// The source, in a content tree, of words that are right and stand in no list.
+inline constexpr std::string_view AcceptedFile = "accepted.txt";
 
 /// What the entries are held against.
 struct DictionaryMeasures {
@@ -70,7 +73,7 @@ struct DictionaryMeasures {
 [[nodiscard]] std::vector<Finding> checkDictionary(const std::vector<OwnEntry>& entries,
                                                    const DictionaryMeasures& measures);
 
-/// A line a rule that is broken, with how often.
+/// A line a rule, with how often it is broken.
 [[nodiscard]] std::string findingsReport(const std::vector<Finding>& findings);
 
 } // namespace talvora::pack

@@ -22,10 +22,6 @@ std::string irregularVerbsText(const std::filesystem::path& source) {
   return {};
 }
 
-bool isError(const Finding& finding) {
-  return DictionaryRules[static_cast<std::size_t>(finding.rule)].error;
-}
-
 /// What the dictionary breaks. `entries` holds the normal forms of its word list.
 std::vector<Finding> findingsIn(const std::filesystem::path& source,
                                 const std::vector<OwnEntry>& own, WordSet entries,
@@ -35,6 +31,9 @@ std::vector<Finding> findingsIn(const std::filesystem::path& source,
   measures.vietnamese = wordSetOf(lists.vietnamese);
   for (const auto& path : lists.english)
     measures.english.merge(wordSetOf(path));
+  const WordSet accepted = wordSetOf(source / AcceptedFile);
+  for (WordSet* const list : {&measures.vietnamese, &measures.english})
+    if (!list->empty()) list->insert(accepted.begin(), accepted.end());
   measures.irregularVerbs = verbsOfLesson(irregularVerbsText(source));
   return checkDictionary(own, measures);
 }
@@ -47,6 +46,7 @@ std::vector<Finding> checkDictionaryAlone(const std::filesystem::path& source,
   sources.own = readDictionary(source / "dictionary", problems);
   for (const auto& path : lists.english)
     if (std::filesystem::exists(path)) readListedWords(path, sources, problems);
+  sources.known.merge(wordSetOf(source / AcceptedFile));
   const WordList list = fillWordList(sources, FullWordCount, Filling::OwnOnly, problems);
   WordSet entries;
   for (const Word& word : list.words())
@@ -54,17 +54,9 @@ std::vector<Finding> checkDictionaryAlone(const std::filesystem::path& source,
   return findingsIn(source, sources.own, std::move(entries), lists);
 }
 
-std::string warningsOf(const std::vector<Finding>& findings) {
-  std::string lines;
-  for (const Finding& finding : findings)
-    if (!isError(finding)) lines += "warning: " + describe(finding.problem) + "\n";
-  return lines;
-}
-
 void reportErrors(const std::vector<Finding>& findings, Problems& problems) {
-  for (const Finding& finding : findings) {
-    if (isError(finding)) problems.add(finding.problem.where, finding.problem.message);
-  }
+  for (const Finding& finding : findings)
+    problems.add(finding.problem.where, finding.problem.message);
 }
 
 } // namespace talvora::pack

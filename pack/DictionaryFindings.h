@@ -24,10 +24,7 @@ struct CheckLists {
                                                         const CheckLists& lists,
                                                         Problems& problems);
 
-/// A line for each finding that is no error, with its place.
-[[nodiscard]] std::string warningsOf(const std::vector<Finding>& findings);
-
-/// Adds the findings that are errors to the problems.
+/// Adds the findings to the problems.
 void reportErrors(const std::vector<Finding>& findings, Problems& problems);
 
 } // namespace talvora::pack

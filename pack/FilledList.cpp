@@ -118,7 +118,10 @@ class Filler {
   void addForms(std::size_t from, WordKind kind) {
     const std::size_t end = list_.size();
     for (std::size_t base = from; base < end && !list_.full(); ++base) {
-      if (!isSingleWord(list_.at(base).head) || !list_.at(base).classes.meets(inflected)) continue;
+      if (!isSingleWord(list_.at(base).head)) continue;
+      // "Many" has forms of its own, though no other determiner has.
+      const bool own = list_.at(base).kind == WordKind::Own;
+      if (!own && !list_.at(base).classes.meets(inflected)) continue;
       const std::string head = list_.at(base).head;
       for (const Form& form : inflections_.formsOf(head, list_.at(base).classes)) {
         addOrExtend({form.text,

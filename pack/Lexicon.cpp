@@ -3,6 +3,8 @@
 
 #include <flite/flite.h>
 
+#include <algorithm>
+#include <array>
 #include <stdexcept>
 
 // The lexicon comes without a header.
@@ -37,6 +39,13 @@ Phones lexiconPhones(const std::string& word, char classLetter) {
     phones.emplace_back(val_string(val_car(at)));
   delete_val(found);
   return phones;
+}
+
+bool lexiconHas(const std::string& word) {
+  static constexpr std::array<const char*, 5> classes = {"0", "n", "v", "j", "r"};
+  return std::any_of(classes.begin(), classes.end(), [&](const char* each) {
+    return in_lex(&lexicon(), word.c_str(), each, nullptr) != 0;
+  });
 }
 
 } // namespace talvora::pack

@@ -15,4 +15,8 @@ namespace talvora::pack {
 /// r, or 0 for any. Throws std::runtime_error when the lexicon cannot be had.
 [[nodiscard]] Phones lexiconPhones(const std::string& word, char classLetter);
 
+/// Whether the lexicon itself has a word in small letters; of others it guesses the sounds by the
+/// letters. Throws as above.
+[[nodiscard]] bool lexiconHas(const std::string& word);
+
 } // namespace talvora::pack

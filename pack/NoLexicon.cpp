@@ -11,4 +11,8 @@ Phones lexiconPhones(const std::string&, char) {
   return {};
 }
 
+bool lexiconHas(const std::string&) {
+  return false;
+}
+
 } // namespace talvora::pack

@@ -245,6 +245,17 @@ class PhoneticWriter {
   void writeWeakVowel() {
     const bool first = std::none_of(sounds_.begin(), sounds_.begin() + static_cast<long>(at_),
                                     [](const Sound& each) { return each.vowel; });
+    if (opensWithUn()) {
+      text_ += "ʌ";
+      return;
+    }
+    // "casual" has a "u" where the voice says two sounds.
+    if (is(at_ + 1, "w") && isVowel(at_ + 2) && spelling_.find('w') == std::string::npos &&
+        spelling_.find('u') != std::string::npos) {
+      text_ += "u";
+      ++at_;
+      return;
+    }
     const bool lastButOne = at_ + 2 == sounds_.size();
     if (is(at_ + 1, "l") && lastButOne && spelling_.ends_with("le") && at_ > 0) return;
     static constexpr std::array<std::string_view, 4> sonorants = {"l", "m", "n", "r"};
@@ -258,6 +269,11 @@ class PhoneticWriter {
                                        (is(at_ + 1, "d") && spelling_.ends_with("ed")) ||
                                        (is(at_ + 1, "z") && spelling_.ends_with("es")));
     text_ += speltI || speltE || ending ? "i" : "ə";
+  }
+
+  /// "unjust", "until": the beginning keeps the vowel of "cup".
+  [[nodiscard]] bool opensWithUn() const {
+    return at_ == 0 && is(1, "n") && spelling_.starts_with("un");
   }
 
   /// "watch", "quality": an "a" behind w has the vowel of "hot".
@@ -299,7 +315,9 @@ class PhoneticWriter {
       text_ += "ə";
       return true;
     }
-    const bool shortOne = vowelFollows && (doubled || isShortGroup());
+    // "erase": ahead of the stress the sound is as short as in "enough".
+    const bool light = !sound.stressed && group() == "e";
+    const bool shortOne = vowelFollows && (doubled || light || isShortGroup());
     if (sound.phone == "ih" || sound.phone == "iy") {
       text_ += shortOne ? "i" : "iə";
     } else if (sound.phone == "eh") {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <unordered_set>
 #include <utility>
 
@@ -176,7 +177,26 @@ void Pronouncer::pronounce(std::vector<OwnEntry>& entries) const {
   }
 }
 
-Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries) const {
+// Where a form belongs to two words that are said differently, the voice's guess stays.
+void Pronouncer::addForms(std::vector<SpokenCorrection>& corrections,
+                          const std::vector<SpokenForm>& forms) const {
+  std::map<std::string, Phones> said;
+  std::unordered_set<std::string> unclear;
+  for (const SpokenForm& form : forms) {
+    if (byWord_.contains(form.text) || lexiconHas(form.text)) continue;
+    Phones phones = withEnding(phonesOfWord(form.base, form.wordClass), form.ending);
+    const auto [place, isNew] = said.emplace(form.text, phones);
+    if (!isNew && place->second != phones) unclear.insert(form.text);
+  }
+  for (const auto& [word, phones] : said) {
+    const bool guessedRight = lexiconPhones(word, lexiconClasses[0]) == phones;
+    if (!guessedRight && !unclear.contains(word) && isStressed(phones) && faultOf(phones).empty())
+      corrections.push_back({SpokenWhere::Everywhere, word, joined(phones)});
+  }
+}
+
+Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries,
+                                          const std::vector<SpokenForm>& forms) const {
   std::vector<SpokenCorrection> corrections;
   std::unordered_set<std::string> heads;
   for (const OwnEntry& entry : entries) {
@@ -191,6 +211,7 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries) 
     const Phones phones = phonesOfWord(entry.head, wordClass);
     if (isStressed(phones)) corrections.push_back({SpokenWhere::Alone, word, joined(phones)});
   }
+  addForms(corrections, forms);
   for (const PronunciationRule& rule : rules_) {
     const std::string word = lower(rule.word);
     if (rule.phones.empty() || (rule.wordClass && heads.contains(word))) continue;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pack/DictionarySource.h"
+#include "pack/FormPhones.h"
 #include "pack/PronunciationSource.h"
 #include "sound/Pronunciations.h"
 
@@ -26,12 +27,16 @@ class Pronouncer {
   void pronounce(std::vector<OwnEntry>& entries) const;
   /// What the voice has to be told: the source's corrections, and for a head word that is said in
   /// several ways the one of its commonest class when it is clicked.
-  [[nodiscard]] Pronunciations correctionsFor(const std::vector<OwnEntry>& entries) const;
+  /// A form that the lexicon lacks is said as its head word is, with its ending.
+  [[nodiscard]] Pronunciations correctionsFor(const std::vector<OwnEntry>& entries,
+                                              const std::vector<SpokenForm>& forms = {}) const;
 
  private:
   enum class Gives { Sounds, Notation };
   [[nodiscard]] const PronunciationRule* ruleFor(const std::string& word, WordClass wordClass,
                                                  Gives gives) const;
+  void addForms(std::vector<SpokenCorrection>& corrections,
+                const std::vector<SpokenForm>& forms) const;
 
   std::vector<PronunciationRule> rules_;
   std::unordered_map<std::string, std::vector<const PronunciationRule*>> byWord_;

@@ -55,6 +55,21 @@ TEST(DictionaryCheck, IrregularVerbsHaveTheLessonsForms) {
             Lines{"cut: the lesson has the forms cut, cut"});
 }
 
+TEST(DictionaryCheck, ATranslationSaysWhatItsSentenceSays) {
+  const auto found = [](const std::string& example) {
+    return findingsOf("go\n  v. đi\n    > " + example + "\n");
+  };
+  EXPECT_EQ(found("Do you go on Friday? = Thứ Sáu bạn đi không?"), Lines{});
+  EXPECT_EQ(found("I had had two bowls by half past six. = Lúc sáu giờ rưỡi tôi đã ăn hai bát."),
+            Lines{});
+  EXPECT_EQ(found("Do you go? = Bạn đi."), Lines{"go: only one of the two asks"});
+  EXPECT_EQ(found("I go on Friday. = Thứ Bảy tôi đi."),
+            Lines{"go: \"friday\" is not in the translation"});
+  EXPECT_EQ(found("I go at seven. = Tôi đi lúc sáu giờ."),
+            Lines{"go: \"seven\" is not in the translation"});
+  EXPECT_EQ(found("I go to to school. = Tôi đi học."), Lines{"go: \"to\" stands twice in a row"});
+}
+
 TEST(DictionaryCheck, ACommonHeadHasAnExampleForEachClass) {
   EXPECT_EQ(findingsOf("go A1\n  v. 1 đi\n  v. 2 trở nên\n    > I go. = Tôi đi.\n"), Lines{});
   EXPECT_EQ(findingsOf("go C1\n  v. đi\n"), Lines{});
@@ -73,16 +88,18 @@ TEST(DictionaryCheck, WordsOfExamplesHaveEntriesAndSpellings) {
                    "go: \"đii\" is in no word list"}));
 }
 
-TEST(DictionaryCheck, OnlyTheRulesThatHoldTodayAreErrors) {
+TEST(DictionaryCheck, EveryFindingIsAnErrorAndIsCounted) {
   Problems problems;
   const std::vector<Finding> findings = {{DictionaryRule::GlossTooLong, {{}, "long"}},
                                          {DictionaryRule::GlossTooLong, {{}, "long"}},
                                          {DictionaryRule::PhraseWithoutHead, {{}, "strange"}}};
   reportErrors(findings, problems);
-  ASSERT_EQ(problems.all().size(), 1U);
-  EXPECT_EQ(problems.all()[0].message, "strange");
-  EXPECT_EQ(findingsReport(findings), "1 phrases without their head word\n"
-                                      "2 first glosses of more than 24 letters\n");
+  ASSERT_EQ(problems.all().size(), 3U);
+  EXPECT_EQ(problems.all()[2].message, "strange");
+  const std::string report = findingsReport(findings);
+  EXPECT_NE(report.find("  first glosses of more than 24 letters: 2\n"), std::string::npos);
+  EXPECT_NE(report.find("  phrases without their head word: 1\n"), std::string::npos);
+  EXPECT_NE(report.find("  entries of more than 450 letters: 0\n"), std::string::npos);
 }
 
 TEST(DictionaryCheck, TheDictionaryOfTheRepositoryHasNoErrors) {

@@ -220,6 +220,17 @@ TEST(FilledList, FilesAreSortedAndLeadToTheirEntries) {
   EXPECT_EQ(files[1].bytes.size(), 8 * list.size());
 }
 
+TEST(FilledList, ADeterminerHasTheFormsThatItsSourceLists) {
+  Problems problems;
+  WordSources sources;
+  sources.own = parseDictionary("many\n  det. nhiều\n  forms: more, most\n\nmore\n  adv. hơn\n",
+                                "d.txt", problems);
+  const WordList list = fillWordList(sources, 100, Filling::OwnOnly, problems);
+  ASSERT_TRUE(problems.none());
+  EXPECT_NE(utf8Of(entry(list, "more")).find("so sánh hơn của many"), std::string::npos);
+  EXPECT_NE(utf8Of(entry(list, "most")).find("so sánh nhất của many"), std::string::npos);
+}
+
 TEST(FilledList, LookUpGoesTheProgramsWay) {
   const WordList list = filled();
   const auto found = [&list](const std::string& word) {

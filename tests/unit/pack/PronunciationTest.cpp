@@ -66,6 +66,10 @@ TEST(Phonetics, WritesWhatSchoolDictionariesWrite) {
   EXPECT_EQ(shown("l ae1 ng g w ax0 jh", "language"), "/'læŋgwidʒ/");
   EXPECT_EQ(shown("v ih1 zh ax0 n", "vision"), "/'viʒən/");
   EXPECT_EQ(shown("th ih1 ng", "thing"), "/θiŋ/");
+  EXPECT_EQ(shown("ax0 n jh ah1 s t", "unjust"), "/ʌn'dʒʌst/");
+  EXPECT_EQ(shown("ih0 r ey1 s", "erase"), "/i'reis/");
+  EXPECT_EQ(shown("k ae1 zh ax0 w ax0 l t iy0", "casualty"), "/'kæʒuəlti/");
+  EXPECT_EQ(shown("f aa1 r ax0 w ey1", "faraway"), "/'fa:rəwei/");
 }
 
 TEST(Phonetics, OneSyllableHasTheMainStress) {
@@ -102,6 +106,50 @@ TEST(Pronouncer, TheSourceGoesBeforeTheLexicon) {
   EXPECT_EQ(pronouncer.shownOf("ice-cream", WordClass::Noun), "/ais kri:m/");
   EXPECT_EQ(pronouncer.shownOf("TV", WordClass::Noun), "/ti:'vi:/");
   EXPECT_EQ(pronouncer.shownOf("she'd", WordClass::Phrase), "/ʃi:d/");
+}
+
+TEST(FormPhones, AnEndingSoundsAfterWhatStandsAheadOfIt) {
+  const auto said = [](std::string_view base, SpokenEnding ending) {
+    std::string text;
+    for (const std::string& phone : withEnding(phonesOf(base), ending))
+      text += (text.empty() ? "" : " ") + phone;
+    return text;
+  };
+  EXPECT_EQ(said("k ae1 t", SpokenEnding::S), "k ae1 t s");
+  EXPECT_EQ(said("d ao1 g", SpokenEnding::S), "d ao1 g z");
+  EXPECT_EQ(said("b aa1 k s", SpokenEnding::S), "b aa1 k s ih0 z");
+  EXPECT_EQ(said("s t aa1 p", SpokenEnding::Ed), "s t aa1 p t");
+  EXPECT_EQ(said("w aa1 ch", SpokenEnding::Ed), "w aa1 ch t");
+  EXPECT_EQ(said("p l ey1", SpokenEnding::Ed), "p l ey1 d");
+  EXPECT_EQ(said("n iy1 d", SpokenEnding::Ed), "n iy1 d ih0 d");
+  EXPECT_EQ(said("g ow1", SpokenEnding::Ing), "g ow1 ih0 ng");
+}
+
+TEST(FormPhones, OnlyRegularFormsAreSpokenByRule) {
+  Problems problems;
+  WordSources words;
+  words.own = parseDictionary("feed\n  v. cho ăn\n  forms: fed, fed\n\nchild\n  n. đứa trẻ\n"
+                              "  forms: children\n\nwalk\n  v. đi bộ\n  n. cuộc đi bộ\n",
+                              "d.txt", problems);
+  words.known = {"feeds", "feeding", "walks", "walked"};
+  std::string told;
+  for (const SpokenForm& form : spokenFormsOf(words))
+    told += form.text + " ";
+  EXPECT_EQ(told, "feeds feeding walks walks walked ");
+}
+
+TEST(Pronouncer, AFormThatTheLexiconLacksIsSaidAsItsHeadWord) {
+  const Pronouncer pronouncer(rulesOf("Hue = hh w ey1\nmooncakes = m uw1 n\n"));
+  const auto written = [&](const std::vector<SpokenForm>& forms) {
+    return pronouncer.correctionsFor({}, forms).write();
+  };
+  EXPECT_NE(written({{"hues", "Hue", SpokenEnding::S, WordClass::Noun}}).find("hues\thh w ey1 z"),
+            std::string::npos);
+  // The lexicon has "cats", and a rule goes before the ending.
+  EXPECT_EQ(written({{"cats", "cat", SpokenEnding::S, WordClass::Noun}}).find("cats"),
+            std::string::npos);
+  EXPECT_EQ(written({{"mooncakes", "cat", SpokenEnding::S, WordClass::Noun}}).find("k ae1 t"),
+            std::string::npos);
 }
 
 TEST(Pronouncer, AClickedHeadWordIsSaidAsItsCommonestClassIs) {

@@ -1,0 +1,15 @@
+// What a sentence and its translation must have in common, as far as a program can tell.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace talvora::pack {
+
+/// What the two do not agree in: the question mark, the days of the week, the number words; and a
+/// word that the English one has twice in a row. Both in UTF-8; empty when all is well.
+[[nodiscard]] std::vector<std::string> exampleFaults(std::string_view english,
+                                                     std::string_view vietnamese);
+
+} // namespace talvora::pack

@@ -1,0 +1,69 @@
+// Going through the words of our own.
+#include "pack/WordListRules.h"
+
+#include "pack/Inflection.h"
+#include "pack/StreamText.h"
+#include "text/WordForm.h"
+
+#include <algorithm>
+
+namespace talvora::pack {
+
+namespace {
+
+bool isEnglish(const std::vector<Sense>& senses) {
+  return std::ranges::any_of(
+      senses, [](const Sense& sense) { return sense.language == Language::English; });
+}
+
+bool beginsWithCapital(const std::string& head) {
+  return head.front() >= 'A' && head.front() <= 'Z';
+}
+
+bool leadsTo(const Word& word, std::size_t base) {
+  return std::ranges::any_of(word.origins,
+                             [base](const Origin& origin) { return origin.base == base; });
+}
+
+} // namespace
+
+std::vector<Problem> hiddenForms(const WordList& list, const WordSources& sources) {
+  std::vector<Problem> found;
+  const Inflections inflections(sources.own, sources.wordNet, sources.known);
+  for (const OwnEntry& entry : sources.own) {
+    const auto base = list.find(ChuanHoaTu(entry.head));
+    if (!base || entry.head.find_first_of(" -'") != std::string::npos) continue;
+    for (const Form& form : inflections.formsOf(entry.head, list.at(*base).classes)) {
+      const auto taken = list.find(ChuanHoaTu(form.text));
+      if (!taken || *taken == *base || list.at(*taken).kind != WordKind::Own) continue;
+      const Word& word = list.at(*taken);
+      // A name is no form of a word in small letters.
+      if (beginsWithCapital(word.head) != beginsWithCapital(form.text)) continue;
+      if (!leadsTo(word, *base))
+        found.push_back({entry.where, "the entry of \"" + word.head +
+                                          "\" does not say that it is a form of \"" + entry.head +
+                                          "\""});
+    }
+  }
+  return found;
+}
+
+std::vector<Problem> englishSenses(const WordList& list) {
+  std::vector<Problem> found;
+  for (const Word& word : list.words()) {
+    if (word.kind > WordKind::OwnForm) continue;
+    const bool english =
+        std::ranges::any_of(word.blocks,
+                            [](const EntryBlock& block) { return isEnglish(block.senses); }) ||
+        std::ranges::any_of(word.origins, [&list](const Origin& origin) {
+          return isEnglish(list.borrowedSenses(origin));
+        });
+    if (english && list.hasVietnamese(word))
+      found.push_back({{"dictionary"},
+                       "the entry of \"" + utf8Of(word.head) +
+                           "\" has an English sense beside the Vietnamese ones"});
+  }
+  return found;
+}
+
+} // namespace talvora::pack
