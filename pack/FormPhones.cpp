@@ -22,21 +22,32 @@ bool isIn(const List& list, std::string_view phone) {
   return std::find(list.begin(), list.end(), phone) != list.end();
 }
 
-/// The ending that a form of a kind is spelled with; none when it is irregular.
-std::optional<SpokenEnding> endingOf(std::string_view form, FormKind kind) {
-  switch (kind) {
-  case FormKind::Plural:
-  case FormKind::ThirdPerson:
-    return form.ends_with('s') ? std::optional(SpokenEnding::S) : std::nullopt;
-  case FormKind::Past:
-  case FormKind::Participle:
-  case FormKind::PastAndParticiple:
-    return form.ends_with("ed") ? std::optional(SpokenEnding::Ed) : std::nullopt;
-  case FormKind::Ing:
-    return SpokenEnding::Ing;
-  default:
-    return std::nullopt;
-  }
+/// Whether a form is its base with an ending: behind the base as it is, with its last letter
+/// doubled, or without its "e"; "y" and "ie" become another letter.
+bool isSpelled(const std::string& form, const std::string& base, const std::string& ending) {
+  const std::string shorter = base.substr(0, base.size() - 1);
+  if (form == base + ending || form == base + base.back() + ending) return true;
+  if (ending == "s") return form == base + "es" || (base.ends_with('y') && form == shorter + "ies");
+  if (base.ends_with('e') && form == shorter + ending) return true;
+  if (ending == "ed") return base.ends_with('y') && form == shorter + "ied";
+  return base.ends_with("ie") && form == base.substr(0, base.size() - 2) + "ying";
+}
+
+struct EndingName {
+  SpokenEnding ending;
+  std::string_view letters;
+};
+
+constexpr std::array<EndingName, 3> endingNames = {
+    {{SpokenEnding::S, "s"}, {SpokenEnding::Ed, "ed"}, {SpokenEnding::Ing, "ing"}}};
+
+/// The ending that a form is spelled with; none when it is irregular.
+std::optional<SpokenEnding> endingOf(const std::string& form, const std::string& base) {
+  const auto found =
+      std::find_if(endingNames.begin(), endingNames.end(), [&](const EndingName& each) {
+        return isSpelled(form, base, std::string(each.letters));
+      });
+  return found != endingNames.end() ? std::optional(found->ending) : std::nullopt;
 }
 
 } // namespace
@@ -51,9 +62,8 @@ std::vector<SpokenForm> spokenFormsOf(const WordSources& words) {
       classes.add(sense.wordClass);
     for (const Form& form : inflections.formsOf(entry.head, classes)) {
       for (const FormKind kind : form.kinds) {
-        const auto ending = endingOf(form.text, kind);
-        // "fed" is no longer than "feed" and has no ending.
-        if (!ending || form.text.size() <= entry.head.size()) continue;
+        const auto ending = endingOf(lower(form.text), lower(entry.head));
+        if (!ending) continue;
         const WordClass wordClass = kind == FormKind::Plural ? WordClass::Noun : WordClass::Verb;
         spoken.push_back({lower(form.text), entry.head, *ending, wordClass});
       }

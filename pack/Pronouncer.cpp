@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <unordered_set>
 #include <utility>
@@ -211,7 +212,11 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries,
     const Phones phones = phonesOfWord(entry.head, wordClass);
     if (isStressed(phones)) corrections.push_back({SpokenWhere::Alone, word, joined(phones)});
   }
-  addForms(corrections, forms);
+  std::vector<SpokenForm> others;
+  std::ranges::copy_if(forms, std::back_inserter(others), [&heads](const SpokenForm& form) {
+    return !heads.contains(form.text); // "sometimes" is a head word too
+  });
+  addForms(corrections, others);
   for (const PronunciationRule& rule : rules_) {
     const std::string word = lower(rule.word);
     if (rule.phones.empty() || (rule.wordClass && heads.contains(word))) continue;
