@@ -3,6 +3,7 @@
 
 #include "pack/DrillChecks.h"
 #include "pack/GuideTextCheck.h"
+#include "pack/KeySentences.h"
 #include "pack/PlanChecks.h"
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
@@ -41,6 +42,7 @@ std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source
                                FirstRecordedText - 1));
   notes.push_back(
       openSlotNote("speaking texts", readSpeaking(source / "speaking", problems), SpeakingSlots));
+  notes.push_back(checkKeySentencesIn(source / "speaking", problems));
   std::erase(notes, "");
   return notes;
 }

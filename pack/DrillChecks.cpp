@@ -57,18 +57,6 @@ bool wordsSoundAlike(const std::string& first, const std::string& second) {
   return true;
 }
 
-std::vector<std::string> wordsIn(std::string_view sentence) {
-  std::vector<std::string> words;
-  for (const std::string& word : split(std::string(sentence), ' ')) {
-    std::string plain;
-    for (const char character : lower(word)) {
-      if ((character >= 'a' && character <= 'z') || character == '\'') plain += character;
-    }
-    if (!plain.empty()) words.push_back(std::move(plain));
-  }
-  return words;
-}
-
 /// The checks of one unit.
 class UnitChecker {
  public:
@@ -198,8 +186,8 @@ bool isTwoPhrases(std::string_view wordClass) {
 } // namespace
 
 std::string notHeardApart(std::string_view heard, std::string_view other) {
-  const auto left = wordsIn(heard);
-  const auto right = wordsIn(other);
+  const auto left = plainWords(heard);
+  const auto right = plainWords(other);
   if (left.size() != right.size()) return {};
   std::string pairs;
   for (std::size_t at = 0; at < left.size(); ++at) {

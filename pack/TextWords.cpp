@@ -56,6 +56,18 @@ std::vector<TextWord> textWords(std::string_view sentence) {
   return words;
 }
 
+std::vector<std::string> plainWords(std::string_view text) {
+  std::vector<std::string> words;
+  for (const std::string& word : split(std::string(text), ' ')) {
+    std::string plain;
+    for (const char character : lower(word)) {
+      if ((character >= 'a' && character <= 'z') || character == '\'') plain += character;
+    }
+    if (!plain.empty()) words.push_back(std::move(plain));
+  }
+  return words;
+}
+
 bool hasCapital(const TextWord& word) {
   return lower(word.text.front()) != word.text.front();
 }

@@ -18,6 +18,10 @@ struct TextWord {
 
 [[nodiscard]] std::vector<TextWord> textWords(std::string_view sentence);
 
+/// The words of an English text in small letters and with their apostrophes, all other marks left
+/// out: "I'm from Hue." is "i'm", "from", "hue".
+[[nodiscard]] std::vector<std::string> plainWords(std::string_view text);
+
 /// True when the word begins with a capital.
 [[nodiscard]] bool hasCapital(const TextWord& word);
 

@@ -3,6 +3,7 @@
 
 #include "pack/DrillChecks.h"
 #include "pack/GuideTextCheck.h"
+#include "pack/KeySentences.h"
 #include "pack/Lexicon.h"
 #include "pack/PlanChecks.h"
 #include "pack/StreamText.h"
@@ -75,6 +76,36 @@ TEST(StreamText, TellsOfACapitalThatTheFontShowsSmall) {
   Problems problems;
   EXPECT_EQ(sourceText("ĐỌC", {"t", 1, 1}, "", problems), *streamText("ĐC"));
   EXPECT_THAT(told(problems), ElementsAre(HasSubstr("t:1:2: the text font has no capital \"Ọ\"")));
+}
+
+// -- Key sentences.
+
+TEST(KeySentences, ReturnInTwoOtherTexts) {
+  const auto check = [](const std::string& third) {
+    Problems problems;
+    const std::string note =
+        checkKeySentences({{"a", "// key: Is it far?\ntitle: A\n\nIs it far?\n= x?\n", true},
+                           {"b", "title: B\n\nExcuse me, is it far?\n= x?\n", true},
+                           {"c", "title: C\n\n" + third + "\n= x.\n", true},
+                           {"d", "title: Is it far?\n\nIt's far.\n= Is it far?\n", false}},
+                          problems);
+    auto lines = told(problems);
+    lines.push_back(note);
+    return lines;
+  };
+  EXPECT_THAT(check("Is it far from here?"), ElementsAre(""));
+  EXPECT_THAT(check("Is it so far?"),
+              ElementsAre("a:1:1: the key sentence \"Is it far?\" returns in 1 other texts; it "
+                          "should in 2",
+                          "speaking texts: 1 of 3 conversations have no key sentence"));
+}
+
+TEST(KeySentences, StandInTheTextThatDeclaresThem) {
+  Problems problems;
+  static_cast<void>(
+      checkKeySentences({{"a", "// key: Is it near?\ntitle: A\n\nIt is.\n", true}}, problems));
+  EXPECT_THAT(told(problems), ElementsAre(HasSubstr("a:1:1: the key sentence \"Is it near?\" "
+                                                    "stands nowhere in its text")));
 }
 
 // -- Budgets.
