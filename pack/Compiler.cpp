@@ -7,6 +7,7 @@
 #include "pack/DictionaryStore.h"
 #include "pack/ExerciseStore.h"
 #include "pack/Guide.h"
+#include "pack/KeptDictionary.h"
 #include "pack/LessonStore.h"
 #include "pack/ListeningStore.h"
 #include "pack/OtherStores.h"
@@ -50,17 +51,19 @@ void appendWords(std::vector<std::string>& words, std::string_view text) {
   finish();
 }
 
-// The words that the texts use, and accepted ones, confirm regular forms that the word lists lack.
-// A small list goes without the installed databases and has nothing else.
+// Accepted words confirm regular forms that the word lists lack. A small list goes without the
+// installed databases and takes the words of the texts instead; a full one does not hang on them.
 WordSources readWordSources(const Options& options, const ReadingSource& readings,
                             Problems& problems, const Progress& progress) {
   WordSources words;
   progress("dictionary sources");
   words.own = readDictionary(options.source / "dictionary", problems);
-  for (std::string& word : wordsOfReadings(readings))
-    words.known.insert(std::move(word));
   words.known.merge(wordSetOf(options.source / AcceptedFile));
-  if (options.smallWordList) return words;
+  if (options.smallWordList) {
+    for (std::string& word : wordsOfReadings(readings))
+      words.known.insert(std::move(word));
+    return words;
+  }
   progress("WordNet");
   words.wordNet = readWordNet(options.wordNet, problems);
   progress("word lists");
@@ -95,6 +98,33 @@ void readDrills(const Options& options, Content& content, Problems& problems) {
   markStretches(content.analyses, content.readings, problems);
 }
 
+/// All but the words.
+Content readCourse(const Options& options, Problems& problems, const Progress& progress) {
+  Content content;
+  if (!std::filesystem::is_directory(options.source)) {
+    problems.add({options.source.string()}, "is not a folder");
+    return content;
+  }
+  progress("reading texts");
+  content.readings = readReadings(options.source / "reading", problems);
+  progress("lessons and exercises");
+  content.lessons = readLessons(options.source / "lessons", problems);
+  content.exercises = readExercises(options.source, content.lessons, problems);
+  progress("drills");
+  readDrills(options, content, problems);
+  progress("guide");
+  const auto guide = options.source / "guide.txt";
+  content.guide = compileGuide(readText(guide, problems), guide.string(), problems);
+  if (!options.smallWordList) content.wordNetLicence = readSource(options.wordNetLicence, problems);
+  return content;
+}
+
+void readWords(const Options& options, Content& content, Problems& problems,
+               const Progress& progress) {
+  content.words = readWordSources(options, content.readings, problems, progress);
+  pronounceWords(options, content, problems);
+}
+
 std::vector<PackFile> compileDrills(const Content& content) {
   TextStore speaking = compileSpeakingTexts(content.speaking);
   TextStore items = compileListeningItems(content.listening);
@@ -112,27 +142,45 @@ void append(std::vector<PackFile>& files, std::vector<PackFile> more) {
   std::move(more.begin(), more.end(), std::back_inserter(files));
 }
 
+/// The files that hang on the words and not on the texts.
+std::vector<PackFile> compileWords(const Content& content, const WordList& list,
+                                   const Options& options, Problems& problems,
+                                   const Progress& progress) {
+  progress("entries");
+  std::vector<PackFile> files = compileDictionary(list);
+  append(files, compileVietnameseSide(makeVietnameseSide(content, list, options, problems)));
+  files.push_back({std::string(Pronunciations::FileName), content.pronunciations.write()});
+  return files;
+}
+
+/// All others; of the recordings, those that are new.
+std::vector<PackFile> compileTexts(const Content& content, const Options& options,
+                                   const Progress& progress) {
+  progress("texts and settings");
+  std::vector<PackFile> files;
+  TextStore readings = compileReadings(content.readings);
+  files.push_back({std::string(packfile::ReadingPositions), std::move(readings.positions)});
+  files.push_back({std::string(packfile::ReadingTexts), std::move(readings.stream)});
+  files.push_back({std::string(packfile::Guide), content.guide});
+  TextStore lessons = compileLessons(content.lessons, content.exercises.lessonsWithItems());
+  files.push_back({std::string(packfile::LessonPositions), std::move(lessons.positions)});
+  files.push_back({std::string(packfile::Lessons), std::move(lessons.stream)});
+  append(files, compileExercises(content.exercises, content.lessons));
+  append(files, compileDrills(content));
+  append(files, firstSettings());
+  if (!content.wordNetLicence.empty())
+    files.push_back({"LICENCE-wordnet.txt", content.wordNetLicence});
+  append(files, compileRecordings(content.readings, content.recordings, content.pronunciations,
+                                  options.earlierPack, progress));
+  return files;
+}
+
 } // namespace
 
 Content readContent(const Options& options, Problems& problems, const Progress& progress) {
-  Content content;
-  if (!std::filesystem::is_directory(options.source)) {
-    problems.add({options.source.string()}, "is not a folder");
-    return content;
-  }
-  progress("reading texts");
-  content.readings = readReadings(options.source / "reading", problems);
-  progress("lessons and exercises");
-  content.lessons = readLessons(options.source / "lessons", problems);
-  content.exercises = readExercises(options.source, content.lessons, problems);
-  progress("drills");
-  readDrills(options, content, problems);
-  progress("guide");
-  const auto guide = options.source / "guide.txt";
-  content.guide = compileGuide(readText(guide, problems), guide.string(), problems);
-  content.words = readWordSources(options, content.readings, problems, progress);
-  pronounceWords(options, content, problems);
-  if (!options.smallWordList) content.wordNetLicence = readSource(options.wordNetLicence, problems);
+  Content content = readCourse(options, problems, progress);
+  if (std::filesystem::is_directory(options.source))
+    readWords(options, content, problems, progress);
   return content;
 }
 
@@ -162,36 +210,28 @@ std::vector<SideEntry> makeVietnameseSide(const Content& content, const WordList
 
 std::vector<PackFile> compile(const Options& options, Problems& problems,
                               const Progress& progress) {
-  const Content content = readContent(options, problems, progress);
+  const KeptDictionary kept(options);
+  if (!kept.stands()) {
+    const Content content = readContent(options, problems, progress);
+    if (!problems.none()) return {};
+    progress("word list");
+    const WordList list = makeWordList(content, options, problems);
+    if (!problems.none()) return {};
+    std::vector<PackFile> files = compile(content, list, options, problems, progress);
+    kept.addNote(files);
+    return files;
+  }
+  Content content = readCourse(options, problems, progress);
   if (!problems.none()) return {};
-  progress("word list");
-  const WordList list = makeWordList(content, options, problems);
-  if (!problems.none()) return {};
-  return compile(content, list, options, problems, progress);
+  content.pronunciations = kept.pronunciations();
+  return compileTexts(content, options, progress);
 }
 
 std::vector<PackFile> compile(const Content& content, const WordList& list, const Options& options,
                               Problems& problems, const Progress& progress) {
-  progress("entries");
-  std::vector<PackFile> files = compileDictionary(list);
-  progress("texts and settings");
-  TextStore readings = compileReadings(content.readings);
-  files.push_back({std::string(packfile::ReadingPositions), std::move(readings.positions)});
-  files.push_back({std::string(packfile::ReadingTexts), std::move(readings.stream)});
-  files.push_back({std::string(packfile::Guide), content.guide});
-  TextStore lessons = compileLessons(content.lessons, content.exercises.lessonsWithItems());
-  files.push_back({std::string(packfile::LessonPositions), std::move(lessons.positions)});
-  files.push_back({std::string(packfile::Lessons), std::move(lessons.stream)});
-  append(files, compileExercises(content.exercises, content.lessons));
-  append(files, compileDrills(content));
-  append(files, compileVietnameseSide(makeVietnameseSide(content, list, options, problems)));
-  append(files, firstSettings());
-  files.push_back({std::string(Pronunciations::FileName), content.pronunciations.write()});
-  if (!content.wordNetLicence.empty())
-    files.push_back({"LICENCE-wordnet.txt", content.wordNetLicence});
+  std::vector<PackFile> files = compileWords(content, list, options, problems, progress);
   if (!problems.none()) return {};
-  append(files, compileRecordings(content.readings, content.recordings, content.pronunciations,
-                                  options.earlierPack, progress));
+  append(files, compileTexts(content, options, progress));
   return files;
 }
 

@@ -6,6 +6,7 @@
 #include "pack/FilledList.h"
 #include "pack/LessonSource.h"
 #include "pack/ListeningSource.h"
+#include "pack/Options.h"
 #include "pack/OwnRecording.h"
 #include "pack/PackFile.h"
 #include "pack/Progress.h"
@@ -13,27 +14,11 @@
 #include "pack/VietnameseSide.h"
 #include "sound/Pronunciations.h"
 
-#include <filesystem>
 #include <map>
-#include <optional>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace talvora::pack {
-
-struct Options {
-  std::filesystem::path source;
-  std::filesystem::path wordNet = "/usr/share/wordnet";
-  /// Its licence, which goes with every pack that holds its words.
-  std::filesystem::path wordNetLicence = "/usr/share/doc/wordnet-base/copyright";
-  std::vector<std::filesystem::path> wordLists = {"/usr/share/dict/american-english-huge",
-                                                  "/usr/share/dict/british-english-huge"};
-  /// The greatest number of lines of a small word list; none for the full one.
-  std::optional<std::size_t> smallWordList = std::nullopt;
-  /// The pack whose recordings are kept as far as their scripts are the same; without one none is
-  /// made.
-  std::optional<std::filesystem::path> earlierPack = std::nullopt;
-};
 
 /// A content tree as read.
 struct Content {
@@ -62,8 +47,8 @@ struct Content {
                                                         const WordList& list,
                                                         const Options& options, Problems& problems);
 
-/// Every file of the pack; of the recordings, those that are new. When the sources have problems
-/// the result is not to be used.
+/// Every file of the pack; of the recordings, those that are new, and those of the dictionary
+/// unless the earlier pack's are kept. When the sources have problems the result is not to be used.
 [[nodiscard]] std::vector<PackFile> compile(const Options& options, Problems& problems,
                                             const Progress& progress);
 /// The same for content that is read and its word list.

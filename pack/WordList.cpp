@@ -38,15 +38,16 @@ bool inVietnamese(const std::vector<Sense>& senses) {
 } // namespace
 
 std::optional<std::size_t> WordList::find(const std::string& form) const {
-  const auto found = byForm_.find(form);
-  return found != byForm_.end() ? std::optional(found->second) : std::nullopt;
+  return byForm_.find(
+      form, [this](std::size_t number) -> const std::string& { return words_[number].form; });
 }
 
 std::optional<std::size_t> WordList::add(Word word) {
   if (full()) return std::nullopt;
   word.form = ChuanHoaTu(word.head);
   if (word.form.empty() || word.form.front() < 'a' || word.form.front() > 'z') return std::nullopt;
-  if (!byForm_.emplace(word.form, words_.size()).second) return std::nullopt;
+  if (find(word.form)) return std::nullopt;
+  byForm_.add(word.form, words_.size());
   words_.push_back(std::move(word));
   return words_.size() - 1;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pack/Entry.h"
+#include "pack/FormIndex.h"
 
 #include <array>
 #include <cstddef>
@@ -10,7 +11,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace talvora::pack {
@@ -81,7 +81,7 @@ struct Word {
 class WordList {
  public:
   /// `limit` is the number of lines that the list holds at most.
-  explicit WordList(std::size_t limit) : limit_(limit) { byForm_.reserve(limit); }
+  explicit WordList(std::size_t limit) : limit_(limit), byForm_(limit) {}
 
   [[nodiscard]] bool full() const noexcept { return words_.size() >= limit_; }
   [[nodiscard]] std::size_t size() const noexcept { return words_.size(); }
@@ -112,7 +112,7 @@ class WordList {
 
   std::size_t limit_;
   std::vector<Word> words_;
-  std::unordered_map<std::string, std::size_t> byForm_;
+  FormIndex byForm_;
 };
 
 } // namespace talvora::pack
