@@ -141,7 +141,8 @@ void FormView::settlePlace(Control& control) {
     if (!control.Visible()) scrollMouse_.forget(*surfaceView);
   }
   if (!control.Visible()) return;
-  // Qt itself would mark a widget that appears only when events run.
+  // Qt itself would mark a widget that appears only when events run, and paint it a second time.
+  QCoreApplication::removePostedEvents(view, QEvent::UpdateLater);
   view->update();
   view->refresh();
 }
