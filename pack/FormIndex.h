@@ -1,6 +1,6 @@
-// Numbers of words by their normal forms. A build asks some ten million times, mostly for words
-// that are not there: that takes one look at memory, since a slot tells by itself whether it can
-// be the one, and only then the word is compared.
+// Numbers of words by their normal forms. A build asks mostly for words that are not there: that
+// takes one look at memory, since a slot tells by itself whether it can be the one, and only then
+// the word is compared.
 #pragma once
 
 #include <cstddef>
