@@ -145,8 +145,8 @@ void paintReflections(QPainter& painter, QSizeF size) {
   painter.restore();
 }
 
-QPixmap paintSoftParts(QSize size) {
-  QPixmap picture(size);
+QImage paintSoftParts(QSize size) {
+  QImage picture(size, QImage::Format_RGB32);
   picture.fill(QColor(0xFFD3E1E4));
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -256,19 +256,25 @@ QPixmap drawSign(int size) {
   return picture;
 }
 
-QPixmap drawLandscape(QSize size) {
-  QPixmap picture(size);
+QImage drawLandscape(QSize size) {
+  QImage picture(size, QImage::Format_RGB32);
   if (size.isEmpty()) return picture;
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawPixmap(picture.rect(), paintSoftParts((size / Softness).expandedTo({1, 1})));
+  painter.drawImage(picture.rect(), paintSoftParts((size / Softness).expandedTo({1, 1})));
   painter.setRenderHint(QPainter::Antialiasing);
   paintRipples(painter, size);
   const double unit = size.height() / 1000.0;
   paintBoat(painter, {size.width() * 0.265, size.height() * 0.885}, unit * 1.35);
   paintBoat(painter, {size.width() * 0.845, size.height() * 0.735}, unit * 0.5);
-  paintName(painter, size);
   return picture;
+}
+
+void writeName(QPixmap& picture) {
+  if (picture.isNull()) return;
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paintName(painter, picture.size());
 }
 
 } // namespace talvora

@@ -25,6 +25,7 @@ constexpr int WidestScreen = 1366;
 constexpr int LongestShown = 20; // letters of a word that is too long
 // Sixty pictures a second, as most screens show.
 constexpr qint64 StepNs = 16'666'667;
+constexpr qint64 ShortestPictureNs = StepNs / 2;
 constexpr qint64 LongestMovementPauseNs = 200'000'000;
 
 QString shown(std::string_view bytes, Encoding encoding) {
@@ -40,6 +41,16 @@ QSize virtualScreenFor(QSize realScreen) {
   return {std::clamp(width, NarrowestScreen, WidestScreen), VirtualHeight};
 }
 
+void DesktopScreen::Refresh() {
+  if (sincePicture_.isValid() && sincePicture_.nsecsElapsed() < ShortestPictureNs) return;
+  paint();
+}
+
+void DesktopScreen::paint() {
+  refresh();
+  sincePicture_.start();
+}
+
 void DesktopScreen::RefreshStep() {
   // A step that comes much later than the one before begins a movement of its own.
   const bool goesOn = sinceFirstStep_.isValid() &&
@@ -52,7 +63,7 @@ void DesktopScreen::RefreshStep() {
   const qint64 now = sinceFirstStep_.nsecsElapsed();
   if (now > due + StepNs) return;
   if (now < due) QThread::usleep(static_cast<unsigned long>((due - now) / 1000));
-  refresh();
+  paint();
 }
 
 void DesktopClipboard::clear() {

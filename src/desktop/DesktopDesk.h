@@ -23,14 +23,19 @@ class DesktopScreen final : public Screen {
 
   [[nodiscard]] int pixelWidth() const override { return size_.width(); }
   [[nodiscard]] int pixelHeight() const override { return size_.height(); }
-  void Refresh() override { refresh(); }
+  /// Of two pictures within a fraction of a frame no eye sees the first: the second one then comes
+  /// when events run, together with what else there is by then.
+  void Refresh() override;
   void RefreshStep() override;
 
   /// Paints at once what has changed; set by the window.
   std::function<void()> refresh = [] {};
 
  private:
+  void paint();
+
   QSize size_;
+  QElapsedTimer sincePicture_;   ///< since the end of the last painting; invalid before the first
   QElapsedTimer sinceFirstStep_; ///< invalid until something has moved
   qint64 nextStep_ = 0;          ///< ns since the first step of the movement
 };

@@ -45,6 +45,8 @@ class FormView final : public QWidget, public FormObserver {
 
   /// Places every child anew.
   void setScale(double pixelsPerTwip);
+  /// Makes the views of what is to be seen, ahead of the first painting.
+  void prepare() { settle(); }
   /// Paints at once what has changed.
   void repaintNow();
 

@@ -79,11 +79,23 @@ void PanelView::refresh() {
 
 // -- The background.
 
+void ImageView::moveWidget() {
+  ControlView::moveWidget();
+  draw();
+}
+
+void ImageView::draw() {
+  const QSize wanted = pixels();
+  if (wanted.isEmpty() || std::exchange(drawn_, wanted) == wanted) return;
+  drawing_ = std::async(std::launch::async, [wanted] { return drawLandscape(wanted); });
+}
+
 void ImageView::paintEvent(QPaintEvent* event) {
-  const double ratio = devicePixelRatioF();
-  if (picture_.size() != size() * ratio) {
-    picture_ = drawLandscape(size() * ratio);
-    picture_.setDevicePixelRatio(ratio);
+  draw();
+  if (drawing_.valid()) {
+    picture_ = QPixmap::fromImage(drawing_.get());
+    writeName(picture_);
+    picture_.setDevicePixelRatio(devicePixelRatioF());
   }
   QPainter painter(this);
   painter.setClipRegion(event->region());

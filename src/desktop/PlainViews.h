@@ -4,7 +4,11 @@
 #include "desktop/ControlView.h"
 #include "desktop/Shadow.h"
 
+#include <QImage>
 #include <QPixmap>
+#include <QSize>
+
+#include <future>
 
 namespace talvora {
 
@@ -50,6 +54,8 @@ class PanelView final : public ControlView {
   QRect shown_; ///< the panel, in pixels of the form, as it was marked for painting last
 };
 
+/// Its picture is drawn on a thread of its own from the moment that its size is known: while the
+/// window comes up there is time for it.
 class ImageView final : public ControlView {
  public:
   ImageView(const Image& image, QWidget* parent) : ControlView(image, parent) {
@@ -58,8 +64,15 @@ class ImageView final : public ControlView {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void moveWidget() override;
 
  private:
+  [[nodiscard]] QSize pixels() const { return size() * devicePixelRatioF(); }
+  /// Has the picture drawn in the size that is needed now, if it is not being drawn yet.
+  void draw();
+
+  std::future<QImage> drawing_;
+  QSize drawn_;     ///< what was asked for last
   QPixmap picture_; ///< as it was painted last
 };
 

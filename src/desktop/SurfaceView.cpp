@@ -62,10 +62,12 @@ SurfaceView::Piece SurfaceView::pieceOf(int paragraph, const ShapedParagraph& sh
   const int length = surface_.paragraphStart(paragraph + 1) - start;
   const int from = surface_.SelStart();
   const int to = from + surface_.SelLength();
+  piece.current = look_.isList && surface_.paragraphOf(from) == paragraph;
+  // The whole line of a list says what is selected in it.
+  if (piece.current) return piece;
   piece.selectedFrom = std::clamp(from - start, 0, length);
   piece.selectedTo = std::clamp(to - start, 0, length);
   if (surface_.paragraphOf(from) != paragraph) return piece;
-  piece.current = look_.isList;
   const bool caretShows = surface_.SelLength() == 0 && surfaceHasFocus() && look_.showsCaret;
   if (caretShows) piece.caret = from - start;
   return piece;
@@ -230,8 +232,6 @@ void SurfaceView::paintCurrentLine(QPainter& painter, const Piece& piece) const 
 
 void SurfaceView::paintSelection(QPainter& painter, const ShapedParagraph& shaped,
                                  const Piece& piece) const {
-  // The whole line of a list says it already.
-  if (piece.current) return;
   const bool dark = qGray(colourOf(surface_.BackColor()).rgb()) < DarkBelow;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor::fromRgba(dark ? palette::DarkSelection : palette::SelectionEdge),

@@ -154,9 +154,12 @@ void Window::refresh() {
 void Window::showOnScreen() {
   // Without a window manager nobody else makes it as large as the screen.
   setGeometry(screen()->geometry());
-  showFullScreen();
   arrange();
   view_->onCaptionChanged();
+  // The landscape is drawn while the window comes up.
+  view_->prepare();
+  showFullScreen();
+  arrange();
   // The background is to be seen while the program loads.
   if (windowHandle() != nullptr && !windowHandle()->isExposed()) {
     QEventLoop wait;

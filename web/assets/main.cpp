@@ -24,8 +24,9 @@ bool writeAll(const QString& folder) {
   QFile measures(folder + QStringLiteral("/faces.bin"));
   const QByteArray bytes = talvora::faceMeasures();
   if (!measures.open(QIODevice::WriteOnly) || measures.write(bytes) != bytes.size()) return false;
-  if (!talvora::drawLandscape(LandscapeSize)
-           .save(folder + QStringLiteral("/landscape.jpg"), "JPG", LandscapeQuality)) {
+  QPixmap landscape = QPixmap::fromImage(talvora::drawLandscape(LandscapeSize));
+  talvora::writeName(landscape);
+  if (!landscape.save(folder + QStringLiteral("/landscape.jpg"), "JPG", LandscapeQuality)) {
     return false;
   }
   for (const int size : {192, 512}) {
