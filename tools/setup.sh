@@ -56,7 +56,7 @@ install_packages() {
   if [ "$(id -u)" -ne 0 ]; then
     if ! command -v sudo >/dev/null || ! sudo -v; then
       echo "Some packages are missing and need an administrator. Ask for this line, then start again:" >&2
-      echo "    $command" >&2
+      echo "    apt-get update && $command" >&2
       return 1
     fi
     as_root=sudo
