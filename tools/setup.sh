@@ -72,10 +72,16 @@ install_packages() {
   }
 }
 
-# Configures and builds a preset; more arguments go to the configuration.
+# Configures and builds a preset, all of it or, with `--target NAME`, one target; more arguments go to
+# the configuration.
 build_preset() {
   local preset=$1
   shift
+  local targets=()
+  if [ "${1:-}" = --target ]; then
+    targets=("$1" "$2")
+    shift 2
+  fi
   say "Building ($preset)"
   local launcher=
   if command -v ccache >/dev/null; then launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
@@ -86,7 +92,7 @@ build_preset() {
     return 1
   }
   rm -f "build-$preset.log"
-  cmake --build --preset "$preset"
+  cmake --build --preset "$preset" "${targets[@]}"
 }
 
 # Compiles content/ into a pack folder with the compiler of a preset.

@@ -1,16 +1,17 @@
 #include "desktop/Accessibility.h"
 
-#include "desktop/ButtonMeaning.h"
 #include "desktop/DeedEvent.h"
 #include "desktop/FormView.h"
 #include "desktop/HintBarView.h"
 #include "desktop/KeyCodes.h"
 #include "desktop/MenuButtonView.h"
 #include "desktop/PageLook.h"
-#include "desktop/PageNames.h"
 #include "desktop/Palette.h"
+#include "desktop/Shown.h"
 #include "desktop/SurfaceView.h"
 #include "desktop/Teller.h"
+#include "fronts/ButtonMeaning.h"
+#include "fronts/PageNames.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -79,7 +80,7 @@ QString attributesOf(const CharStyle& style, const QString& text) {
 class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit SurfaceAccessible(SurfaceView& view)
-      : QAccessibleWidget(&view, QAccessible::EditableText, pageName(view.surface().Name())),
+      : QAccessibleWidget(&view, QAccessible::EditableText, shown(pageName(view.surface().Name()))),
         view_(view) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
@@ -125,7 +126,7 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
     ask(view_, [this, position] {
       surface().SelStart(position);
       // A list takes the line of its caret when an arrow is let go.
-      if (lookOf(surface()).isList && view_.surfaceHasFocus()) {
+      if (traitsOf(surface()).isList && view_.surfaceHasFocus()) {
         surface().releaseKey(key::Down, shift::None);
       }
     });
@@ -189,7 +190,7 @@ class ButtonAccessible final : public QAccessibleWidget {
       : QAccessibleWidget(&view, QAccessible::Button, view.caption()), view_(view) {}
 
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Description) return meaningOf(view_.button());
+    if (kind == QAccessible::Description) return shown(meaningOf(view_.button()));
     return QAccessibleWidget::text(kind);
   }
 
@@ -247,7 +248,7 @@ class FormAccessible final : public QAccessibleWidget {
       auto* const widget = qobject_cast<QWidget*>(each);
       if (widget == nullptr || widget->isHidden()) continue;
       const auto* const surface = dynamic_cast<SurfaceView*>(widget);
-      const bool speaks = surface != nullptr ? !pageName(surface->surface().Name()).isEmpty()
+      const bool speaks = surface != nullptr ? !pageName(surface->surface().Name()).empty()
                                              : dynamic_cast<MenuButtonView*>(widget) != nullptr ||
                                                    dynamic_cast<HintBarView*>(widget) != nullptr;
       if (speaks) widgets.append(widget);

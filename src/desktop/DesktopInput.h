@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/InputGate.h"
-#include "desktop/KeyTable.h"
+#include "fronts/KeyTable.h"
 #include "platform/Input.h"
 
 #include <QPoint>

@@ -6,10 +6,10 @@
 #include "desktop/DesktopInput.h"
 #include "desktop/DesktopTime.h"
 #include "desktop/InputGate.h"
-#include "desktop/KeyTable.h"
 #include "desktop/QtLineLayout.h"
 #include "desktop/Sound.h"
 #include "desktop/TextShaper.h"
+#include "fronts/KeyTable.h"
 #include "platform/Platform.h"
 
 #include <cstdint>

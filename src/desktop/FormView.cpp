@@ -1,14 +1,15 @@
 #include "desktop/FormView.h"
 
-#include "desktop/ButtonMeaning.h"
 #include "desktop/DeedEvent.h"
 #include "desktop/HintBarView.h"
-#include "desktop/Links.h"
 #include "desktop/MenuButtonView.h"
 #include "desktop/Palette.h"
 #include "desktop/PlainViews.h"
+#include "desktop/Shown.h"
 #include "desktop/SurfaceView.h"
 #include "desktop/Teller.h"
+#include "fronts/ButtonMeaning.h"
+#include "fronts/Links.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
@@ -263,7 +264,7 @@ bool FormView::event(QEvent* event) {
   const auto& help = static_cast<const QHelpEvent&>(*event);
   const auto* const button = as<Button>(form_.controlAt(mouse_.pointOf(help.pos())));
   const bool needsOne = button != nullptr && hasEnglishCaption(*button);
-  const QString text = needsOne ? meaningOf(*button) : QString();
+  const QString text = needsOne ? shown(meaningOf(*button)) : QString();
   if (text.isEmpty()) {
     QToolTip::hideText();
   } else {

@@ -2,7 +2,7 @@
 // input back while the program sleeps, and lets it through afterwards in order.
 #pragma once
 
-#include "desktop/KeyTable.h"
+#include "fronts/KeyTable.h"
 
 #include <QElapsedTimer>
 #include <QEvent>

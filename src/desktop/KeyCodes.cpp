@@ -1,5 +1,6 @@
 #include "desktop/KeyCodes.h"
 
+#include "fronts/MouseKeys.h"
 #include "platform/Input.h"
 #include "text/Bytes.h"
 
@@ -41,6 +42,8 @@ int keyCodeOf(const QKeyEvent& event) {
     return key::Down;
   case Qt::Key_Delete:
     return key::Delete;
+  case Qt::Key_Menu:
+    return key::Menu;
   default:
     break;
   }

@@ -2,9 +2,7 @@
 
 #include <QPainter>
 
-#include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace talvora {
 
@@ -13,11 +11,6 @@ namespace {
 const QColor PureBlue(0, 0, 255);
 constexpr double SignPen = 30;         // twips
 constexpr double UnderlineDrop = 0.86; ///< from a line's upper edge, in heights of the line
-
-bool isList(std::string_view name) {
-  constexpr std::array lists = {"R1", "RVP1", "RN1", "RW1", "RTD", "Rchon"};
-  return std::find(lists.begin(), lists.end(), name) != lists.end();
-}
 
 /// Left of the line's text, in the margin.
 void paintTick(QPainter& painter, const QRectF& text) {
@@ -40,22 +33,11 @@ void paintUnderline(QPainter& painter, const QRectF& text) {
 
 } // namespace
 
-PageLook lookOf(const Surface& surface) {
-  const std::string& name = surface.Name();
-  PageLook look;
-  look.isList = isList(name);
-  // The guide takes no key but Esc; a list shows its line.
-  look.showsCaret = !look.isList && name != "Rcachhoc";
-  if (name == "RVP1") look.blueSign = PageLook::BlueSign::Tick;
-  if (name == "Rxep") look.blueSign = PageLook::BlueSign::Underline;
-  return look;
-}
-
-void PageLook::paintMarks(QPainter& painter, const ShapedParagraph& paragraph) const {
-  if (blueSign == BlueSign::None) return;
+void paintMarks(QPainter& painter, const ShapedParagraph& paragraph, PageTraits::BlueSign sign) {
+  if (sign == PageTraits::BlueSign::None) return;
   for (const auto& [from, to] : paragraph.rangesIn(PureBlue)) {
     for (const QRectF& text : paragraph.rectsOf(from, to)) {
-      if (blueSign == BlueSign::Underline) {
+      if (sign == PageTraits::BlueSign::Underline) {
         paintUnderline(painter, text);
       } else {
         // One tick a lesson says it.

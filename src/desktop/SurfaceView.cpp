@@ -28,7 +28,7 @@ constexpr int DarkBelow = 128;
 
 SurfaceView::SurfaceView(Surface& surface, QtLineLayout& layout, const Form& form, QWidget* parent)
     : ControlView(surface, parent), surface_(surface), layout_(layout), form_(form),
-      bar_(surface, layout), look_(lookOf(surface)), teller_(*this, surface) {
+      bar_(surface, layout), traits_(traitsOf(surface)), teller_(*this, surface) {
   if (!isRounded()) setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -62,13 +62,13 @@ SurfaceView::Piece SurfaceView::pieceOf(int paragraph, const ShapedParagraph& sh
   const int length = surface_.paragraphStart(paragraph + 1) - start;
   const int from = surface_.SelStart();
   const int to = from + surface_.SelLength();
-  piece.current = look_.isList && surface_.paragraphOf(from) == paragraph;
+  piece.current = traits_.isList && surface_.paragraphOf(from) == paragraph;
   // The whole line of a list says what is selected in it.
   if (piece.current) return piece;
   piece.selectedFrom = std::clamp(from - start, 0, length);
   piece.selectedTo = std::clamp(to - start, 0, length);
   if (surface_.paragraphOf(from) != paragraph) return piece;
-  const bool caretShows = surface_.SelLength() == 0 && surfaceHasFocus() && look_.showsCaret;
+  const bool caretShows = surface_.SelLength() == 0 && surfaceHasFocus() && traits_.showsCaret;
   if (caretShows) piece.caret = from - start;
   return piece;
 }
@@ -217,7 +217,7 @@ void SurfaceView::paintPiece(QPainter& painter, const ShapedParagraph& shaped, c
   painter.translate(0, piece.top);
   if (piece.current) paintCurrentLine(painter, piece);
   if (piece.selectedTo > piece.selectedFrom) paintSelection(painter, shaped, piece);
-  look_.paintMarks(painter, shaped);
+  paintMarks(painter, shaped, traits_.blueSign);
   shaped.paint(painter, dirty.translated(0, -piece.top), colourOf(surface_.BackColor()),
                layout_.letters());
   painter.restore();

@@ -5,8 +5,8 @@
 #include "desktop/ControlView.h"
 #include "desktop/PageLook.h"
 #include "desktop/QtLineLayout.h"
-#include "desktop/ScrollBar.h"
 #include "desktop/Teller.h"
+#include "fronts/ScrollBar.h"
 #include "surface/Form.h"
 #include "surface/Surface.h"
 
@@ -96,7 +96,7 @@ class SurfaceView final : public ControlView {
   QtLineLayout& layout_;
   const Form& form_;
   ScrollBar bar_;
-  const PageLook look_;
+  const PageTraits traits_;
   bool barHot_ = false;
   /// What was marked for painting last; empty when everything is to be marked the next time.
   std::optional<Picture> marked_;

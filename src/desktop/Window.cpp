@@ -4,7 +4,8 @@
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/KeyCodes.h"
-#include "desktop/KeyHelp.h"
+#include "desktop/Shown.h"
+#include "fronts/KeyHelp.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
 #include "text/GlyphMap.h"
@@ -57,7 +58,9 @@ class ExposeWatch final : public QObject {
 
 Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
     : machine_(machine), program_(program), bridge_(bridge),
-      mouseKeys_(program.form(), program.input(), bridge), warmer_(machine.layout.letters()) {
+      mouseKeys_(program.form(), program.input(),
+                 [&bridge](const std::function<void()>& deed) { bridge.deliver(deed); }),
+      warmer_(machine.layout.letters()) {
   setWindowTitle(QStringLiteral("Talvora"));
   QIcon icon;
   for (const int size : {16, 32, 48, 128})
@@ -113,8 +116,8 @@ void Window::connectMachine() {
   machine_.boxes.opening = [this] { program_.input().endPress(); };
   machine_.narrator.sign = [this](const QString& text) { strip_->notice(text); };
   machine_.narrator.say = [this](const QString& text) { announcer_->tell(text); };
-  strip_->setHintTip(allKeyHelp());
-  view_->onSettled = [this] { strip_->setHelp(keyHelp(program_.form())); };
+  strip_->setHintTip(shown(allKeyHelp()));
+  view_->onSettled = [this] { strip_->setHelp(shown(keyHelp(program_.form()))); };
   strip_->told = [this](const QString& text) { announcer_->tell(text); };
   view_->onCameUp = [this](const Surface& surface) {
     if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
@@ -219,8 +222,8 @@ void Window::settleHover() {
 // -- Input.
 
 void Window::keyPressEvent(QKeyEvent* event) {
-  if (mouseKeys_.press(*event)) return;
   const int code = keyCodeOf(*event);
+  if (mouseKeys_.press(code, shiftOf(event->modifiers()), event->isAutoRepeat())) return;
   if (code == 0 && characterOf(*event) == 0) return;
   // A stroke that was held back is news to the loops that poll only now.
   machine_.keys.latch(code);
@@ -239,7 +242,7 @@ void Window::sendStroke(Qt::Key key) {
 
 void Window::keyReleaseEvent(QKeyEvent* event) {
   const int code = keyCodeOf(*event);
-  if (event->isAutoRepeat() || code == 0 || mouseKeys_.release(*event)) return;
+  if (event->isAutoRepeat() || code == 0 || mouseKeys_.release(code)) return;
   bridge_.deliver([&] { program_.input().releaseKey(code, shiftOf(event->modifiers())); });
 }
 

@@ -7,8 +7,8 @@
 #include "desktop/EventBridge.h"
 #include "desktop/FontWarmer.h"
 #include "desktop/FormView.h"
-#include "desktop/MouseKeys.h"
 #include "desktop/Teller.h"
+#include "fronts/MouseKeys.h"
 #include "program/Program.h"
 
 #include <QElapsedTimer>

@@ -3,7 +3,6 @@ set(TALVORA_VIEW_SOURCES
   Accessibility.cpp
   BackgroundArt.cpp
   ButtonArt.cpp
-  ButtonMeaning.cpp
   ControlView.cpp
   FontWarmer.cpp
   Fonts.cpp
@@ -12,14 +11,11 @@ set(TALVORA_VIEW_SOURCES
   HintBarView.cpp
   LetterAtlas.cpp
   LetterWidths.cpp
-  Links.cpp
   MenuButtonView.cpp
   PageLook.cpp
-  PageNames.cpp
   Palette.cpp
   PlainViews.cpp
   QtLineLayout.cpp
-  ScrollBar.cpp
   ScrollMouse.cpp
   Shadow.cpp
   SurfaceView.cpp

@@ -1,11 +1,10 @@
 // Keys that do a mouse's work: lines of the vocabulary that are marked and deleted, and what the
 // window says of such keys.
-#include "desktop/MouseKeys.h"
-#include "desktop/KeyHelp.h"
+#include "fronts/MouseKeys.h"
+#include "fronts/KeyHelp.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/ProgramControls.h"
 
-#include <QKeyEvent>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -31,19 +30,15 @@ class MouseKeysTest : public testing::Test {
     markWord();
   }
 
-  void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    const QKeyEvent event(QEvent::KeyPress, key, modifiers);
-    if (keys.press(event)) return;
-    const int shift = modifiers.testFlag(Qt::ShiftModifier) ? shift::Shift : shift::None;
-    input.pressKey(codeOf(key), shift, '\0');
+  void press(int keyCode, int shift = shift::None) {
+    if (!keys.press(keyCode, shift, false)) input.pressKey(keyCode, shift, '\0');
   }
-  void release(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    const QKeyEvent event(QEvent::KeyRelease, key, modifiers);
-    if (!keys.release(event)) input.releaseKey(codeOf(key), shift::None);
+  void release(int keyCode) {
+    if (!keys.release(keyCode)) input.releaseKey(keyCode, shift::None);
   }
-  void strike(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    press(key, modifiers);
-    release(key, modifiers);
+  void strike(int keyCode, int shift = shift::None) {
+    press(keyCode, shift);
+    release(keyCode);
   }
 
   [[nodiscard]] int caretOf(const std::string& word) const {
@@ -53,25 +48,12 @@ class MouseKeysTest : public testing::Test {
   ScriptedMachine machine{ScriptedOptions{}};
   Form form{machine.screen, machine.metrics};
   ProgramControls controls{form, machine.layout};
-  EventBridge bridge;
   FormInput input{form};
-  MouseKeys keys{form, input, bridge};
+  MouseKeys keys{form, input, [](const std::function<void()>& deed) { deed(); }};
   Surface& Rchon{controls.Rchon};
   std::vector<std::string> released; ///< what was selected at each release of the mouse
 
  private:
-  static int codeOf(int key) {
-    switch (key) {
-    case Qt::Key_Up:
-      return key::Up;
-    case Qt::Key_Down:
-      return key::Down;
-    case Qt::Key_Delete:
-      return key::Delete;
-    default:
-      return key::Shift;
-    }
-  }
   void markWord() {
     const int start = Rchon.paragraphStart(Rchon.paragraphOf(Rchon.SelStart())) + 3;
     const auto end = Rchon.Text().find('\r', static_cast<std::size_t>(start));
@@ -81,86 +63,85 @@ class MouseKeysTest : public testing::Test {
 };
 
 TEST_F(MouseKeysTest, DeleteIsADragAcrossTheLineOfTheCaret) {
-  strike(Qt::Key_Delete);
+  strike(key::Delete);
   EXPECT_EQ(released, std::vector<std::string>{"2\t\tboy"});
 }
 
 TEST_F(MouseKeysTest, LinesMarkedWithShiftStayMarkedUntilTheyAreDeleted) {
-  press(Qt::Key_Shift, Qt::ShiftModifier);
-  strike(Qt::Key_Down, Qt::ShiftModifier);
-  release(Qt::Key_Shift);
+  press(key::Shift, shift::Shift);
+  strike(key::Down, shift::Shift);
+  release(key::Shift);
   EXPECT_NE(Rchon.SelText().find("3\t\t"), std::string::npos);
-  strike(Qt::Key_Delete);
+  strike(key::Delete);
   EXPECT_EQ(released, std::vector<std::string>{"2\t\tboy\r3\t\triver"});
 }
 
 TEST_F(MouseKeysTest, MarkedLinesAreDeletedByARightClickToo) {
-  strike(Qt::Key_Up, Qt::ShiftModifier);
-  strike(Qt::Key_F10, Qt::ShiftModifier);
+  strike(key::Up, shift::Shift);
+  strike(key::F10, shift::Shift);
   EXPECT_EQ(released, std::vector<std::string>{"1\t\tbank\r2\t\tboy"});
 }
 
 TEST_F(MouseKeysTest, WithoutMarkedLinesARightClickIsOne) {
-  strike(Qt::Key_Menu);
+  strike(key::Menu);
   EXPECT_EQ(released, std::vector<std::string>{"boy"});
 }
 
 TEST_F(MouseKeysTest, TheShiftOfARightClickIsNoneForTheAnswer) {
-  press(Qt::Key_Shift, Qt::ShiftModifier);
+  press(key::Shift, shift::Shift);
   EXPECT_FALSE(keys.shiftClicks());
-  strike(Qt::Key_F10, Qt::ShiftModifier);
+  strike(key::F10, shift::Shift);
   EXPECT_TRUE(keys.shiftClicks());
-  release(Qt::Key_Shift);
+  release(key::Shift);
   EXPECT_FALSE(keys.shiftClicks());
 }
 
 TEST_F(MouseKeysTest, BehindTheLastLineThereIsNothingToDelete) {
   Rchon.SelStart(Rchon.TextLength());
-  press(Qt::Key_Delete);
+  press(key::Delete);
   EXPECT_TRUE(released.empty());
 }
 
 TEST_F(MouseKeysTest, LinesOutOfViewAreReached) {
   Rchon.Height(machine.layout.heightOf(Rchon.paragraph(0).view()));
   Rchon.SelStart(caretOf("bank"));
-  strike(Qt::Key_Down, Qt::ShiftModifier);
-  strike(Qt::Key_Down, Qt::ShiftModifier);
-  strike(Qt::Key_Delete);
+  strike(key::Down, shift::Shift);
+  strike(key::Down, shift::Shift);
+  strike(key::Delete);
   EXPECT_EQ(released, std::vector<std::string>{"1\t\tbank\r2\t\tboy\r3\t\triver"});
 }
 
 TEST_F(MouseKeysTest, ElsewhereDeleteIsThePages) {
   controls.R2.Visible(true);
   controls.R2.SetFocus();
-  const QKeyEvent event(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-  EXPECT_FALSE(keys.press(event));
+  EXPECT_FALSE(keys.press(key::Delete, shift::None, false));
 }
 
 // -- What the window says of them.
 
 TEST_F(MouseKeysTest, NothingIsSaidUntilTheHintsAreCalledUp) {
-  EXPECT_TRUE(keyHelp(form).isEmpty());
+  EXPECT_TRUE(keyHelp(form).empty());
   controls.RDOS.Top(600);
   controls.RDOS.Visible(true);
-  EXPECT_TRUE(keyHelp(form).isEmpty()) << "a word or a reminder";
+  EXPECT_TRUE(keyHelp(form).empty()) << "a word or a reminder";
 }
 
 TEST_F(MouseKeysTest, TheHintsOfAPageNameTheKeysOfTheWindow) {
   controls.RDOS.Top(0);
   controls.RDOS.Visible(true);
-  EXPECT_TRUE(keyHelp(form).contains(QStringLiteral("Delete")));
+  EXPECT_NE(keyHelp(form).find(u"Delete"), std::u16string_view::npos);
   controls.R2.Visible(true);
   controls.R2.SetFocus();
-  EXPECT_TRUE(keyHelp(form).contains(QStringLiteral("Chuột giữa: Enter")));
-  EXPECT_FALSE(keyHelp(form).contains(QStringLiteral("Delete")));
+  EXPECT_NE(keyHelp(form).find(u"Chuột giữa: Enter"), std::u16string_view::npos);
+  EXPECT_EQ(keyHelp(form).find(u"Delete"), std::u16string_view::npos);
 }
 
 TEST_F(MouseKeysTest, AnExplanationThatNamesALessonTellsOfTab) {
   controls.RHDBT.Text("see the lesson");
   controls.RHDBT.Visible(true);
-  EXPECT_TRUE(keyHelp(form).isEmpty());
+  EXPECT_TRUE(keyHelp(form).empty());
   controls.RHDBT.format({8, 14}, {.italic = true});
-  EXPECT_TRUE(keyHelp(form).startsWith(QStringLiteral("Tab")));
+  EXPECT_TRUE(keyHelp(form).starts_with(u"Tab"));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // What a page looks like beyond its text: faces, sentence marks, the scroll bar.
 #include "desktop/Fonts.h"
 #include "desktop/QtLineLayout.h"
-#include "desktop/ScrollBar.h"
+#include "fronts/ScrollBar.h"
 #include "surface/Form.h"
 #include "text/GlyphMap.h"
 

@@ -25,13 +25,25 @@ class Picture final : public FormObserver {
   void captionChanged() override { captionChanged_ = true; }
 
  private:
-  void write(JsonWriter& json, const Control& control) const;
-  void writeSurface(JsonWriter& json, const Surface& surface) const;
-  void writeParagraph(JsonWriter& json, const Surface& surface, int number,
-                      const Paragraph& paragraph, int top) const;
-  void writeSelection(JsonWriter& json, const Surface& surface, int number,
-                      const Paragraph& paragraph, int top) const;
-  [[nodiscard]] const Paragraph& shaped(const Surface& surface, int paragraph) const;
+  /// Where a paragraph is painted: its upper edge, and for letters that are made smaller how much.
+  struct Setting {
+    double left = 0;
+    double top = 0;
+    double narrower = 1;
+    double lower = 1;
+    double width = 0; ///< of the page that the paragraph is laid out on; 0 where it is not scaled
+  };
+
+  void write(JsonWriter& json, Control& control) const;
+  void writeText(JsonWriter& json, std::u16string_view text, const FontSpec& font) const;
+  void writeSurface(JsonWriter& json, Surface& surface) const;
+  void writeHintBar(JsonWriter& json, const Surface& surface) const;
+  void writeParagraph(JsonWriter& json, const Surface& surface, const Paragraph& paragraph,
+                      const Setting& setting) const;
+  void writeMarks(JsonWriter& json, const Surface& surface, int number, const Paragraph& paragraph,
+                  int top) const;
+  void writeThumb(JsonWriter& json, Surface& surface, int inView, int bottom) const;
+  [[nodiscard]] int hintBarHeight(const Surface& surface) const;
 
   Form& form_;
   WebLineLayout& layout_;

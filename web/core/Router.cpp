@@ -1,5 +1,8 @@
 #include "core/Router.h"
 
+#include <functional>
+#include <utility>
+
 namespace talvora::web {
 
 namespace {
@@ -18,6 +21,13 @@ MouseHeld heldOf(int buttons) {
 
 } // namespace
 
+Router::Router(Program& program, WebInput& input, Inbox& inbox, const LineLayout& layout)
+    : program_(program), input_(input), inbox_(inbox), layout_(layout),
+      mouseKeys_(program.form(), program.input(),
+                 [](const std::function<void()>& deed) { deed(); }) {
+  mouseKeys_.movePointer = [this](PixelPoint at) { input_.pointerCame(at); };
+}
+
 SurfacePoint Router::pointerOf(const Event& event) {
   const SurfacePoint at{event.x, event.y - program_.form().captionHeight()};
   program_.input().pointerCame(at);
@@ -29,24 +39,28 @@ void Router::deliver(const Event& event) {
   FormInput& form = program_.input();
   switch (event.kind) {
   case EventKind::Move:
-    form.move(pointerOf(event), event.shift, heldOf(event.which));
+    if (event.which == 0) held_.reset();
+    if (held_) {
+      drag(pointerOf(event));
+    } else {
+      form.move(pointerOf(event), event.shift, heldOf(event.which));
+    }
     break;
   case EventKind::Press:
     press(event);
     break;
   case EventKind::Release:
-    form.release(buttonOf(event), event.shift, pointerOf(event));
+    if (!std::exchange(held_, std::nullopt))
+      form.release(buttonOf(event), event.shift, pointerOf(event));
     break;
   case EventKind::Wheel:
     form.turnWheel(event.which, pointerOf(event));
     break;
   case EventKind::KeyDown:
-    // A stroke that was held back is news to the loops that poll only now.
-    inbox_.keys.latch(event.x);
-    form.pressKey(event.x, event.shift, static_cast<char>(event.y));
+    pressKey(event);
     break;
   case EventKind::KeyUp:
-    form.releaseKey(event.x, event.shift);
+    if (!mouseKeys_.release(event.x)) form.releaseKey(event.x, event.shift);
     break;
   case EventKind::Close:
     inbox_.closeDelivered();
@@ -63,8 +77,16 @@ void Router::deliver(const Event& event) {
   }
 }
 
+void Router::pressKey(const Event& event) {
+  if (mouseKeys_.press(event.x, event.shift, event.extra != 0)) return;
+  // A stroke that was held back is news to the loops that poll only now.
+  inbox_.keys.latch(event.x);
+  program_.input().pressKey(event.x, event.shift, static_cast<char>(event.y));
+}
+
 void Router::press(const Event& event) {
   const SurfacePoint at = pointerOf(event);
+  if (pressBar(at)) return;
   if (event.extra != 0 && event.which != RightButton) {
     program_.input().doubleClick(event.shift, at);
   } else {
@@ -72,11 +94,45 @@ void Router::press(const Event& event) {
   }
 }
 
+// -- The scroll bar of a surface keeps its presses to itself.
+
+ScrollBar::Extent Router::extentOf(const Surface& surface, ScrollBar& bar) const {
+  const ScrollPlace scroll = surface.scroll();
+  int bottom = -scroll.offset;
+  int number = scroll.paragraph;
+  for (; number < surface.paragraphCount() && bottom < surface.Height(); ++number)
+    bottom += layout_.heightOf(surface.paragraph(number).view());
+  return bar.extent(number - scroll.paragraph, bottom);
+}
+
+bool Router::pressBar(SurfacePoint at) {
+  auto* const surface = as<Surface>(program_.form().controlAt(at));
+  if (surface == nullptr || at.x < surface->Left() + surface->Width() - ScrollBar::StripWidth)
+    return false;
+  ScrollBar bar(*surface, layout_);
+  const ScrollBar::Extent extent = extentOf(*surface, bar);
+  if (!extent.scrolls) return false;
+  const ScrollBar::Thumb thumb = bar.thumb(extent);
+  const double grip = at.y - surface->Top() - thumb.top;
+  if (grip < 0 || grip >= thumb.length) {
+    bar.page(grip < 0 ? -1 : 1);
+  } else {
+    held_ = Held{surface, grip};
+  }
+  return true;
+}
+
+void Router::drag(SurfacePoint at) {
+  ScrollBar bar(*held_->surface, layout_);
+  bar.bringThumbTo(at.y - held_->surface->Top() - held_->grip, extentOf(*held_->surface, bar));
+}
+
 int Router::shiftDown() const {
   const auto bit = [this](int keyCode, int own) {
     return inbox_.keys.isDown(keyCode) ? own : shift::None;
   };
-  return bit(key::Shift, shift::Shift) | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
+  const int plainShift = mouseKeys_.shiftClicks() ? shift::None : bit(key::Shift, shift::Shift);
+  return plainShift | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
 }
 
 void Router::deliver(const WebInput::Sent& sent) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Host.h"
-#include "desktop/KeyTable.h"
+#include "fronts/KeyTable.h"
 #include "platform/Platform.h"
 
 #include <deque>

@@ -2,6 +2,7 @@
 
 #include "core/Picture.h"
 #include "core/Router.h"
+#include "core/Signs.h"
 #include "core/WebFiles.h"
 #include "core/WebMachine.h"
 #include "platform/FatalFailure.h"
@@ -21,7 +22,10 @@ class Run {
  public:
   Run(int width, int height, std::span<const unsigned char> measures)
       : faces_(measures), layout_(faces_), metrics_(faces_), screen_(inbox_, width, height) {
-    const auto paint = [this] { picture_.send(); };
+    const auto paint = [this] {
+      picture_.send();
+      signs_.send();
+    };
     clock_.paint = paint;
     events_.paint = paint;
     screen_.paint = paint;
@@ -100,6 +104,7 @@ class Run {
 
   void afterwards() {
     picture_.send();
+    signs_.send();
     if (!program_.running() && !failed_ && program_.ending() == Ending::Quit)
       tellPage(R"({"do":"ended"})");
   }
@@ -126,7 +131,8 @@ class Run {
                      installation_, narrator_, random_, files_,  calendar_};
   Program program_{platform_, {PackFolder, LearnerFolder}};
   Picture picture_{program_.form(), layout_, faces_};
-  Router router_{program_, input_, inbox_};
+  Signs signs_{program_.form(), program_.input()};
+  Router router_{program_, input_, inbox_, layout_};
   bool failed_ = false;
 };
 

@@ -8,65 +8,23 @@
  * @property {number} high
  * @property {number} left
  * @property {Run[]} runs
+ * @property {number[]} [scale] sideways, up and down, about a point of the line
  * @property {string} [mark]
  * @property {number[]} box
  * @property {number[]} [dot]
  */
 
-const Faces = {
-  lit: ['#fff3ce', '#f5c768', '#a8761c', '#3a2300'],
+/** Top, bottom, edge and text of a button's faces. */
+const LitFace = ['#fff3ce', '#f5c768', '#a8761c', '#3a2300'];
+/** @type {Record<number, string[]>} */
+const RestFaces = {
   14: ['#f5fafd', '#cce0ec', '#7f9fb6', '#122e44'],
   15: ['#fef7f4', '#eed3ca', '#be9284', '#42180e'],
   16: ['#f6fbf6', '#cfe5d8', '#7fa893', '#12342a'],
   17: ['#fefaf0', '#efddbb', '#bfa06a', '#3a2808'],
 };
 const StillFrame = 18;
-
-/** What the buttons of the right column, whose captions are English, are about. */
-const Meanings = [
-  'Đọc bài tiếng Anh, bấm vào từ để tra nghĩa và nghe',
-  'Những từ bạn đã lưu, kèm câu chứa từ',
-  'Các bài văn phạm; bấm phải để đánh dấu bài cần luyện',
-  'Nghe rồi chọn câu đúng',
-  'Bài đọc được phân tích từng từ',
-  'Phần này đang xây dựng',
-  'Các bài hội thoại để luyện nói',
-  'Bật tắt âm thanh và chọn tốc độ đọc',
-  'Cách dùng chương trình và cách học',
-  'Bài tập về mạo từ: a, an, the',
-  'Bài tập về câu điều kiện',
-  'Bài tập về các thì',
-  'Bài tập về giới từ và thành ngữ',
-  'Bài kiểm tra sơ cấp A',
-  'Bài kiểm tra sơ cấp B',
-  'Bài thi thử kiểu TOEFL',
-  'Từ vựng cho kỳ thi TOEFL',
-  'Từ vựng trình độ B',
-];
-
-/** @type {Record<string, string>} */
-const PageNames = {
-  R1: 'Danh sách bài',
-  R2: 'Bài đọc',
-  Rchon: 'Từ vựng của bạn',
-  RHD: 'Nghĩa của từ',
-  RTD: 'Danh sách từ để tra',
-  RVP1: 'Danh sách bài văn phạm',
-  RVP2: 'Bài văn phạm',
-  RN1: 'Danh sách đề bài',
-  RN2: 'Bài luyện nghe',
-  Rviet: 'Nghe viết',
-  RW1: 'Danh sách bài luyện viết',
-  RW2: 'Bài luyện viết',
-  RDT: 'Bài tập điền từ',
-  RABCD: 'Bài tập chọn câu đúng',
-  Rsai: 'Bài tập tìm lỗi',
-  Rxep: 'Bài tập xếp từ',
-  RHDBT: 'Giải thích',
-  RDOS: 'Gợi ý',
-  RAmthanh: 'Cài đặt âm thanh',
-  Rcachhoc: 'Hướng dẫn cách học',
-};
+const LinePitch = 1.32; // in sizes of the letters
 
 /** @param {HTMLElement} element @param {number[]} box */
 function place(element, [left, top, width, height]) {
@@ -80,6 +38,15 @@ function place(element, [left, top, width, height]) {
 
 /** @param {string} text A letter that English does not have makes it Vietnamese. */
 const languageOf = (text) => (/[\u00c0-\u024f\u1ea0-\u1ef9]/.test(text) ? 'vi' : 'en');
+
+/** An element that only shows what is said elsewhere. @param {string} name @param {number[]} box */
+function makeSign(name, box) {
+  const sign = document.createElement('div');
+  sign.className = name;
+  sign.setAttribute('aria-hidden', 'true');
+  place(sign, box);
+  return sign;
+}
 
 /** @param {Line} line */
 function makeLine(line) {
@@ -106,6 +73,18 @@ function makeLine(line) {
   return element;
 }
 
+/** The roles of a surface and its name. @param {HTMLElement} element @param {any} control */
+function describe(element, control) {
+  if (control.label === '') {
+    element.setAttribute('role', 'presentation');
+    return;
+  }
+  const role = control.list ? 'listbox' : control.locked ? 'document' : 'textbox';
+  element.setAttribute('role', role);
+  element.setAttribute('aria-label', control.label);
+  if (role === 'textbox') element.setAttribute('aria-multiline', 'true');
+}
+
 export class FormView {
   /** @param {HTMLElement} root */
   constructor(root) {
@@ -119,8 +98,15 @@ export class FormView {
   /** @param {any} message */
   paint(message) {
     for (const control of message.controls) this.paintControl(control);
-    for (const [name, element] of this.elements)
-      element.classList.toggle('focused', name === message.focus);
+    for (const [name, element] of this.elements) {
+      const focused = name === message.focus;
+      element.classList.toggle('focused', focused);
+      // Whoever reads the page reads what has the keyboard; the page's own dialogs keep theirs.
+      const free = document.activeElement === null || !document.activeElement.closest('dialog');
+      if (focused && free && !element.hidden) element.focus({ preventScroll: true });
+      if (element.classList.contains('menu'))
+        element.setAttribute('aria-hidden', String(!message.menu));
+    }
   }
 
   /** @param {any} control */
@@ -135,7 +121,7 @@ export class FormView {
       element = document.createElement(control.kind === 'button' ? 'button' : 'div');
       element.id = `c-${control.name}`;
       element.className = control.kind === 'button' ? 'menu' : control.kind;
-      if (control.kind === 'button') element.tabIndex = -1;
+      element.tabIndex = -1;
       this.elements.set(control.name, element);
       this.stack(element, control.depth);
     }
@@ -156,74 +142,104 @@ export class FormView {
   /** @param {HTMLElement} element @param {any} control */
   surface(element, control) {
     element.style.background = control.back;
-    const plate = control.name.startsWith('Rnen');
-    element.classList.toggle('plate', plate);
+    element.classList.toggle('plate', control.name.startsWith('Rnen'));
     element.classList.toggle('hintbar', control.name === 'RDOS');
-    const name = PageNames[control.name];
-    if (name !== undefined) {
-      element.setAttribute('role', control.locked ? 'document' : 'textbox');
-      element.setAttribute('aria-label', name);
-      if (!control.locked) element.setAttribute('aria-multiline', 'true');
-    } else {
-      element.setAttribute('role', 'presentation');
-    }
+    element.classList.toggle('dark', control.dark);
+    describe(element, control);
     const before = this.lines.get(element) ?? new Map();
     /** @type {Map<number, HTMLElement>} */
     const now = new Map();
     /** @type {HTMLElement[]} */
-    const children = [];
+    const under = [];
+    /** @type {HTMLElement[]} */
+    const over = [];
+    /** @type {number[] | undefined} */
+    let current;
     for (const line of /** @type {Line[]} */ (control.lines)) {
-      if (line.mark !== undefined) {
-        const mark = document.createElement('div');
-        mark.className = `mark ${line.mark}`;
-        place(mark, line.box);
-        children.unshift(mark);
-        continue;
-      }
+      if (line.mark === 'caret') over.push(makeSign('mark caret', line.box));
+      else if (line.mark !== undefined) under.push(makeSign(`mark ${line.mark}`, line.box));
+      if (line.mark === 'current') current = line.box;
+      if (line.mark !== undefined) continue;
+      if (line.dot !== undefined) under.push(this.dot(line));
       const id = line.id ?? 0;
       const row = before.get(id) ?? makeLine(line);
-      row.style.top = `${line.top}px`;
-      row.style.left = `${line.left}px`;
-      row.style.height = `${line.high}px`;
+      this.placeLine(row, line);
+      row.id = `${element.id}-${id}`;
       now.set(id, row);
-      if (line.dot !== undefined) {
-        const dot = document.createElement('div');
-        dot.className = 'dot';
-        dot.style.color = line.runs[0]?.color ?? '#000';
-        place(dot, line.dot);
-        children.push(dot);
-      }
-      children.push(row);
+      over.push(row);
     }
-    if (control.scroll !== undefined) children.push(this.thumb(control));
+    if (control.cut !== undefined) over.push(this.fade(control));
+    if (control.thumb !== undefined) over.push(this.thumb(control));
+    if (control.list) this.describeRows(element, [...now.values()], current);
     this.lines.set(element, now);
-    element.replaceChildren(...children);
+    element.replaceChildren(...under, ...over);
+  }
+
+  /** @param {HTMLElement} row @param {Line} line */
+  placeLine(row, line) {
+    row.style.top = `${line.top}px`;
+    row.style.left = `${line.left}px`;
+    row.style.height = `${line.high}px`;
+    if (line.scale === undefined) return;
+    const [narrower, lower, x, y] = line.scale;
+    row.style.transform = `scale(${narrower}, ${lower})`;
+    row.style.transformOrigin = `${x}px ${y}px`;
+  }
+
+  /**
+   * The rows of a list, and which of them the keys act on.
+   * @param {HTMLElement} element
+   * @param {HTMLElement[]} rows
+   * @param {number[] | undefined} current
+   */
+  describeRows(element, rows, current) {
+    element.removeAttribute('aria-activedescendant');
+    for (const row of rows) {
+      const top = parseFloat(row.style.top);
+      const acted = current !== undefined && top >= current[1] && top < current[1] + current[3];
+      row.setAttribute('role', 'option');
+      row.setAttribute('aria-selected', String(acted));
+      if (acted) element.setAttribute('aria-activedescendant', row.id);
+    }
+  }
+
+  /** @param {Line} line */
+  dot(line) {
+    const dot = makeSign('dot', line.dot ?? []);
+    dot.style.color = line.runs[0]?.color ?? '#000';
+    return dot;
+  }
+
+  /** A line that the lower edge cuts fades away. @param {any} control */
+  fade(control) {
+    const [, , width, height] = control.box;
+    const fade = makeSign('fade', [0, control.cut, width, height - control.cut]);
+    fade.style.background = `linear-gradient(transparent, ${control.back})`;
+    return fade;
   }
 
   /** @param {any} control */
   thumb(control) {
-    const [first, inView, all] = control.scroll;
-    const height = control.box[3];
-    const length = Math.min(Math.max((inView / all) * height, 480), height);
-    const thumb = document.createElement('div');
-    thumb.className = 'thumb';
+    const [top, length] = control.thumb;
+    const thumb = makeSign('thumb', []);
+    thumb.style.top = `${top}px`;
     thumb.style.height = `${length}px`;
-    thumb.style.top = `${(Math.min(first / Math.max(1, all - inView), 1) * (height - length)).toFixed(1)}px`;
     return thumb;
   }
 
   /** @param {HTMLElement} element @param {any} control */
   button(element, control) {
-    const face = Faces[/** @type {14} */ (control.picture)] ?? Faces.lit;
+    const rest = RestFaces[control.picture];
     const names = ['--top', '--bottom', '--edge', '--text'];
-    names.forEach((name, at) => element.style.setProperty(name, face[at]));
-    const lit = face === Faces.lit;
+    names.forEach((name, at) => element.style.setProperty(name, (rest ?? LitFace)[at]));
     const light = control.picture === StillFrame ? 0.5 : 0.5 + (control.picture - 7.5) * 0.065;
-    element.style.setProperty('--light', lit ? `${light * 100}%` : '-100%');
+    element.style.setProperty('--light', rest === undefined ? `${light * 100}%` : '-100%');
     if (element.textContent !== control.text) element.textContent = control.text;
     const room = 0.9 * control.box[3];
     element.style.font = `${Math.min(control.size, room / 1.3)}px/1 F${control.face}`;
-    element.title = Meanings[control.number - 1] ?? '';
+    if (control.english) element.lang = 'en';
+    element.title = control.english ? control.meaning : '';
+    element.setAttribute('aria-description', control.meaning);
   }
 
   /** @param {HTMLElement} element @param {any} control */
@@ -233,7 +249,7 @@ export class FormView {
     const part = Math.min(
       1,
       control.box[2] / Math.max(1, control.wide),
-      control.box[3] / (control.size * 1.32),
+      control.box[3] / (control.size * LinePitch),
     );
     element.style.font = `${control.size * part}px/1 F${control.face}`;
     element.textContent = control.text;

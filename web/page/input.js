@@ -3,6 +3,8 @@ import { Kind } from './ring.js';
 
 const TwipsPerNotch = 1620;
 const LongPressMs = 600;
+const TwoFingersMs = 500;
+const TapReach = 12; // pixels that a finger may slip
 const DoubleClickMs = 400;
 const DoubleClickReach = 5; // pixels between the two presses of a mouse
 const DoubleTapReach = 30; // of a finger
@@ -26,9 +28,12 @@ const Codes = {
   ArrowRight: 39,
   ArrowDown: 40,
   Delete: 46,
+  ContextMenu: 93,
 };
 /** @type {Record<string, number>} */
 const Characters = { Enter: 13, Escape: 27, Backspace: 8, Tab: 9 };
+
+const CtrlBit = 2;
 
 /** @param {KeyboardEvent | MouseEvent} event */
 const shiftOf = (event) =>
@@ -61,6 +66,14 @@ export function characterOf(key, silent) {
   return code >= 0x20 && code <= 0xff ? code : 0;
 }
 
+/**
+ * @typedef {object} Finger
+ * @property {number} x where it came down, in pixels
+ * @property {number} y
+ * @property {number} lastY
+ * @property {boolean} slipped it has moved on, and scrolls
+ */
+
 export class Input {
   /**
    * @param {HTMLElement} stage
@@ -71,13 +84,20 @@ export class Input {
     this.tell = tell;
     this.placeOf = placeOf;
     this.open = () => true;
+    /** Called when a key that is held on the page was let go. @type {() => void} */
+    this.onLetGo = () => {};
     /** The press that a second one may follow. @type {{at: number, x: number, y: number} | null} */
     this.lastPress = null;
+    /** @type {Map<number, Finger>} */
+    this.fingers = new Map();
     /** @type {ReturnType<typeof setTimeout> | undefined} */
     this.longPress = undefined;
-    this.rightGiven = false;
+    this.tapIsOver = false;
+    this.twoFingersAt = -1;
+    this.heldShift = 0;
     stage.addEventListener('pointerdown', (event) => this.down(event));
     stage.addEventListener('pointerup', (event) => this.up(event));
+    stage.addEventListener('pointercancel', (event) => this.cancel(event));
     stage.addEventListener('pointermove', (event) => this.move(event));
     stage.addEventListener('contextmenu', (event) => event.preventDefault());
     stage.addEventListener('wheel', (event) => this.wheel(event), { passive: false });
@@ -86,40 +106,34 @@ export class Input {
     addEventListener('blur', () => this.tell([Kind.Blur]));
   }
 
-  /** @param {MouseEvent} event */
+  /** @param {{clientX: number, clientY: number}} event */
   pointOf(event) {
     const { left, top, scale } = this.placeOf();
     return [Math.floor((event.clientX - left) / scale), Math.floor((event.clientY - top) / scale)];
   }
 
-  /** @param {EventTarget | null} target */
+  /** The buttons of the strip are the page's own. @param {EventTarget | null} target */
   static isOwn(target) {
     return target instanceof Element && target.closest('#strip button') !== null;
   }
+
+  // -- The mouse.
 
   /** @param {PointerEvent} event */
   down(event) {
     if (Input.isOwn(event.target) || event.button > 2) return;
     event.preventDefault();
+    if (event.pointerType === 'touch') {
+      this.touch(event);
+      return;
+    }
     // The mouse alone can keep a word and begin an exercise.
     if (event.button === 1) {
       this.stroke('Enter');
       return;
     }
-    if (event.pointerType === 'touch') {
-      if (!event.isPrimary) {
-        // A second finger leads back.
-        this.stroke('Escape');
-        this.rightGiven = true;
-        return;
-      }
-      this.rightGiven = false;
-      this.longPress = setTimeout(() => {
-        this.rightGiven = true;
-        this.click(event, 2, 0);
-      }, LongPressMs);
-      return;
-    }
+    // A drag that leaves the window still ends here.
+    /** @type {Element} */ (event.currentTarget).setPointerCapture(event.pointerId);
     const [x, y] = this.pointOf(event);
     const twice = event.button === 0 && this.isSecond(event);
     this.tell([Kind.Press, x, y, event.button === 2 ? 2 : 1, shiftOf(event), twice ? 1 : 0]);
@@ -139,27 +153,21 @@ export class Input {
 
   /** @param {PointerEvent} event */
   up(event) {
-    if (Input.isOwn(event.target) || event.button === 1) return;
-    clearTimeout(this.longPress);
     if (event.pointerType === 'touch') {
-      if (event.isPrimary && !this.rightGiven) this.click(event, 1, this.isSecond(event) ? 1 : 0);
+      this.lift(event);
       return;
     }
+    if (Input.isOwn(event.target) || event.button === 1) return;
     const [x, y] = this.pointOf(event);
     this.tell([Kind.Release, x, y, event.button === 2 ? 2 : 1, shiftOf(event)]);
   }
 
-  /** @param {PointerEvent} event @param {number} button @param {number} twice */
-  click(event, button, twice) {
-    const [x, y] = this.pointOf(event);
-    this.tell([Kind.Move, x, y, 0, 0]);
-    this.tell([Kind.Press, x, y, button, 0, twice]);
-    this.tell([Kind.Release, x, y, button, 0]);
-  }
-
   /** @param {PointerEvent} event */
   move(event) {
-    if (event.pointerType === 'touch') return;
+    if (event.pointerType === 'touch') {
+      this.slip(event);
+      return;
+    }
     const [x, y] = this.pointOf(event);
     this.tell([Kind.Move, x, y, event.buttons, shiftOf(event)]);
   }
@@ -173,6 +181,75 @@ export class Input {
     const notches = event.deltaMode === 0 ? event.deltaY / 100 : event.deltaY / 3;
     this.tell([Kind.Wheel, x, y, Math.round(notches * TwipsPerNotch)]);
   }
+
+  // -- Fingers: a tap is a click, a long press the right button, two fingers are Esc, and a finger
+  //    that moves on scrolls.
+
+  /** @param {PointerEvent} event */
+  touch(event) {
+    const { pointerId, clientX, clientY } = event;
+    this.fingers.set(pointerId, { x: clientX, y: clientY, lastY: clientY, slipped: false });
+    clearTimeout(this.longPress);
+    if (this.fingers.size > 1) {
+      this.twoFingersAt = event.timeStamp;
+      this.tapIsOver = true;
+      return;
+    }
+    this.tapIsOver = false;
+    this.twoFingersAt = -1;
+    this.longPress = setTimeout(() => {
+      this.tapIsOver = true;
+      this.click(event, 2, 0);
+    }, LongPressMs);
+  }
+
+  /** @param {PointerEvent} event */
+  slip(event) {
+    const finger = this.fingers.get(event.pointerId);
+    if (finger === undefined) return;
+    const way = Math.hypot(event.clientX - finger.x, event.clientY - finger.y);
+    if (!finger.slipped && way <= TapReach) return;
+    finger.slipped = true;
+    clearTimeout(this.longPress);
+    this.twoFingersAt = -1;
+    const [x, y] = this.pointOf({ clientX: finger.x, clientY: finger.y });
+    const twips = Math.round((finger.lastY - event.clientY) / this.placeOf().scale);
+    finger.lastY = event.clientY;
+    if (!this.tapIsOver && twips !== 0) this.tell([Kind.Wheel, x, y, twips]);
+  }
+
+  /** @param {PointerEvent} event */
+  lift(event) {
+    const finger = this.fingers.get(event.pointerId);
+    this.fingers.delete(event.pointerId);
+    clearTimeout(this.longPress);
+    if (finger === undefined || this.fingers.size > 0) return;
+    if (this.twoFingersAt >= 0 && event.timeStamp - this.twoFingersAt < TwoFingersMs) {
+      this.stroke('Escape');
+    } else if (!finger.slipped && !this.tapIsOver) {
+      this.click(event, 1, this.isSecond(event) ? 1 : 0);
+    }
+  }
+
+  /** The browser takes the fingers, to zoom. @param {PointerEvent} event */
+  cancel(event) {
+    clearTimeout(this.longPress);
+    this.fingers.delete(event.pointerId);
+    this.tapIsOver = true;
+    this.twoFingersAt = -1;
+  }
+
+  /** @param {PointerEvent} event @param {number} button @param {number} twice */
+  click(event, button, twice) {
+    const [x, y] = this.pointOf(event);
+    const shift = this.heldShift;
+    this.tell([Kind.Move, x, y, 0, shift]);
+    this.tell([Kind.Press, x, y, button, shift, twice]);
+    this.tell([Kind.Release, x, y, button, shift]);
+    this.letGo();
+  }
+
+  // -- Keys.
 
   /** @param {KeyboardEvent} event @param {number} kind */
   key(event, kind) {
@@ -188,10 +265,29 @@ export class Input {
     this.tell([kind, code, character, 0, shiftOf(event), event.repeat ? 1 : 0]);
   }
 
-  /** A whole stroke. @param {string} key @param {number} shift */
-  stroke(key, shift = 0) {
+  /** A whole stroke. @param {string} key */
+  stroke(key) {
     const code = codeOf(key);
+    const shift = this.heldShift;
     this.tell([Kind.KeyDown, code, characterOf(key, shift !== 0), 0, shift, 0]);
     this.tell([Kind.KeyUp, code, 0, 0, shift]);
+    this.letGo();
+  }
+
+  /** Ctrl on the page is held until the next tap or key. */
+  toggleCtrl() {
+    if (this.heldShift !== 0) {
+      this.letGo();
+      return;
+    }
+    this.heldShift = CtrlBit;
+    this.tell([Kind.KeyDown, Codes.Control, 0, 0, CtrlBit, 0]);
+  }
+
+  letGo() {
+    if (this.heldShift === 0) return;
+    this.heldShift = 0;
+    this.tell([Kind.KeyUp, Codes.Control, 0, 0, 0, 0]);
+    this.onLetGo();
   }
 }

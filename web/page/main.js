@@ -27,9 +27,10 @@ const place = { left: 0, top: 0, scale: 1 };
 function arrange() {
   const width = screen.width * TwipsPerPixel;
   const height = screen.height * TwipsPerPixel;
-  place.scale = Math.min(innerWidth / width, innerHeight / height);
+  const room = innerHeight - byId('keys').offsetHeight;
+  place.scale = Math.min(innerWidth / width, room / height);
   place.left = (innerWidth - width * place.scale) / 2;
-  place.top = (innerHeight - height * place.scale) / 2;
+  place.top = (room - height * place.scale) / 2;
   const caption = Math.round(height * CaptionPart);
   Object.assign(stage.style, {
     width: `${width}px`,
@@ -100,10 +101,16 @@ function start() {
   document.addEventListener('visibilitychange', () => {
     if (document.hidden) tell([Kind.Hidden]);
   });
-  for (const button of document.querySelectorAll('#keys button')) {
+  const ctrl = byId('ctrl');
+  const showCtrl = () => ctrl.setAttribute('aria-pressed', String(input.heldShift !== 0));
+  input.onLetGo = showCtrl;
+  ctrl.addEventListener('click', () => {
+    input.toggleCtrl();
+    showCtrl();
+  });
+  for (const button of document.querySelectorAll('#keys [data-key]')) {
     button.addEventListener('click', () => input.stroke(button.getAttribute('data-key') ?? ''));
   }
-  byId('keys').hidden = !matchMedia('(pointer: coarse)').matches;
 
   /** @param {any} message @param {boolean} question */
   const showBox = (message, question) => {
@@ -118,7 +125,7 @@ function start() {
       case 'paint':
         byId('loading').hidden = true;
         if (data.caption !== undefined) strip.setCaption(data.caption);
-        strip.setPlace(view.elements.get(data.focus)?.className.startsWith('menu') ?? true);
+        strip.setPlace(data.menu);
         view.paint(data);
         break;
       case 'progress':
@@ -135,6 +142,15 @@ function start() {
         break;
       case 'wordTaken':
         strip.wordTaken(data);
+        break;
+      case 'pointer':
+        byId('form').style.cursor = data.shape;
+        break;
+      case 'help':
+        strip.setHelp(data.text);
+        break;
+      case 'say':
+        announce(data.text);
         break;
       case 'judged':
         announce(verdictText(data));
@@ -176,6 +192,7 @@ async function startAlone(tries = LockTries) {
 }
 
 async function main() {
+  byId('keys').hidden = !matchMedia('(pointer: coarse)').matches;
   arrange();
   addEventListener('resize', arrange);
   if ('serviceWorker' in navigator) {

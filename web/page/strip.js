@@ -13,6 +13,8 @@ export class Strip {
     this.announce = announce;
     this.firstTitle = '';
     this.typedWord = '';
+    this.news = '';
+    this.help = '';
     /** @type {ReturnType<typeof setTimeout> | undefined} */
     this.emphasis = undefined;
     /** @type {ReturnType<typeof setTimeout> | undefined} */
@@ -24,7 +26,7 @@ export class Strip {
     const padding = caption.indexOf(Padding);
     this.typedWord = padding < 0 ? '' : caption.slice(0, padding);
     const title = (padding < 0 ? caption : caption.slice(padding)).trim().replace(/\s+/g, ' ');
-    byId('typed').textContent = this.typedWord === '' ? '' : `${this.typedWord}\u258f`;
+    this.showLeft();
     this.setTitle(title);
   }
 
@@ -49,14 +51,28 @@ export class Strip {
     this.announce(title);
   }
 
+  /** A typed word goes before a notice, and that before help. */
+  showLeft() {
+    const typing = this.typedWord !== '';
+    byId('typed').textContent = typing ? `${this.typedWord}\u258f` : this.news || this.help;
+  }
+
   /** @param {string} text */
   notice(text) {
-    if (this.typedWord === '') byId('typed').textContent = text;
+    this.news = text;
+    this.showLeft();
     clearTimeout(this.noticeEnd);
     this.noticeEnd = setTimeout(() => {
-      if (this.typedWord === '') byId('typed').textContent = '';
+      this.news = '';
+      this.showLeft();
     }, NewsMs);
     this.announce(text);
+  }
+
+  /** @param {string} text */
+  setHelp(text) {
+    this.help = text;
+    this.showLeft();
   }
 
   /** @param {{word: string, outcome: number, count: number}} taken */

@@ -1,4 +1,4 @@
-#include "desktop/ScrollBar.h"
+#include "fronts/ScrollBar.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,6 @@
-#include "desktop/ButtonMeaning.h"
+#include "fronts/ButtonMeaning.h"
 
 #include <array>
-#include <string>
 
 namespace talvora {
 
@@ -10,7 +9,7 @@ bool hasEnglishCaption(const Button& button) {
   return button.TabIndex() >= FirstOfRightColumn;
 }
 
-QString meaningOf(const Button& button) {
+std::u16string_view meaningOf(const Button& button) {
   static const std::array<const char16_t*, 18> meanings = {
       u"Đọc bài tiếng Anh, bấm vào từ để tra nghĩa và nghe",
       u"Những từ bạn đã lưu, kèm câu chứa từ",
@@ -32,7 +31,7 @@ QString meaningOf(const Button& button) {
       u"Từ vựng trình độ B"};
   const auto number = static_cast<std::size_t>(button.TabIndex());
   if (number < 1 || number > meanings.size()) return {};
-  return QString::fromUtf16(meanings[number - 1]);
+  return meanings[number - 1];
 }
 
 } // namespace talvora

@@ -1,8 +1,6 @@
-#include "desktop/MouseKeys.h"
+#include "fronts/MouseKeys.h"
 
-#include "desktop/Links.h"
-
-#include <QKeyEvent>
+#include "fronts/Links.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,8 +11,8 @@ namespace {
 
 constexpr int LongestCaretSearch = 60; // pixels
 
-bool standsForClick(int key) {
-  return key == Qt::Key_F10 || key == Qt::Key_Menu;
+bool standsForClick(int keyCode) {
+  return keyCode == key::F10 || keyCode == key::Menu;
 }
 
 /// A selection that reaches from a line's number into its word: what a drag across lines leaves,
@@ -34,26 +32,26 @@ TextRange linesOf(const Surface& surface) {
 
 } // namespace
 
-bool MouseKeys::press(const QKeyEvent& event) {
-  if (standsForClick(event.key())) return click(event);
-  if (event.key() == Qt::Key_Delete) return deleteLines();
-  return event.key() == Qt::Key_Tab && goToLessonLink();
+bool MouseKeys::press(int keyCode, int shift, bool repeats) {
+  if (standsForClick(keyCode)) return click(keyCode, shift, repeats);
+  if (keyCode == key::Delete) return deleteLines();
+  return keyCode == key::Tab && (shift & shift::Shift) == 0 && goToLessonLink();
 }
 
-bool MouseKeys::release(const QKeyEvent& event) {
-  if (standsForClick(event.key())) return true;
-  if (event.key() == Qt::Key_Shift && std::exchange(shiftClicks_, false)) return true;
+bool MouseKeys::release(int keyCode) {
+  if (standsForClick(keyCode)) return true;
+  if (keyCode == key::Shift && std::exchange(shiftClicks_, false)) return true;
   const Surface* const list = vocabulary();
   return list != nullptr && marksLines(*list);
 }
 
 // A left click at the caret with F10, a right one with Shift+F10 or the Menu key: what the mouse
 // does in a section, the keys do too.
-bool MouseKeys::click(const QKeyEvent& event) {
+bool MouseKeys::click(int keyCode, int shift, bool repeats) {
   const auto* const surface = as<Surface>(form_.ActiveControl());
-  if (surface == nullptr || event.isAutoRepeat()) return true;
-  shiftClicks_ = event.modifiers().testFlag(Qt::ShiftModifier);
-  const bool right = shiftClicks_ || event.key() == Qt::Key_Menu;
+  if (surface == nullptr || repeats) return true;
+  shiftClicks_ = (shift & shift::Shift) != 0;
+  const bool right = shiftClicks_ || keyCode == key::Menu;
   const Surface* const list = vocabulary();
   // The press of a click would end what is marked.
   if (right && list != nullptr && marksLines(*list)) {
@@ -67,7 +65,7 @@ bool MouseKeys::click(const QKeyEvent& event) {
 void MouseKeys::clickAtCaret(const Surface& surface, MouseButton button) {
   const SyntheticClick click{button, pixelOf(surface, surface.SelStart())};
   movePointer(click.at);
-  bridge_.deliver([&] {
+  deliver_([&] {
     input_.deliverMove(form_.virtualScreen().toForm(click.at), shift::None);
     input_.deliver(click, shift::None);
   });
@@ -87,7 +85,7 @@ void MouseKeys::drag(Surface& surface, int from, int to) {
     const SurfacePoint at = form_.virtualScreen().toForm(pixelOf(surface, caret));
     return SurfacePoint{at.x - surface.Left(), at.y - surface.Top()};
   };
-  bridge_.deliver([&] {
+  deliver_([&] {
     // Only what is in view can be pressed, and dragging brings the other end there.
     surface.SelStart(from);
     surface.pressMouse(MouseButton::Left, shift::None, placeOf(from));
@@ -103,7 +101,7 @@ bool MouseKeys::goToLessonLink() {
   if (box == nullptr || !box->Visible()) return false;
   const int link = nextLessonLink(*box, form_.hasFocus(*box) ? box->SelStart() : -1);
   if (link < 0) return false;
-  bridge_.deliver([&] {
+  deliver_([&] {
     box->SetFocus();
     box->SelStart(link);
   });

@@ -1,9 +1,9 @@
-#include "core/Palette.h"
+#include "fronts/Lights.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace talvora::web {
+namespace talvora {
 
 namespace {
 
@@ -93,12 +93,4 @@ Light lightOf(Colour colour) {
   return (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
 }
 
-std::string hexOf(Light light) {
-  constexpr char Digits[] = "0123456789abcdef";
-  std::string text = "#";
-  for (int place = 20; place >= 0; place -= 4)
-    text += Digits[light >> static_cast<unsigned>(place) & 0xFU];
-  return text;
-}
-
-} // namespace talvora::web
+} // namespace talvora

@@ -3,14 +3,14 @@
 // counted, so that the bar of 385,082 lines costs no more than that of ten.
 #pragma once
 
-#include "desktop/QtLineLayout.h"
+#include "platform/LineLayout.h"
 #include "surface/Surface.h"
 
 namespace talvora {
 
 class ScrollBar {
  public:
-  ScrollBar(Surface& surface, QtLineLayout& layout) : surface_(surface), layout_(layout) {}
+  ScrollBar(Surface& surface, const LineLayout& layout) : surface_(surface), layout_(layout) {}
 
   /// Width of the strip at the right edge that belongs to the bar and not to the text, in twips.
   static constexpr int StripWidth = 220;
@@ -43,7 +43,7 @@ class ScrollBar {
   [[nodiscard]] ScrollPlace placeAt(double above) const;
 
   Surface& surface_;
-  QtLineLayout& layout_;
+  const LineLayout& layout_;
 };
 
 } // namespace talvora

@@ -1,4 +1,4 @@
-#include "desktop/Links.h"
+#include "fronts/Links.h"
 
 #include "text/Text.h"
 

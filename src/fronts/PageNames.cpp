@@ -1,4 +1,4 @@
-#include "desktop/PageNames.h"
+#include "fronts/PageNames.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 
 namespace talvora {
 
-QString pageName(std::string_view surface) {
+std::u16string_view pageName(std::string_view surface) {
   using Row = std::pair<std::string_view, const char16_t*>;
   constexpr std::array names = {
       Row{"R1", u"Danh sách bài"},
@@ -32,7 +32,7 @@ QString pageName(std::string_view surface) {
   };
   const auto* const row = std::find_if(names.begin(), names.end(),
                                        [&](const Row& each) { return each.first == surface; });
-  return row == names.end() ? QString() : QString::fromUtf16(row->second);
+  return row == names.end() ? std::u16string_view() : row->second;
 }
 
 } // namespace talvora

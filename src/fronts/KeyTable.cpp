@@ -1,4 +1,4 @@
-#include "desktop/KeyTable.h"
+#include "fronts/KeyTable.h"
 
 #include "platform/Input.h"
 

@@ -2,35 +2,42 @@
 // marked and deleted, the lessons that an explanation names.
 #pragma once
 
-#include "desktop/EventBridge.h"
 #include "surface/FormInput.h"
 #include "surface/Surface.h"
 
 #include <functional>
-
-class QKeyEvent;
+#include <utility>
 
 namespace talvora {
 
+/// Keys that do a click's work and that the program itself does not know.
+namespace key {
+inline constexpr int Menu = 93;
+inline constexpr int F10 = 121;
+} // namespace key
+
 class MouseKeys {
  public:
-  MouseKeys(Form& form, FormInput& input, EventBridge& bridge)
-      : form_(form), input_(input), bridge_(bridge) {}
+  /// Runs what an event does to the program, and catches what must not leave it.
+  using Deliver = std::function<void(const std::function<void()>& deed)>;
+
+  MouseKeys(Form& form, FormInput& input, Deliver deliver)
+      : form_(form), input_(input), deliver_(std::move(deliver)) {}
 
   /// Called with a pixel of the virtual screen to which a click by key takes the pointer.
   std::function<void(PixelPoint at)> movePointer = [](PixelPoint) {};
 
   /// True when the key did a mouse's work, or would have and found nothing to do it on; the program
   /// then does not hear of the key.
-  bool press(const QKeyEvent& event);
+  bool press(int keyCode, int shift, bool repeats);
   /// True when the program must not hear that a key was let go: a page takes that as the end of
   /// what is shown and of what is marked.
-  bool release(const QKeyEvent& event);
+  bool release(int keyCode);
   /// Shift is down as part of a click by key: what the program clicks in answer is without it.
   [[nodiscard]] bool shiftClicks() const noexcept { return shiftClicks_; }
 
  private:
-  bool click(const QKeyEvent& event);
+  bool click(int keyCode, int shift, bool repeats);
   void clickAtCaret(const Surface& surface, MouseButton button);
   /// Offers to delete the lines that the selection touches; false where there are none.
   bool deleteLines();
@@ -46,7 +53,7 @@ class MouseKeys {
 
   Form& form_;
   FormInput& input_;
-  EventBridge& bridge_;
+  Deliver deliver_;
   bool shiftClicks_ = false;
 };
 

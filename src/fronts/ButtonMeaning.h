@@ -3,12 +3,12 @@
 
 #include "surface/Button.h"
 
-#include <QString>
+#include <string_view>
 
 namespace talvora {
 
 /// One line in Vietnamese on what a menu button opens.
-[[nodiscard]] QString meaningOf(const Button& button);
+[[nodiscard]] std::u16string_view meaningOf(const Button& button);
 
 /// The right column is captioned in English.
 [[nodiscard]] bool hasEnglishCaption(const Button& button);

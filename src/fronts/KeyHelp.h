@@ -3,15 +3,15 @@
 
 #include "surface/Form.h"
 
-#include <QString>
+#include <string_view>
 
 namespace talvora {
 
 /// One line for what is open: empty unless the hint bar is called up or an explanation names a
 /// lesson.
-[[nodiscard]] QString keyHelp(const Form& form);
+[[nodiscard]] std::u16string_view keyHelp(const Form& form);
 
 /// The same for all pages, a line each.
-[[nodiscard]] QString allKeyHelp();
+[[nodiscard]] std::u16string_view allKeyHelp();
 
 } // namespace talvora

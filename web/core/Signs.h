@@ -1,0 +1,32 @@
+// What the page adds to the form's own picture: the shape of the pointer, help in the caption
+// strip, and what came up, for those who do not see it.
+#pragma once
+
+#include "surface/FormInput.h"
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+namespace talvora::web {
+
+class Signs {
+ public:
+  Signs(Form& form, FormInput& input) : form_(form), input_(input) {}
+
+  /// Tells the page what has changed since this was last called.
+  void send();
+
+ private:
+  void sendPointer();
+  void sendHelp();
+  void sayWhatCameUp();
+
+  Form& form_;
+  FormInput& input_;
+  std::string pointer_;
+  std::u16string help_;
+  std::map<const Surface*, std::uint64_t> cameUp_; ///< the revision that was told
+};
+
+} // namespace talvora::web
