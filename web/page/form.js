@@ -160,7 +160,7 @@ export class FormView {
       else if (line.mark !== undefined) under.push(makeSign(`mark ${line.mark}`, line.box));
       if (line.mark === 'current') current = line.box;
       if (line.mark !== undefined) continue;
-      if (line.dot !== undefined) under.push(this.dot(line));
+      if (line.dot !== undefined) over.push(this.dot(line));
       const id = line.id ?? 0;
       const row = before.get(id) ?? makeLine(line);
       this.placeLine(row, line);
