@@ -80,7 +80,7 @@ void Lemmas::joinAdverb(const OwnEntry& adverb) {
 }
 
 void Lemmas::join(const std::string& head, const std::string& other) {
-  kin_[head].push_back(other);
+  related_[head].push_back(other);
 }
 
 std::vector<std::string> Lemmas::of(const std::string& word) const {
@@ -93,8 +93,8 @@ std::vector<std::string> Lemmas::of(const std::string& word) const {
   if (found.empty()) found.push_back(word);
   const std::size_t own = found.size();
   for (std::size_t at = 0; at < own; ++at) {
-    const auto kin = kin_.find(found[at]);
-    if (kin == kin_.end()) continue;
+    const auto kin = related_.find(found[at]);
+    if (kin == related_.end()) continue;
     std::copy_if(kin->second.begin(), kin->second.end(), std::back_inserter(found),
                  [&found](const std::string& each) {
                    return std::find(found.begin(), found.end(), each) == found.end();

@@ -20,8 +20,8 @@ class Lemmas {
   Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::string>& met);
 
   /// The head words that a word in small letters may belong to, the likeliest first, and behind
-  /// them its next of kin: who knows "slow" knows "slowly" at sight, and the other way round. A word
-  /// without an entry is its own.
+  /// them its next of kin: who knows "slow" knows "slowly" at sight, and the other way round. A
+  /// word without an entry is its own.
   [[nodiscard]] std::vector<std::string> of(const std::string& word) const;
   [[nodiscard]] bool hasEntry(const std::string& head) const;
   /// "A1" to "C1"; empty when the entry has none, or there is no entry.
@@ -40,8 +40,8 @@ class Lemmas {
   void join(const std::string& head, const std::string& other);
 
   std::unordered_map<std::string, Head> heads_;
-  std::unordered_map<std::string, std::vector<std::string>> bases_; ///< by form
-  std::unordered_map<std::string, std::vector<std::string>> kin_;   ///< by head word
+  std::unordered_map<std::string, std::vector<std::string>> bases_;   ///< by form
+  std::unordered_map<std::string, std::vector<std::string>> related_; ///< by head word
 };
 
 /// The words of a set of texts as they stand in small and in capital letters: tells names.

@@ -1,7 +1,5 @@
 #include "Life.h"
 
-#include "Promises.h"
-
 #include "formats/LearnerFiles.h"
 #include "learner/LearnerWords.h"
 

@@ -2,6 +2,8 @@
 // started again when it has ended, and looked at after every step.
 #pragma once
 
+#include "Promises.h"
+
 #include "driver/Driver.h"
 
 #include <cstdint>
@@ -22,12 +24,6 @@ struct Setting {
   [[nodiscard]] Json asJson() const;
   /// What the line does not tell stays as it is by default.
   [[nodiscard]] static Setting from(const Json& line);
-};
-
-/// A promise that was broken: its name, and how.
-struct Breach {
-  std::string promise;
-  std::string how;
 };
 
 /// What is seen of the program between two steps.

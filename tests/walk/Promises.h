@@ -2,11 +2,18 @@
 // tells, and gives the promise that is broken there, or nothing.
 #pragma once
 
-#include "Life.h"
+#include "driver/Json.h"
 
 #include <optional>
+#include <string>
 
 namespace talvora::walk {
+
+/// A promise that was broken: its name, and how.
+struct Breach {
+  std::string promise;
+  std::string how;
+};
 
 [[nodiscard]] std::optional<Breach> replyBreach(const Json& reply);
 /// `control` is what has the keyboard; null for nothing.
