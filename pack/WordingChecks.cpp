@@ -92,7 +92,7 @@ constexpr std::array english = {
 // In translations one spelling of a word.
 constexpr std::array vietnamese = {
     Twin{"súp", "xúp"},
-    Twin{"ti vi", "tivi/ti-vi"},
+    Twin{"tivi", "ti vi/ti-vi"},
     Twin{"cảm ơn", "cám ơn"},
     Twin{"giông", "dông"},
     Twin{"va li", "vali/va-li"},

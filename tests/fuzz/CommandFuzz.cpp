@@ -1,6 +1,7 @@
 // Any bytes as lines for the driver, ahead of the start and behind it: each has one reply, which is
 // an object, and what cannot be understood is refused.
 #include "driver/Driver.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -16,7 +17,9 @@ void require(bool holds) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace talvora;
-  Driver driver(ScriptedOptions{}, Folders("/nowhere/at/all"));
+  // There is no course in it.
+  static const test::TemporaryFolder folder;
+  Driver driver(ScriptedOptions{}, Folders(folder.path()));
   std::string_view rest(reinterpret_cast<const char*>(data), size);
   while (!rest.empty()) {
     const std::size_t end = rest.find('\n');

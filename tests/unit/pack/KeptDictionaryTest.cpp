@@ -1,6 +1,8 @@
 // A pack's dictionary is kept exactly as long as its sources and its files are what they were.
 #include "pack/KeptDictionary.h"
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -20,7 +22,6 @@ void write(const std::filesystem::path& path, const std::string& text) {
 class KeptDictionaryTest : public testing::Test {
  protected:
   void SetUp() override {
-    std::filesystem::remove_all(folder);
     options.source = folder / "content";
     options.wordNet = folder / "wordnet";
     options.wordNetLicence = folder / "licence";
@@ -32,7 +33,6 @@ class KeptDictionaryTest : public testing::Test {
     write(options.wordLists.front(), "banks\n");
     makePack();
   }
-  void TearDown() override { std::filesystem::remove_all(folder); }
 
   void makePack() const {
     std::vector<PackFile> files;
@@ -46,8 +46,8 @@ class KeptDictionaryTest : public testing::Test {
   }
   [[nodiscard]] bool stands() const { return KeptDictionary(options).stands(); }
 
-  std::filesystem::path folder =
-      std::filesystem::path(testing::TempDir()) / "talvora-kept-dictionary";
+  const test::TemporaryFolder own;
+  const std::filesystem::path& folder = own.path();
   Options options;
 };
 
