@@ -5,6 +5,7 @@
 #include "core/Paragraph.h"
 #include "fronts/KeyHelp.h"
 #include "fronts/Links.h"
+#include "surface/Button.h"
 
 #include <algorithm>
 #include <utility>
