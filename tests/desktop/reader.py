@@ -15,7 +15,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-PATIENCE = 10  # seconds
+PATIENCE = 30  # seconds; a busy machine takes its time
 
 context = GLib.MainContext.default()
 carets = []  # (name, caret) as told

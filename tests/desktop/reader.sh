@@ -23,5 +23,5 @@ start_display
 run_first
 start_program
 # The system's own Python has the system's packages.
-timeout 90 /usr/bin/python3 -W ignore::DeprecationWarning "$here/reader.py" || fail "the program is not as a screen reader needs it"
+timeout 300 /usr/bin/python3 -W ignore::DeprecationWarning "$here/reader.py" || fail "the program is not as a screen reader needs it"
 running || fail "the program has ended"
