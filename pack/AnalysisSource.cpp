@@ -1,6 +1,7 @@
 // Parsing and writing of analyses, and cutting of the texts that they explain.
 #include "pack/AnalysisSource.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 
@@ -50,16 +51,16 @@ class AnalysisParser {
     } else if (next_ < AnalysisFieldCount && name == fieldNames[next_]) {
       readField(value, where);
     } else {
-      problems_.add({file_, line.number, 1}, "\"" + expected() + ": ...\" must stand here");
+      problems_.add({file_, line.number, 1}, said("\"{}: ...\" must stand here", expected()));
     }
   }
 
   Analysis finish(int lastLine) {
     finishBlock(lastLine);
-    if (analysis_.empty()) problems_.add({file_}, "the analysis has no stretches");
+    if (analysis_.empty()) problems_.add({file_}, said("the analysis has no stretches"));
     if (analysis_.size() > mostStretches) {
-      problems_.add({file_}, "the analysis has " + std::to_string(analysis_.size()) +
-                                 " stretches; at most " + std::to_string(mostStretches) + " fit");
+      problems_.add({file_}, said("the analysis has {} stretches; at most {} fit", analysis_.size(),
+                                  mostStretches));
     }
     return std::move(analysis_);
   }
@@ -70,8 +71,9 @@ class AnalysisParser {
   }
 
   void readField(std::string_view value, const Where& where) {
-    if (value.empty()) problems_.add(where, "a text is missing here");
-    if (value.starts_with(' ') || value.ends_with(' ')) problems_.add(where, "a blank at an end");
+    if (value.empty()) problems_.add(where, said("a text is missing here"));
+    if (value.starts_with(' ') || value.ends_with(' '))
+      problems_.add(where, said("a blank at an end"));
     if (next_ == 0) entry_.where = where;
     entry_.fields[next_++] = sourceText(value, where, forbidden, problems_);
   }
@@ -81,14 +83,15 @@ class AnalysisParser {
     if (lesson) {
       entry_.lessons.push_back(*lesson);
     } else {
-      problems_.add(where, "a lesson is a number from 1 to 357");
+      problems_.add(where, said("a lesson is a number from 1 to 357"));
     }
   }
 
   void finishBlock(int line) {
     if (next_ == 0) return;
     if (next_ < AnalysisFieldCount) {
-      problems_.add({file_, line, 1}, "\"" + expected() + ": ...\" is missing in the block above");
+      problems_.add({file_, line, 1},
+                    said("\"{}: ...\" is missing in the block above", expected()));
     }
     analysis_.push_back(std::move(entry_));
     entry_ = {};
@@ -125,7 +128,8 @@ class StretchCutter {
       }
     }
     if (next_ < analysis_.size()) {
-      problems_.add(analysis_[next_].where, name_ + " has no such stretch: it is at its end");
+      problems_.add(analysis_[next_].where,
+                    said("{} has no such stretch: it is at its end", name_));
     }
   }
 
@@ -134,7 +138,8 @@ class StretchCutter {
   bool cutSentence(std::string& sentence) {
     for (std::size_t from = 0; from < sentence.size();) {
       if (next_ == analysis_.size()) {
-        problems_.add(lastPlace(), name_ + " goes on: \"" + utf8Of(sentence.substr(from)) + "\"");
+        problems_.add(lastPlace(),
+                      said("{} goes on: \"{}\"", name_, utf8Of(sentence.substr(from))));
         return false;
       }
       const AnalysisEntry& entry = analysis_[next_];
@@ -142,7 +147,7 @@ class StretchCutter {
       const std::size_t end = endOfWords(sentence, from, wordCount(word));
       const std::string_view there = std::string_view(sentence).substr(from, end - from);
       if (withoutPoints(there) != withoutPoints(word)) {
-        problems_.add(entry.where, name_ + " has \"" + utf8Of(there) + "\" here");
+        problems_.add(entry.where, said("{} has \"{}\" here", name_, utf8Of(there)));
         return false;
       }
       ++next_;
@@ -188,7 +193,7 @@ AnalysisSource readAnalyses(const std::filesystem::path& folder, Problems& probl
     const std::string stem = path.stem().string();
     const auto slot = stem.size() == 2 ? numberIn(stem, AnalysisSlots) : std::nullopt;
     if (!slot) {
-      problems.add({file}, "the name must be NN.txt with a number from 01 to 11");
+      problems.add({file}, said("the name must be NN.txt with a number from 01 to 11"));
       continue;
     }
     source.analyses[*slot] = parseAnalysis(readText(path, problems), file, problems);
@@ -199,10 +204,11 @@ AnalysisSource readAnalyses(const std::filesystem::path& folder, Problems& probl
 void markStretches(const AnalysisSource& source, ReadingSource& readings, Problems& problems) {
   for (const auto& [slot, analysis] : source.analyses) {
     const int number = AnalysedTextsAhead + slot;
-    const std::string name = "text " + std::to_string(number);
+    const std::string name = said("text {}", number);
     const auto text = readings.texts.find(number);
     if (text == readings.texts.end()) {
-      problems.add(analysis.empty() ? Where{name} : analysis.front().where, name + " is not there");
+      problems.add(analysis.empty() ? Where{name} : analysis.front().where,
+                   said("{} is not there", name));
       continue;
     }
     StretchCutter(analysis, name, problems).cut(text->second);

@@ -3,6 +3,7 @@
 
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -120,8 +121,7 @@ AnalysisSource decodeAnalyses(std::string_view positions, std::string_view strea
         storedUntil(stream, integerAt(positions, static_cast<std::size_t>(slot)), recordEnd);
     auto analysis = plain ? analysisFrom(*plain) : std::nullopt;
     if (!analysis) {
-      problems.add({std::string(packfile::Analyses)},
-                   "analysis " + std::to_string(slot) + " cannot be read");
+      problems.add({std::string(packfile::Analyses)}, said("analysis {} cannot be read", slot));
     } else if (!analysis->empty()) {
       source.analyses.emplace(slot, std::move(*analysis));
     }

@@ -1,6 +1,7 @@
 // Rules about what could give an answer away, and about answers that must be accepted.
 #include "pack/AnswerStatistics.h"
 #include "pack/CourseRules.h"
+#include "pack/Message.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -37,8 +38,7 @@ Statistics byUnit(const Course& course) {
   Statistics all;
   for (const CourseItem& each : course.items) {
     if (!each.bank) continue;
-    countAnswer(all[std::string(groupOf(each)) + ", unit " + std::to_string(each.unit + 1)],
-                *each.item);
+    countAnswer(all[said("{}, unit {}", groupOf(each), each.unit + 1)], *each.item);
   }
   return all;
 }
@@ -51,10 +51,10 @@ void checkPositions(const Statistics& all, RuleReport& report) {
     for (std::size_t position = 0; position < each.positions.size(); ++position) {
       const std::size_t count = each.positions[position];
       if (count >= least && count <= most) continue;
-      report.found.push_back({{name},
-                              std::string(1, static_cast<char>('A' + position)) + " is right in " +
-                                  std::to_string(count) + " of " + std::to_string(each.choices) +
-                                  " choices"});
+      report.found.push_back(
+          {{name},
+           said("{} is right in {} of {} choices",
+                std::string(1, static_cast<char>('A' + position)), count, each.choices)});
     }
   }
 }
@@ -145,14 +145,14 @@ bool takesShortForm(const BlankInText& blank) {
 } // namespace
 
 RuleReport positionsAreEven(const Course& course) {
-  RuleReport report{"right answers are not spread over the positions", {}, 0};
+  RuleReport report{said("right answers are not spread over the positions"), {}, 0};
   checkPositions(byGroup(course), report);
   checkPositions(byUnit(course), report);
   return report;
 }
 
 RuleReport positionsDoNotRun(const Course& course) {
-  RuleReport report{"three right answers in a row have one position", {}, 0};
+  RuleReport report{said("three right answers in a row have one position"), {}, 0};
   std::string group;
   std::pair<int, int> last{0, 0};
   for (const CourseItem& each : course.items) {
@@ -161,8 +161,9 @@ RuleReport positionsDoNotRun(const Course& course) {
         std::string(groupOf(each)) + std::to_string(each.unit) + std::to_string(each.lesson);
     if (std::exchange(group, own) != own) last = {0, 0};
     if (last.first == each.item->key && last.second == each.item->key) {
-      report.found.push_back({each.item->where, "the third right answer in a row at position " +
-                                                    std::to_string(each.item->key)});
+      report.found.push_back(
+          {each.item->where,
+           said("the third right answer in a row at position {}", each.item->key)});
     }
     last = {last.second, each.item->key};
   }
@@ -170,19 +171,19 @@ RuleReport positionsDoNotRun(const Course& course) {
 }
 
 RuleReport longestIsNoCue(const Course& course) {
-  RuleReport report{"the longest option is right too often", {}, 0};
+  RuleReport report{said("the longest option is right too often"), {}, 0};
   for (const auto& [name, each] : byGroup(course)) {
     if (each.choices < fewestForAShare || each.longestRight * 100 <= each.choices * mostLongest)
       continue;
-    report.found.push_back({{name},
-                            "the longest option is right in " + std::to_string(each.longestRight) +
-                                " of " + std::to_string(each.choices) + " choices"});
+    report.found.push_back(
+        {{name},
+         said("the longest option is right in {} of {} choices", each.longestRight, each.choices)});
   }
   return report;
 }
 
 RuleReport bluePhraseIsNoCue(const Course& course) {
-  RuleReport report{"the blue phrase is right too seldom or too often", {}, 0};
+  RuleReport report{said("the blue phrase is right too seldom or too often"), {}, 0};
   for (const auto& [name, each] : byGroup(course)) {
     const std::size_t share = each.phraseRight * 100;
     // The vocabulary banks ask for another word of the same meaning.
@@ -190,21 +191,21 @@ RuleReport bluePhraseIsNoCue(const Course& course) {
     if (share >= each.withPhrase * leastBlueRight && share <= each.withPhrase * mostBlueRight)
       continue;
     report.found.push_back({{name},
-                            "the blue phrase is right in " + std::to_string(each.phraseRight) +
-                                " of " + std::to_string(each.withPhrase) +
-                                " choices that have one"});
+                            said("the blue phrase is right in {} of {} choices that have one",
+                                 each.phraseRight, each.withPhrase)});
   }
   return report;
 }
 
 RuleReport shortFormsAreAccepted(const Course& course) {
-  RuleReport report{"a short form is not accepted", {}, 0};
+  RuleReport report{said("a short form is not accepted"), {}, 0};
   for (const CourseItem& each : course.items) {
     if (each.item->form != ItemForm::Fill || each.item->heading == fullFormHeading) continue;
     for (const BlankInText& blank : blanksOf(*each.item)) {
       if (!takesShortForm(blank)) continue;
-      report.found.push_back({each.item->where, "\"" + blank.before + " " + blank.forms.front() +
-                                                    "\" has a short form that is not accepted"});
+      report.found.push_back(
+          {each.item->where, said("\"{} {}\" has a short form that is not accepted", blank.before,
+                                  blank.forms.front())});
     }
   }
   return report;

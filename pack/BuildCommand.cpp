@@ -1,9 +1,12 @@
 // talvora-pack build: a pack out of sources.
 #include "formats/PackFiles.h"
 #include "pack/Command.h"
+#include "pack/FolderSearch.h"
 #include "pack/KeptWords.h"
 #include "pack/Lexicon.h"
+#include "pack/Message.h"
 #include "pack/Recordings.h"
+#include "pack/import/MergedCourse.h"
 
 #include <CLI/CLI.hpp>
 
@@ -18,21 +21,22 @@ namespace {
 void tellOf(const Carried& carried) {
   const int anew = carried.inTheirText + carried.nearest + carried.inAnotherText + carried.alike;
   if (anew + carried.gone == 0) return;
-  std::cerr << "words of the learner: " << carried.inTheirText << " found in their texts, "
-            << carried.nearest << " in a changed sentence, " << carried.inAnotherText
-            << " in another text, " << carried.alike << " in one like it, " << carried.gone
-            << " kept as text only\n";
+  std::cerr << said("words of the learner: {} found in their texts, {} in a changed sentence, {} "
+                    "in another text, {} in one like it, {} kept as text only",
+                    carried.inTheirText, carried.nearest, carried.inAnotherText, carried.alike,
+                    carried.gone)
+            << "\n";
 }
 
 class BuildCommand final : public Command {
  public:
   explicit BuildCommand(CLI::App& application)
       : command_(*application.add_subcommand(
-            "build", "compile SOURCE into the folder OUT, and speak the listening "
-                     "scripts (texts 400 to 408) into OUT/sound where they are new "
-                     "or have changed")) {
+            "build",
+            said("compile SOURCE into the folder OUT, and speak the listening scripts (texts 400 "
+                 "to 408) into OUT/sound where they are new or have changed"))) {
     addSourceOptions(command_, options_);
-    command_.add_option("OUT", out_, "folder of the pack")->required();
+    command_.add_option("OUT", out_, said("folder of the pack"))->required();
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
   [[nodiscard]] int run() override;
@@ -46,8 +50,9 @@ class BuildCommand final : public Command {
 int BuildCommand::run() {
   Problems problems;
   if (!hasLexicon()) {
-    std::cerr << "talvora-pack was built without speech: the recordings will be silent, and the "
-                 "words of our own will have no pronunciation\n";
+    std::cerr << said("talvora-pack was built without speech: the recordings will be silent, and "
+                      "the words of our own will have no pronunciation")
+              << "\n";
   }
   options_.earlierPack = out_;
   const auto files = compile(options_, problems, showStep);
@@ -56,10 +61,12 @@ int BuildCommand::run() {
   for (const PackFile& file : files) {
     showStep(file.name);
     std::filesystem::create_directories((out_ / file.name).parent_path());
-    if (const auto failure = store(file, out_)) return failWith(*failure);
+    if (const auto failure = store(file, out_)) return failWith(translatedFileProblem(*failure));
     if (file.name == packfile::Marks) removeUnmarkedRecordings(out_, file.bytes);
   }
   if (const auto carried = words.carry()) tellOf(*carried);
+  if (isMergedWithAnother(placesFor(out_.string(), "").learner, out_))
+    std::cerr << mergedWithAnother() << "\n";
   return 0;
 }
 

@@ -6,6 +6,7 @@
 #include "pack/DictionaryFindings.h"
 #include "pack/DictionaryStore.h"
 #include "pack/Guide.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
 #include "pack/SpellingCheck.h"
@@ -52,10 +53,9 @@ std::size_t examplesIn(const std::vector<OwnEntry>& entries) {
   return count;
 }
 
-/// "1 lesson", "2 lessons"; a list of counts grows by one.
-void count(std::string& list, std::size_t number, std::string_view one, std::string_view many) {
-  list += (list.empty() ? "" : ", ") + std::to_string(number) + " ";
-  list += number == 1 ? one : many;
+/// A list of counts, "1 lesson, 2 items", grows by one.
+void append(std::string& list, const std::string& counted) {
+  list += (list.empty() ? "" : ", ") + counted;
 }
 
 /// Reads the kinds that are wanted and those that they refer to.
@@ -70,19 +70,19 @@ class Checker {
     checkReadings();
     if (wants(ContentKind::SpeakingTexts)) {
       const auto speaking = readSpeaking(source_ / "speaking", problems_);
-      count(counted_, speaking.texts.size(), "speaking text", "speaking texts");
+      append(counted_, saidOf(speaking.texts.size(), "{} speaking text", "{} speaking texts"));
     }
     if (wants(ContentKind::Lessons) || wants(ContentKind::Exercises)) checkLessons();
     if (wants(ContentKind::Guide)) {
       const auto guide = source_ / "guide.txt";
       static_cast<void>(compileGuide(readText(guide, problems_), guide.string(), problems_));
-      count(counted_, 1, "guide", "guides");
+      append(counted_, said("1 guide"));
     }
     if (wants(ContentKind::Dictionary)) {
-      progress_("dictionary sources");
+      progress_(said("dictionary sources"));
       const auto entries = readDictionary(source_ / "dictionary", problems_);
-      count(counted_, entries.size(), "head", "heads");
-      count(counted_, examplesIn(entries), "example", "examples");
+      append(counted_, saidOf(entries.size(), "{} head", "{} heads"));
+      append(counted_, saidOf(examplesIn(entries), "{} example", "{} examples"));
     }
     return {counted_, told_, {}};
   }
@@ -95,33 +95,33 @@ class Checker {
     const bool listening = wants(ContentKind::Listening);
     const bool analysis = wants(ContentKind::Analyses);
     if (!wants(ContentKind::ReadingTexts) && !listening && !analysis) return;
-    progress_("reading texts");
+    progress_(said("reading texts"));
     ReadingSource readings = readReadings(source_ / "reading", problems_);
-    count(counted_, readings.texts.size(), "reading text", "reading texts");
-    count(counted_, sentencesIn(readings), "sentence", "sentences");
+    append(counted_, saidOf(readings.texts.size(), "{} reading text", "{} reading texts"));
+    append(counted_, saidOf(sentencesIn(readings), "{} sentence", "{} sentences"));
     if (listening) {
       const auto items = readListening(source_ / "listening", problems_);
       checkAgainstScripts(items, readings, problems_);
-      count(counted_, itemsIn(items), "listening item", "listening items");
+      append(counted_, saidOf(itemsIn(items), "{} listening item", "{} listening items"));
     }
     if (analysis) {
       const auto analyses = readAnalyses(source_ / "analysis", problems_);
       markStretches(analyses, readings, problems_);
-      count(counted_, analyses.analyses.size(), "analysis", "analyses");
+      append(counted_, saidOf(analyses.analyses.size(), "{} analysis", "{} analyses"));
     }
   }
 
   void checkLessons() {
-    progress_("lessons and exercises");
+    progress_(said("lessons and exercises"));
     const auto lessons = readLessons(source_ / "lessons", problems_);
     const auto exercises = readExercises(source_, lessons, problems_);
-    count(counted_, lessons.lessons.size(), "lesson", "lessons");
-    count(counted_, itemsIn(exercises), "item", "items");
+    append(counted_, saidOf(lessons.lessons.size(), "{} lesson", "{} lessons"));
+    append(counted_, saidOf(itemsIn(exercises), "{} item", "{} items"));
     if (problems_.none()) checkCourseRules(lessons, exercises);
   }
 
   void checkCourseRules(const LessonSource& lessons, const ExerciseSource& exercises) {
-    progress_("rules of the course");
+    progress_(said("rules of the course"));
     const auto items = courseItemsOf(exercises);
     const WordList words = ownWordsOf(items);
     told_ = settleRules(checkRules({lessons, exercises, items, words}),
@@ -152,7 +152,7 @@ class Checker {
 void checkCompiled(const Options& options, Problems& problems, const Progress& progress) {
   const Content content = readContent(options, problems, progress);
   if (!problems.none()) return;
-  progress("word list");
+  progress(said("word list"));
   const WordList list = makeWordList(content, options, problems);
   if (!problems.none()) return;
   static_cast<void>(compile(content, list, options, problems, progress));
@@ -179,11 +179,11 @@ CheckReport checkContent(const Options& options, const std::set<ContentKind>& on
   }
   CheckReport report = Checker(options, kinds, warnings, problems, progress).run();
   if (problems.none() && kinds.contains(ContentKind::Dictionary)) {
-    progress("rules of the dictionary");
+    progress(said("rules of the dictionary"));
     reportErrors(checkDictionaryAlone(options.source, {}, problems), problems);
   }
   if (problems.none() && only.empty()) {
-    progress("rules of texts and drills");
+    progress(said("rules of texts and drills"));
     checkSpellings(options.source, problems);
     report.notes = checkTextsAndDrills(options.source, problems);
   }

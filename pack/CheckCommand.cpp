@@ -1,6 +1,9 @@
 // talvora-pack check: what is wrong with sources.
 #include "pack/Check.h"
 #include "pack/Command.h"
+#include "pack/FolderSearch.h"
+#include "pack/Message.h"
+#include "pack/import/MergedCourse.h"
 
 #include <CLI/CLI.hpp>
 
@@ -13,6 +16,13 @@ namespace talvora::pack {
 
 namespace {
 
+/// The course that is opened may be newer than the learner's dictionary.
+void tellOfMerged() {
+  const LearnersPlaces places = placesFor("", "");
+  if (!places.pack.empty() && isMergedWithAnother(places.learner, places.pack))
+    std::cerr << said("note: {}", mergedWithAnother()) << "\n";
+}
+
 std::map<std::string, ContentKind> namedKinds() {
   std::map<std::string, ContentKind> kinds;
   for (const ContentKindName& each : ContentKindNames)
@@ -23,11 +33,12 @@ std::map<std::string, ContentKind> namedKinds() {
 class CheckCommand final : public Command {
  public:
   explicit CheckCommand(CLI::App& application)
-      : command_(*application.add_subcommand("check", "check SOURCE and write nothing")) {
+      : command_(*application.add_subcommand("check", said("check SOURCE and write nothing"))) {
     addSourceOptions(command_, options_);
-    command_.add_option("--only", only_, "check these kinds alone, which takes a second or two")
+    command_
+        .add_option("--only", only_, said("check these kinds alone, which takes a second or two"))
         ->transform(CLI::CheckedTransformer(namedKinds()));
-    command_.add_flag("--warnings", listed_, "name the places of the warnings");
+    command_.add_flag("--warnings", listed_, said("name the places of the warnings"));
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
   [[nodiscard]] int run() override;
@@ -46,8 +57,9 @@ int CheckCommand::run() {
   const CheckReport report = checkContent(options_, only, warnings, problems, showStep);
   std::cout << report.warnings;
   for (const std::string& note : report.notes)
-    std::cerr << "note: " << note << "\n";
-  if (problems.none()) std::cout << report.counted << ", no errors\n";
+    std::cerr << said("note: {}", note) << "\n";
+  tellOfMerged();
+  if (problems.none()) std::cout << said("{}, no errors", report.counted) << "\n";
   return tell(problems);
 }
 

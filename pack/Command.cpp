@@ -1,5 +1,7 @@
 #include "pack/Command.h"
 
+#include "pack/Message.h"
+
 #include <CLI/CLI.hpp>
 
 #include <iostream>
@@ -23,17 +25,17 @@ int failWith(const std::string& message) {
 }
 
 void addSourceOptions(CLI::App& command, Options& options) {
-  command.add_option("SOURCE", options.source, "folder of the content sources")->required();
-  command.add_option("--wordnet", options.wordNet, "folder of the WordNet database")
+  command.add_option("SOURCE", options.source, said("folder of the content sources"))->required();
+  command.add_option("--wordnet", options.wordNet, said("folder of the WordNet database"))
       ->capture_default_str();
   command
       .add_option("--wordnet-licence", options.wordNetLicence,
-                  "licence of WordNet, which goes with the pack")
+                  said("licence of WordNet, which goes with the pack"))
       ->capture_default_str();
-  command.add_option("--word-list", options.wordLists, "English word lists, one word a line");
+  command.add_option("--word-list", options.wordLists, said("English word lists, one word a line"));
   command.add_option("--words", options.smallWordList,
-                     "a small word list of at most that many lines: our own entries and their "
-                     "forms, without WordNet and the word lists");
+                     said("a small word list of at most that many lines: our own entries and their "
+                          "forms, without WordNet and the word lists"));
 }
 
 } // namespace talvora::pack

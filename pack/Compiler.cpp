@@ -10,6 +10,7 @@
 #include "pack/KeptDictionary.h"
 #include "pack/LessonStore.h"
 #include "pack/ListeningStore.h"
+#include "pack/Message.h"
 #include "pack/OtherStores.h"
 #include "pack/Pronouncer.h"
 #include "pack/ReadingStore.h"
@@ -56,7 +57,7 @@ void appendWords(std::vector<std::string>& words, std::string_view text) {
 WordSources readWordSources(const Options& options, const ReadingSource& readings,
                             Problems& problems, const Progress& progress) {
   WordSources words;
-  progress("dictionary sources");
+  progress(said("dictionary sources"));
   words.own = readDictionary(options.source / "dictionary", problems);
   words.known.merge(wordSetOf(options.source / AcceptedFile));
   if (options.smallWordList) {
@@ -64,9 +65,9 @@ WordSources readWordSources(const Options& options, const ReadingSource& reading
       words.known.insert(std::move(word));
     return words;
   }
-  progress("WordNet");
+  progress(said("WordNet"));
   words.wordNet = readWordNet(options.wordNet, problems);
-  progress("word lists");
+  progress(said("word lists"));
   for (const auto& path : options.wordLists)
     readListedWords(path, words, problems);
   return words;
@@ -102,17 +103,17 @@ void readDrills(const Options& options, Content& content, Problems& problems) {
 Content readCourse(const Options& options, Problems& problems, const Progress& progress) {
   Content content;
   if (!std::filesystem::is_directory(options.source)) {
-    problems.add({options.source.string()}, "is not a folder");
+    problems.add({options.source.string()}, said("is not a folder"));
     return content;
   }
-  progress("reading texts");
+  progress(said("reading texts"));
   content.readings = readReadings(options.source / "reading", problems);
-  progress("lessons and exercises");
+  progress(said("lessons and exercises"));
   content.lessons = readLessons(options.source / "lessons", problems);
   content.exercises = readExercises(options.source, content.lessons, problems);
-  progress("drills");
+  progress(said("drills"));
   readDrills(options, content, problems);
-  progress("guide");
+  progress(said("guide"));
   const auto guide = options.source / "guide.txt";
   content.guide = compileGuide(readText(guide, problems), guide.string(), problems);
   if (!options.smallWordList) content.wordNetLicence = readSource(options.wordNetLicence, problems);
@@ -146,7 +147,7 @@ void append(std::vector<PackFile>& files, std::vector<PackFile> more) {
 std::vector<PackFile> compileWords(const Content& content, const WordList& list,
                                    const Options& options, Problems& problems,
                                    const Progress& progress) {
-  progress("entries");
+  progress(said("entries"));
   std::vector<PackFile> files = compileDictionary(list);
   append(files, compileVietnameseSide(makeVietnameseSide(content, list, options, problems)));
   files.push_back({std::string(Pronunciations::FileName), content.pronunciations.write()});
@@ -156,7 +157,7 @@ std::vector<PackFile> compileWords(const Content& content, const WordList& list,
 /// All others; of the recordings, those that are new.
 std::vector<PackFile> compileTexts(const Content& content, const Options& options,
                                    const Progress& progress) {
-  progress("texts and settings");
+  progress(said("texts and settings"));
   std::vector<PackFile> files;
   TextStore readings = compileReadings(content.readings);
   files.push_back({std::string(packfile::ReadingPositions), std::move(readings.positions)});
@@ -190,8 +191,8 @@ WordList makeWordList(const Content& content, const Options& options, Problems& 
   WordList list = fillWordList(content.words, limit, filling, problems);
   if (filling == Filling::Full && !list.full()) {
     problems.add({(options.source / "dictionary").string()},
-                 "the word list has " + std::to_string(list.size()) + " words and needs " +
-                     std::to_string(limit) + "; the word sources are too small");
+                 said("the word list has {} words and needs {}; the word sources are too small",
+                      list.size(), limit));
   }
   return list;
 }
@@ -200,10 +201,10 @@ std::vector<SideEntry> makeVietnameseSide(const Content& content, const WordList
                                           const Options& options, Problems& problems) {
   auto entries = vietnameseSideOf(list, content.words.listed);
   if (!options.smallWordList && entries.size() < VietnameseSideCount) {
-    problems.add({(options.source / "dictionary").string()},
-                 "the Vietnamese side has " + std::to_string(entries.size()) +
-                     " entries and needs " + std::to_string(VietnameseSideCount) +
-                     "; more words of our own are needed");
+    problems.add(
+        {(options.source / "dictionary").string()},
+        said("the Vietnamese side has {} entries and needs {}; more words of our own are needed",
+             entries.size(), VietnameseSideCount));
   }
   return entries;
 }
@@ -214,7 +215,7 @@ std::vector<PackFile> compile(const Options& options, Problems& problems,
   if (!kept.stands()) {
     const Content content = readContent(options, problems, progress);
     if (!problems.none()) return {};
-    progress("word list");
+    progress(said("word list"));
     const WordList list = makeWordList(content, options, problems);
     if (!problems.none()) return {};
     std::vector<PackFile> files = compile(content, list, options, problems, progress);

@@ -1,6 +1,7 @@
 // talvora-pack compress: a pack that travels carries its recordings in half the room.
 #include "pack/Command.h"
 #include "pack/CompressRecordings.h"
+#include "pack/Message.h"
 
 #include <CLI/CLI.hpp>
 
@@ -24,17 +25,18 @@ class CompressCommand final : public Command {
 
 CompressCommand::CompressCommand(CLI::App& application) {
   compress_ = application.add_subcommand(
-      "compress", "put the recordings of the pack PACK into FLAC, half the size, to be sent or "
-                  "installed; the program reads both");
-  compress_->add_option("PACK", pack_, "folder of the pack")
+      "compress", said("put the recordings of the pack PACK into FLAC, half the size, to be sent "
+                       "or installed; the program reads both"));
+  compress_->add_option("PACK", pack_, said("folder of the pack"))
       ->required()
       ->check(CLI::ExistingDirectory);
 }
 
 int CompressCommand::run() {
   const Compressed result = compressRecordings(pack_);
-  std::cout << result.recordings << " recordings: " << result.before / 1024 << " KB became "
-            << result.after / 1024 << " KB\n";
+  std::cout << said("{} recordings: {} KB became {} KB", result.recordings, result.before / 1024,
+                    result.after / 1024)
+            << "\n";
   return 0;
 }
 

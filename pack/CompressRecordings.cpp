@@ -1,5 +1,6 @@
 #include "pack/CompressRecordings.h"
 
+#include "pack/Message.h"
 #include "pack/PackFile.h"
 #include "pack/SourceFile.h"
 #include "pack/WaveFile.h"
@@ -14,7 +15,7 @@ namespace {
 
 void compressOne(const std::filesystem::path& recording, Compressed& result) {
   const auto wave = readWhole(recording);
-  if (!wave) throw std::runtime_error(recording.string() + ": cannot be read");
+  if (!wave) throw std::runtime_error(said("{}: cannot be read", recording.string()));
   const auto flac = flacFileOf(*wave);
   if (!flac || flac->size() >= wave->size()) return;
   const PackFile file{recording.filename().string(), *flac};
@@ -29,7 +30,7 @@ void compressOne(const std::filesystem::path& recording, Compressed& result) {
 Compressed compressRecordings(const std::filesystem::path& pack) {
   const auto folder = pack / "sound";
   if (!std::filesystem::is_directory(folder))
-    throw std::runtime_error(folder.string() + ": no recordings are here");
+    throw std::runtime_error(said("{}: no recordings are here", folder.string()));
   Compressed result;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     if (entry.path().extension() == ".wav") compressOne(entry.path(), result);

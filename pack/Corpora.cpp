@@ -3,6 +3,7 @@
 
 #include "pack/ClickedWords.h"
 #include "pack/CourseItems.h"
+#include "pack/Message.h"
 #include "pack/Recordings.h"
 #include "pack/StreamText.h"
 
@@ -88,14 +89,14 @@ Corpus readingsOf(std::string_view name, const ReadingSource& readings, Recorded
 }
 
 Corpus speakingOf(const ReadingSource& speaking) {
-  Collector collector("speaking texts");
+  Collector collector(toSay("speaking texts"));
   for (const auto& [slot, text] : speaking.texts)
     collector.add(text);
   return collector.takeCorpus();
 }
 
 Corpus listeningOf(const ListeningSource& listening) {
-  Collector collector("listening items");
+  Collector collector(toSay("listening items"));
   for (const auto& [unit, questions] : listening.units) {
     for (const ListeningQuestion& question : questions) {
       collector.add(std::string_view(question.right));
@@ -107,7 +108,7 @@ Corpus listeningOf(const ListeningSource& listening) {
 }
 
 Corpus analysesOf(const AnalysisSource& analyses) {
-  Collector collector("analyses");
+  Collector collector(toSay("analyses"));
   for (const auto& [number, stretches] : analyses.analyses) {
     for (const AnalysisEntry& stretch : stretches) {
       collector.add(std::string_view(stretch.field(AnalysisField::Word)));
@@ -120,7 +121,7 @@ Corpus analysesOf(const AnalysisSource& analyses) {
 }
 
 Corpus lessonsOf(const LessonSource& lessons) {
-  Collector collector("lessons");
+  Collector collector(toSay("lessons"));
   for (const auto& [slot, lesson] : lessons.lessons) {
     for (const MarkedLine& line : lesson.lines) {
       if (!line.text.starts_with("Sai:")) collector.add(line);
@@ -137,7 +138,7 @@ Corpus itemsOf(std::string_view name, const std::vector<Item>& items) {
 }
 
 Corpus lessonItemsOf(const ExerciseSource& exercises) {
-  Collector collector("items of lessons");
+  Collector collector(toSay("items of lessons"));
   for (const auto& [slot, items] : exercises.lessons) {
     for (const Item& item : items)
       collector.add(item);
@@ -146,7 +147,7 @@ Corpus lessonItemsOf(const ExerciseSource& exercises) {
 }
 
 Corpus dictionaryOf(const std::vector<OwnEntry>& own) {
-  Collector collector("the dictionary itself");
+  Collector collector(toSay("the dictionary itself"));
   for (const OwnEntry& entry : own) {
     for (const Sense& sense : entry.block.senses) {
       collector.add(std::string_view(sense.example).substr(0, sense.example.find(" = ")));
@@ -161,8 +162,8 @@ Corpus dictionaryOf(const std::vector<OwnEntry>& own) {
 } // namespace
 
 std::vector<Corpus> corporaOf(const Content& content) {
-  std::vector<Corpus> corpora = {readingsOf("reading texts", content.readings, Recorded::No),
-                                 readingsOf("scripts", content.readings, Recorded::Yes),
+  std::vector<Corpus> corpora = {readingsOf(toSay("reading texts"), content.readings, Recorded::No),
+                                 readingsOf(toSay("scripts"), content.readings, Recorded::Yes),
                                  speakingOf(content.speaking),
                                  listeningOf(content.listening),
                                  analysesOf(content.analyses),

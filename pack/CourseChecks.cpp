@@ -4,6 +4,7 @@
 #include "pack/DrillChecks.h"
 #include "pack/GuideTextCheck.h"
 #include "pack/KeySentences.h"
+#include "pack/Message.h"
 #include "pack/PlanChecks.h"
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
@@ -38,10 +39,10 @@ std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source
   const Planner planner = readPlanner(source, problems);
   std::ranges::move(checkBudgets(planner, source / "reading", problems), std::back_inserter(notes));
   // The listening scripts close the list of reading texts and have their fixed slots.
-  notes.push_back(openSlotNote("reading texts", readReadings(source / "reading", problems),
+  notes.push_back(openSlotNote(said("reading texts"), readReadings(source / "reading", problems),
                                FirstRecordedText - 1));
-  notes.push_back(
-      openSlotNote("speaking texts", readSpeaking(source / "speaking", problems), SpeakingSlots));
+  notes.push_back(openSlotNote(said("speaking texts"), readSpeaking(source / "speaking", problems),
+                               SpeakingSlots));
   notes.push_back(checkKeySentencesIn(source / "speaking", problems));
   std::erase(notes, "");
   return notes;

@@ -2,6 +2,7 @@
 #include "pack/CoursePlan.h"
 
 #include "pack/Entry.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 
 #include <algorithm>
@@ -64,11 +65,11 @@ class RowParser {
 
   Series read(const std::vector<Field>& fields) {
     Series series;
-    series.slots = band(fields[0], "slots");
+    series.slots = band(fields[0], said("slots"));
     series.kind = kind(fields[1]);
     series.level = level(fields[2]);
-    series.words = band(fields[3], "words a text");
-    series.sentence = band(fields[4], "words a sentence");
+    series.words = band(fields[3], said("words a text"));
+    series.sentence = band(fields[4], said("words a sentence"));
     series.newLemmas = newLemmas(fields[5]);
     series.held = held(fields[6]);
     return series;
@@ -81,7 +82,7 @@ class RowParser {
 
   Band band(const Field& field, const std::string& what) {
     const auto found = bandIn(field.text);
-    if (!found) report(field, what + " are two numbers, the smaller first: \"16-40\"");
+    if (!found) report(field, said("{} are two numbers, the smaller first: \"16-40\"", what));
     return found.value_or(Band{});
   }
 
@@ -89,20 +90,20 @@ class RowParser {
     for (const KindRow& row : kinds) {
       if (row.name == field.text) return row.kind;
     }
-    report(field, "a series is \"story\", \"topic\" or \"free\"");
+    report(field, said("a series is \"story\", \"topic\" or \"free\""));
     return SeriesKind::Free;
   }
 
   std::string level(const Field& field) {
     if (std::find(Levels.begin(), Levels.end(), field.text) == Levels.end())
-      report(field, "a level is A1, A2, B1, B2 or C1");
+      report(field, said("a level is A1, A2, B1, B2 or C1"));
     return std::string(field.text);
   }
 
   std::optional<int> newLemmas(const Field& field) {
     if (field.text == "-") return std::nullopt;
     const auto number = numberIn(field.text);
-    if (!number) report(field, "new lemmas are a number, or \"-\" for as many as there are");
+    if (!number) report(field, said("new lemmas are a number, or \"-\" for as many as there are"));
     return number;
   }
 
@@ -118,8 +119,8 @@ class RowParser {
       rest.remove_prefix(std::min(rest.size(), name.size() + 1));
       const auto* const found = std::find(BudgetNames.begin(), BudgetNames.end(), name);
       if (found == BudgetNames.end()) {
-        report(field, "a row closes with \"holds\", \"aims\" or the budgets that hold: words, "
-                      "sentence, new, twice, return, known");
+        report(field, said("a row closes with \"holds\", \"aims\" or the budgets that hold: words, "
+                           "sentence, new, twice, return, known"));
         break;
       }
       budgets.at(static_cast<std::size_t>(found - BudgetNames.begin())) = true;
@@ -149,13 +150,14 @@ std::vector<Series> parsePlan(std::string_view text, const std::string& file, Pr
     const auto fields = fieldsOf(line.text);
     if (fields.size() != columns) {
       problems.add({file, line.number, 1},
-                   "a row is: slots, kind, level, words a text, words a sentence, new lemmas, "
-                   "the budgets that hold");
+                   said("a row is: slots, kind, level, words a text, words a sentence, new lemmas, "
+                        "the budgets that hold"));
       continue;
     }
     Series series = RowParser(file, line.number, problems).read(fields);
     if (!plan.empty() && series.slots.from <= plan.back().slots.to)
-      problems.add({file, line.number, 1}, "the slots of a series come behind those above it");
+      problems.add({file, line.number, 1},
+                   said("the slots of a series come behind those above it"));
     plan.push_back(std::move(series));
   }
   return plan;

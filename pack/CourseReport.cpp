@@ -3,6 +3,7 @@
 
 #include "pack/AnswerStatistics.h"
 #include "pack/CourseRules.h"
+#include "pack/Message.h"
 #include "pack/WordCoverage.h"
 
 #include <iomanip>
@@ -101,14 +102,15 @@ std::string courseReport(const ExerciseSource& exercises, const LessonSource& le
   for (const Problem& problem : itemsHaveALesson(course).found)
     ++rowOf(rows, *byPlace.at({problem.where.file, problem.where.line})).withoutLesson;
   std::ostringstream out;
-  out << "Items\n";
-  writeRow(out, {"", "items", "fill", "choice", "mistake", "order", "right A/B/C/D", "longest",
-                 "words", "no sense", "no lesson"});
+  out << said("Items") << "\n"
+      << said("                         items      fill    choice   mistake     order       right "
+              "A/B/C/D   longest     words  no sense no lesson")
+      << "\n";
   for (std::size_t bank = 0; bank < BankCount; ++bank)
     writeRow(out, BankNames[bank], rows[bank]);
-  writeRow(out, "lessons", rows[BankCount]);
+  writeRow(out, said("lessons"), rows[BankCount]);
   const auto unpractised = lessonsArePractised(course).found;
-  out << "Lessons without an item in a bank: " << unpractised.size() << "\n";
+  out << said("Lessons without an item in a bank: {}", unpractised.size()) << "\n";
   for (const Problem& problem : unpractised)
     out << "  " << describe(problem) << "\n";
   return out.str();

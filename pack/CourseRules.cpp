@@ -1,6 +1,8 @@
 // The list of rules, and what becomes of what they find.
 #include "pack/CourseRules.h"
 
+#include "pack/Message.h"
+
 namespace talvora::pack {
 
 std::vector<RuleReport> checkRules(const Course& course) {
@@ -24,13 +26,13 @@ std::string settleRules(const std::vector<RuleReport>& reports, bool listed, Pro
       for (const Problem& problem : report.found)
         problems.add(problem.where, problem.message);
       if (report.allowed > 0) {
-        problems.add({"rule"}, report.rule + ": " + std::to_string(count) + " places, and only " +
-                                   std::to_string(report.allowed) + " pass");
+        problems.add({said("rule")},
+                     said("{}: {} places, and only {} pass", report.rule, count, report.allowed));
       }
       continue;
     }
-    told += "warning: " + report.rule + ": " + std::to_string(count) +
-            (count == 1 ? " place\n" : " places\n");
+    told +=
+        saidOf(count, "warning: {1}: {0} place", "warning: {1}: {0} places", report.rule) + "\n";
     if (!listed) continue;
     for (const Problem& problem : report.found)
       told += "  " + describe(problem) + "\n";

@@ -1,5 +1,6 @@
 // Rules about what lessons and banks do for each other, and about the plan of the banks.
 #include "pack/CourseRules.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -48,7 +49,7 @@ std::set<std::string> lessonsOf(const Item& item) {
 } // namespace
 
 RuleReport lessonsArePractised(const Course& course) {
-  RuleReport report{"a lesson has no item in a bank", {}, 0};
+  RuleReport report{said("a lesson has no item in a bank"), {}, 0};
   report.allowed = course.exercises.lessons.size() * 40 / 100;
   std::set<std::string> practised;
   for (const CourseItem& each : course.items) {
@@ -60,24 +61,25 @@ RuleReport lessonsArePractised(const Course& course) {
     if (practised.count(lesson->second.title) > 0) continue;
     // A practice unit recalls several lessons; no item leads to it.
     if (lesson->second.title.starts_with(ownText("Luyện"))) continue;
-    report.found.push_back({{"lesson " + std::to_string(slot)},
-                            "no item of a bank leads to \"" + utf8Of(lesson->second.title) + "\""});
+    report.found.push_back(
+        {{said("lesson {}", slot)},
+         said("no item of a bank leads to \"{}\"", utf8Of(lesson->second.title))});
   }
   return report;
 }
 
 RuleReport itemsHaveALesson(const Course& course) {
-  RuleReport report{"a bank item leads to no lesson", {}, 3};
+  RuleReport report{said("a bank item leads to no lesson"), {}, 3};
   for (const CourseItem& each : course.items) {
     if (!each.bank || practisesWords(*each.bank) || !lessonsOf(*each.item).empty()) continue;
     report.found.push_back(
-        {each.item->where, "no explanation leads to a lesson; \"about: TITLE\" names one"});
+        {each.item->where, said("no explanation leads to a lesson; \"about: TITLE\" names one")});
   }
   return report;
 }
 
 RuleReport unitsHaveTheirKinds(const Course& course) {
-  RuleReport report{"a unit has other kinds of item than planned", {}, 14};
+  RuleReport report{said("a unit has other kinds of item than planned"), {}, 14};
   struct Kinds {
     std::size_t fill = 0;
     std::size_t choice = 0;
@@ -99,12 +101,10 @@ RuleReport unitsHaveTheirKinds(const Course& course) {
     if (whole && kinds.fill == plan.fill && kinds.choice == plan.choice &&
         kinds.mistake == plan.mistake)
       continue;
-    const auto number = [](std::size_t value) { return std::to_string(value); };
-    report.found.push_back({{std::string(plan.bank) + ", unit " + number(place.second + 1)},
-                            "fill " + number(kinds.fill) + ", choice " + number(kinds.choice) +
-                                ", mistake " + number(kinds.mistake) + "; planned are " +
-                                number(plan.fill) + ", " + number(plan.choice) + " and " +
-                                number(plan.mistake)});
+    report.found.push_back(
+        {{said("{}, unit {}", plan.bank, place.second + 1)},
+         said("fill {}, choice {}, mistake {}; planned are {}, {} and {}", kinds.fill, kinds.choice,
+              kinds.mistake, plan.fill, plan.choice, plan.mistake)});
   }
   return report;
 }

@@ -5,6 +5,7 @@
 #include "pack/ClickedWords.h"
 #include "pack/EntryLines.h"
 #include "pack/ExampleRules.h"
+#include "pack/Message.h"
 #include "pack/SmallLetters.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
@@ -119,8 +120,8 @@ class Checker {
   void checkLength() {
     const std::size_t letters = shownLetters(*entry_);
     if (letters > longestEntry)
-      find(DictionaryRule::EntryTooLong, std::to_string(letters) + " letters are shown, at most " +
-                                             std::to_string(longestEntry) + " should be");
+      find(DictionaryRule::EntryTooLong,
+           said("{} letters are shown, at most {} should be", letters, longestEntry));
   }
 
   // A form of the head will do, and the rules alter no more than its end.
@@ -136,7 +137,7 @@ class Checker {
                          });
       if (!holds)
         find(DictionaryRule::PhraseWithoutHead,
-             "the phrase \"" + utf8Of(phrase.english) + "\" does not have the word");
+             said("the phrase \"{}\" does not have the word", utf8Of(phrase.english)));
     }
   }
 
@@ -155,21 +156,21 @@ class Checker {
     if (forms.size() < 2 || !lists(forms[0], verb->second.first) ||
         !lists(forms[1], verb->second.second))
       find(DictionaryRule::FormsUnlikeLesson,
-           "the lesson has the forms " + verb->second.first + ", " + verb->second.second);
+           said("the lesson has the forms {}, {}", verb->second.first, verb->second.second));
   }
 
   void checkSense(const Sense& sense) {
     const std::string_view gloss = firstGloss(sense.text);
     if (gloss.size() > longestGloss)
       find(DictionaryRule::GlossTooLong,
-           "\"" + utf8Of(gloss) + "\" has " + std::to_string(gloss.size()) + " letters");
+           said("\"{}\" has {} letters", utf8Of(gloss), gloss.size()));
     const std::size_t equals = sense.example.find(" = ");
     const std::string english = sense.example.substr(0, equals);
     checkEnglish(english);
     checkEnglish(sense.pattern);
     for (const std::string& word : clickedWords(english)) {
       if (!measures_.entries.empty() && LaTiengAnh(word) && !hasEntry(word))
-        find(DictionaryRule::ExampleWordWithoutEntry, "\"" + word + "\" has no entry");
+        find(DictionaryRule::ExampleWordWithoutEntry, said("\"{}\" has no entry", word));
     }
     checkVietnamese(sense.text);
     if (equals == std::string::npos) return;
@@ -206,7 +207,7 @@ class Checker {
       for (const std::string& part : spokenWordsOf(word)) {
         if (!measures_.english.contains(part) &&
             !measures_.english.contains(part.substr(0, part.find('\''))))
-          find(DictionaryRule::EnglishWordUnknown, "\"" + part + "\" is in no word list");
+          find(DictionaryRule::EnglishWordUnknown, said("\"{}\" is in no word list", part));
       }
     }
   }
@@ -220,7 +221,7 @@ class Checker {
       if (name || measures_.vietnamese.contains(small) ||
           measures_.vietnamese.contains(toneMovedBack(small)) || measures_.english.contains(small))
         continue;
-      find(DictionaryRule::UnknownSyllable, "\"" + syllable + "\" is in no word list");
+      find(DictionaryRule::UnknownSyllable, said("\"{}\" is in no word list", syllable));
     }
   }
 
@@ -235,8 +236,7 @@ class Checker {
       if (with.has(sense.wordClass) || told.has(sense.wordClass)) continue;
       told.add(sense.wordClass);
       find(DictionaryRule::LevelWithoutExample,
-           "no example for " +
-               std::string(ClassNames[static_cast<std::size_t>(sense.wordClass)].source));
+           said("no example for {}", ClassNames[static_cast<std::size_t>(sense.wordClass)].source));
     }
   }
 
@@ -290,7 +290,7 @@ std::string findingsReport(const std::vector<Finding>& findings) {
     const auto count =
         std::count_if(findings.begin(), findings.end(),
                       [&rule](const Finding& each) { return each.rule == rule.rule; });
-    report += "  " + std::string(rule.name) + ": " + std::to_string(count) + "\n";
+    report += "  " + said("{}: {}", translated(rule.name), count) + "\n";
   }
   return report;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pack/DictionarySource.h"
+#include "pack/Message.h"
 #include "pack/Problems.h"
 
 #include <array>
@@ -33,15 +34,15 @@ struct DictionaryRuleName {
 };
 
 inline constexpr std::array<DictionaryRuleName, 9> DictionaryRules = {{
-    {DictionaryRule::EntryTooLong, "entries of more than 450 letters"},
-    {DictionaryRule::PhraseWithoutHead, "phrases without their head word"},
-    {DictionaryRule::GlossTooLong, "first glosses of more than 24 letters"},
-    {DictionaryRule::FormsUnlikeLesson, "verbs whose forms differ from the lesson's table"},
-    {DictionaryRule::LevelWithoutExample, "classes of A1 to B1 heads without an example"},
-    {DictionaryRule::ExampleWordWithoutEntry, "words of examples without an entry"},
-    {DictionaryRule::UnknownSyllable, "Vietnamese syllables that no word list has"},
-    {DictionaryRule::EnglishWordUnknown, "English words that no word list has"},
-    {DictionaryRule::TranslationDiffers, "examples that their translations do not match"},
+    {DictionaryRule::EntryTooLong, toSay("entries of more than 450 letters")},
+    {DictionaryRule::PhraseWithoutHead, toSay("phrases without their head word")},
+    {DictionaryRule::GlossTooLong, toSay("first glosses of more than 24 letters")},
+    {DictionaryRule::FormsUnlikeLesson, toSay("verbs whose forms differ from the lesson's table")},
+    {DictionaryRule::LevelWithoutExample, toSay("classes of A1 to B1 heads without an example")},
+    {DictionaryRule::ExampleWordWithoutEntry, toSay("words of examples without an entry")},
+    {DictionaryRule::UnknownSyllable, toSay("Vietnamese syllables that no word list has")},
+    {DictionaryRule::EnglishWordUnknown, toSay("English words that no word list has")},
+    {DictionaryRule::TranslationDiffers, toSay("examples that their translations do not match")},
 }};
 
 /// A place where a source breaks a rule.

@@ -2,6 +2,7 @@
 #include "pack/DictionarySource.h"
 
 #include "pack/EntryNotation.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/CharClass.h"
@@ -62,7 +63,7 @@ class DictionaryParser {
     } else if (line.text.front() != ' ') {
       readHead(line.text);
     } else if (!inBlock_) {
-      report(1, "an indented line without a head word above it");
+      report(1, said("an indented line without a head word above it"));
     } else if (line.text.starts_with(formsOpener)) {
       readForms(line.text);
     } else if (line.text.starts_with(phrasesOpener)) {
@@ -87,7 +88,7 @@ class DictionaryParser {
   }
 
   std::string stretch(std::string_view utf8, std::size_t bytesAhead) {
-    if (utf8.empty()) report(bytesAhead + 1, "a text is missing here");
+    if (utf8.empty()) report(bytesAhead + 1, said("a text is missing here"));
     const int column = static_cast<int>(bytesAhead) + 1;
     return sourceText(utf8, {file_, line_, column}, EntryMarks, problems_);
   }
@@ -96,7 +97,7 @@ class DictionaryParser {
 
   void closeBlock() {
     if (inBlock_ && block().senses.empty()) {
-      problems_.add(entries_.back().where, "the head word has no sense");
+      problems_.add(entries_.back().where, said("the head word has no sense"));
     }
     inBlock_ = false;
   }
@@ -109,13 +110,13 @@ class DictionaryParser {
     entries_.push_back({stretch(text, 0), {}, {file_, line_, 1}});
     block().level = level;
     const bool opens = Letters.has(text.front());
-    if (!opens) report(1, "a head word must begin with a letter from a to z");
+    if (!opens) report(1, said("a head word must begin with a letter from a to z"));
   }
 
   void readSense(std::string_view text) {
     const ClassName* name = text.starts_with("  ") ? classAt(text.substr(2)) : nullptr;
     if (name == nullptr) {
-      report(3, "a line below a head word must be a sense, an example, phrases or forms");
+      report(3, said("a line below a head word must be a sense, an example, phrases or forms"));
       return;
     }
     Sense sense{name->wordClass, Language::Vietnamese, {}};
@@ -135,7 +136,7 @@ class DictionaryParser {
     const auto& senses = block().senses;
     const bool follows = !senses.empty() && senses.back().wordClass == sense.wordClass;
     if (sense.number != (follows ? senses.back().number + 1 : 1))
-      report(at + 1, "the senses of a class count 1, 2, 3 and stand together");
+      report(at + 1, said("the senses of a class count 1, 2, 3 and stand together"));
     at += 2;
   }
 
@@ -143,7 +144,8 @@ class DictionaryParser {
     if (at >= text.size() || text[at] != '[') return;
     const NounUseName* use = useAt(text.substr(at));
     if (use == nullptr || sense.wordClass != WordClass::Noun) {
-      report(at + 1, "in square brackets may stand u, c, u c, sg or pl, ahead of a noun's gloss");
+      report(at + 1,
+             said("in square brackets may stand u, c, u c, sg or pl, ahead of a noun's gloss"));
       at = std::min(text.find(']', at), text.size() - 1) + 1;
       if (at < text.size()) ++at;
       return;
@@ -157,19 +159,19 @@ class DictionaryParser {
     const std::size_t equals = example.find(" = ");
     if (equals == std::string_view::npos ||
         example.find('=', equals + 2) != std::string_view::npos) {
-      report(exampleOpener.size() + 1, "an example must be \"English = Vietnamese\"");
+      report(exampleOpener.size() + 1, said("an example must be \"English = Vietnamese\""));
       return;
     }
     auto& senses = block().senses;
     if (senses.empty() || !senses.back().example.empty()) {
-      report(1, "an example must stand below its sense, one at most");
+      report(1, said("an example must stand below its sense, one at most"));
       return;
     }
     senses.back().example = stretch(example, exampleOpener.size());
   }
 
   void readForms(std::string_view text) {
-    if (!block().forms.empty()) report(1, "the forms of a head word stand on one line");
+    if (!block().forms.empty()) report(1, said("the forms of a head word stand on one line"));
     std::size_t at = formsOpener.size();
     while (at <= text.size()) {
       const std::size_t end = std::min(text.find(", ", at), text.size());
@@ -179,7 +181,7 @@ class DictionaryParser {
   }
 
   void readPhrases(std::string_view text) {
-    if (!block().phrases.empty()) report(1, "the phrases of a head word stand on one line");
+    if (!block().phrases.empty()) report(1, said("the phrases of a head word stand on one line"));
     std::size_t at = phrasesOpener.size();
     while (at <= text.size()) {
       const std::size_t end = std::min(text.find("; ", at), text.size());
@@ -187,14 +189,15 @@ class DictionaryParser {
       at = end + 2;
     }
     if (block().phrases.size() > mostPhrases)
-      report(1, "a head word has at most " + std::to_string(mostPhrases) + " phrases");
+      report(1, said("a head word has at most {} phrases", mostPhrases));
   }
 
   void readPhrase(std::string_view text, std::size_t at) {
     constexpr std::string_view equals = " = ";
     const std::size_t middle = text.find(equals);
     if (middle == std::string_view::npos) {
-      report(at + 1, "a phrase must be \"English = Vietnamese\", and \"; \" parts two of them");
+      report(at + 1,
+             said("a phrase must be \"English = Vietnamese\", and \"; \" parts two of them"));
       return;
     }
     const std::size_t behind = middle + equals.size();
@@ -227,8 +230,8 @@ std::vector<OwnEntry> readDictionary(const std::filesystem::path& folder, Proble
       const auto [first, isNew] = seen.emplace(ChuanHoaTu(entry.head), entry.where);
       const bool follows = !entries.empty() && entries.back().head == entry.head;
       if (!isNew && !follows) {
-        problems.add(entry.where, "the head word stands at " + first->second.file + ":" +
-                                      std::to_string(first->second.line) + " already");
+        problems.add(entry.where, said("the head word stands at {}:{} already", first->second.file,
+                                       first->second.line));
         continue;
       }
       entries.push_back(std::move(entry));

@@ -4,6 +4,7 @@
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
 #include "pack/EntryNotation.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 
@@ -60,7 +61,7 @@ std::vector<OwnEntry> decodeOwnEntries(std::string_view words, std::string_view 
     const auto entry = storedUntil(entries, integerAt(records, record) - std::int64_t{1}, entryEnd);
     if (!entry) {
       problems.add({std::string(packfile::Words), line.number, 1},
-                   "the entry of this word cannot be read");
+                   said("the entry of this word cannot be read"));
       continue;
     }
     OwnNotation notation = readOwnNotation(*entry, line.text);

@@ -2,6 +2,7 @@
 #include "pack/DrillChecks.h"
 
 #include "pack/Lexicon.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "pack/TextWords.h"
 #include "pack/WordPhones.h"
@@ -75,8 +76,9 @@ class UnitChecker {
         static_cast<double>(exact) > mostExact * static_cast<double>(items_.size());
     if (unit_ < FirstStrictUnit) return counted(exact, manyExact);
     if (manyExact) {
-      problems_.add({file_}, std::to_string(exact) + " of " + std::to_string(items_.size()) +
-                                 " keys are the heard sentence itself; a third at most may be");
+      problems_.add({file_},
+                    said("{} of {} keys are the heard sentence itself; a third at most may be",
+                         exact, items_.size()));
     }
     checkLongest();
     return {};
@@ -124,8 +126,8 @@ class UnitChecker {
   void tellLength(const ListeningQuestion& item) {
     ++unlike_;
     if (unit_ < FirstStrictUnit) return;
-    problems_.add(item.where, "the options differ too much in length: each stays within a quarter "
-                              "of the middle one");
+    problems_.add(item.where, said("the options differ too much in length: each stays within a "
+                                   "quarter of the middle one"));
   }
 
   std::size_t exactKeys() const {
@@ -137,14 +139,14 @@ class UnitChecker {
   std::string counted(std::size_t exact, bool manyExact) const {
     std::string note;
     if (manyExact) {
-      note = std::to_string(exact) + " of " + std::to_string(items_.size()) +
-             " keys are the heard sentence itself";
+      note = said("{} of {} keys are the heard sentence itself", exact, items_.size());
     }
     if (unlike_ > 0) {
-      note += (note.empty() ? "" : ", ") + std::to_string(unlike_) +
-              " items have options of unlike length";
+      note += (note.empty() ? "" : ", ") + saidOf(static_cast<std::size_t>(unlike_),
+                                                  "{} item has options of unlike length",
+                                                  "{} items have options of unlike length");
     }
-    return note.empty() ? note : "listening unit " + std::to_string(unit_) + ": " + note;
+    return note.empty() ? note : said("listening unit {}: {}", unit_, note);
   }
 
   void checkLongest() {
@@ -159,10 +161,9 @@ class UnitChecker {
     const double share =
         static_cast<double>(longest) / static_cast<double>(std::max<std::size_t>(others, 1));
     if (others < enoughItems || (share >= leastLongest && share <= mostLongest)) return;
-    problems_.add({file_}, "the key is the longest option in " +
-                               std::to_string(std::lround(100 * share)) + " % of " +
-                               std::to_string(others) +
-                               " items, which gives it away; 15 to 35 % may be");
+    problems_.add({file_}, said("the key is the longest option in {} % of {} items, which gives it "
+                                "away; 15 to 35 % may be",
+                                std::lround(100 * share), others));
   }
 
   int unit_;
@@ -195,7 +196,7 @@ std::string notHeardApart(std::string_view heard, std::string_view other) {
     if (!wordsSoundAlike(left[at], right[at])) return {};
     pairs += (pairs.empty() ? "" : ", ") + left[at] + "/" + right[at];
   }
-  return pairs.empty() ? pairs : "the voice does not keep " + pairs + " apart";
+  return pairs.empty() ? pairs : said("the voice does not keep {} apart", pairs);
 }
 
 std::vector<std::string> checkOptions(const ListeningSource& source,
@@ -216,16 +217,15 @@ void checkCutting(const AnalysisSource& source, const std::filesystem::path& fol
     for (const AnalysisEntry& entry : analysis) {
       if (!entry.lessons.empty()) ++linked;
       if (!isTwoPhrases(entry.field(AnalysisField::Class))) continue;
-      problems.add(entry.where, "\"" + utf8Of(entry.field(AnalysisField::Word)) +
-                                    "\" is more than one phrase; a verb stands apart from its "
-                                    "subject and from a conjunction");
+      problems.add(entry.where, said("\"{}\" is more than one phrase; a verb stands apart from its "
+                                     "subject and from a conjunction",
+                                     utf8Of(entry.field(AnalysisField::Word))));
     }
     if (static_cast<double>(linked) >= linkedShare * static_cast<double>(analysis.size())) continue;
     const std::string digits = std::to_string(number);
     const auto file = folder / ((digits.size() < 2 ? "0" : "") + digits + ".txt");
-    problems.add({file.string()}, std::to_string(linked) + " of " +
-                                      std::to_string(analysis.size()) +
-                                      " stretches lead to a lesson; nine of ten must");
+    problems.add({file.string()}, said("{} of {} stretches lead to a lesson; nine of ten must",
+                                       linked, analysis.size()));
   }
 }
 

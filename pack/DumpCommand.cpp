@@ -1,6 +1,7 @@
 // talvora-pack dump: a pack back into sources.
 #include "pack/Command.h"
 #include "pack/Dump.h"
+#include "pack/Message.h"
 
 #include <CLI/CLI.hpp>
 
@@ -13,9 +14,9 @@ namespace {
 class DumpCommand final : public Command {
  public:
   explicit DumpCommand(CLI::App& application)
-      : command_(*application.add_subcommand("dump", "decode the pack PACK into sources")) {
-    command_.add_option("PACK", pack_, "folder of the pack")->required();
-    command_.add_option("OUT", out_, "folder for the sources")->required();
+      : command_(*application.add_subcommand("dump", said("decode the pack PACK into sources"))) {
+    command_.add_option("PACK", pack_, said("folder of the pack"))->required();
+    command_.add_option("OUT", out_, said("folder for the sources"))->required();
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
   [[nodiscard]] int run() override;
@@ -33,7 +34,8 @@ int DumpCommand::run() {
     const auto folder = (out_ / source.name).parent_path();
     std::filesystem::create_directories(folder);
     const auto name = std::filesystem::path(source.name).filename().string();
-    if (const auto failure = store({name, source.text}, folder)) return failWith(*failure);
+    if (const auto failure = store({name, source.text}, folder))
+      return failWith(translatedFileProblem(*failure));
   }
   return tell(problems);
 }

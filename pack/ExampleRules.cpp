@@ -1,6 +1,7 @@
 // Comparing word by word.
 #include "pack/ExampleRules.h"
 
+#include "pack/Message.h"
 #include "sound/Pronunciations.h"
 #include "text/Text.h"
 
@@ -70,14 +71,14 @@ bool mayRepeat(std::string_view word) {
 
 std::vector<std::string> exampleFaults(std::string_view english, std::string_view vietnamese) {
   std::vector<std::string> faults;
-  if (asks(english) != asks(vietnamese)) faults.emplace_back("only one of the two asks");
+  if (asks(english) != asks(vietnamese)) faults.push_back(said("only one of the two asks"));
   std::string before;
   for (std::string& word : spokenWordsOf(english)) {
     if (word == before && !mayRepeat(word))
-      faults.push_back("\"" + word + "\" stands twice in a row");
+      faults.push_back(said("\"{}\" stands twice in a row", word));
     const auto meaning = std::ranges::find(meanings, std::string_view(word), &Meaning::english);
     if (meaning != meanings.end() && !says(vietnamese, *meaning))
-      faults.push_back("\"" + word + "\" is not in the translation");
+      faults.push_back(said("\"{}\" is not in the translation", word));
     before = std::move(word);
   }
   return faults;

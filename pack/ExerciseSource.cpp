@@ -1,6 +1,7 @@
 // Reading of the folders of items.
 #include "pack/ExerciseSource.h"
 
+#include "pack/Message.h"
 #include "pack/NearestName.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
@@ -31,7 +32,7 @@ std::vector<Item> readBank(const std::filesystem::path& folder, BlankHelp help,
   }
   if (!items.empty() && items.size() < fewestInABank) {
     problems.add({folder.string()},
-                 "a bank has at least 25 items and this one has " + std::to_string(items.size()));
+                 said("a bank has at least 25 items and this one has {}", items.size()));
   }
   return items;
 }
@@ -43,12 +44,12 @@ void readLessonItems(const std::filesystem::path& folder, const LessonSource& le
     if (!slot || !holdsItems(path)) continue;
     const std::string file = path.string();
     if (lessons.lessons.count(*slot) == 0) {
-      problems.add({file}, "slot " + std::to_string(*slot) + " has no lesson");
+      problems.add({file}, said("slot {} has no lesson", *slot));
     }
     auto items =
         parseItems(readText(path, problems), file, ItemPlace::Lesson, BlankHelp::Own, problems);
     if (items.empty()) {
-      problems.add({file}, "there are no items");
+      problems.add({file}, said("there are no items"));
     } else {
       source.lessons.emplace(*slot, std::move(items));
     }
@@ -85,15 +86,15 @@ class ItemsTogether {
   /// Where two lessons have one title, that is reported, and other titles may be missing for it.
   void checkTitle(const std::string& title, const Where& where) {
     if (!titlesAreClear_ || lessons_.slotOf(title)) return;
-    problems_.add(where, "no lesson has the title \"" + utf8Of(title) + "\"" +
-                             utf8Of(didYouMean(title, titles_)));
+    problems_.add(where,
+                  said("no lesson has the title \"{}\"", utf8Of(title)) + nearestTitle(title));
   }
 
   void checkId(const Item& item) {
     if (item.id.empty()) return;
     const auto [first, isNew] = ids_.emplace(item.id, item.where);
     if (!isNew)
-      problems_.add(item.where, "the id is taken by the item at " + placed(first->second));
+      problems_.add(item.where, said("the id is taken by the item at {}", placed(first->second)));
   }
 
   void checkTwin(const Item& item) {
@@ -103,7 +104,13 @@ class ItemsTogether {
     for (const std::string& option : options)
       text += '+' + lower(option);
     const auto [first, isNew] = texts_.emplace(text, item.where);
-    if (!isNew) problems_.add(item.where, "the same item stands at " + placed(first->second));
+    if (!isNew)
+      problems_.add(item.where, said("the same item stands at {}", placed(first->second)));
+  }
+
+  [[nodiscard]] std::string nearestTitle(const std::string& title) const {
+    const auto nearest = nearestName(title, titles_);
+    return nearest ? didYouMean(utf8Of(*nearest)) : "";
   }
 
   static std::string placed(const Where& where) {
@@ -131,9 +138,10 @@ void reportUnknownBanks(const std::filesystem::path& folder, Problems& problems)
     if (name.starts_with('.')) continue;
     const bool known = std::find(names.begin(), names.end(), name) != names.end();
     if (known && std::filesystem::is_directory(path)) {
-      reportStrangers(path, "no items are read from it: they stand in \".txt\" files", problems);
+      reportStrangers(path, said("no items are read from it: they stand in \".txt\" files"),
+                      problems);
     } else {
-      problems.add({path.string()}, "is the folder of no bank" + didYouMean(name, names));
+      problems.add({path.string()}, said("is the folder of no bank") + didYouMean(name, names));
     }
   }
 }
@@ -168,7 +176,7 @@ ExerciseSource readExercises(const std::filesystem::path& content, const LessonS
     check(items);
   if (total > mostItems - BankCount - LessonSlots) {
     problems.add({(content / "exercises").string()},
-                 "there are " + std::to_string(total) + " items, more than the program can number");
+                 said("there are {} items, more than the program can number", total));
   }
   return source;
 }

@@ -4,6 +4,7 @@
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
 #include "pack/BlankWidth.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -243,8 +244,7 @@ ExerciseSource decodeExercises(const ExerciseFiles& files, const LessonSource& l
     for (std::size_t place = 0; place < count; ++place) {
       ++number;
       if (number > files.positions.size() / 8) {
-        problems.add({std::string(packfile::ItemPositions)},
-                     "item " + std::to_string(number) + " is missing");
+        problems.add({std::string(packfile::ItemPositions)}, said("item {} is missing", number));
         return source;
       }
       const auto question =
@@ -252,8 +252,7 @@ ExerciseSource decodeExercises(const ExerciseFiles& files, const LessonSource& l
       const auto answer =
           storedUntil(files.stream, integerAt(files.positions, total + number), recordEnd);
       if (!question || !answer) {
-        problems.add({std::string(packfile::Items)},
-                     "item " + std::to_string(number) + " cannot be read");
+        problems.add({std::string(packfile::Items)}, said("item {} cannot be read", number));
         continue;
       }
       auto item = decoder.decode(*question, *answer);

@@ -1,5 +1,6 @@
 // Rules about explanations and lesson pages.
 #include "pack/CourseRules.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "text/Text.h"
 
@@ -103,25 +104,26 @@ std::set<std::string> stemsOfLesson(const Lesson& lesson) {
 } // namespace
 
 RuleReport explanationsAreThere(const Course& course) {
-  RuleReport report{"an explanation is missing", {}, 0};
+  RuleReport report{said("an explanation is missing"), {}, 0};
   for (const CourseItem& each : course.items) {
     const Item& item = *each.item;
     if (item.form == ItemForm::Order) continue;
     if (item.general.empty())
-      report.found.push_back({item.where, "the general explanation (\"explain:\") is missing"});
+      report.found.push_back(
+          {item.where, said("the general explanation (\"explain:\") is missing")});
     const bool listed = item.form == ItemForm::Fill &&
                         std::find(banksWithALessonList.begin(), banksWithALessonList.end(),
                                   groupOf(each)) != banksWithALessonList.end();
     for (int number = 1; !listed && number <= explainableCount(item); ++number) {
       if (item.explanations.count(number) > 0) continue;
-      report.found.push_back({item.where, "explanation " + std::to_string(number) + " is missing"});
+      report.found.push_back({item.where, said("explanation {} is missing", number)});
     }
   }
   return report;
 }
 
 RuleReport reasonsAreGiven(const Course& course) {
-  RuleReport report{"\"Phần này đúng:\" gives no reason", {}, 0};
+  RuleReport report{said("\"Phần này đúng:\" gives no reason"), {}, 0};
   for (const CourseItem& each : course.items) {
     forEachLine(*each.item, [&](const ExplanationLine& line) {
       const std::string text = utf8Of(line.text.text);
@@ -129,22 +131,22 @@ RuleReport reasonsAreGiven(const Course& course) {
       if (wordsIn(std::string_view(text).substr(reasonOpener.size())) >= fewestWordsOfAReason)
         return;
       report.found.push_back(
-          {line.where, "\"Phần này đúng:\" is followed by a reason of five words at least"});
+          {line.where, said("\"Phần này đúng:\" is followed by a reason of five words at least")});
     });
   }
   return report;
 }
 
 RuleReport termsAreOfTheList(const Course& course) {
-  RuleReport report{"a term is not the course's own", {}, 0};
+  RuleReport report{said("a term is not the course's own"), {}, 0};
   const auto check = [&](std::string_view bytes, const Where& where) {
     std::string text = utf8Of(bytes);
     if (const std::size_t at = text.find(termInBrackets); at != std::string::npos)
       text.erase(at, termInBrackets.size());
     for (const Term& term : terms) {
       if (text.find(term.wrong) == std::string::npos) continue;
-      report.found.push_back({where, "\"" + std::string(term.wrong) + "\" is called \"" +
-                                         std::string(term.right) + "\" in this course"});
+      report.found.push_back(
+          {where, said("\"{}\" is called \"{}\" in this course", term.wrong, term.right)});
       return;
     }
   };
@@ -152,7 +154,7 @@ RuleReport termsAreOfTheList(const Course& course) {
     forEachLine(*each.item,
                 [&](const ExplanationLine& line) { check(line.text.text, line.where); });
   for (const auto& [slot, lesson] : course.lessons.lessons) {
-    const Where where{"lesson " + std::to_string(slot)};
+    const Where where{said("lesson {}", slot)};
     check(lesson.title, where);
     for (const MarkedLine& line : lesson.lines)
       check(line.text, where);
@@ -161,7 +163,8 @@ RuleReport termsAreOfTheList(const Course& course) {
 }
 
 RuleReport absoluteWords(const Course& course) {
-  RuleReport report{"a rule without exceptions, to be looked at by a second reader", {}, 100000};
+  RuleReport report{
+      said("a rule without exceptions, to be looked at by a second reader"), {}, 100000};
   for (const CourseItem& each : course.items) {
     forEachLine(*each.item, [&](const ExplanationLine& line) {
       const std::string text = utf8Of(line.text.text);
@@ -176,7 +179,7 @@ RuleReport absoluteWords(const Course& course) {
 }
 
 RuleReport linksTeachTheirPoint(const Course& course) {
-  RuleReport report{"a lesson has no word of the explanation that leads to it", {}, 0};
+  RuleReport report{said("a lesson has no word of the explanation that leads to it"), {}, 0};
   // Links in explanations without a red English word cannot be judged and do not count.
   report.allowed = course.items.size() * 20 / 100;
   std::map<int, std::set<std::string>> stems;
@@ -196,9 +199,9 @@ RuleReport linksTeachTheirPoint(const Course& course) {
         if (std::any_of(red.begin(), red.end(),
                         [&](const std::string& stem) { return known.count(stem) > 0; }))
           continue;
-        report.found.push_back(
-            {line.where, "no red word of this explanation stands in the lesson \"" +
-                             utf8Of(line.text.text) + "\"; \"about:\" may say that it fits"});
+        report.found.push_back({line.where, said("no red word of this explanation stands in the "
+                                                 "lesson \"{}\"; \"about:\" may say that it fits",
+                                                 utf8Of(line.text.text))});
       }
     }
   }

@@ -1,6 +1,8 @@
 // The steps in which the word list is filled.
 #include "pack/FilledList.h"
 
+#include "pack/Message.h"
+
 #include "pack/BuiltWords.h"
 #include "pack/Derivation.h"
 #include "pack/SourceFile.h"
@@ -105,8 +107,8 @@ class Filler {
       return;
     }
     if (list_.add({entry.head, WordKind::Own, classes, {entry.block}, {}, order})) return;
-    problems_.add(entry.where, list_.full() ? "the word list has no more room for this word"
-                                            : "this word has a place in the list already");
+    problems_.add(entry.where, list_.full() ? said("the word list has no more room for this word")
+                                            : said("this word has a place in the list already"));
   }
 
   /// True for the second of two words of one spelling, which stand one behind the other.

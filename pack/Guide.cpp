@@ -1,6 +1,7 @@
 // Rich text of the guide.
 #include "pack/Guide.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/Bytes.h"
@@ -55,7 +56,8 @@ class LineWriter {
       from = at;
     }
     writeStretch(text, from, text.size(), where);
-    if (open_[0] || open_[1]) problems_.add(where, "a ** or // span of this line is not closed");
+    if (open_[0] || open_[1])
+      problems_.add(where, said("a ** or // span of this line is not closed"));
   }
 
  private:

@@ -1,6 +1,7 @@
 #include "pack/GuideTextCheck.h"
 
 #include "formats/GuideText.h"
+#include "pack/Message.h"
 #include "pack/ReadingSource.h"
 #include "pack/ReadingStore.h"
 #include "pack/SourceFile.h"
@@ -74,12 +75,13 @@ class GuideTextChecker {
     const auto marked = paragraphBehind(PracticeMark, source_);
     const Stretch between = {guidetext::SentencesFrom, guidetext::SentencesTo};
     if (!marked) {
-      if (end() > between.from) reportMissing(PracticeMark, "ahead of the practice sentences");
+      if (end() > between.from)
+        reportMissing(PracticeMark, said("ahead of the practice sentences"));
       return;
     }
     const Stretch lies = {endOf(text_, marked->number) + 1, endOf(text_, marked->number + 1)};
     if (lies.from <= between.from || lies.to >= between.to)
-      report(marked->line, "the practice paragraph", lies, between);
+      report(marked->line, said("the practice paragraph"), lies, between);
   }
 
   /// The paragraph of words is read from the word on that its mark names.
@@ -87,7 +89,7 @@ class GuideTextChecker {
     const auto marked = paragraphBehind(WordsMark, source_);
     if (!marked) {
       if (end() >= guidetext::SentencesTo)
-        reportMissing(WordsMark, "ahead of the paragraph of words");
+        reportMissing(WordsMark, said("ahead of the paragraph of words"));
       return;
     }
     const std::string word = wordOf(marked->line);
@@ -95,27 +97,28 @@ class GuideTextChecker {
     const std::size_t from = shownText(text_).find(word, paragraph);
     const int to = endOf(text_, marked->number + 1);
     if (word.empty() || from == std::string::npos || static_cast<int>(from) > to) {
-      problems_.add({file_, marked->line, 1}, "the mark names no word of the paragraph below it");
+      problems_.add({file_, marked->line, 1},
+                    said("the mark names no word of the paragraph below it"));
       return;
     }
     const Stretch lies = {static_cast<int>(from), to};
     const Stretch between = {guidetext::SentencesTo, guidetext::WordsTo};
     if (lies.from < between.from || lies.to >= between.to)
-      report(marked->line, "the paragraph, from \"" + word + "\" on,", lies, between);
+      report(marked->line, said("the paragraph, from \"{}\" on,", word), lies, between);
   }
 
   /// The title's line is what the list of the analysed texts greys, tabs and all.
   void expectTitle(std::string_view lineAhead) {
     const auto line = markOfTitle(source_);
     if (!line) {
-      if (end() > guidetext::SentencesFrom) reportMissing(GreyedMark, "ahead of the title");
+      if (end() > guidetext::SentencesFrom) reportMissing(GreyedMark, said("ahead of the title"));
       return;
     }
     const auto from = static_cast<int>(lineAhead.size());
     const Stretch lies = {from, from + TitleTabs + static_cast<int>(text_.title.size())};
     const Stretch greyed = {guidetext::GreyedFrom, guidetext::GreyedTo};
     if (lies.from != greyed.from || lies.to != greyed.to)
-      report(*line, "the title, in the list of the analysed texts,", lies, greyed);
+      report(*line, said("the title, in the list of the analysed texts,"), lies, greyed);
   }
 
  private:
@@ -131,13 +134,13 @@ class GuideTextChecker {
   [[nodiscard]] int end() const { return endOf(text_, text_.paragraphs.size()); }
 
   void reportMissing(std::string_view mark, const std::string& where) {
-    problems_.add({file_}, "\"" + std::string(mark) + "\" is missing " + where);
+    problems_.add({file_}, said("\"{}\" is missing {}", mark, where));
   }
   void report(int line, const std::string& what, Stretch lies, Stretch wanted) {
-    problems_.add({file_, line, 1},
-                  what + " takes the characters " + std::to_string(lies.from) + " to " +
-                      std::to_string(lies.to) + "; the program looks for it between " +
-                      std::to_string(wanted.from) + " and " + std::to_string(wanted.to));
+    problems_.add(
+        {file_, line, 1},
+        said("{} takes the characters {} to {}; the program looks for it between {} and {}", what,
+             lies.from, lies.to, wanted.from, wanted.to));
   }
 
   std::string_view source_;

@@ -1,5 +1,7 @@
 #include "pack/Gunzip.h"
 
+#include "pack/Message.h"
+
 #include <zlib.h>
 
 #include <array>
@@ -19,7 +21,7 @@ struct EndInflating {
 };
 
 Unpacked failed(std::string_view what, const z_stream& stream) {
-  return {std::nullopt, "offset " + std::to_string(stream.total_in) + ": " + std::string(what)};
+  return {std::nullopt, said("offset {}: {}", stream.total_in, what)};
 }
 
 } // namespace
@@ -27,7 +29,7 @@ Unpacked failed(std::string_view what, const z_stream& stream) {
 Unpacked unpacked(std::string_view bytes, std::size_t most) {
   if (!bytes.starts_with(gzipOpener)) return {std::string(bytes), ""};
   z_stream stream{};
-  if (inflateInit2(&stream, gzipWindow) != Z_OK) return failed("zlib does not start", stream);
+  if (inflateInit2(&stream, gzipWindow) != Z_OK) return failed(said("zlib does not start"), stream);
   const std::unique_ptr<z_stream, EndInflating> ending(&stream);
   // zlib reads only; its interface is older than const.
   stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
@@ -39,11 +41,11 @@ Unpacked unpacked(std::string_view bytes, std::size_t most) {
     stream.next_out = step.data();
     stream.avail_out = static_cast<uInt>(step.size());
     result = inflate(&stream, Z_NO_FLUSH);
-    if (result == Z_BUF_ERROR) return failed("the packed file ends too early", stream);
+    if (result == Z_BUF_ERROR) return failed(said("the packed file ends too early"), stream);
     if (result != Z_OK && result != Z_STREAM_END)
-      return failed("the packed file is damaged", stream);
+      return failed(said("the packed file is damaged"), stream);
     content.append(reinterpret_cast<const char*>(step.data()), step.size() - stream.avail_out);
-    if (content.size() > most) return failed("the unpacked file is too large", stream);
+    if (content.size() > most) return failed(said("the unpacked file is too large"), stream);
   }
   return {std::move(content), ""};
 }

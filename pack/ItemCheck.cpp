@@ -1,6 +1,8 @@
 // Counting of what an item is made of.
 #include "pack/ItemCheck.h"
 
+#include "pack/Message.h"
+
 #include "formats/Limits.h"
 #include "text/Text.h"
 
@@ -17,19 +19,15 @@ constexpr int fewestPhrases = 2;
 constexpr int mostPhrases = 6;
 constexpr int mostBlanks = limit::Blanks;
 
-std::string counted(std::size_t count, const std::string& name) {
-  return std::to_string(count) + " " + name + (count == 1 ? "" : "s");
-}
-
 void checkFill(const Item& item, const ItemText& text, const Where& hints, Problems& problems) {
-  if (text.braces == 0) problems.add(item.where, "a fill item has at least one blank");
-  if (text.braces > mostBlanks) problems.add(item.where, "an item has at most 1000 blanks");
+  if (text.braces == 0) problems.add(item.where, said("a fill item has at least one blank"));
+  if (text.braces > mostBlanks) problems.add(item.where, said("an item has at most 1000 blanks"));
   if (item.hints.empty() || text.braces == 0) return;
   const auto blanks = static_cast<std::size_t>(text.braces);
   if (item.hints.size() != blanks) {
-    problems.add(hints, "there " + std::string(item.hints.size() == 1 ? "is " : "are ") +
-                            counted(item.hints.size(), "hint") + " for " +
-                            counted(blanks, "blank") + "; commas part the hints");
+    problems.add(hints, said("{} for {}; commas part the hints",
+                             saidOf(item.hints.size(), "there is {} hint", "there are {} hints"),
+                             saidOf(blanks, "{} blank", "{} blanks")));
   }
 }
 
@@ -55,27 +53,28 @@ bool hasOptionsAlike(const std::vector<std::string>& options) {
 }
 
 void checkChoice(const Item& item, const ItemText& text, Problems& problems) {
-  if (text.stored.empty()) problems.add(item.where, "the stem is missing");
+  if (text.stored.empty()) problems.add(item.where, said("the stem is missing"));
   if (item.options.size() != optionCount) {
     problems.add(item.where,
-                 "a choice has four options and this one " + std::to_string(item.options.size()));
+                 said("a choice has four options and this one {}", item.options.size()));
   } else if (item.key == 0) {
-    problems.add(item.where, "the right option (\"+ ...\") is missing");
+    problems.add(item.where, said("the right option (\"+ ...\") is missing"));
   }
   if (hasOptionsAlike(item.options))
-    problems.add(item.where, "two options differ in their capitals alone");
-  if (text.marks > 0) problems.add(item.where, "only a phrase of a mistake item begins with \"!\"");
+    problems.add(item.where, said("two options differ in their capitals alone"));
+  if (text.marks > 0)
+    problems.add(item.where, said("only a phrase of a mistake item begins with \"!\""));
   if (text.hasGap && text.braces > 0)
-    problems.add(item.where, "a stem has either a phrase in braces or a gap of \"_\"");
+    problems.add(item.where, said("a stem has either a phrase in braces or a gap of \"_\""));
   if (hasDigitsInAPhrase(text.stored))
-    problems.add(item.where, "a phrase of a choice item has no digits");
+    problems.add(item.where, said("a phrase of a choice item has no digits"));
 }
 
 void checkMistake(const Item& item, const ItemText& text, Problems& problems) {
-  if (text.marks != 1) problems.add(item.where, "exactly one phrase begins with \"!\"");
+  if (text.marks != 1) problems.add(item.where, said("exactly one phrase begins with \"!\""));
   if (text.braces < fewestPhrases || text.braces > mostPhrases)
-    problems.add(item.where, "a mistake item has two to six phrases in braces");
-  if (text.hasGap) problems.add(item.where, "\"_\" cannot stand in a mistake item");
+    problems.add(item.where, said("a mistake item has two to six phrases in braces"));
+  if (text.hasGap) problems.add(item.where, said("\"_\" cannot stand in a mistake item"));
 }
 
 } // namespace
@@ -92,7 +91,7 @@ void checkWhole(const Item& item, const ItemText& text, const Where& hints, Prob
     checkMistake(item, text, problems);
     break;
   case ItemForm::Order:
-    if (item.options.empty()) problems.add(item.where, "the sentences are missing");
+    if (item.options.empty()) problems.add(item.where, said("the sentences are missing"));
     break;
   }
 }

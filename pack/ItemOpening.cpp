@@ -3,6 +3,7 @@
 
 #include "pack/ItemHeadings.h"
 #include "pack/ItemNotation.h"
+#include "pack/Message.h"
 #include "pack/NearestName.h"
 #include "text/Text.h"
 
@@ -25,16 +26,16 @@ class OpeningParser {
     if (!form) return std::nullopt;
     const bool order = *form == ItemForm::Order;
     if (order && place_ == ItemPlace::Bank) {
-      report("an ordering item belongs among a lesson's items: in a bank it ends the run",
+      report(said("an ordering item belongs among a lesson's items: in a bank it ends the run"),
              itemOpener.size());
     }
     int heading = 0;
     if (comma != std::string_view::npos) {
       heading = readHeading(rest.substr(comma + 1));
     } else if (!order) {
-      report("the heading is missing; \"none\" stands for no heading");
+      report(said("the heading is missing; \"none\" stands for no heading"));
     }
-    if (order && heading != 0) report("an ordering item has no heading");
+    if (order && heading != 0) report(said("an ordering item has no heading"));
     return ItemOpening{*form, heading};
   }
 
@@ -51,7 +52,7 @@ class OpeningParser {
       std::vector<std::string> kinds;
       for (const FormName& each : formNames)
         kinds.emplace_back(each.name);
-      report("the kind must be fill, choice, mistake or order" + didYouMean(name, kinds),
+      report(said("the kind must be fill, choice, mistake or order") + didYouMean(name, kinds),
              itemOpener.size());
     }
     return std::nullopt;
@@ -65,8 +66,7 @@ class OpeningParser {
     const bool known = std::any_of(formNames.begin(), formNames.end(),
                                    [&](const FormName& each) { return each.name == kind; });
     if (!known || heading.empty()) return false;
-    report("a comma is missing: \"item: " + kind + ", " + heading + "\"",
-           itemOpener.size() + blank);
+    report(said("a comma is missing: \"item: {}, {}\"", kind, heading), itemOpener.size() + blank);
     return true;
   }
 
@@ -77,8 +77,8 @@ class OpeningParser {
     std::string list;
     for (const std::string& each : names)
       list += (list.empty() ? "" : ", ") + each;
-    report((place_ == ItemPlace::Bank ? "a bank has no heading of this name"
-                                      : "a lesson's items have no heading of this name") +
+    report((place_ == ItemPlace::Bank ? said("a bank has no heading of this name")
+                                      : said("a lesson's items have no heading of this name")) +
                didYouMean(trim(name), names) + " (" + list + ")",
            line_.text.find(',') + 1);
     return 0;
@@ -97,8 +97,7 @@ std::optional<ItemOpening> parseItemOpening(const SourceLine& line, const KeyLin
                                             Problems& problems) {
   if (key.exact) return OpeningParser(line, file, place, problems).run();
   problems.add({file, line.number, 1},
-               std::string(ItemFirstLine) +
-                   (key.written == "item" ? "" : "; did you mean \"item:\"?"));
+               translated(ItemFirstLine) + (key.written == "item" ? "" : didYouMean("item:")));
   return std::nullopt;
 }
 

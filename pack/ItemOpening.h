@@ -3,6 +3,7 @@
 
 #include "pack/Item.h"
 #include "pack/ItemKeys.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 
 #include <optional>
@@ -12,7 +13,8 @@
 namespace talvora::pack {
 
 /// How the line is asked for.
-inline constexpr std::string_view ItemFirstLine = "an item begins with \"item: KIND, HEADING\"";
+inline constexpr std::string_view ItemFirstLine =
+    toSay("an item begins with \"item: KIND, HEADING\"");
 
 struct ItemOpening {
   ItemForm form = ItemForm::Fill;

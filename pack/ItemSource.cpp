@@ -6,6 +6,8 @@
 #include "pack/ItemNotation.h"
 #include "pack/ItemOpening.h"
 #include "pack/ItemText.h"
+#include "pack/Message.h"
+#include "pack/NearestName.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/Bytes.h"
@@ -53,7 +55,7 @@ class ItemParser {
     } else if (begun_) {
       readContent(line, key);
     } else if (!std::exchange(skipping_, true)) {
-      report(line, std::string(ItemFirstLine));
+      report(line, translated(ItemFirstLine));
     }
   }
 
@@ -111,12 +113,12 @@ class ItemParser {
   void reportKey(const SourceLine& line, const KeyLine& key) {
     const std::string written = inQuotes(std::string(key.written) + ":");
     if (key.key == ItemKey::None) {
-      report(line, written + " is no key: there are item, id, about, hints, explain and see");
+      report(line,
+             said("{} is no key: there are item, id, about, hints, explain and see", written));
     } else if (key.written == wordOf(key.key)) {
-      report(line, "a blank must stand behind " + written + " and something behind that");
+      report(line, said("a blank must stand behind {} and something behind that", written));
     } else {
-      report(line, written + " is no key; did you mean " +
-                       inQuotes(std::string(wordOf(key.key)) + ":") + "?");
+      report(line, said("{} is no key", written) + didYouMean(std::string(wordOf(key.key)) + ":"));
     }
     sound_ = false;
   }
@@ -125,24 +127,26 @@ class ItemParser {
     const bool colon = key.written.size() < line.text.size();
     const bool known = key.written.starts_with(explainOpener);
     if (!known) {
-      report(line, inQuotes(std::string(key.written) + ":") +
-                       " is no key; did you mean \"explain:\" or \"explain NUMBER:\"?");
+      report(line, said("{} is no key; did you mean \"explain:\" or \"explain NUMBER:\"?",
+                        inQuotes(std::string(key.written) + ":")));
     } else if (colon) {
-      report(line, "an explanation begins on the line below", key.written.size() + 1);
+      report(line, said("an explanation begins on the line below"), key.written.size() + 1);
     } else {
-      report(line, "the colon behind " + inQuotes(key.written) + " is missing", key.written.size());
+      report(line, said("the colon behind {} is missing", inQuotes(key.written)),
+             key.written.size());
     }
   }
 
   /// Lines that stand ahead of the question.
   void readLeadingLine(const SourceLine& line, ItemKey key) {
     if (started_) {
-      report(line, inQuotes(std::string(wordOf(key)) + ":") + " stands ahead of the question");
+      report(line,
+             said("{} stands ahead of the question", inQuotes(std::string(wordOf(key)) + ":")));
       sound_ = false;
       return;
     }
     if (key == ItemKey::Hints) {
-      if (item_.form != ItemForm::Fill) report(line, "only a fill item has hints");
+      if (item_.form != ItemForm::Fill) report(line, said("only a fill item has hints"));
       hintsAt_ = placeOf(line);
       readHints(line);
     } else if (key == ItemKey::Id) {
@@ -160,7 +164,7 @@ class ItemParser {
       const std::size_t to = std::min(line.text.find(',', from), line.text.size());
       const std::string hint = sourceText(trim(line.text.substr(from, to - from)),
                                           placeOf(line, from), "@`*|_", problems_);
-      if (hint.empty()) report(line, "a hint is missing here", from);
+      if (hint.empty()) report(line, said("a hint is missing here"), from);
       item_.hints.push_back(hint);
       if (to == line.text.size()) return;
       from = to + 1;
@@ -171,7 +175,7 @@ class ItemParser {
     constexpr std::string_view allowed = "abcdefghijklmnopqrstuvwxyz0123456789-";
     item_.id = line.text.substr(idOpener.size());
     if (item_.id.find_first_not_of(allowed) == std::string::npos) return;
-    report(line, "an id is made of small letters, digits and \"-\"", idOpener.size());
+    report(line, said("an id is made of small letters, digits and \"-\""), idOpener.size());
     item_.id.clear();
   }
 
@@ -179,7 +183,7 @@ class ItemParser {
 
   void readText(const SourceLine& line) {
     if (explaining_ == nullptr && isForgottenExplanation(line)) {
-      report(line, "this reads like an explanation; \"explain:\" is missing ahead of it");
+      report(line, said("this reads like an explanation; \"explain:\" is missing ahead of it"));
       startExplanation(line, 0);
     }
     if (explaining_ != nullptr) {
@@ -212,7 +216,7 @@ class ItemParser {
     } else if (isOption(line)) {
       readOption(line);
     } else if (!item_.options.empty()) {
-      report(line, "behind the options only explanations may stand");
+      report(line, said("behind the options only explanations may stand"));
     } else {
       if (started_) text_.stored.append(emptyLines_ + 1, '\r');
       parseItemLine(line.text, {file_, line.number, 1}, braceUseOf(item_.form), text_, problems_);
@@ -224,13 +228,13 @@ class ItemParser {
     const Where where = placeOf(line, rightOpener.size());
     const std::string option = sourceText(written, where, "@`*|{}+", problems_);
     checkBlanks(option, where, problems_);
-    if (option.empty()) problems_.add(where, "an option is missing here");
+    if (option.empty()) problems_.add(where, said("an option is missing here"));
     const bool twice =
         std::find(item_.options.begin(), item_.options.end(), option) != item_.options.end();
-    if (twice) problems_.add(where, "the item has this option already");
+    if (twice) problems_.add(where, said("the item has this option already"));
     item_.options.push_back(option);
     if (!line.text.starts_with(rightOpener)) return;
-    if (item_.key != 0) report(line, "there is a right option already");
+    if (item_.key != 0) report(line, said("there is a right option already"));
     item_.key = static_cast<int>(item_.options.size());
   }
 
@@ -243,24 +247,24 @@ class ItemParser {
     checkBlanks(text, where, problems_);
     const bool waits = item_.translations.size() < item_.options.size();
     if (!translation && waits && hasVietnameseLetters(line.text)) {
-      report(line, "a translation begins with \"= \"");
+      report(line, said("a translation begins with \"= \""));
       translation = true;
     }
     if (translation) {
-      if (!waits) report(line, "this translation has no sentence");
+      if (!waits) report(line, said("this translation has no sentence"));
       item_.translations.push_back(text);
       return;
     }
     expectTranslation();
     if (std::count(text.begin(), text.end(), ' ') < fewestBlanksBetweenWords)
-      report(line, "a sentence to be ordered has at least four words");
+      report(line, said("a sentence to be ordered has at least four words"));
     sentenceAt_ = where;
     item_.options.push_back(text);
   }
 
   void expectTranslation() {
     if (item_.translations.size() >= item_.options.size()) return;
-    problems_.add(sentenceAt_, "this sentence needs a translation below it (\"= ...\")");
+    problems_.add(sentenceAt_, said("this sentence needs a translation below it (\"= ...\")"));
     item_.translations.resize(item_.options.size());
   }
 
@@ -274,16 +278,17 @@ class ItemParser {
       const auto [end, failure] =
           std::from_chars(number.data(), number.data() + number.size(), value);
       if (failure != std::errc() || end != number.data() + number.size() || value < 1) {
-        report(line, "this must read \"explain:\" or \"explain NUMBER:\"");
+        report(line, said("this must read \"explain:\" or \"explain NUMBER:\""));
         value = 1;
       }
     }
-    if (item_.form == ItemForm::Order) report(line, "an ordering item has no explanations");
-    if (value <= lastExplained_) report(line, "explanations stand in rising order, each once");
+    if (item_.form == ItemForm::Order) report(line, said("an ordering item has no explanations"));
+    if (value <= lastExplained_)
+      report(line, said("explanations stand in rising order, each once"));
     if (value > 0 && item_.form == ItemForm::Fill && help_ == BlankHelp::VerbLessons)
-      report(line, "in this bank the program explains each blank with the lessons 2 to 69");
+      report(line, said("in this bank the program explains each blank with the lessons 2 to 69"));
     if (value > braces() && item_.form != ItemForm::Order && sound_)
-      report(line, "the item has only " + std::to_string(braces()) + " to explain");
+      report(line, said("the item has only {} to explain", braces()));
     startExplanation(line, value);
   }
 
@@ -298,10 +303,9 @@ class ItemParser {
 
   void finishExplanation() {
     if (explaining_ == nullptr || !explaining_->empty()) return;
-    problems_.add(explainedAt_,
-                  explainedNumber_ == 0
-                      ? "the general explanation is empty"
-                      : "explanation " + std::to_string(explainedNumber_) + " is empty");
+    problems_.add(explainedAt_, explainedNumber_ == 0
+                                    ? said("the general explanation is empty")
+                                    : said("explanation {} is empty", explainedNumber_));
   }
 
   [[nodiscard]] int braces() const {
@@ -315,11 +319,12 @@ class ItemParser {
 
   void readReference(const SourceLine& line) {
     if (explaining_ == nullptr) {
-      report(line, "\"see:\" stands in an explanation; \"explain NUMBER:\" is missing ahead of it");
+      report(line,
+             said("\"see:\" stands in an explanation; \"explain NUMBER:\" is missing ahead of it"));
       sound_ = false;
       return;
     }
-    if (explainedNumber_ == 0) report(line, "the general explanation cannot lead to lessons");
+    if (explainedNumber_ == 0) report(line, said("the general explanation cannot lead to lessons"));
     addEmptyLines();
     const Where where = placeOf(line, referenceOpener.size());
     const std::string title =
@@ -334,7 +339,7 @@ class ItemParser {
     const MarkedLine text = parseMarkedLine(line.text, where, LineKind::Explanation, problems_);
     const bool coloured = text.blueFrom || std::count(text.red.begin(), text.red.end(), true) > 0;
     if (explainedNumber_ == 0 && coloured && problems_.all().size() == before)
-      report(line, "the general explanation has no colours");
+      report(line, said("the general explanation has no colours"));
     explaining_->push_back({text, false, where});
   }
 

@@ -2,6 +2,7 @@
 #include "pack/ItemText.h"
 
 #include "pack/MarkedLine.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "text/Bytes.h"
 
@@ -31,8 +32,8 @@ class ItemLineParser {
       : utf8_(utf8), where_(where), use_(use), text_(text), problems_(problems) {}
 
   void run() {
-    if (utf8_.starts_with('+')) report(0, "a line of a question cannot begin with \"+\"");
-    if (utf8_.starts_with(' ') || utf8_.ends_with(' ')) report(0, "a blank at an end");
+    if (utf8_.starts_with('+')) report(0, said("a line of a question cannot begin with \"+\""));
+    if (utf8_.starts_with(' ') || utf8_.ends_with(' ')) report(0, said("a blank at an end"));
     std::size_t at = 0;
     while (at < utf8_.size()) {
       const std::size_t brace = std::min(utf8_.find('{', at), utf8_.size());
@@ -40,7 +41,7 @@ class ItemLineParser {
       if (brace == utf8_.size()) return;
       const std::size_t end = utf8_.find('}', brace);
       if (end == std::string_view::npos || utf8_.find('{', brace + 1) < end) {
-        report(brace, "this \"{\" is not closed on its line");
+        report(brace, said("this \"{{\" is not closed on its line"));
         return;
       }
       at = use_ == BraceUse::Answer ? addAnswer(brace, end) : addPhrase(brace, end);
@@ -60,21 +61,22 @@ class ItemLineParser {
   void addPlain(std::size_t from, std::size_t to) {
     const std::string plain = bytes(from, to, questionMarks);
     if (plain.find('_') != std::string::npos) {
-      if (use_ == BraceUse::Answer) report(from, "\"_\" stands only right behind a \"}\"");
+      if (use_ == BraceUse::Answer) report(from, said("\"_\" stands only right behind a \"}}\""));
       text_.hasGap = true;
     }
     text_.stored += plain;
   }
 
   std::size_t addAnswer(std::size_t brace, std::size_t end) {
-    if (text_.stored.ends_with('_')) report(brace, "something must stand between two blanks");
+    if (text_.stored.ends_with('_')) report(brace, said("something must stand between two blanks"));
     text_.stored += '*';
     if (hasEmptyForm(brace + 1, end))
-      report(brace, "an answer is missing beside the \"|\"; a blank that stays empty is \"{}\"");
+      report(brace,
+             said("an answer is missing beside the \"|\"; a blank that stays empty is \"{{}}\""));
     std::size_t from = brace + 1;
     for (std::size_t form = 1;; ++form) {
       const std::size_t to = std::min(utf8_.find('|', from), end);
-      if (form > mostForms) report(from, "at most two answers are accepted");
+      if (form > mostForms) report(from, said("at most two answers are accepted"));
       addForm(from, to);
       if (to == end) break;
       text_.stored += '\\';
@@ -100,8 +102,8 @@ class ItemLineParser {
     const std::string form = bytes(from, to, "_@`*{\\");
     if (!std::all_of(form.begin(), form.end(), isTypable)) {
       report(from, form.find(rightQuote) == std::string::npos
-                       ? "an answer is typed in plain English letters"
-                       : "an answer is typed in plain English letters; use ' for ’");
+                       ? said("an answer is typed in plain English letters")
+                       : said("an answer is typed in plain English letters; use ' for ’"));
     }
     checkBlanks(form, placeIn(utf8_, from, where_), problems_);
     text_.stored += form;
@@ -116,7 +118,7 @@ class ItemLineParser {
       text_.marked = text_.braces;
     }
     const std::string phrase = bytes(from, end, "_@`*|{");
-    if (phrase.empty()) report(from, "a phrase is missing here");
+    if (phrase.empty()) report(from, said("a phrase is missing here"));
     checkBlanks(phrase, placeIn(utf8_, from, where_), problems_);
     openPhrase(brace);
     text_.stored += '*' + phrase + '_';
@@ -126,9 +128,9 @@ class ItemLineParser {
   /// The marks of a phrase are shown as blanks, so that one between it and a word falls away.
   void openPhrase(std::size_t brace) {
     std::string& stored = text_.stored;
-    if (stored.ends_with('_')) report(brace, "something must stand between two phrases");
+    if (stored.ends_with('_')) report(brace, said("something must stand between two phrases"));
     if (!stored.empty() && isWordCharacter(stored.back())) {
-      report(brace, "a phrase cannot touch a letter");
+      report(brace, said("a phrase cannot touch a letter"));
     }
     const bool merges =
         stored.size() > 1 && stored.back() == ' ' && isWordCharacter(stored[stored.size() - 2]);
@@ -137,9 +139,9 @@ class ItemLineParser {
 
   std::size_t behindPhrase(std::size_t at) {
     if (at < utf8_.size() && isWordCharacter(utf8_[at])) {
-      report(at, "a phrase cannot touch a letter");
+      report(at, said("a phrase cannot touch a letter"));
     }
-    if (at < utf8_.size() && utf8_[at] == '_') report(at, "a gap cannot touch a phrase");
+    if (at < utf8_.size() && utf8_[at] == '_') report(at, said("a gap cannot touch a phrase"));
     // The program marks one character more than a candidate has, which is so a blank.
     const bool merges = use_ == BraceUse::Phrase && at + 1 < utf8_.size() && utf8_[at] == ' ' &&
                         isWordCharacter(utf8_[at + 1]);

@@ -1,5 +1,6 @@
 #include "pack/KeySentences.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
 #include "pack/StreamText.h"
@@ -76,12 +77,13 @@ std::string checkKeySentences(const std::vector<SpokenText>& texts, Problems& pr
         covered[other] = true;
         if (other != own) ++returns;
       }
-      const std::string name = "the key sentence \"" + key.text + "\"";
       if (key.words.empty() || !has(all[own], key)) {
-        problems.add(key.where, name + " stands nowhere in its text");
+        problems.add(key.where,
+                     said("the key sentence \"{}\" stands nowhere in its text", key.text));
       } else if (returns < KeyReturns) {
-        problems.add(key.where, name + " returns in " + std::to_string(returns) +
-                                    " other texts; it should in " + std::to_string(KeyReturns));
+        problems.add(key.where,
+                     said("the key sentence \"{}\" returns in {} other texts; it should in {}",
+                          key.text, returns, KeyReturns));
       }
     }
   }
@@ -93,8 +95,8 @@ std::string checkKeySentences(const std::vector<SpokenText>& texts, Problems& pr
     if (!covered[at]) ++without;
   }
   if (without == 0) return {};
-  return "speaking texts: " + std::to_string(without) + " of " + std::to_string(conversations) +
-         " conversations have no key sentence";
+  return said("speaking texts: {} of {} conversations have no key sentence", without,
+              conversations);
 }
 
 std::string checkKeySentencesIn(const std::filesystem::path& folder, Problems& problems) {

@@ -1,5 +1,8 @@
 #include "pack/LearnersList.h"
 
+#include "pack/Message.h"
+#include "pack/Telling.h"
+
 #include "formats/LearnerFiles.h"
 #include "learner/LearnerLock.h"
 #include "learner/LearnerWords.h"
@@ -21,16 +24,6 @@ LearnerWords wordsOf(const LearnersList& list) {
   return {list.folder, list.files, list.calendar};
 }
 
-ListResult tellUnreadable(const LearnersList& list, std::ostream& out) {
-  out << "Không đọc được từ vựng trong " << list.folder << "\n";
-  return ListResult::Impossible;
-}
-
-ListResult tellRunning(std::ostream& out) {
-  out << "Talvora đang chạy rồi.\n";
-  return ListResult::Impossible;
-}
-
 std::set<std::string> spellingsOf(const Words& words) {
   std::set<std::string> spellings;
   for (const VocabularyWord& word : words)
@@ -43,7 +36,9 @@ void tellRow(const WordRow& row, std::ostream& out) {
   if (!row.where.title.empty()) out << "\t" << readableText(row.where.title);
   if (!row.where.words.empty()) out << "\t" << readableText(trim(row.where.words));
   if (row.where.place == 0) {
-    out << (row.where.words.empty() ? "\t(không có câu)" : "\t(câu này không còn trong bài học)");
+    out << "\t"
+        << (row.where.words.empty() ? said("(without a sentence)")
+                                    : said("(this sentence is no longer in the course)"));
   }
   out << "\n";
 }
@@ -109,14 +104,16 @@ Oddities odditiesOf(const VocabularyContent& content, const TextCatalogue* catal
 }
 
 bool tell(const Oddities& found, const VocabularyContent& content, std::ostream& out) {
-  if (found.oddBytes != 0) out << "Cuối tệp thừa " << found.oddBytes << " byte.\n";
+  if (found.oddBytes != 0)
+    out << said("{} bytes too many at the end of the file.", found.oddBytes) << "\n";
   for (const std::size_t at : found.empty)
-    out << "Dòng " << at + 1 << " không có từ.\n";
+    out << said("Line {} has no word.", at + 1) << "\n";
   const auto name = [&](std::size_t at) { return readableText(content.words[at].word()); };
   for (const std::size_t at : found.twice)
-    out << "Dòng " << at + 1 << ": từ " << name(at) << " đã có ở trên.\n";
+    out << said("Line {}: the word {} stands above already.", at + 1, name(at)) << "\n";
   for (const std::size_t at : found.astray)
-    out << "Dòng " << at + 1 << ": câu của từ " << name(at) << " không ở đúng chỗ.\n";
+    out << said("Line {}: the sentence of the word {} is not at its place.", at + 1, name(at))
+        << "\n";
   return found.oddBytes != 0 || !found.empty.empty() || !found.twice.empty() ||
          !found.astray.empty();
 }
@@ -143,14 +140,14 @@ Words mended(const VocabularyContent& content, const Oddities& found, LearnerWor
 ListResult listWords(const LearnersList& list, std::ostream& out) {
   LearnerWords words = wordsOf(list);
   const auto there = words.peek();
-  if (!there) return tellUnreadable(list, out);
+  if (!there) return tellUnreadable(list.folder, out);
   std::size_t gone = 0;
   for (const WordRow& row : words.rowsOf(*there)) {
     tellRow(row, out);
     if (row.where.place == 0 && !row.where.words.empty()) ++gone;
   }
-  out << there->size() << " từ";
-  if (gone > 0) out << ", " << gone << " từ có câu không còn trong bài học";
+  out << saidOf(there->size(), "{} word", "{} words");
+  if (gone > 0) out << said(", {} of them with a sentence that is no longer in the course", gone);
   out << "\n";
   return ListResult::Fine;
 }
@@ -159,8 +156,8 @@ ListResult listBackups(const LearnersList& list, std::ostream& out) {
   const DatedCopies copies(list.folder, list.files, list.calendar);
   const auto all = copies.all();
   for (const DatedCopy& copy : all)
-    out << copy.name << "\t" << copy.words << " từ\n";
-  if (all.empty()) out << "Chưa có bản sao nào.\n";
+    out << copy.name << "\t" << saidOf(copy.words, "{} word", "{} words") << "\n";
+  if (all.empty()) out << said("There are no copies yet.") << "\n";
   return ListResult::Fine;
 }
 
@@ -174,19 +171,21 @@ ListResult restoreWords(const LearnersList& list, const std::string& copy, Doing
   const DatedCopies copies(list.folder, list.files, list.calendar);
   const std::string from = copy.empty() ? newestWithMissing(copies, *there) : copy;
   if (!copy.empty() && !copies.read(copy, learnerfile::Words)) {
-    out << "Không có bản sao " << copy << ".\n";
+    out << said("There is no copy {}.", copy) << "\n";
     return ListResult::Impossible;
   }
   const auto rows = missingRows(copies, from, *there);
   if (rows.empty()) {
-    out << "Không có từ nào để lấy lại.\n";
+    out << said("There is no word to bring back.") << "\n";
     return ListResult::Fine;
   }
-  out << "Từ bản sao " << from << ":\n";
+  out << said("From the copy {}:", from) << "\n";
   for (const WordRow& row : rows)
     tellRow(row, out);
   if (doing == Doing::Show) {
-    out << rows.size() << " từ sẽ được lấy lại nếu thêm --yes.\n";
+    out << saidOf(rows.size(), "{} word will be brought back if --yes is added.",
+                  "{} words will be brought back if --yes is added.")
+        << "\n";
     return ListResult::Found;
   }
   words.open();
@@ -194,11 +193,9 @@ ListResult restoreWords(const LearnersList& list, const std::string& copy, Doing
   words.adopt(rows);
   for (const WordRow& row : rows)
     there->push_back(row.record());
-  if (const auto problem = words.write(*there)) {
-    out << "Không ghi được: " << *problem << "\n";
-    return ListResult::Impossible;
-  }
-  out << "Đã lấy lại " << rows.size() << " từ.\n";
+  if (const auto problem = words.write(*there)) return tellUnwritten(*problem, out);
+  out << saidOf(rows.size(), "{} word has been brought back.", "{} words have been brought back.")
+      << "\n";
   return ListResult::Fine;
 }
 
@@ -209,17 +206,17 @@ ListResult checkWords(const LearnersList& list, const std::optional<std::string>
   std::error_code error;
   const auto bytes =
       readWhole(list.files, list.folder + "/" + std::string(learnerfile::Words), error);
-  if (!bytes) return tellUnreadable(list, out);
+  if (!bytes) return tellUnreadable(list.folder, out);
   std::optional<TextCatalogue> catalogue;
   if (pack) catalogue.emplace(*pack, list.folder, list.files);
   const VocabularyContent content = vocabularyFrom(*bytes);
   const Oddities found = odditiesOf(content, catalogue ? &*catalogue : nullptr);
   if (!tell(found, content, out)) {
-    out << content.words.size() << " từ, không có gì lạ.\n";
+    out << saidOf(content.words.size(), "{} word, nothing odd.", "{} words, nothing odd.") << "\n";
     return ListResult::Fine;
   }
   if (doing == Doing::Show) {
-    out << "Thêm --mend để sửa.\n";
+    out << said("Add --mend to mend this.") << "\n";
     return ListResult::Found;
   }
   LearnerWords words = wordsOf(list);
@@ -228,11 +225,8 @@ ListResult checkWords(const LearnersList& list, const std::optional<std::string>
   words.dropOddBytes();
   auto problem = words.write(mended(content, found, words));
   if (!problem && catalogue) static_cast<void>(words.carry(*catalogue));
-  if (problem) {
-    out << "Không ghi được: " << *problem << "\n";
-    return ListResult::Impossible;
-  }
-  out << "Đã sửa.\n";
+  if (problem) return tellUnwritten(*problem, out);
+  out << said("Mended.") << "\n";
   return ListResult::Fine;
 }
 

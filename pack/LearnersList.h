@@ -2,6 +2,7 @@
 // words`. It speaks Vietnamese, in UTF-8, for it is the learner who asks.
 #pragma once
 
+#include "pack/Telling.h"
 #include "platform/Calendar.h"
 #include "platform/FileSystem.h"
 
@@ -17,9 +18,6 @@ struct LearnersList {
   FileSystem& files = systemFiles();
   const Calendar& calendar = systemCalendar();
 };
-
-/// What came of it; the numbers are exit codes.
-enum class ListResult { Fine = 0, Found = 1, Impossible = 2 };
 
 /// All words with their texts and sentences; those whose sentence is in the pack no more are
 /// marked.

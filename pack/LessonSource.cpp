@@ -1,6 +1,7 @@
 // Parsing and writing of rule lessons.
 #include "pack/LessonSource.h"
 
+#include "pack/Message.h"
 #include "pack/ReadingSource.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
@@ -36,8 +37,8 @@ class LessonParser {
   }
 
   Lesson finish() {
-    if (!titleRead_) problems_.add({file_, 1, 1}, "the lesson has no title");
-    if (titleRead_ && lesson_.lines.empty()) problems_.add({file_}, "the lesson has no text");
+    if (!titleRead_) problems_.add({file_, 1, 1}, said("the lesson has no title"));
+    if (titleRead_ && lesson_.lines.empty()) problems_.add({file_}, said("the lesson has no text"));
     return std::move(lesson_);
   }
 
@@ -46,14 +47,15 @@ class LessonParser {
     if (line.text.empty()) return;
     titleRead_ = true;
     if (!line.text.starts_with(titleOpener)) {
-      problems_.add({file_, line.number, 1}, "the first line must be \"title: ...\"");
+      problems_.add({file_, line.number, 1}, said("the first line must be \"title: ...\""));
       return;
     }
     const Where where{file_, line.number, static_cast<int>(titleOpener.size()) + 1};
     lesson_.title = sourceText(line.text.substr(titleOpener.size()), where, titleMarks, problems_);
     checkBlanks(lesson_.title, where, problems_);
-    if (lesson_.title.empty()) problems_.add(where, "a title is missing here");
-    if (lesson_.title.starts_with('.')) problems_.add(where, "a title cannot begin with a point");
+    if (lesson_.title.empty()) problems_.add(where, said("a title is missing here"));
+    if (lesson_.title.starts_with('.'))
+      problems_.add(where, said("a title cannot begin with a point"));
   }
 
   const std::string& file_;
@@ -69,8 +71,8 @@ void checkTitles(const LessonSource& source, const std::map<int, std::string>& f
   for (const auto& [slot, lesson] : source.lessons) {
     const auto [first, isNew] = slots.emplace(lesson.title, slot);
     if (!isNew && !lesson.title.empty()) {
-      problems.add({files.at(slot), 1, 1}, "lesson " + std::to_string(first->second) +
-                                               " has the same title: " + files.at(first->second));
+      problems.add({files.at(slot), 1, 1}, said("lesson {} has the same title: {}", first->second,
+                                                files.at(first->second)));
     }
   }
 }
@@ -116,7 +118,8 @@ bool holdsItems(const std::filesystem::path& path) {
 LessonSource readLessons(const std::filesystem::path& folder, Problems& problems) {
   LessonSource source;
   std::map<int, std::string> files;
-  reportStrangers(folder, "no lesson is read from it: lessons are files NNN-slug.txt", problems);
+  reportStrangers(folder, said("no lesson is read from it: lessons are files NNN-slug.txt"),
+                  problems);
   for (const auto& path : textFilesIn(folder)) {
     const std::string file = path.string();
     if (path.filename() == headingsFile) {
@@ -125,11 +128,10 @@ LessonSource readLessons(const std::filesystem::path& folder, Problems& problems
     }
     const auto slot = lessonSlotOf(path);
     if (!slot) {
-      problems.add({file}, "the name must be NNN-slug.txt with a slot from 001 to 357");
+      problems.add({file}, said("the name must be NNN-slug.txt with a slot from 001 to 357"));
     } else if (!holdsItems(path)) {
       if (const auto [first, isNew] = files.emplace(*slot, file); !isNew) {
-        problems.add({file},
-                     "slot " + std::to_string(*slot) + " has a lesson already: " + first->second);
+        problems.add({file}, said("slot {} has a lesson already: {}", *slot, first->second));
         continue;
       }
       source.lessons[*slot] = parseLesson(readText(path, problems), file, problems);
@@ -139,7 +141,7 @@ LessonSource readLessons(const std::filesystem::path& folder, Problems& problems
   for (const auto& [slot, heading] : source.headings) {
     if (source.lessons.count(slot) == 0) continue;
     problems.add({(folder / headingsFile).string()},
-                 "slot " + std::to_string(slot) + " holds a lesson; it cannot be a heading");
+                 said("slot {} holds a lesson; it cannot be a heading", slot));
   }
   return source;
 }

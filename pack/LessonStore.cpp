@@ -3,6 +3,7 @@
 
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -74,8 +75,7 @@ LessonSource decodeLessons(std::string_view positions, std::string_view stream,
     const auto record = static_cast<std::size_t>(slot);
     const auto plain = storedUntil(stream, integerAt(positions, record), textEnd);
     if (!plain) {
-      problems.add({std::string(packfile::Lessons)},
-                   "lesson " + std::to_string(slot) + " cannot be read");
+      problems.add({std::string(packfile::Lessons)}, said("lesson {} cannot be read", slot));
       continue;
     }
     Lesson lesson = lessonFrom(*plain);

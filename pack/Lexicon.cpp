@@ -1,6 +1,8 @@
 // Look-up in flite's lexicon.
 #include "pack/Lexicon.h"
 
+#include "pack/Message.h"
+
 #include <flite/flite.h>
 
 #include <algorithm>
@@ -21,7 +23,7 @@ cst_lexicon& lexicon() {
     flite_init();
     return cmu_lex_init();
   }();
-  if (loaded == nullptr) throw std::runtime_error("flite gives no lexicon for the words");
+  if (loaded == nullptr) throw std::runtime_error(said("flite gives no lexicon for the words"));
   return *loaded;
 }
 

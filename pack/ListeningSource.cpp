@@ -1,6 +1,7 @@
 // Parsing and writing of listening units.
 #include "pack/ListeningSource.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/CharClass.h"
@@ -47,7 +48,7 @@ class UnitParser {
 
   ListeningUnit finish(int lastLine) {
     finishBlock(lastLine);
-    if (unit_.empty()) problems_.add({file_}, "the unit has no items");
+    if (unit_.empty()) problems_.add({file_}, said("the unit has no items"));
     return std::move(unit_);
   }
 
@@ -60,7 +61,7 @@ class UnitParser {
     const auto number = numberIn(line.text.substr(0, colon));
     if (!number || colon == line.text.size()) {
       problems_.add({file_, line.number, 1},
-                    "an item begins with its sentence: \"3: She sells bread.\"");
+                    said("an item begins with its sentence: \"3: She sells bread.\""));
       return;
     }
     item_.number = *number;
@@ -71,20 +72,20 @@ class UnitParser {
     if (bad == item_.sentence.end()) return;
     Where where = item_.where;
     where.column += static_cast<int>(bad - item_.sentence.begin());
-    problems_.add(where, "\"" + utf8Of({&*bad, 1}) + "\" cannot be spoken");
+    problems_.add(where, said("\"{}\" cannot be spoken", utf8Of({&*bad, 1})));
   }
 
   void readAnswer(const SourceLine& line) {
     const bool right = lines_ == 1;
     if (lines_ >= blockLines || !line.text.starts_with(right ? "+ " : "- ")) {
       problems_.add({file_, line.number, 1},
-                    "an item is its sentence, one \"+ \" and three \"- \"");
+                    said("an item is its sentence, one \"+ \" and three \"- \""));
       return;
     }
     const Where where{file_, line.number, 3};
     std::string answer = stretch(line.text.substr(2), where);
-    if (answer.starts_with('-')) problems_.add(where, "an answer cannot begin with a hyphen");
-    if (isTaken(answer)) problems_.add(where, "the item has this answer already");
+    if (answer.starts_with('-')) problems_.add(where, said("an answer cannot begin with a hyphen"));
+    if (isTaken(answer)) problems_.add(where, said("the item has this answer already"));
     (right ? item_.right : item_.wrong[static_cast<std::size_t>(lines_ - 2)]) = std::move(answer);
   }
 
@@ -97,7 +98,7 @@ class UnitParser {
   void finishBlock(int line) {
     if (lines_ == 0) return;
     if (lines_ != blockLines) {
-      problems_.add({file_, line, 1}, "the item above has not one sentence and four answers");
+      problems_.add({file_, line, 1}, said("the item above has not one sentence and four answers"));
     }
     unit_.push_back(std::move(item_));
     item_ = {};
@@ -105,8 +106,9 @@ class UnitParser {
   }
 
   std::string stretch(std::string_view utf8, const Where& where) {
-    if (utf8.empty()) problems_.add(where, "a text is missing here");
-    if (utf8.starts_with(' ') || utf8.ends_with(' ')) problems_.add(where, "a blank at an end");
+    if (utf8.empty()) problems_.add(where, said("a text is missing here"));
+    if (utf8.starts_with(' ') || utf8.ends_with(' '))
+      problems_.add(where, said("a blank at an end"));
     return sourceText(utf8, where, StreamMarks, problems_);
   }
 
@@ -128,7 +130,8 @@ std::array<std::string, 4> labelsIn(std::string_view bytes, const Where& where,
     const bool separated = label + 1 == labels.size() || bytes[label * 3 + 2] == ' ';
     good = separated && labels[label].find(' ') == std::string::npos;
   }
-  if (!good) problems.add(where, "there must be four labels of two characters: \"A. B. C. D.\"");
+  if (!good)
+    problems.add(where, said("there must be four labels of two characters: \"A. B. C. D.\""));
   return labels;
 }
 
@@ -148,12 +151,11 @@ void checkSentence(const ListeningQuestion& item, int script, const ReadingSourc
                    Problems& problems) {
   if (scripts.texts.count(script) == 0 || item.number < 1) return;
   const std::string* sentence = sentenceOf(scripts, script, item.number);
-  const std::string place =
-      "sentence " + std::to_string(item.number) + " of text " + std::to_string(script);
+  const std::string place = said("sentence {} of text {}", item.number, script);
   if (sentence == nullptr) {
-    problems.add(item.where, "there is no " + place);
+    problems.add(item.where, said("there is no {}", place));
   } else if (*sentence != item.sentence) {
-    problems.add(item.where, place + " is \"" + utf8Of(*sentence) + "\"");
+    problems.add(item.where, said("{} is \"{}\"", place, utf8Of(*sentence)));
   }
 }
 
@@ -180,7 +182,7 @@ ListeningPageText parseListeningPage(std::string_view text, const std::string& f
     const bool instruction = line.text.starts_with(instructionOpener);
     if (!instruction && !line.text.starts_with(labelsOpener)) {
       problems.add({file, line.number, 1},
-                   "a line must be \"instruction: ...\" or \"labels: ...\"");
+                   said("a line must be \"instruction: ...\" or \"labels: ...\""));
       continue;
     }
     const std::size_t opener = (instruction ? instructionOpener : labelsOpener).size();
@@ -189,13 +191,13 @@ ListeningPageText parseListeningPage(std::string_view text, const std::string& f
     if (!instruction) {
       page.labels = labelsIn(bytes, where, problems);
     } else if (bytes.size() > ListeningPageText::InstructionLength || bytes.ends_with(' ')) {
-      problems.add(where, "the instruction has at most 36 characters, the last one no blank");
+      problems.add(where, said("the instruction has at most 36 characters, the last one no blank"));
     } else {
       page.instruction = bytes;
     }
   }
-  if (page.instruction.empty()) problems.add({file}, "the page has no instruction");
-  if (page.labels[0].empty()) problems.add({file}, "the page has no labels");
+  if (page.instruction.empty()) problems.add({file}, said("the page has no instruction"));
+  if (page.labels[0].empty()) problems.add({file}, said("the page has no labels"));
   return page;
 }
 
@@ -215,7 +217,7 @@ ListeningSource readListening(const std::filesystem::path& folder, Problems& pro
                           ? numberIn(std::string_view(name).substr(5, 1))
                           : std::nullopt;
     if (!unit) {
-      problems.add({file}, "the name must be unit-N.txt with a unit from 1 to 9");
+      problems.add({file}, said("the name must be unit-N.txt with a unit from 1 to 9"));
       continue;
     }
     source.units[*unit] = parseListeningUnit(text, file, problems);
@@ -224,8 +226,8 @@ ListeningSource readListening(const std::filesystem::path& folder, Problems& pro
   // A unit without a source takes a place as well.
   items += static_cast<std::size_t>(ListeningUnits) - source.units.size();
   if (items > MostListeningItems) {
-    problems.add({folder.string()}, "there are " + std::to_string(items) + " items; at most " +
-                                        std::to_string(MostListeningItems) + " fit");
+    problems.add({folder.string()},
+                 said("there are {} items; at most {} fit", items, MostListeningItems));
   }
   return source;
 }

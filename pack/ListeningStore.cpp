@@ -4,6 +4,7 @@
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
 #include "pack/Guide.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "surface/RichText.h"
 #include "text/Text.h"
@@ -81,7 +82,7 @@ ListeningPageText pageFrom(std::string_view rtf, Problems& problems) {
   const std::string text = readRichText(rtf, {}).text;
   ListeningPageText page;
   if (text.size() < labelsPlace + labelLength * page.labels.size()) {
-    problems.add({std::string(packfile::ListeningPage)}, "the page is too short");
+    problems.add({std::string(packfile::ListeningPage)}, said("the page is too short"));
     return page;
   }
   page.instruction = text.substr(instructionPlace, ListeningPageText::InstructionLength);
@@ -140,8 +141,7 @@ ListeningSource decodeListening(std::string_view positions, std::string_view str
         storedUntil(stream, integerAt(positions, static_cast<std::size_t>(record)), itemEnd);
     auto stored = plain ? itemFrom(*plain) : std::nullopt;
     if (!stored) {
-      problems.add({std::string(packfile::ListeningItems)},
-                   "item " + std::to_string(record) + " cannot be read");
+      problems.add({std::string(packfile::ListeningItems)}, said("item {} cannot be read", record));
       return source;
     }
     const int unit = stored->unit;

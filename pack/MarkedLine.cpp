@@ -1,6 +1,7 @@
 // Reading and writing of coloured lines.
 #include "pack/MarkedLine.h"
 
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -56,7 +57,7 @@ class LineParser {
         at = addStretch(at);
       }
     }
-    if (inRed_) problems_.add(placeOf(redAt_), "this \"*\" is not closed");
+    if (inRed_) problems_.add(placeOf(redAt_), said("this \"*\" is not closed"));
     checkText();
     settleRed(line_, kind_);
     return std::move(line_);
@@ -68,7 +69,7 @@ class LineParser {
   /// Returns the place behind the star and the marks that turn red with the word ahead of them.
   std::size_t toggleRed(std::size_t at) {
     if (inRed_ && isOpening(at)) {
-      problems_.add(placeOf(redAt_), "this \"*\" is not closed");
+      problems_.add(placeOf(redAt_), said("this \"*\" is not closed"));
       inRed_ = false;
     }
     inRed_ = !inRed_;
@@ -95,14 +96,15 @@ class LineParser {
     const bool ended =
         behind == utf8_.size() || redEnds(kind_).find(utf8_[behind]) != std::string_view::npos;
     if (line_.text.size() == redFrom_) {
-      problems_.add(placeOf(at), "there is nothing between the two \"*\"");
+      problems_.add(placeOf(at), said("there is nothing between the two \"*\""));
     } else if (line_.text.back() == ' ' || line_.text[redFrom_] == ' ') {
-      problems_.add(placeOf(at), "a red stretch begins and ends with a word, not with a blank");
+      problems_.add(placeOf(at),
+                    said("a red stretch begins and ends with a word, not with a blank"));
     } else if (kind_ == LineKind::Lesson && !ended) {
-      problems_.add(placeOf(at), "behind the closing \"*\" a blank, one of , . : ; ! ? ) or the "
-                                 "line's end must stand");
+      problems_.add(placeOf(at), said("behind the closing \"*\" a blank, one of , . : ; ! ? ) or "
+                                      "the line's end must stand"));
     } else if (kind_ == LineKind::Explanation && !ended && utf8_[at + 1] == '*') {
-      problems_.add(placeOf(at), "something must stand between two red stretches");
+      problems_.add(placeOf(at), said("something must stand between two red stretches"));
     }
     line_.text += utf8_.substr(at + 1, behind - at - 1);
     line_.red.resize(line_.text.size(), true);
@@ -113,10 +115,10 @@ class LineParser {
     const bool blanks = at > 0 && utf8_[at - 1] == ' ' && utf8_.substr(at).starts_with(blueRest) &&
                         utf8_.size() > at + blueRest.size();
     if (!blanks || inRed_) {
-      problems_.add(placeOf(at), "\">>\" stands between two blanks, outside of red, behind some "
-                                 "text and ahead of some");
+      problems_.add(placeOf(at), said("\">>\" stands between two blanks, outside of red, behind "
+                                      "some text and ahead of some"));
     } else if (line_.blueFrom) {
-      problems_.add(placeOf(at), "the line is blue already");
+      problems_.add(placeOf(at), said("the line is blue already"));
     }
     line_.blueFrom = line_.blueFrom.value_or(line_.text.size());
     return std::min(at + blueRest.size(), utf8_.size());
@@ -135,10 +137,10 @@ class LineParser {
   void checkText() {
     checkBlanks(line_.text, where_, problems_);
     if (kind_ == LineKind::Lesson && line_.text.starts_with('&') && line_.blueFrom != 0U) {
-      problems_.add(where_, "a line cannot begin with \"&\"; \"> \" makes it blue");
+      problems_.add(where_, said("a line cannot begin with \"&\"; \"> \" makes it blue"));
     }
     if (kind_ == LineKind::Explanation && line_.text.starts_with('?')) {
-      problems_.add(where_, "a line cannot begin with \"?\"; \"see: \" leads to a lesson");
+      problems_.add(where_, said("a line cannot begin with \"?\"; \"see: \" leads to a lesson"));
     }
   }
 
@@ -271,10 +273,10 @@ MarkedLine decodeMarkedLine(std::string_view stored, LineKind kind) {
 }
 
 void checkBlanks(std::string_view text, const Where& where, Problems& problems) {
-  if (text.starts_with(' ') || text.ends_with(' ')) problems.add(where, "a blank at an end");
+  if (text.starts_with(' ') || text.ends_with(' ')) problems.add(where, said("a blank at an end"));
   for (const std::string_view pair : {"  ", "( ", " )"}) {
     if (text.find(pair) == std::string_view::npos) continue;
-    problems.add(where, "a blank stands behind another one, behind \"(\" or before \")\"");
+    problems.add(where, said("a blank stands behind another one, behind \"(\" or before \")\""));
     return;
   }
 }

@@ -1,6 +1,7 @@
 // Distances between names.
 #include "pack/NearestName.h"
 
+#include "pack/Message.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -43,9 +44,13 @@ std::optional<std::string> nearestName(std::string_view name,
   return nearest;
 }
 
+std::string didYouMean(std::string_view name) {
+  return said("; did you mean \"{}\"?", name);
+}
+
 std::string didYouMean(std::string_view name, const std::vector<std::string>& candidates) {
   const auto nearest = nearestName(name, candidates);
-  return nearest ? "; did you mean \"" + *nearest + "\"?" : "";
+  return nearest ? didYouMean(*nearest) : "";
 }
 
 } // namespace talvora::pack

@@ -18,7 +18,9 @@ namespace talvora::pack {
 [[nodiscard]] std::optional<std::string> nearestName(std::string_view name,
                                                      const std::vector<std::string>& candidates);
 
-/// "; did you mean "choose"?", or nothing when no candidate is near.
+/// "; did you mean "choose"?" in the user's language, to stand behind a message.
+[[nodiscard]] std::string didYouMean(std::string_view name);
+/// The same for the nearest candidate; nothing when none is near.
 [[nodiscard]] std::string didYouMean(std::string_view name,
                                      const std::vector<std::string>& candidates);
 

@@ -1,6 +1,7 @@
 // Reading of a teacher's recordings and marks.
 #include "pack/OwnRecording.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/WaveFile.h"
 
@@ -26,8 +27,9 @@ Marks parseMarks(std::string_view text, const std::string& file, Problems& probl
     if (line.text.empty() || line.text.starts_with("//")) continue;
     const auto mark = markIn(line.text);
     if (!mark || (!marks.empty() && *mark <= marks.back())) {
-      problems.add({file, line.number, 1},
-                   "a mark is the end of a sentence in milliseconds, later than the one above it");
+      problems.add(
+          {file, line.number, 1},
+          said("a mark is the end of a sentence in milliseconds, later than the one above it"));
       continue;
     }
     marks.push_back(*mark);
@@ -55,7 +57,8 @@ std::map<int, OwnRecording> readOwnRecordings(const std::filesystem::path& folde
     const auto number = numberOf(path);
     const auto script = number ? sentences.find(*number) : sentences.end();
     if (script == sentences.end()) {
-      problems.add({path.string()}, "a recording is 1.wav to 9.wav, and its script must be there");
+      problems.add({path.string()},
+                   said("a recording is 1.wav to 9.wav, and its script must be there"));
       continue;
     }
     OwnRecording own{readSource(path, problems), {}};
@@ -63,14 +66,13 @@ std::map<int, OwnRecording> readOwnRecordings(const std::filesystem::path& folde
     own.marks = parseMarks(readSource(marksPath, problems), marksPath.string(), problems);
     const auto lengthMs = waveLengthMs(own.wave);
     if (!lengthMs) {
-      problems.add({path.string()}, "is no wave file that can be played");
+      problems.add({path.string()}, said("is no wave file that can be played"));
     } else if (own.marks.size() != script->second) {
-      problems.add({marksPath.string()}, "has " + std::to_string(own.marks.size()) +
-                                             " marks, and the script has " +
-                                             std::to_string(script->second) + " sentences");
+      problems.add({marksPath.string()}, said("has {} marks, and the script has {} sentences",
+                                              own.marks.size(), script->second));
     } else if (!own.marks.empty() && own.marks.back() > *lengthMs) {
-      problems.add({marksPath.string()}, "the last mark lies behind the recording's end at " +
-                                             std::to_string(*lengthMs) + " ms");
+      problems.add({marksPath.string()},
+                   said("the last mark lies behind the recording's end at {} ms", *lengthMs));
     }
     recordings.emplace(*number, std::move(own));
   }

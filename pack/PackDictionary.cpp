@@ -1,6 +1,7 @@
 #include "pack/PackDictionary.h"
 
 #include "formats/Integers.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "platform/FatalFailure.h"
@@ -21,7 +22,7 @@ std::shared_ptr<const MappedFile> held(const std::filesystem::path& path, Proble
   try {
     return MappedFile::open(path.string());
   } catch (const FatalFailure& failure) {
-    problems.add({path.string()}, "cannot be read");
+    problems.add({path.string()}, said("cannot be read"));
     return std::make_shared<const MappedFile>(std::vector<unsigned char>());
   }
 }

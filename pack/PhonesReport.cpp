@@ -2,6 +2,7 @@
 #include "pack/PhonesReport.h"
 
 #include "pack/Lexicon.h"
+#include "pack/Message.h"
 #include "pack/Pronouncer.h"
 #include "pack/StreamText.h"
 
@@ -27,7 +28,7 @@ std::string phonesReport(const std::filesystem::path& source, const std::vector<
                          Problems& problems) {
   if (!hasLexicon())
     problems.add({source.string()},
-                 "this talvora-pack was built without speech and knows no sounds");
+                 said("this talvora-pack was built without speech and knows no sounds"));
   const Pronouncer pronouncer(readPronunciations(source / "pronunciation.txt", problems));
   std::map<std::string, std::vector<WordClass>> classesOfHeads;
   std::vector<std::string> asked = words;

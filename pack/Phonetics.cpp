@@ -1,6 +1,8 @@
 // The notation of pronunciations.
 #include "pack/Phonetics.h"
 
+#include "pack/Message.h"
+
 #include "text/Text.h"
 
 #include <algorithm>
@@ -371,10 +373,10 @@ std::string faultOf(const Phones& phones) {
                            ? lettersOf(phone.substr(0, phone.size() - 1), vowels).has_value() &&
                                  !phone.ends_with('2')
                            : lettersOf(phone, consonants).has_value();
-    if (!named) return "\"" + phone + "\" is no phone";
+    if (!named) return said("\"{}\" is no phone", phone);
     vowel = vowel || endsInStress(phone);
   }
-  return vowel ? "" : "a word needs a vowel";
+  return vowel ? "" : said("a word needs a vowel");
 }
 
 std::string phoneticOf(const Phones& phones, std::string_view spelling) {

@@ -2,6 +2,7 @@
 #include "pack/WaveFile.h"
 
 #include "formats/Integers.h"
+#include "pack/Message.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -62,7 +63,8 @@ SmallSound smallSoundOf(const Samples& samples, int samplesPerSecond) {
 }
 
 std::optional<std::string> flacFileOf(std::string) {
-  throw std::runtime_error("talvora-pack was built without recordings and makes no FLAC files");
+  throw std::runtime_error(
+      said("talvora-pack was built without recordings and makes no FLAC files"));
 }
 
 std::optional<std::int64_t> waveLengthMs(std::string bytes) {

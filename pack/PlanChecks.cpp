@@ -1,6 +1,8 @@
 // Budgets and open slots.
 #include "pack/PlanChecks.h"
 
+#include "pack/Message.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,11 +12,6 @@
 namespace talvora::pack {
 
 namespace {
-
-std::string outside(const Band& band, std::string_view what) {
-  return " " + std::string(what) + " instead of " + std::to_string(band.from) + " to " +
-         std::to_string(band.to);
-}
 
 std::string namesOf(const std::vector<std::string>& lemmas) {
   std::string names;
@@ -41,35 +38,37 @@ class TextBudget {
 
   void checkLength() {
     if (!series_.words.has(text_.words))
-      report(Budget::Words, std::to_string(text_.words) + outside(series_.words, "words"));
+      report(Budget::Words, said("{} words instead of {} to {}", text_.words, series_.words.from,
+                                 series_.words.to));
     if (!series_.sentence.has(text_.wordsASentence())) {
       report(Budget::Sentence,
-             withDecimal(text_.wordsASentence()) + outside(series_.sentence, "words a sentence"));
+             said("{} words a sentence instead of {} to {}", withDecimal(text_.wordsASentence()),
+                  series_.sentence.from, series_.sentence.to));
     }
   }
 
   void checkNewLemmas(int most) {
     if (static_cast<int>(text_.newLemmas.size()) > most) {
-      report(Budget::New, std::to_string(text_.newLemmas.size()) +
-                              " new lemmas instead of at most " + std::to_string(most));
+      report(Budget::New,
+             said("{} new lemmas instead of at most {}", text_.newLemmas.size(), most));
     }
     std::vector<std::string> once;
     std::copy_if(text_.newLemmas.begin(), text_.newLemmas.end(), std::back_inserter(once),
                  [this](const std::string& lemma) { return text_.lemmas.at(lemma) < 2; });
-    if (!once.empty()) report(Budget::Twice, "new and only once in its text: " + namesOf(once));
+    if (!once.empty())
+      report(Budget::Twice, said("new and only once in its text: {}", namesOf(once)));
     std::vector<std::string> missed;
     for (const DueLemma& due : planner_.book.missedOf(slot_))
       missed.push_back(due.lemma);
     if (!missed.empty())
-      report(Budget::Return, "brought here and not returned in time: " + namesOf(missed));
+      report(Budget::Return, said("brought here and not returned in time: {}", namesOf(missed)));
   }
 
   void checkKnown() {
     if (text_.knownShare() >= knownShareOf(series_.kind)) return;
-    report(Budget::Known, withDecimal(text_.knownShare()) +
-                              " % of the words known at first sight instead of " +
-                              std::to_string(std::lround(knownShareOf(series_.kind))) + " (" +
-                              namesOf(text_.newLemmas) + ")");
+    report(Budget::Known, said("{} % of the words known at first sight instead of {} ({})",
+                               withDecimal(text_.knownShare()),
+                               std::lround(knownShareOf(series_.kind)), namesOf(text_.newLemmas)));
   }
 
   const Planner& planner_;
@@ -84,8 +83,8 @@ std::string countsOf(const std::array<int, BudgetNames.size()>& over) {
   std::string counts;
   for (std::size_t budget = 0; budget < over.size(); ++budget) {
     if (over.at(budget) == 0) continue;
-    counts += (counts.empty() ? "" : ", ") + std::to_string(over.at(budget)) + " by \"" +
-              std::string(BudgetNames.at(budget)) + "\"";
+    counts += (counts.empty() ? "" : ", ") +
+              said("{} by \"{}\"", over.at(budget), BudgetNames.at(budget));
   }
   return counts;
 }
@@ -110,7 +109,7 @@ std::vector<std::string> checkBudgets(const Planner& planner, const std::filesys
       ++texts;
       for (const OverBudget& each : overBudget(planner, slot)) {
         if (series.holds(each.budget)) {
-          problems.add({folder.string()}, "text " + std::to_string(slot) + ": " + each.line);
+          problems.add({folder.string()}, said("text {}: {}", slot, each.line));
         } else {
           ++aimed.at(static_cast<std::size_t>(each.budget));
         }
@@ -118,9 +117,8 @@ std::vector<std::string> checkBudgets(const Planner& planner, const std::filesys
     }
     const std::string counts = countsOf(aimed);
     if (counts.empty()) continue;
-    notes.push_back("reading texts " + std::to_string(series.slots.from) + " to " +
-                    std::to_string(series.slots.to) + ": of " + std::to_string(texts) +
-                    " are outside a budget that they aim at " + counts);
+    notes.push_back(said("reading texts {} to {}: of {} are outside a budget that they aim at {}",
+                         series.slots.from, series.slots.to, texts, counts));
   }
   return notes;
 }
@@ -141,10 +139,10 @@ std::string openSlotNote(std::string_view name, const ReadingSource& texts, int 
     }
   }
   std::string note;
-  if (between > 0) note = std::to_string(between) + " open slots stand between texts";
+  if (between > 0) note = said("{} open slots stand between texts", between);
   if (open > 0 && !headed)
-    note += std::string(note.empty() ? "" : ", and ") + "the " + std::to_string(open) +
-            " at the end have no heading of their own";
+    note += (note.empty() ? "" : "; ") +
+            said("the {} open slots at the end have no heading of their own", open);
   return note.empty() ? note : std::string(name) + ": " + note;
 }
 

@@ -1,6 +1,7 @@
 // The sheets.
 #include "pack/Planner.h"
 
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -34,23 +35,19 @@ std::string wrapped(const std::vector<std::string>& words) {
   return words.empty() ? "" : text + line + "\n";
 }
 
-std::string bandText(const Band& band, std::string_view unit) {
-  return std::to_string(band.from) + " to " + std::to_string(band.to) + " " + std::string(unit);
-}
-
 std::string describe(const Series& series) {
-  std::string text = "Series " + std::to_string(series.slots.from) + "-" +
-                     std::to_string(series.slots.to) + ", " + std::string(nameOf(series.kind)) +
-                     ", " + series.level + ": " + bandText(series.words, "words") + ", " +
-                     bandText(series.sentence, "words a sentence");
-  if (series.newLemmas) text += ", at most " + std::to_string(*series.newLemmas) + " new lemmas";
+  std::string text =
+      said("Series {}-{}, {}, {}: {} to {} words, {} to {} words a sentence", series.slots.from,
+           series.slots.to, nameOf(series.kind), series.level, series.words.from, series.words.to,
+           series.sentence.from, series.sentence.to);
+  if (series.newLemmas) text += said(", at most {} new lemmas", *series.newLemmas);
   const double share = knownShareOf(series.kind);
-  if (share > 0) text += ", " + withDecimal(share) + " % known at first sight";
+  if (share > 0) text += said(", {} % known at first sight", withDecimal(share));
   return text + "\n";
 }
 
 std::string verdict(const Band& band, double value) {
-  return band.has(value) ? "" : value < band.from ? " (too few)" : " (too many)";
+  return band.has(value) ? "" : value < band.from ? said(" (too few)") : said(" (too many)");
 }
 
 /// Makes the sheet of one slot.
@@ -61,8 +58,9 @@ class SheetWriter {
         text_(planner.book.textAt(slot)) {}
 
   std::string write(Detail detail) const {
-    std::string sheet = "Slot " + std::to_string(slot_) + ": " + title() + "\n";
-    sheet += series_ != nullptr ? describe(*series_) : "In no series: the book leaves it out\n";
+    std::string sheet = said("Slot {}: {}", slot_, title()) + "\n";
+    sheet += series_ != nullptr ? describe(*series_)
+                                : said("In no series: the book leaves it out") + "\n";
     if (text_ != nullptr) sheet += "\n" + whatItDid();
     sheet += "\n" + whatIsKnown(detail);
     sheet += "\n" + whatIsDue();
@@ -72,30 +70,31 @@ class SheetWriter {
  private:
   std::string title() const {
     const auto found = planner_.readings.texts.find(slot_);
-    return found != planner_.readings.texts.end() ? utf8Of(found->second.title) : "open";
+    return found != planner_.readings.texts.end() ? utf8Of(found->second.title) : said("open");
   }
 
   std::string whatItDid() const {
-    std::string report = "The text: " + std::to_string(text_->words) + " words" +
-                         (series_ != nullptr ? verdict(series_->words, text_->words) : "") + ", " +
-                         std::to_string(text_->sentences) + " sentences, " +
-                         withDecimal(text_->wordsASentence()) + " words a sentence";
+    std::string report = said("The text: {} words", text_->words);
+    if (series_ != nullptr) report += verdict(series_->words, text_->words);
+    report += said(", {} sentences, {} words a sentence", text_->sentences,
+                   withDecimal(text_->wordsASentence()));
     if (series_ != nullptr) report += verdict(series_->sentence, text_->wordsASentence());
-    report += ", " + std::to_string(text_->names) + " names left out\n";
-    report += "  longest sentence, " + std::to_string(text_->longestWords) +
-              " words: " + utf8Of(text_->longest) + "\n";
-    report += "  known at first sight: " + withDecimal(text_->knownShare()) + " %";
+    report += said(", {} names left out", text_->names) + "\n";
+    report += "  " +
+              said("longest sentence, {} words: {}", text_->longestWords, utf8Of(text_->longest)) +
+              "\n";
+    report += "  " + said("known at first sight: {} %", withDecimal(text_->knownShare()));
     const bool unfamiliar = series_ != nullptr && text_->knownShare() < knownShareOf(series_->kind);
-    report += std::string(unfamiliar ? " (too few)" : "") + "\n";
+    report += (unfamiliar ? said(" (too few)") : "") + "\n";
     return report + newLemmas() + returned() + missed();
   }
 
   std::string newLemmas() const {
     const std::size_t count = text_->newLemmas.size();
-    std::string report = "New lemmas: " + std::to_string(count);
+    std::string report = said("New lemmas: {}", count);
     if (series_ != nullptr && series_->newLemmas) {
-      report += " of at most " + std::to_string(*series_->newLemmas);
-      if (static_cast<int>(count) > *series_->newLemmas) report += " (too many)";
+      report += said(" of at most {}", *series_->newLemmas);
+      if (static_cast<int>(count) > *series_->newLemmas) report += said(" (too many)");
     }
     std::vector<std::string> lines;
     for (const std::string& lemma : text_->newLemmas)
@@ -112,8 +111,10 @@ class SheetWriter {
                                        const std::string level = planner_.lemmas.levelOf(lemma);
                                        return !level.empty() && level < series_->level;
                                      });
-    return "  " + std::to_string(lower) + " of a level below " + series_->level + "; " +
-           std::to_string(open) + " open slots ahead may bring them\n";
+    return "  " +
+           said("{} of a level below {}; {} open slots ahead may bring them", lower, series_->level,
+                open) +
+           "\n";
   }
 
   /// "engine 2x A2", with what is wrong about it.
@@ -122,9 +123,9 @@ class SheetWriter {
     std::string text = utf8Of(lemma) + " " + std::to_string(count) + "x";
     const std::string level = planner_.lemmas.levelOf(lemma);
     if (!level.empty()) text += " " + level;
-    if (count < 2) text += " ONCE";
-    if (series_ != nullptr && level > series_->level) text += " ABOVE";
-    if (!planner_.lemmas.hasEntry(lemma)) text += " NO-ENTRY";
+    if (count < 2) text += said(" ONCE");
+    if (series_ != nullptr && level > series_->level) text += said(" ABOVE");
+    if (!planner_.lemmas.hasEntry(lemma)) text += said(" NO-ENTRY");
     return text;
   }
 
@@ -133,24 +134,22 @@ class SheetWriter {
     for (const DueLemma& due : planner_.book.dueAt(slot_)) {
       if (text_->lemmas.count(due.lemma) != 0) used.push_back(utf8Of(due.lemma));
     }
-    return "Returned: " + std::to_string(used.size()) + " lemmas that were due\n" + wrapped(used);
+    return said("Returned: {} lemmas that were due", used.size()) + "\n" + wrapped(used);
   }
 
   std::string missed() const {
     std::vector<std::string> late;
     for (const DueLemma& due : planner_.book.missedOf(slot_))
-      late.push_back(utf8Of(due.lemma) + " (by " + std::to_string(due.lastSlot) + ")");
+      late.push_back(said("{} (by {})", utf8Of(due.lemma), due.lastSlot));
     if (late.empty()) return "";
-    return "Brought here and not returned in time: " + std::to_string(late.size()) + "\n" +
-           wrapped(late);
+    return said("Brought here and not returned in time: {}", late.size()) + "\n" + wrapped(late);
   }
 
   std::string whatIsKnown(Detail detail) const {
     const auto known = planner_.book.knownBefore(slot_);
     const auto& texts = planner_.book.texts();
     const auto ahead = std::distance(texts.begin(), texts.lower_bound(slot_));
-    std::string report = "Known by then: " + std::to_string(known.size()) + " lemmas from " +
-                         std::to_string(ahead) + " texts\n";
+    std::string report = said("Known by then: {} lemmas from {} texts", known.size(), ahead) + "\n";
     if (detail == Detail::Short) return report;
     std::vector<std::string> words;
     for (const std::string& lemma : known)
@@ -159,7 +158,8 @@ class SheetWriter {
   }
 
   std::string whatIsDue() const {
-    std::string report = "Due again, the most urgent first (with the last slot that is in time)\n";
+    std::string report =
+        said("Due again, the most urgent first (with the last slot that is in time)") + "\n";
     const auto due = planner_.book.dueAt(slot_);
     for (const int window : ReturnWindows) {
       std::vector<std::string> words;
@@ -167,15 +167,15 @@ class SheetWriter {
         if (each.window == window)
           words.push_back(utf8Of(each.lemma) + " " + std::to_string(each.lastSlot));
       }
-      report += " within " + std::to_string(window) + " texts: " + std::to_string(words.size()) +
-                "\n" + wrapped(words);
+      report += " " + said("within {} texts: {}", window, words.size()) + "\n" + wrapped(words);
     }
     return report;
   }
 
   // Words of a higher level than the series are no candidates; those without a level may be any.
   std::string whatMayBeNew() const {
-    std::string report = "May be new: head words that no text up to here has, by level\n";
+    std::string report =
+        said("May be new: head words that no text up to here has, by level") + "\n";
     for (const std::string_view level : levels) {
       if (series_ != nullptr && !level.empty() && level > series_->level) continue;
       std::vector<std::string> words;
@@ -184,7 +184,7 @@ class SheetWriter {
         if (planner_.lemmas.levelOf(head) == level && (first == 0 || first >= slot_))
           words.push_back(utf8Of(head));
       }
-      report += std::string(" ") + (level.empty() ? "without a level" : std::string(level)) + ": " +
+      report += " " + (level.empty() ? said("without a level") : std::string(level)) + ": " +
                 std::to_string(words.size()) + "\n";
       if (!level.empty()) report += wrapped(words);
     }
@@ -226,7 +226,8 @@ std::string withDecimal(double value) {
 }
 
 std::string overview(const Planner& planner) {
-  std::string report = "slot words  a sentence  known %  new  once  missed  known after  title\n";
+  std::string report =
+      said("slot words  a sentence  known %  new  once  missed  known after  title") + "\n";
   for (const auto& [slot, text] : planner.book.texts()) {
     const auto once = std::count_if(
         text.newLemmas.begin(), text.newLemmas.end(),

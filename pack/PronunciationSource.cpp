@@ -1,6 +1,7 @@
 // Parsing of pronunciations.
 #include "pack/PronunciationSource.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "sound/Pronunciations.h"
@@ -32,14 +33,15 @@ bool holds(std::string_view phrase, std::string_view word) {
 
 /// What is wrong with a rule as a whole; empty when nothing is.
 std::string ruleFault(const PronunciationRule& rule) {
-  if (rule.word.empty()) return "a word must stand ahead of \" = \"";
+  if (rule.word.empty()) return said("a word must stand ahead of \" = \"");
   if (!rule.shown.empty()) {
-    if (!rule.phrase.empty()) return "a notation holds for the word alone, not within a phrase";
-    return streamText(rule.shown) ? "" : "the notation has a letter that cannot be shown";
+    if (!rule.phrase.empty())
+      return said("a notation holds for the word alone, not within a phrase");
+    return streamText(rule.shown) ? "" : said("the notation has a letter that cannot be shown");
   }
   if (!rule.phrase.empty() && !holds(rule.phrase, rule.word))
-    return "the phrase does not have the word";
-  if (spokenWordsOf(rule.word).size() != 1) return "one word at a time can have phones";
+    return said("the phrase does not have the word");
+  if (spokenWordsOf(rule.word).size() != 1) return said("one word at a time can have phones");
   return faultOf(rule.phones);
 }
 
@@ -53,7 +55,8 @@ std::vector<PronunciationRule> parsePronunciations(std::string_view text, const 
     const Where where{file, line.number, 1};
     const std::size_t middle = line.text.find(equals);
     if (middle == std::string_view::npos) {
-      problems.add(where, "a pronunciation must be \"word = phones\" or \"word = /notation/\"");
+      problems.add(where,
+                   said("a pronunciation must be \"word = phones\" or \"word = /notation/\""));
       continue;
     }
     PronunciationRule rule;

@@ -1,6 +1,7 @@
 // Parsing and writing of reading texts.
 #include "pack/ReadingSource.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 
@@ -53,11 +54,11 @@ class TextParser {
     std::size_t sentences = 0;
     for (const Paragraph& paragraph : text_.paragraphs)
       sentences += paragraph.size();
-    if (!titleRead_) problems_.add({file_, 1, 1}, "the text has no title");
-    if (titleRead_ && sentences == 0) problems_.add({file_}, "the text has no sentences");
+    if (!titleRead_) problems_.add({file_, 1, 1}, said("the text has no title"));
+    if (titleRead_ && sentences == 0) problems_.add({file_}, said("the text has no sentences"));
     if (sentences > mostSentences) {
-      problems_.add({file_}, "the text has " + std::to_string(sentences) + " sentences; at most " +
-                                 std::to_string(mostSentences) + " fit");
+      problems_.add({file_},
+                    said("the text has {} sentences; at most {} fit", sentences, mostSentences));
     }
     return std::move(text_);
   }
@@ -65,14 +66,15 @@ class TextParser {
  private:
   void expectNoSentenceWaits(int line) {
     const bool isMissing = waits_ && translated_ == Translated::Always;
-    if (isMissing) problems_.add({file_, line, 1}, "a translation (\"= ...\") is missing here");
+    if (isMissing)
+      problems_.add({file_, line, 1}, said("a translation (\"= ...\") is missing here"));
     waits_ = false;
   }
 
   void readTitle(const SourceLine& line) {
     titleRead_ = true;
     if (!line.text.starts_with(titleOpener)) {
-      problems_.add({file_, line.number, 1}, "the first line must be \"title: ...\"");
+      problems_.add({file_, line.number, 1}, said("the first line must be \"title: ...\""));
       return;
     }
     const Where where{file_, line.number, static_cast<int>(titleOpener.size()) + 1};
@@ -84,7 +86,7 @@ class TextParser {
     speaker_ = line.text.substr(speakerOpener.size());
     if (speaker_ != "rms" && speaker_ != "slt") {
       problems_.add({file_, line.number, static_cast<int>(speakerOpener.size()) + 1},
-                    "a voice is \"rms\", a man's, or \"slt\", a woman's");
+                    said("a voice is \"rms\", a man's, or \"slt\", a woman's"));
     }
   }
 
@@ -99,12 +101,12 @@ class TextParser {
 
   void readTranslation(const SourceLine& line) {
     if (!waits_) {
-      problems_.add({file_, line.number, 1}, "a translation without its sentence");
+      problems_.add({file_, line.number, 1}, said("a translation without its sentence"));
       return;
     }
     waits_ = false;
     if (!line.text.starts_with(translationOpener)) {
-      problems_.add({file_, line.number, 2}, "a blank must follow the \"=\"");
+      problems_.add({file_, line.number, 2}, said("a blank must follow the \"=\""));
       return;
     }
     text_.paragraphs.back().back().vietnamese =
@@ -113,8 +115,9 @@ class TextParser {
 
   std::string stretch(std::string_view utf8, const Where& where,
                       std::string_view forbidden = StreamMarks) {
-    if (utf8.empty()) problems_.add(where, "a text is missing here");
-    if (utf8.starts_with(' ') || utf8.ends_with(' ')) problems_.add(where, "a blank at an end");
+    if (utf8.empty()) problems_.add(where, said("a text is missing here"));
+    if (utf8.starts_with(' ') || utf8.ends_with(' '))
+      problems_.add(where, said("a blank at an end"));
     return sourceText(utf8, where, forbidden, problems_);
   }
 
@@ -147,19 +150,19 @@ std::map<int, std::string> parseHeadings(std::string_view text, const std::strin
     const std::size_t tab = line.text.find('\t');
     const auto slot = slotOf(line.text.substr(0, std::min(tab, line.text.size())), slots);
     if (tab == std::string_view::npos || !slot) {
-      problems.add({file, line.number, 1}, "a line must be a slot from 1 to " +
-                                               std::to_string(slots) + ", a tab, a heading");
+      problems.add({file, line.number, 1},
+                   said("a line must be a slot from 1 to {}, a tab, a heading", slots));
       continue;
     }
     const Where where{file, line.number, static_cast<int>(tab) + 2};
     const auto heading = sourceText(line.text.substr(tab + 1), where, "_`@|*", problems);
-    if (heading.empty()) problems.add(where, "a heading is missing here");
+    if (heading.empty()) problems.add(where, said("a heading is missing here"));
     if (!headings.emplace(*slot, heading).second) {
-      problems.add({file, line.number, 1}, "slot " + std::to_string(*slot) + " is taken already");
+      problems.add({file, line.number, 1}, said("slot {} is taken already", *slot));
     }
   }
   if (headings.size() > mostHeadings) {
-    problems.add({file}, "there are more than " + std::to_string(mostHeadings) + " headings");
+    problems.add({file}, said("there are more than {} headings", mostHeadings));
   }
   return headings;
 }
@@ -179,21 +182,20 @@ ReadingSource readTexts(const std::filesystem::path& folder, int slots, Problems
                           ? slotOf(name.substr(0, digits), slots)
                           : std::nullopt;
     if (!slot) {
-      const std::string first = std::string(digits - 1, '0') + "1";
-      problems.add({file}, std::string("the name must be ")
-                               .append(digits, 'N')
-                               .append("-slug.txt with a slot from " + first + " to " + last));
+      problems.add({file},
+                   said("the name must be {}-slug.txt with a slot from {} to {}",
+                        std::string(digits, 'N'), std::string(digits - 1, '0') + "1", last));
       continue;
     }
     auto text = parseReadingText(readText(path, problems), file, problems);
     if (!source.texts.emplace(*slot, std::move(text)).second) {
-      problems.add({file}, "slot " + std::to_string(*slot) + " has a text already");
+      problems.add({file}, said("slot {} has a text already", *slot));
     }
   }
   for (const auto& [slot, heading] : source.headings) {
     if (source.texts.count(slot) == 0) continue;
     problems.add({(folder / "headings.txt").string()},
-                 "slot " + std::to_string(slot) + " holds a text; it cannot be a heading");
+                 said("slot {} holds a text; it cannot be a heading", slot));
   }
   return source;
 }

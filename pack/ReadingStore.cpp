@@ -3,6 +3,7 @@
 
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 
 #include <algorithm>
@@ -120,7 +121,7 @@ ReadingSource decodeReadings(std::string_view positions, std::string_view stream
     if (!text) {
       problems.add(
           {std::string(slots == ReadingSlots ? packfile::ReadingTexts : packfile::SpeakingTexts)},
-          "text " + std::to_string(slot) + " cannot be read");
+          said("text {} cannot be read", slot));
     } else if (text->title.starts_with('*')) {
       source.headings.emplace(slot, text->title.substr(1));
     } else if (text->title != openSlotTitle()) {

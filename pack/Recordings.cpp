@@ -3,6 +3,7 @@
 
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeechLevel.h"
 #include "pack/StreamText.h"
@@ -165,9 +166,9 @@ std::vector<Spoken> recordTogether(const std::vector<Script>& scripts,
       for (const Script& script : scripts) {
         {
           const std::lock_guard lock(telling);
-          progress(waveName(script.number) + ", " +
-                   std::to_string(placesOf(script, speaker).size()) + " sentences by " +
-                   std::string(SpeakerNames.at(static_cast<std::size_t>(speaker))));
+          progress(said("{}, {} sentences by {}", waveName(script.number),
+                        placesOf(script, speaker).size(),
+                        SpeakerNames.at(static_cast<std::size_t>(speaker))));
         }
         parts.push_back(speakLines(script, speaker, reader));
       }

@@ -2,6 +2,7 @@
 #include "pack/Command.h"
 #include "pack/CourseReport.h"
 #include "pack/DictionaryFindings.h"
+#include "pack/Message.h"
 #include "pack/PhonesReport.h"
 #include "pack/Planner.h"
 #include "pack/Show.h"
@@ -22,8 +23,9 @@ class ShowCommand final : public Command {
  public:
   explicit ShowCommand(CLI::App& application)
       : command_(*application.add_subcommand(
-            "show", "show an item, a lesson or a text of the sources as the learner will see it")) {
-    command_.add_option("PLACE", place_, "FILE, or FILE:LINE for the item at that line")
+            "show", said("show what a source holds as the learner will see it: an item, a lesson, "
+                         "a text, a question to listen to, an analysed stretch"))) {
+    command_.add_option("PLACE", place_, said("FILE, or FILE:LINE for the part at that line"))
         ->required();
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
@@ -41,9 +43,9 @@ class ShowCommand final : public Command {
 class StatusCommand final : public Command {
  public:
   explicit StatusCommand(CLI::App& application)
-      : command_(*application.add_subcommand("status",
-                                             "tell what SOURCE holds and still lacks: slots, "
-                                             "scripts to record, words, the Vietnamese side")) {
+      : command_(*application.add_subcommand(
+            "status", said("tell what SOURCE holds and still lacks: slots, scripts to record, "
+                           "words, the Vietnamese side"))) {
     addSourceOptions(command_, options_);
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
@@ -71,12 +73,12 @@ class PlanCommand final : public Command {
   explicit PlanCommand(CLI::App& application)
       : command_(*application.add_subcommand(
             "plan",
-            "tell what the reading texts of SOURCE do with words; for a SLOT also which lemmas "
-            "are known by then, which may be new and which are due again")) {
-    command_.add_option("SOURCE", source_, "folder of the content sources")->required();
-    command_.add_option("SLOT", slot_, "number of a reading text")
+            said("tell what the reading texts of SOURCE do with words; for a SLOT also which "
+                 "lemmas are known by then, which may be new and which are due again"))) {
+    command_.add_option("SOURCE", source_, said("folder of the content sources"))->required();
+    command_.add_option("SLOT", slot_, said("number of a reading text"))
         ->check(CLI::Range(1, ReadingSlots));
-    command_.add_flag("--known", known_, "list the known lemmas as well");
+    command_.add_flag("--known", known_, said("list the known lemmas as well"));
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
   [[nodiscard]] int run() override {
@@ -98,9 +100,9 @@ class PhonesCommand final : public Command {
  public:
   explicit PhonesCommand(CLI::App& application)
       : command_(*application.add_subcommand(
-            "phones", "tell how the head words of SOURCE are said, or the WORDs alone")) {
-    command_.add_option("SOURCE", source_, "folder of the content sources")->required();
-    command_.add_option("WORD", words_, "words to tell of");
+            "phones", said("tell how the head words of SOURCE are said, or the WORDs alone"))) {
+    command_.add_option("SOURCE", source_, said("folder of the content sources"))->required();
+    command_.add_option("WORD", words_, said("words to tell of"));
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
   [[nodiscard]] int run() override {

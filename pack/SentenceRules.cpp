@@ -1,5 +1,6 @@
 // Rules about the sentences of items: what repeats, how long they are, which words they use.
 #include "pack/CourseRules.h"
+#include "pack/Message.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -103,7 +104,7 @@ std::set<std::string> namesIn(const Course& course) {
 
 RuleReport sentencesDiffer(const Course& course) {
   // The pattern "if it had not been for" is itself six words long.
-  RuleReport report{"two items have six words in a row in common", {}, 2};
+  RuleReport report{said("two items have six words in a row in common"), {}, 2};
   std::unordered_map<std::string, std::size_t> firsts;
   for (std::size_t number = 0; number < course.items.size(); ++number) {
     const CourseItem& each = course.items[number];
@@ -113,15 +114,14 @@ RuleReport sentencesDiffer(const Course& course) {
       if (!isNew && first->second != number && !twin) twin = first->second;
     }
     if (!twin) continue;
-    report.found.push_back({each.item->where, "six words in a row stand in the item at " +
-                                                  placed(course.items[*twin].item->where) +
-                                                  " too"});
+    report.found.push_back({each.item->where, said("six words in a row stand in the item at {} too",
+                                                   placed(course.items[*twin].item->where))});
   }
   return report;
 }
 
 RuleReport sentencesDifferFromExamples(const Course& course) {
-  RuleReport report{"an item is a lesson's example", {}, 0};
+  RuleReport report{said("an item is a lesson's example"), {}, 0};
   std::vector<std::vector<std::string>> examples;
   for (const auto& [slot, lesson] : course.lessons.lessons) {
     for (const MarkedLine& line : lesson.lines) {
@@ -143,7 +143,7 @@ RuleReport sentencesDifferFromExamples(const Course& course) {
     for (std::size_t at = 0; at + length <= each.words.size(); ++at) {
       const std::string run = runAt(each.words, at, length);
       if (runs[length].count(run) == 0) continue;
-      report.found.push_back({each.item->where, "\"" + run + "...\" is a lesson's example"});
+      report.found.push_back({each.item->where, said("\"{}...\" is a lesson's example", run)});
       break;
     }
   }
@@ -151,22 +151,21 @@ RuleReport sentencesDifferFromExamples(const Course& course) {
 }
 
 RuleReport lengthsFit(const Course& course) {
-  RuleReport report{"a sentence is shorter or longer than its bank's are", {}, 0};
+  RuleReport report{said("a sentence is shorter or longer than its bank's are"), {}, 0};
   report.allowed = course.items.size() * 7 / 100;
   for (const CourseItem& each : course.items) {
     if (each.item->form == ItemForm::Order) continue;
     const LengthRange range = rangeOf(groupOf(each));
     const std::size_t length = each.words.size();
     if (length >= range.least && length <= range.most) continue;
-    report.found.push_back({each.item->where, std::to_string(length) + " words; here " +
-                                                  std::to_string(range.least) + " to " +
-                                                  std::to_string(range.most) + " are usual"});
+    report.found.push_back({each.item->where, said("{} words; here {} to {} are usual", length,
+                                                   range.least, range.most)});
   }
   return report;
 }
 
 RuleReport wordsAreInTheDictionary(const Course& course) {
-  RuleReport report{"a bank has too many words that our dictionary lacks", {}, 5};
+  RuleReport report{said("a bank has too many words that our dictionary lacks"), {}, 5};
   struct Count {
     std::size_t words = 0;
     std::map<std::string, Where> unknown;
@@ -191,15 +190,15 @@ RuleReport wordsAreInTheDictionary(const Course& course) {
     std::string list;
     for (const auto& [word, where] : count.unknown)
       list += (list.empty() ? "" : ", ") + word;
-    report.found.push_back({{std::string(group)},
-                            std::to_string(count.missing) + " of " + std::to_string(count.words) +
-                                " words are not in our dictionary: " + list});
+    report.found.push_back(
+        {{std::string(group)},
+         said("{} of {} words are not in our dictionary: {}", count.missing, count.words, list)});
   }
   return report;
 }
 
 RuleReport wornWordsAreRare(const Course& course) {
-  RuleReport report{"a worn word stands in more than 2 of 100 items of a bank", {}, 25};
+  RuleReport report{said("a worn word stands in more than 2 of 100 items of a bank"), {}, 25};
   std::map<std::string_view, std::map<std::string, std::size_t>> uses;
   std::map<std::string_view, std::size_t> sizes;
   for (const CourseItem& each : course.items) {
@@ -213,8 +212,7 @@ RuleReport wornWordsAreRare(const Course& course) {
     for (const auto& [word, count] : words) {
       if (count <= most) continue;
       report.found.push_back({{std::string(group)},
-                              "\"" + word + "\" stands in " + std::to_string(count) + " items; " +
-                                  std::to_string(most) + " are enough"});
+                              said("\"{}\" stands in {} items; {} are enough", word, count, most)});
     }
   }
   return report;

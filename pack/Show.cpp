@@ -2,9 +2,13 @@
 #include "pack/Show.h"
 
 #include "exercises/ItemHeadings.h"
+#include "formats/AnalysisLabels.h"
+#include "pack/AnalysisSource.h"
 #include "pack/BlankWidth.h"
 #include "pack/ExerciseSource.h"
 #include "pack/LessonSource.h"
+#include "pack/ListeningSource.h"
+#include "pack/Message.h"
 #include "pack/ReadingSource.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
@@ -19,6 +23,8 @@ namespace talvora::pack {
 namespace {
 
 constexpr char lineEnd = '\r';
+/// Opens a blue span of the panel.
+constexpr char blueMark = '&';
 
 /// A blank's answers or a phrase, in the order of the question.
 struct Marked {
@@ -68,14 +74,14 @@ std::string explained(const ExplanationLines& lines) {
 /// The name of what an explanation is about: "blank 2 (goes / went)", "C went, right".
 std::string subjectOf(const Item& item, const Marked& marked, int number) {
   const auto at = static_cast<std::size_t>(number) - 1;
-  const std::string right = number == item.key ? ", right" : "";
+  const std::string right = number == item.key ? said(", right") : "";
   if (item.form == ItemForm::Choice && at < item.options.size()) {
     return std::string(1, static_cast<char>('A' + at)) + ". " + utf8Of(item.options[at]) + right;
   }
   const std::string key = at < marked.keys.size() ? utf8Of(marked.keys[at]) : "";
   if (item.form == ItemForm::Mistake)
-    return std::to_string(number) + ". " + key + (number == item.key ? ", the mistake" : "");
-  return "blank " + std::to_string(number) + " (" + (key.empty() ? "stays empty" : key) + ")";
+    return std::to_string(number) + ". " + key + (number == item.key ? said(", the mistake") : "");
+  return said("blank {} ({})", number, key.empty() ? said("stays empty") : key);
 }
 
 std::string sentencesOf(const Item& item) {
@@ -96,17 +102,27 @@ std::string sentencesOf(const Item& item) {
 std::string hintsOf(const Item& item) {
   std::string text;
   for (const std::string& hint : item.hints)
-    text += (text.empty() ? "hints: " : ", ") + utf8Of(hint);
-  return text.empty() ? "" : text + "\n";
+    text += (text.empty() ? "" : ", ") + utf8Of(hint);
+  return text.empty() ? "" : said("hints: {}", text) + "\n";
 }
 
 int explainedCount(const Item& item, const Marked& marked) {
   return static_cast<int>(item.form == ItemForm::Choice ? item.options.size() : marked.keys.size());
 }
 
+/// True when a line of the part that begins at `first` is wanted; `next` is the line of the part
+/// behind it, 0 for the last one.
+bool isWanted(const ShownPlace& place, int first, int next) {
+  if (place.line == 0) return true;
+  return first <= place.line && (next == 0 || place.line < next);
+}
+
+std::string placeShown(const Where& where) {
+  return "-- " + where.file + ":" + std::to_string(where.line);
+}
+
 std::string itemShown(const Item& item, ItemPlace place) {
-  std::string text = "-- " + item.where.file + ":" + std::to_string(item.where.line) +
-                     (item.id.empty() ? "" : " " + item.id) + "\n";
+  std::string text = placeShown(item.where) + (item.id.empty() ? "" : " " + item.id) + "\n";
   const auto origin = place == ItemPlace::Bank ? ItemOrigin::Bank : ItemOrigin::OwnTest;
   const std::string heading = utf8Of(ChonDeMuc(item.heading, origin));
   if (!heading.empty()) text += heading + "\n";
@@ -116,7 +132,7 @@ std::string itemShown(const Item& item, ItemPlace place) {
   text += hintsOf(item) + linesFrom(marked.shown);
   for (std::size_t at = 0; at < item.options.size(); ++at)
     text += std::string(1, static_cast<char>('A' + at)) + ". " + utf8Of(item.options[at]) + "\n";
-  if (!item.general.empty()) text += "  before judging\n" + explained(item.general);
+  if (!item.general.empty()) text += "  " + said("before judging") + "\n" + explained(item.general);
   for (int number = 1; number <= explainedCount(item, marked); ++number) {
     const auto lines = item.explanations.find(number);
     text += "  " + subjectOf(item, marked, number) + "\n" +
@@ -132,9 +148,7 @@ std::string itemsShown(const ShownPlace& place, const std::string& source, Probl
   std::string text;
   for (auto item = items.begin(); item != items.end(); ++item) {
     const auto next = std::next(item);
-    const bool holds =
-        item->where.line <= place.line && (next == items.end() || place.line < next->where.line);
-    if (place.line > 0 && !holds) continue;
+    if (!isWanted(place, item->where.line, next == items.end() ? 0 : next->where.line)) continue;
     text += (text.empty() ? "" : "\n") + itemShown(*item, where);
   }
   return text;
@@ -155,6 +169,81 @@ std::string textShown(const ReadingText& reading) {
       text += utf8Of(pair.english) + "\n    " + utf8Of(pair.vietnamese) + "\n";
   }
   return text;
+}
+
+std::string questionShown(const ListeningQuestion& question) {
+  std::string text = placeShown(question.where) + "\n" +
+                     said("{}. heard: {}", question.number, utf8Of(question.sentence)) + "\n" +
+                     "A. " + utf8Of(question.right) + said(", right") + "\n";
+  for (std::size_t at = 0; at < question.wrong.size(); ++at)
+    text += std::string(1, static_cast<char>('B' + at)) + ". " + utf8Of(question.wrong[at]) + "\n";
+  return text;
+}
+
+std::string unitShown(const ShownPlace& place, const std::string& source, Problems& problems) {
+  const auto unit = parseListeningUnit(source, place.file.string(), problems);
+  std::string text;
+  for (auto each = unit.begin(); each != unit.end(); ++each) {
+    const auto next = std::next(each);
+    if (isWanted(place, each->where.line, next == unit.end() ? 0 : next->where.line))
+      text += (text.empty() ? "" : "\n") + questionShown(*each);
+  }
+  return text;
+}
+
+/// The title of a lesson in the folder beside a source's; its number when that has none.
+std::string titleOfLesson(const ShownPlace& place, int number) {
+  const auto folder = std::filesystem::absolute(place.file).parent_path().parent_path();
+  for (const auto& path : textFilesIn(folder / "lessons")) {
+    if (lessonSlotOf(path) != number || holdsItems(path)) continue;
+    Problems elsewhere;
+    return utf8Of(parseLesson(readText(path, elsewhere), path.string(), elsewhere).title);
+  }
+  return std::to_string(number);
+}
+
+/// What the panel has for a stretch, with the labels that the program puts in.
+std::string stretchShown(const ShownPlace& place, const AnalysisEntry& entry) {
+  static_assert(AnalysisLabels.size() == AnalysisFieldCount);
+  std::string text = placeShown(entry.where);
+  for (std::size_t field = 0; field < AnalysisFieldCount; ++field) {
+    std::string label = utf8Of(AnalysisLabels[field]);
+    std::erase(label, blueMark);
+    text +=
+        (field + 1 < AnalysisFieldCount ? "\n" : " ") + label + " " + utf8Of(entry.fields[field]);
+  }
+  text += "\n";
+  for (const int lesson : entry.lessons)
+    text += "→ " + titleOfLesson(place, lesson) + "\n";
+  return text;
+}
+
+std::string analysisShown(const ShownPlace& place, const std::string& source, Problems& problems) {
+  const Analysis analysis = parseAnalysis(source, place.file.string(), problems);
+  std::string text;
+  for (auto each = analysis.begin(); each != analysis.end(); ++each) {
+    const auto next = std::next(each);
+    if (isWanted(place, each->where.line, next == analysis.end() ? 0 : next->where.line))
+      text += (text.empty() ? "" : "\n") + stretchShown(place, *each);
+  }
+  return text;
+}
+
+/// The first line that is no comment.
+std::string_view firstLineOf(std::string_view source) {
+  for (const SourceLine& line : linesOf(source)) {
+    if (!line.text.empty() && !line.text.starts_with("//")) return line.text;
+  }
+  return {};
+}
+
+/// "3: She sells bread."
+bool opensQuestion(std::string_view line) {
+  constexpr CharClass digits("[0-9]");
+  const std::size_t colon = line.find(": ");
+  return colon != 0 && colon != std::string_view::npos &&
+         std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(colon),
+                     [&](char each) { return digits.has(each); });
 }
 
 bool beginsAsItems(std::string_view source) {
@@ -179,6 +268,8 @@ std::string show(const ShownPlace& place, Problems& problems) {
   if (!problems.none()) return {};
   const std::string file = place.file.string();
   if (beginsAsItems(source)) return itemsShown(place, source, problems);
+  if (firstLineOf(source).starts_with("word: ")) return analysisShown(place, source, problems);
+  if (opensQuestion(firstLineOf(source))) return unitShown(place, source, problems);
   if (place.file.parent_path().filename() == "lessons")
     return lessonShown(parseLesson(source, file, problems));
   return textShown(parseReadingText(source, file, problems));

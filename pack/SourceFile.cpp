@@ -1,6 +1,8 @@
 // Reading of sources.
 #include "pack/SourceFile.h"
 
+#include "pack/Message.h"
+
 #include <utf8proc.h>
 
 #include <algorithm>
@@ -64,14 +66,14 @@ std::optional<std::string> readWhole(const std::filesystem::path& path) {
 
 std::string readSource(const std::filesystem::path& path, Problems& problems) {
   auto text = readWhole(path);
-  if (!text) problems.add({path.string()}, "cannot be read");
+  if (!text) problems.add({path.string()}, said("cannot be read"));
   return text.value_or("");
 }
 
 std::string readText(const std::filesystem::path& path, Problems& problems) {
   std::string text = readSource(path, problems);
   if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
-    problems.add({path.string()}, "is saved as UTF-16; save it as UTF-8");
+    problems.add({path.string()}, said("is saved as UTF-16; save it as UTF-8"));
     return {};
   }
   if (text.starts_with(byteOrderMark)) text.erase(0, byteOrderMark.size());

@@ -3,6 +3,7 @@
 
 #include "pack/ExerciseSource.h"
 #include "pack/MarkedLine.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "text/Text.h"
 
@@ -101,9 +102,8 @@ class SpellingChecker {
 
   void report(std::string_view line, std::string_view unused, std::string_view used) {
     for (const std::size_t at : placesOf(line, unused)) {
-      problems_.add(placeIn(line, at, {file_, line_, 1}), "\"" + std::string(unused) +
-                                                              "\" is spelled \"" +
-                                                              std::string(used) + "\" here");
+      problems_.add(placeIn(line, at, {file_, line_, 1}),
+                    said("\"{}\" is spelled \"{}\" here", unused, used));
     }
   }
 
@@ -125,7 +125,7 @@ std::vector<Spelling> readSpellings(const std::filesystem::path& path, Problems&
     if (line.text.empty() || line.text.starts_with("//")) continue;
     const std::size_t middle = line.text.find(equals);
     if (middle == std::string_view::npos) {
-      problems.add({path.string(), line.number, 1}, "a spelling must be \"unused = used\"");
+      problems.add({path.string(), line.number, 1}, said("a spelling must be \"unused = used\""));
       continue;
     }
     spellings.push_back({std::string(trim(line.text.substr(0, middle))),

@@ -1,6 +1,7 @@
 // Counting of slots and words.
 #include "pack/Status.h"
 
+#include "pack/Message.h"
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
 
@@ -16,35 +17,36 @@ std::string line(std::string_view name, std::size_t number) {
 
 std::string textReport(std::string_view name, const ReadingSource& texts, std::size_t slots) {
   const std::size_t filled = texts.texts.size() + texts.headings.size();
-  return "  " + std::string(name) + ": " + std::to_string(texts.texts.size()) + " texts, " +
-         std::to_string(texts.headings.size()) + " headings, " + std::to_string(slots - filled) +
-         " open\n";
+  return "  " +
+         said("{}: {} texts, {} headings, {} open", name, texts.texts.size(), texts.headings.size(),
+              slots - filled) +
+         "\n";
 }
 
 std::string filledReport(std::string_view name, std::size_t filled, std::size_t slots) {
-  return "  " + std::string(name) + ": " + std::to_string(filled) + " filled, " +
-         std::to_string(slots - filled) + " open\n";
+  return "  " + said("{}: {} filled, {} open", name, filled, slots - filled) + "\n";
 }
 
 std::string slotReport(const Content& content) {
   const ReadingSource& readings = content.readings;
-  std::string report = "Slots\n";
-  report += textReport("reading texts", readings, ReadingSlots);
-  report += textReport("speaking texts", content.speaking, SpeakingSlots);
+  std::string report = said("Slots") + "\n";
+  report += textReport(said("reading texts"), readings, ReadingSlots);
+  report += textReport(said("speaking texts"), content.speaking, SpeakingSlots);
   std::size_t items = 0;
   for (const auto& [unit, questions] : content.listening.units)
     items += questions.size();
-  report += filledReport("listening items", items, MostListeningItems);
-  report += filledReport("analyses", content.analyses.analyses.size(), AnalysisSlots);
+  report += filledReport(said("listening items"), items, MostListeningItems);
+  report += filledReport(said("analyses"), content.analyses.analyses.size(), AnalysisSlots);
   const LessonSource& lessons = content.lessons;
   const std::size_t filledLessons = lessons.lessons.size() + lessons.headings.size();
-  report += "  rule lessons: " + std::to_string(lessons.lessons.size()) + " lessons, " +
-            std::to_string(lessons.headings.size()) + " headings, " +
-            std::to_string(LessonSlots - filledLessons) + " open; " +
-            std::to_string(content.exercises.lessons.size()) + " with items\n";
+  report +=
+      "  " +
+      said("rule lessons: {} lessons, {} headings, {} open; {} with items", lessons.lessons.size(),
+           lessons.headings.size(), LessonSlots - filledLessons, content.exercises.lessons.size()) +
+      "\n";
   const auto scripts = static_cast<int>(scriptsOf(readings).size());
-  return report + "  recordings: " + std::to_string(scripts) + " scripts, " +
-         std::to_string(RecordingCount - scripts) + " open\n";
+  return report + "  " +
+         said("recordings: {} scripts, {} open", scripts, RecordingCount - scripts) + "\n";
 }
 
 /// How many words or entries there are of each kind; kinds without one are left out.
@@ -56,9 +58,9 @@ std::string kindReport(std::string_view title, const Words& words) {
   std::string report = std::string(title) + "\n";
   for (const WordKindName& name : WordKindNames) {
     const std::size_t count = counts[static_cast<std::size_t>(name.kind)];
-    if (count > 0) report += line(name.name, count);
+    if (count > 0) report += line(translated(name.name), count);
   }
-  return report + line("in all", words.size());
+  return report + line(said("in all"), words.size());
 }
 
 } // namespace
@@ -67,10 +69,10 @@ std::string statusReport(const Content& content, const WordList& list,
                          const CoverageReport& coverage) {
   const auto side = vietnameseSideOf(list, content.words.listed);
   std::string report = slotReport(content) + "\n";
-  report += kindReport("Word list", list.words()) + "\n";
-  report += kindReport("Vietnamese side, which needs " + std::to_string(VietnameseSideCount), side);
+  report += kindReport(said("Word list"), list.words()) + "\n";
+  report += kindReport(said("Vietnamese side, which needs {}", VietnameseSideCount), side);
   report += "\n";
-  report += "Words without a Vietnamese sense\n" + coverageLines(coverage);
+  report += said("Words without a Vietnamese sense") + "\n" + coverageLines(coverage);
   return report;
 }
 

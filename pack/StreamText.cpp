@@ -1,6 +1,8 @@
 // Encoding and decoding of the streams.
 #include "pack/StreamText.h"
 
+#include "pack/Message.h"
+
 #include "stores/ByteCode.h"
 #include "text/Bytes.h"
 #include "text/GlyphMap.h"
@@ -58,13 +60,13 @@ std::string quoted(char32_t letter) {
 std::string named(char32_t letter) {
   switch (letter) {
   case U'\t':
-    return "U+0009, a tab; type blanks";
+    return said("U+0009, a tab; type blanks");
   case U'\u00A0':
-    return "U+00A0, the no-break space; type a plain blank";
+    return said("U+00A0, the no-break space; type a plain blank");
   case U'\u00AD':
-    return "U+00AD, the soft hyphen, which cannot be seen; delete it";
+    return said("U+00AD, the soft hyphen, which cannot be seen; delete it");
   case U'\u200B':
-    return "U+200B, a blank without width, which cannot be seen; delete it";
+    return said("U+200B, a blank without width, which cannot be seen; delete it");
   default:
     return quoted(letter);
   }
@@ -101,18 +103,18 @@ std::string sourceText(std::string_view utf8, Where where, std::string_view forb
   for (std::size_t at = 0; at < utf8.size(); ++where.column) {
     const auto letter = nextCodePoint(utf8, at);
     if (!letter) {
-      problems.add(where, "not valid UTF-8");
+      problems.add(where, said("not valid UTF-8"));
       ++at;
       continue;
     }
     const auto byte = streamByte(*letter);
     if (!byte) {
-      problems.add(where, "the text font has no byte for " + named(*letter));
+      problems.add(where, said("the text font has no byte for {}", named(*letter)));
     } else if (x1Letter(*byte) != *letter) {
       problems.add(where,
-                   "the text font has no capital " + quoted(*letter) + " and shows it small");
+                   said("the text font has no capital {} and shows it small", quoted(*letter)));
     } else if (forbidden.find(*byte) != std::string_view::npos) {
-      problems.add(where, quoted(*letter) + " is a mark and cannot stand in this text");
+      problems.add(where, said("{} is a mark and cannot stand in this text", quoted(*letter)));
     } else {
       text += *byte;
     }

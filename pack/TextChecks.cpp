@@ -1,6 +1,7 @@
 // The rules for sentences, line by line.
 #include "pack/TextChecks.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/TextWords.h"
 #include "pack/WordingChecks.h"
@@ -88,8 +89,8 @@ class TextChecker {
   void finish() {
     wording_.finish();
     if (use_ == TextUse::Speaking && asks_ && paragraphs_ == 1) {
-      problems_.add({file_}, "somebody asks here and all is one paragraph: each turn of a "
-                             "conversation is a paragraph of its own");
+      problems_.add({file_}, said("somebody asks here and all is one paragraph: each turn of a "
+                                  "conversation is a paragraph of its own"));
     }
   }
 
@@ -100,15 +101,17 @@ class TextChecker {
 
   void checkSentence(std::string_view line) {
     if (!endsClosed(line)) {
-      report(line.size(), "the sentence has no closing point; dictation drops its last letter");
+      report(line.size(),
+             said("the sentence has no closing point; dictation drops its last letter"));
     }
     if (const auto second = secondSentence(line))
-      report(*second, "a second sentence begins here; each has a line of its own");
+      report(*second, said("a second sentence begins here; each has a line of its own"));
   }
 
   void checkTranslation(const SourceLine& line) {
     line_ = line.number;
-    if (!endsClosed(line.text)) report(line.text.size(), "the translation has no closing point");
+    if (!endsClosed(line.text))
+      report(line.text.size(), said("the translation has no closing point"));
     wording_.readTranslation(line);
   }
 
@@ -129,7 +132,7 @@ class TextChecker {
     std::string parted = word;
     std::replace(parted.begin(), parted.end(), '-', ' ');
     if (heads_.count(word) != 0 || heads_.count(parted) != 0) return;
-    report(at, "\"" + word + "\" has a hyphen and no entry; write it in another way");
+    report(at, said("\"{}\" has a hyphen and no entry; write it in another way", word));
   }
 
   void checkSpoken(std::string_view line) {
@@ -138,16 +141,16 @@ class TextChecker {
       const bool quote =
           rest.front() == '"' || rest.starts_with(opening) || rest.starts_with(closing);
       if (quote || rest.front() == ';' || rest.front() == ':') {
-        report(at, "a mark that the voice passes over; use a comma or two sentences");
+        report(at, said("a mark that the voice passes over; use a comma or two sentences"));
       } else if (digits.has(rest.front())) {
-        report(at, "numbers are written out in a text to speak");
+        report(at, said("numbers are written out in a text to speak"));
         break;
       }
     }
     const auto words = textWords(line).size();
     if (words > MostWordsToSpeak) {
-      report(0, "the line has " + std::to_string(words) + " words; at most " +
-                    std::to_string(MostWordsToSpeak) + " can be said after the voice");
+      report(0, said("the line has {} words; at most {} can be said after the voice", words,
+                     MostWordsToSpeak));
     }
   }
 

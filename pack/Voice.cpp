@@ -1,6 +1,8 @@
 // Synthesis with flite.
 #include "pack/Voice.h"
 
+#include "pack/Message.h"
+
 #include "sound/FliteLexicon.h"
 #include "text/Text.h"
 
@@ -38,7 +40,7 @@ int syllablesOf(cst_utterance& utterance) {
 Voice::Voice(Speaker speaker) {
   flite_init();
   voice_ = speaker == Speaker::Rms ? register_cmu_us_rms(nullptr) : register_cmu_us_slt(nullptr);
-  if (voice_ == nullptr) throw std::runtime_error("flite gives no voice for the recordings");
+  if (voice_ == nullptr) throw std::runtime_error(said("flite gives no voice for the recordings"));
 }
 
 void Voice::learn(const Pronunciations& pronunciations) {
@@ -52,7 +54,7 @@ SpokenSentence Voice::speak(std::string_view sentence, float stretch) const {
       flite_synth_text(plainAscii(sentence).c_str(), voice_));
   const cst_wave* wave = spoken ? utt_wave(spoken.get()) : nullptr;
   if (wave == nullptr || wave->sample_rate != SamplesPerSecond || wave->num_channels != 1)
-    throw std::runtime_error("flite cannot speak: " + std::string(sentence));
+    throw std::runtime_error(said("flite cannot speak: {}", sentence));
   return {{wave->samples, wave->samples + wave->num_samples}, syllablesOf(*spoken)};
 }
 

@@ -1,6 +1,8 @@
 // The wave file is written into memory, so that it reaches the disk as every file of a pack does.
 #include "pack/WaveFile.h"
 
+#include "pack/Message.h"
+
 #include <sndfile.hh>
 
 #include <algorithm>
@@ -90,7 +92,7 @@ std::string soundFileOf(const Samples& samples, int samplesPerSecond, int format
     sound.command(SFC_SET_COMPRESSION_LEVEL, &compression, sizeof compression);
     const auto count = static_cast<sf_count_t>(samples.size());
     if (!sound || sound.write(samples.data(), count) != count)
-      throw std::runtime_error(std::string("no sound file can be made: ") + sound.strError());
+      throw std::runtime_error(said("no sound file can be made: {}", sound.strError()));
   }
   return memory.takeBytes();
 }
@@ -126,7 +128,7 @@ std::optional<std::string> flacFileOf(std::string bytes) {
       count = sound.read(part.data(), wanted);
       if (flac.write(part.data(), count) != count) flac = SndfileHandle();
     }
-    if (!flac) throw std::runtime_error("no FLAC file can be made of a recording");
+    if (!flac) throw std::runtime_error(said("no FLAC file can be made of a recording"));
   }
   return to.takeBytes();
 }

@@ -2,6 +2,7 @@
 #include "pack/WordCoverage.h"
 
 #include "dictionary/SyllableGate.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "text/Text.h"
 #include "text/WordForm.h"
@@ -121,8 +122,9 @@ CoverageReport coverageOf(const std::vector<Corpus>& corpora, const WordList& li
 std::string coverageLines(const CoverageReport& report) {
   std::string lines;
   for (const Coverage& each : report.corpora) {
-    lines += "  " + std::string(each.corpus) + ": " + std::to_string(each.missing) + " of " +
-             std::to_string(each.words) + " running words, " + percent(each.missing, each.words) +
+    lines += "  " +
+             said("{}: {} of {} running words, {}", translated(each.corpus), each.missing,
+                  each.words, percent(each.missing, each.words)) +
              "\n";
     if (each.missing > 0) lines += "    " + listOf(each.missingWords) + "\n";
   }
@@ -132,17 +134,17 @@ std::string coverageLines(const CoverageReport& report) {
 void checkCoverage(const CoverageReport& report, Problems& problems) {
   for (const Coverage& each : report.corpora) {
     if (each.isEnough()) continue;
-    problems.add({std::string(each.corpus)},
-                 std::to_string(each.missing) + " of " + std::to_string(each.words) +
-                     " running words have no Vietnamese sense, more than 1 in " +
-                     std::to_string(WordsAMissing) + ": " + listOf(each.missingWords));
+    problems.add({translated(each.corpus)},
+                 said("{} of {} running words have no Vietnamese sense, more than 1 in {}: {}",
+                      each.missing, each.words, WordsAMissing, listOf(each.missingWords)));
   }
   for (const UnknownName& name : report.names)
-    problems.add({std::string(name.corpus)}, "the name \"" + name.word +
-                                                 "\" has no entry and does not stand in " +
-                                                 std::string(NamesFile));
+    problems.add(
+        {translated(name.corpus)},
+        said("the name \"{}\" has no entry and does not stand in {}", name.word, NamesFile));
   for (const std::string& name : report.needless)
-    problems.add({std::string(NamesFile)}, "\"" + name + "\" has an entry and need not stand here");
+    problems.add({std::string(NamesFile)},
+                 said("\"{}\" has an entry and need not stand here", name));
 }
 
 } // namespace talvora::pack

@@ -4,6 +4,7 @@
 
 #include "pack/Entry.h"
 #include "pack/FormIndex.h"
+#include "pack/Message.h"
 
 #include <array>
 #include <cstddef>
@@ -36,17 +37,17 @@ struct WordKindName {
 };
 
 inline constexpr std::array<WordKindName, 11> WordKindNames = {{
-    {WordKind::Letter, "letters that open a section"},
-    {WordKind::Own, "entries of our own"},
-    {WordKind::OwnForm, "forms of our own entries"},
-    {WordKind::WordNet, "WordNet words"},
-    {WordKind::Form, "forms of WordNet words"},
-    {WordKind::PhraseForm, "forms of verbs of several words"},
-    {WordKind::Spelling, "other spellings"},
-    {WordKind::Derivation, "words built from known ones"},
-    {WordKind::PhrasePlural, "plurals of nouns of several words"},
-    {WordKind::Possessive, "possessives"},
-    {WordKind::PhrasePossessive, "possessives of nouns of several words"},
+    {WordKind::Letter, toSay("letters that open a section")},
+    {WordKind::Own, toSay("entries of our own")},
+    {WordKind::OwnForm, toSay("forms of our own entries")},
+    {WordKind::WordNet, toSay("WordNet words")},
+    {WordKind::Form, toSay("forms of WordNet words")},
+    {WordKind::PhraseForm, toSay("forms of verbs of several words")},
+    {WordKind::Spelling, toSay("other spellings")},
+    {WordKind::Derivation, toSay("words built from known ones")},
+    {WordKind::PhrasePlural, toSay("plurals of nouns of several words")},
+    {WordKind::Possessive, toSay("possessives")},
+    {WordKind::PhrasePossessive, toSay("possessives of nouns of several words")},
 }};
 
 /// Says what a word is to another one: "dạng -ing của go".

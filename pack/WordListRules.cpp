@@ -2,6 +2,7 @@
 #include "pack/WordListRules.h"
 
 #include "pack/Inflection.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "text/WordForm.h"
 
@@ -40,9 +41,9 @@ std::vector<Problem> hiddenForms(const WordList& list, const WordSources& source
       // A name is no form of a word in small letters.
       if (beginsWithCapital(word.head) != beginsWithCapital(form.text)) continue;
       if (!leadsTo(word, *base))
-        found.push_back({entry.where, "the entry of \"" + word.head +
-                                          "\" does not say that it is a form of \"" + entry.head +
-                                          "\""});
+        found.push_back(
+            {entry.where, said("the entry of \"{}\" does not say that it is a form of \"{}\"",
+                               utf8Of(word.head), utf8Of(entry.head))});
     }
   }
   return found;
@@ -60,8 +61,8 @@ std::vector<Problem> englishSenses(const WordList& list) {
         });
     if (english && list.hasVietnamese(word))
       found.push_back({{"dictionary"},
-                       "the entry of \"" + utf8Of(word.head) +
-                           "\" has an English sense beside the Vietnamese ones"});
+                       said("the entry of \"{}\" has an English sense beside the Vietnamese ones",
+                            utf8Of(word.head))});
   }
   return found;
 }

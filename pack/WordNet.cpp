@@ -1,6 +1,7 @@
 // Reading of the WordNet database: index files lead to synset lines, whose tails are the glosses.
 #include "pack/WordNet.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "text/Text.h"
 
@@ -180,7 +181,8 @@ class Collector {
       if (line.text.starts_with(' ') || line.text.empty()) continue;
       const auto parsed = parseIndexLine(line.text);
       if (!parsed || !collect(*parsed, data, part.wordClass)) {
-        problems_.add({indexPath.string(), line.number, 1}, "the line does not fit its database");
+        problems_.add({indexPath.string(), line.number, 1},
+                      said("the line does not fit its database"));
         return;
       }
     }

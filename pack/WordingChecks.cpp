@@ -1,6 +1,7 @@
 // Tables of twin words, and the search for them.
 #include "pack/WordingChecks.h"
 
+#include "pack/Message.h"
 #include "pack/SmallLetters.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
@@ -204,17 +205,13 @@ std::optional<Found> anyOf(std::string_view phrases, std::string_view text) {
   return std::nullopt;
 }
 
-std::string inMarks(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
-}
-
 template <typename Table>
 void findTwins(const Table& table, std::string_view small, std::vector<OddWording>& odd) {
   for (const Twin& twin : table) {
     const auto found = anyOf(twin.theirs, small);
     if (!found) continue;
     odd.push_back(
-        {found->at, "the course writes " + inMarks(twin.ours) + " for " + inMarks(found->phrase)});
+        {found->at, said("the course writes \"{}\" for \"{}\"", twin.ours, found->phrase)});
   }
 }
 
@@ -244,8 +241,7 @@ void findPartedNumbers(std::string_view sentence, std::vector<OddWording>& odd) 
     const Word& unit = words[at + 1];
     const bool beside = unit.at == ten.at + ten.text.size() + 1 && sentence[unit.at - 1] == ' ';
     if (!beside || !has(tens, lower(ten.text)) || !has(units, lower(unit.text))) continue;
-    odd.push_back({ten.at, "a number has a hyphen: " +
-                               inMarks(std::string(ten.text) + "-" + std::string(unit.text))});
+    odd.push_back({ten.at, said("a number has a hyphen: \"{}-{}\"", ten.text, unit.text)});
   }
 }
 
@@ -256,7 +252,7 @@ void findSmallDays(std::string_view sentence, std::vector<OddWording>& odd) {
     const bool isDay = std::any_of(weekdays.begin(), weekdays.end(),
                                    [day](const auto& each) { return each.first == day; });
     if (isDay || has(months, word.text))
-      odd.push_back({word.at, inMarks(word.text) + " begins with a capital"});
+      odd.push_back({word.at, said("\"{}\" begins with a capital", word.text)});
   }
 }
 
@@ -299,13 +295,13 @@ void WordingChecker::checkAgainstSentence(const SourceLine& line, std::string_vi
   const bool asked = small.find('?') != std::string_view::npos;
   if (asks != asked) {
     report(line.number, 0,
-           asks ? "the sentence asks and its translation does not"
-                : "the translation asks and its sentence does not");
+           asks ? said("the sentence asks and its translation does not")
+                : said("the translation asks and its sentence does not"));
   }
   for (const auto& [day, name] : weekdays) {
     const bool named = placeOf(day, sentence_) || placeOf(std::string(day) + "s", sentence_);
     if (named && !placeOf(name, small))
-      report(line.number, 0, "the translation has no " + inMarks(name));
+      report(line.number, 0, said("the translation has no \"{}\"", name));
   }
 }
 
@@ -328,10 +324,10 @@ void WordingChecker::finish() {
     const Regional& north = north_[row];
     const Regional& south = south_[row];
     if (north.word.empty() || south.word.empty()) continue;
-    report(std::max(north.line, south.line), 0,
-           inMarks(north.word) + " of the north and " + inMarks(south.word) +
-               " of the south stand in one text, here and in line " +
-               std::to_string(std::min(north.line, south.line)));
+    report(
+        std::max(north.line, south.line), 0,
+        said("\"{}\" of the north and \"{}\" of the south stand in one text, here and in line {}",
+             north.word, south.word, std::min(north.line, south.line)));
   }
 }
 

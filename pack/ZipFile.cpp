@@ -1,5 +1,7 @@
 #include "pack/ZipFile.h"
 
+#include "pack/Message.h"
+
 #include <archive.h>
 #include <archive_entry.h>
 
@@ -29,8 +31,8 @@ la_ssize_t append(archive* /*writer*/, void* text, const void* bytes, std::size_
 void require(archive* writer, la_ssize_t result) {
   if (result >= ARCHIVE_OK) return;
   const char* const why = archive_error_string(writer);
-  throw std::runtime_error(std::string("no archive can be made: ") +
-                           (why == nullptr ? "out of memory" : why));
+  throw std::runtime_error(
+      said("no archive can be made: {}", why == nullptr ? said("out of memory") : why));
 }
 
 void add(archive* writer, const ZipEntry& each) {
@@ -50,7 +52,7 @@ struct FreeReader {
 
 std::string problemOf(archive* reader) {
   const char* const why = archive_error_string(reader);
-  return why == nullptr ? "the archive cannot be read" : why;
+  return why == nullptr ? said("the archive cannot be read") : why;
 }
 
 /// Reads the entry at hand; false when there is more of it than `room`, or it is damaged.
@@ -61,7 +63,7 @@ bool readEntry(archive* reader, std::string& bytes, std::size_t room) {
     if (count <= 0) return count == 0;
     bytes.append(step.data(), static_cast<std::size_t>(count));
     if (bytes.size() > room) {
-      archive_set_error(reader, ARCHIVE_FATAL, "the archive is too large");
+      archive_set_error(reader, ARCHIVE_FATAL, said("the archive is too large").c_str());
       return false;
     }
   }
@@ -86,7 +88,8 @@ ZipContent zipContentOf(std::string_view bytes, const ZipLimits& limits) {
     if (!readEntry(reader.get(), content, room)) return {std::nullopt, problemOf(reader.get())};
     room -= content.size();
     if (name != nullptr) entries[name] = std::move(content);
-    if (entries.size() > limits.entries) return {std::nullopt, "the archive has too many entries"};
+    if (entries.size() > limits.entries)
+      return {std::nullopt, said("the archive has too many entries")};
   }
   if (result != ARCHIVE_EOF) return {std::nullopt, problemOf(reader.get())};
   return {std::move(entries), ""};

@@ -41,27 +41,37 @@ string(REPLACE "\n\n" "\n.\n" licence "${licence}")
 string(REPLACE "\n" "\n " TALVORA_LICENCE_INDENTED " ${licence}")
 configure_file(copyright.in copyright @ONLY)
 
-# The learner's manual as a page and as a book.
+# The learner's manual and the teacher's guide, as pages and as books.
 find_program(PANDOC pandoc)
 find_program(WEASYPRINT weasyprint)
-set(TALVORA_MANUAL "")
-set(manual ${CMAKE_SOURCE_DIR}/docs/manual)
-file(GLOB manual_pictures CONFIGURE_DEPENDS ${manual}/pictures/*.png)
-if(PANDOC)
-  set(page ${CMAKE_CURRENT_BINARY_DIR}/manual.html)
+set(TALVORA_BOOKS "")
+
+# Makes NAME.html and NAME.pdf of a source in a folder, with the pictures of another one.
+function(talvora_book name folder source pictures)
+  set(page ${CMAKE_CURRENT_BINARY_DIR}/${name}.html)
+  set(style ${CMAKE_SOURCE_DIR}/docs/manual/style.css)
+  file(GLOB used CONFIGURE_DEPENDS ${pictures}/*.png)
   add_custom_command(OUTPUT ${page}
-    COMMAND ${PANDOC} --standalone --self-contained --toc --toc-depth=1 --css style.css
-      --metadata toc-title= -o ${page} manual.md
-    DEPENDS ${manual}/manual.md ${manual}/style.css ${manual_pictures}
-    WORKING_DIRECTORY ${manual} VERBATIM)
-  list(APPEND TALVORA_MANUAL ${page})
+    COMMAND ${PANDOC} --standalone --self-contained --toc --toc-depth=1 --css ${style}
+      --metadata toc-title= -o ${page} ${source} ${ARGN}
+    DEPENDS ${folder}/${source} ${style} ${used}
+    WORKING_DIRECTORY ${folder} VERBATIM)
+  set(made ${page})
   if(WEASYPRINT)
-    add_custom_command(OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/manual.pdf
-      COMMAND ${WEASYPRINT} -q ${page} ${CMAKE_CURRENT_BINARY_DIR}/manual.pdf
+    set(book ${CMAKE_CURRENT_BINARY_DIR}/${name}.pdf)
+    add_custom_command(OUTPUT ${book} COMMAND ${WEASYPRINT} -q ${page} ${book}
       DEPENDS ${page} VERBATIM)
-    list(APPEND TALVORA_MANUAL ${CMAKE_CURRENT_BINARY_DIR}/manual.pdf)
+    list(APPEND made ${book})
   endif()
-  list(APPEND documents ${TALVORA_MANUAL})
+  set(TALVORA_BOOKS ${TALVORA_BOOKS} ${made} PARENT_SCOPE)
+endfunction()
+
+set(docs ${CMAKE_SOURCE_DIR}/docs)
+if(PANDOC)
+  talvora_book(manual ${docs}/manual manual.md ${docs}/manual/pictures)
+  talvora_book(huong-dan-giao-vien ${docs} huong-dan-giao-vien.md ${docs}/teacher/pictures
+    --shift-heading-level-by=-1 --metadata lang=vi)
+  list(APPEND documents ${TALVORA_BOOKS})
 endif()
 
 # The licences of what is carried along are read from where the machine that builds has them.

@@ -23,9 +23,11 @@ fi
 ./check --long
 ./check --install
 
-say "The manual's pictures"
+say "The pictures of the manual and of the teacher's guide"
 docs/manual/pictures.sh build/release/src/desktop/talvora build/pack docs/manual/pictures
-git diff --stat -- docs/manual/pictures
+docs/teacher/pictures.sh build/release/src/desktop/talvora build/release/pack/talvora-pack build/pack \
+  docs/teacher/pictures
+git diff --stat -- docs/manual/pictures docs/teacher/pictures
 
 say "Files"
 rm -rf build/files

@@ -1,5 +1,6 @@
 // talvora-pack new: a commented example to write over.
 #include "pack/Command.h"
+#include "pack/Message.h"
 #include "pack/PackFile.h"
 #include "pack/create/NewSource.h"
 
@@ -25,18 +26,19 @@ std::map<std::string, SourceKind> namedKinds() {
 int put(SourceKind kind, const std::filesystem::path& file) {
   std::error_code error;
   if (std::filesystem::exists(file, error)) {
-    std::cerr << file.string() << ": tệp này đã có, không ghi đè\n";
+    std::cerr << said("{}: this file is there already and is not written over", file.string())
+              << "\n";
     return usageOrDiskErrors;
   }
-  const PackFile source{file.filename().string(), std::string(exampleOf(kind))};
-  if (const auto problem = store(source, file.parent_path())) {
-    std::cerr << "Không ghi được: " << *problem << "\n";
-    return usageOrDiskErrors;
+  const auto place = std::filesystem::absolute(file);
+  const PackFile source{place.filename().string(), std::string(exampleOf(kind))};
+  if (const auto problem = store(source, place.parent_path())) {
+    return failWith(said("Nothing could be written: {}", translatedFileProblem(*problem)));
   }
-  std::cout << "Đã ghi " << file.string() << ".\n";
-  // What a text or an item is can be seen of itself; the others are known by their folders.
-  if (kind == SourceKind::Text || kind == SourceKind::Item)
-    std::cout << "Xem thử: talvora-pack show " << file.string() << "\n";
+  std::cout << said("{} has been written.", file.string()) << "\n";
+  // What a source is can be seen of itself; a lesson alone is known by its folder.
+  if (kind != SourceKind::Lesson || place.parent_path().filename() == "lessons")
+    std::cout << said("To look at it: {}", "talvora-pack show " + file.string()) << "\n";
   return 0;
 }
 
@@ -53,18 +55,18 @@ class NewCommand final : public Command {
 };
 
 NewCommand::NewCommand(CLI::App& application) {
-  command_ = application.add_subcommand(
-      "new", "put down a commented example to write over: a text, a lesson, an item, a listening "
-             "unit, an analysis");
-  command_->add_option("KIND", kind_, "text, lesson, item, unit or analysis")
+  command_ =
+      application.add_subcommand("new", said("put down a commented example to write over: a text, "
+                                             "a lesson, an item, a listening unit, an analysis"));
+  command_->add_option("KIND", kind_, said("text, lesson, item, unit or analysis"))
       ->required()
       ->transform(CLI::CheckedTransformer(namedKinds()));
   command_->add_option("FILE", file_,
-                       "the file to write, which must not exist; without one it is printed");
+                       said("the file to write, which must not exist; without one it is printed"));
 }
 
 int NewCommand::run() {
-  if (!file_.empty()) return put(kind_, std::filesystem::absolute(file_));
+  if (!file_.empty()) return put(kind_, file_);
   std::cout << exampleOf(kind_);
   return 0;
 }

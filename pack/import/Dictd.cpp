@@ -1,5 +1,6 @@
 #include "pack/import/Dictd.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "text/Text.h"
 
@@ -57,14 +58,14 @@ ImportedDictionary readDictd(std::string_view index, std::string_view articles,
     const auto offset = fields.size() >= 3 ? numberOf(fields[1]) : std::nullopt;
     const auto size = offset ? numberOf(fields[2]) : std::nullopt;
     if (!size) {
-      problems.add({indexName, line.number, 1}, "a line must be a head word, a tab, an offset, a "
-                                                "tab, a length");
+      problems.add({indexName, line.number, 1},
+                   said("a line must be a head word, a tab, an offset, a tab, a length"));
       break;
     }
     if (*offset > articles.size() || *size > articles.size() - *offset) {
-      problems.add({indexName, line.number, 1}, "offset " + std::to_string(*offset) +
-                                                    " and length " + std::to_string(*size) +
-                                                    " lie outside the file of articles");
+      problems.add(
+          {indexName, line.number, 1},
+          said("offset {} and length {} lie outside the file of articles", *offset, *size));
       break;
     }
     const auto article =

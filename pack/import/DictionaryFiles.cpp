@@ -1,6 +1,7 @@
 #include "pack/import/DictionaryFiles.h"
 
 #include "pack/Gunzip.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/import/Dictd.h"
 #include "pack/import/StarDict.h"
@@ -55,7 +56,7 @@ std::string readPacked(const std::filesystem::path& path, Problems& problems) {
   std::error_code error;
   const auto size = std::filesystem::file_size(path, error);
   if (!error && size > LargestDictionaryFile) {
-    problems.add({path.string()}, "the file is too large");
+    problems.add({path.string()}, said("the file is too large"));
     return {};
   }
   const std::string packed = readSource(path, problems);
@@ -74,11 +75,12 @@ ImportedDictionary readImported(const std::filesystem::path& path, Problems& pro
   } else if (ending == ".tsv" || ending == ".txt" || ending == ".tab") {
     dictionary = readTabbed(readPacked(path, problems), path.string(), problems);
   } else {
-    problems.add({path.string()},
-                 "a dictionary is a file \".ifo\", \".index\", \".tsv\", \".txt\" or \".tab\"");
+    problems.add(
+        {path.string()},
+        said("a dictionary is a file \".ifo\", \".index\", \".tsv\", \".txt\" or \".tab\""));
   }
   if (problems.none() && dictionary.entries.empty())
-    problems.add({path.string()}, "the dictionary has no entries");
+    problems.add({path.string()}, said("the dictionary has no entries"));
   if (dictionary.name.empty()) dictionary.name = path.stem().string();
   return dictionary;
 }

@@ -3,8 +3,11 @@
 #include "dictionary/WordList.h"
 #include "formats/LearnerFiles.h"
 #include "pack/LooseText.h"
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
+#include "pack/Telling.h"
 #include "pack/import/DictionaryFiles.h"
+#include "pack/import/MergedCourse.h"
 #include "platform/Files.h"
 #include "stores/Stores.h"
 
@@ -17,8 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t mostLostLetters = 12;
-
 fs::path folderIn(const std::string& learner) {
   return fs::path(learner) / MergedDictionaryFolder;
 }
@@ -26,13 +27,6 @@ fs::path folderIn(const std::string& learner) {
 /// The folder beside it under another ending.
 fs::path besideIn(const std::string& learner, const char* ending) {
   return fs::path(folderIn(learner).string() + ending);
-}
-
-ListResult tellProblems(const Problems& problems, std::ostream& out) {
-  for (const Problem& problem : problems.all())
-    out << describe(problem) << "\n";
-  out << "Không có gì thay đổi.\n";
-  return ListResult::Impossible;
 }
 
 std::string aboutOf(const std::vector<ImportedDictionary>& dictionaries) {
@@ -52,7 +46,7 @@ std::optional<std::string> put(const std::string& learner, std::vector<PackFile>
   fs::remove_all(old, error);
   error.clear();
   fs::create_directories(fresh, error);
-  if (error) return fileProblem(fresh.string(), "cannot be made", error);
+  if (error) return fileProblem(fresh.string(), said("cannot be made"), error);
   for (const PackFile& file : files) {
     if (auto problem = store(file, fresh)) {
       fs::remove_all(fresh, error);
@@ -62,24 +56,25 @@ std::optional<std::string> put(const std::string& learner, std::vector<PackFile>
   const fs::path place = folderIn(learner);
   if (fs::exists(place, error)) fs::rename(place, old, error);
   if (!error) fs::rename(fresh, place, error);
-  if (error) return fileProblem(place.string(), "cannot be replaced", error);
+  if (error) return fileProblem(place.string(), said("cannot be replaced"), error);
   if (const auto unsynced = systemFiles().syncFolder(learner))
-    return fileProblem(learner, "cannot be written", unsynced);
+    return fileProblem(learner, said("cannot be written"), unsynced);
   fs::remove_all(old, error);
   return std::nullopt;
 }
 
 void tell(const MergeReport& report, std::ostream& out) {
-  out << report.added << " từ mới, " << report.joined << " từ đã có được viết thêm.\n";
+  out << said("{} new words; {} words that were there have more to tell.", report.added,
+              report.joined)
+      << "\n";
   if (report.displaced > 0)
-    out << report.displaced << " dòng dạng sở hữu và số nhiều nhường chỗ.\n";
-  if (report.noRoom > 0) out << report.noRoom << " từ mới không còn chỗ trong danh sách.\n";
-  if (report.notEnglish > 0) out << report.notEnglish << " mục không phải là từ tra được.\n";
-  if (report.cut > 0) out << report.cut << " mục quá dài, chỉ lấy phần đầu.\n";
-  if (!report.lost.empty()) {
-    out << "Những chữ không có trong phông chữ đã bị bỏ: "
-        << lostLetters(report.lost, mostLostLetters) << "\n";
-  }
+    out << said("{} possessives and plurals make room for them.", report.displaced) << "\n";
+  if (report.noRoom > 0)
+    out << said("{} new words find no room in the list.", report.noRoom) << "\n";
+  if (report.notEnglish > 0)
+    out << said("{} entries are no words that can be looked up.", report.notEnglish) << "\n";
+  if (report.cut > 0) out << said("{} entries are too long and were cut.", report.cut) << "\n";
+  tellLost(report.lost, out);
 }
 
 std::vector<ImportedDictionary> readAll(const ImportWish& wish, Problems& problems,
@@ -101,21 +96,21 @@ ListResult importDictionaries(const ImportWish& wish, std::ostream& out,
   if (!problems.none()) return tellProblems(problems, out);
   const PackDictionary own(wish.pack, problems);
   if (!problems.none()) return tellProblems(problems, out);
-  progress("gộp từ điển");
+  progress(said("merging the dictionaries"));
   MergedDictionary merged = merge(own, dictionaries, wish.order, talvora::WordList::WordCount);
   merged.files.push_back({std::string(learnerfile::DictionaryParts), aboutOf(dictionaries)});
-  progress("ghi từ điển");
-  if (const auto problem = put(wish.learner, std::move(merged.files))) {
-    out << "Không ghi được: " << *problem << "\n";
-    return ListResult::Impossible;
-  }
+  merged.files.push_back({std::string(MergedCourseFile), courseMark(wish.pack)});
+  progress(said("writing the dictionary"));
+  if (const auto problem = put(wish.learner, std::move(merged.files)))
+    return tellUnwritten(*problem, out);
   for (const ImportedDictionary& each : dictionaries) {
-    out << each.name << ": " << each.entries.size() << " mục";
-    if (each.unread > 0) out << ", " << each.unread << " mục không có chữ";
+    out << said("{}: {} entries", each.name, each.entries.size());
+    if (each.unread > 0) out << said(", {} of them without text", each.unread);
     out << "\n";
   }
   tell(merged.report, out);
-  out << "Từ lần mở sau, Talvora tra cả những từ điển này.\n";
+  out << said("When it is started next, the program looks words up in these dictionaries too.")
+      << "\n";
   return ListResult::Fine;
 }
 
@@ -124,31 +119,32 @@ ListResult removeImported(const std::string& learner, std::ostream& out) {
   const fs::path old = besideIn(learner, ".old");
   fs::remove_all(old, error);
   if (!fs::exists(folderIn(learner), error)) {
-    out << "Chưa có từ điển nào được thêm.\n";
+    out << said("No dictionary has been added yet.") << "\n";
     return ListResult::Fine;
   }
   fs::rename(folderIn(learner), old, error);
   if (error) {
-    out << "Không xóa được: " << fileProblem(folderIn(learner).string(), "cannot go", error)
-        << "\n";
+    out << fileProblem(folderIn(learner).string(), said("cannot be removed"), error) << "\n";
     return ListResult::Impossible;
   }
   fs::remove_all(old, error);
-  out << "Từ lần mở sau, Talvora chỉ tra từ điển của mình.\n";
+  out << said("When it is started next, the program looks words up in its own dictionary alone.")
+      << "\n";
   return ListResult::Fine;
 }
 
-ListResult showImported(const std::string& learner, std::ostream& out) {
+ListResult showImported(const std::string& learner, const std::string& pack, std::ostream& out) {
   const auto about = readWhole(folderIn(learner) / learnerfile::DictionaryParts);
   if (!about) {
-    out << "Chưa có từ điển nào được thêm.\n";
+    out << said("No dictionary has been added yet.") << "\n";
     return ListResult::Fine;
   }
   for (const SourceLine& line : linesOf(*about)) {
     const std::size_t tab = line.text.find('\t');
     if (tab == std::string_view::npos) continue;
-    out << line.text.substr(0, tab) << ": " << line.text.substr(tab + 1) << " mục\n";
+    out << said("{}: {} entries", line.text.substr(0, tab), line.text.substr(tab + 1)) << "\n";
   }
+  if (!pack.empty() && isMergedWithAnother(learner, pack)) out << mergedWithAnother() << "\n";
   return ListResult::Fine;
 }
 

@@ -1,5 +1,4 @@
-// Dictionaries that a learner brings: `talvora-pack import`. It speaks Vietnamese, for it is the
-// learner who asks.
+// Dictionaries that a learner brings: `talvora-pack import`.
 #pragma once
 
 #include "pack/LearnersList.h"
@@ -30,7 +29,9 @@ using ImportProgress = std::function<void(std::string_view step)>;
                                             const ImportProgress& progress);
 /// Takes the merged dictionary away: the course's own is used again.
 [[nodiscard]] ListResult removeImported(const std::string& learner, std::ostream& out);
-/// Tells what the learner's dictionary is merged of.
-[[nodiscard]] ListResult showImported(const std::string& learner, std::ostream& out);
+/// Tells what the learner's dictionary is merged of, and whether with another course than the one
+/// of the pack, which may be empty.
+[[nodiscard]] ListResult showImported(const std::string& learner, const std::string& pack,
+                                      std::ostream& out);
 
 } // namespace talvora::pack

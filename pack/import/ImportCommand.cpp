@@ -1,6 +1,7 @@
 // talvora-pack import: dictionaries of a learner's own.
 #include "pack/Command.h"
 #include "pack/FolderSearch.h"
+#include "pack/Message.h"
 #include "pack/import/DictionaryImport.h"
 
 #include <CLI/CLI.hpp>
@@ -30,28 +31,29 @@ class ImportCommand final : public Command {
 
 ImportCommand::ImportCommand(CLI::App& application) {
   command_ = application.add_subcommand(
-      "import", "take dictionaries of your own into the learner's folder: StarDict (.ifo), dictd "
-                "(.index), or a word, a tab and its entry a line (.tsv, .txt, .tab); without any, "
-                "tell which are there");
-  command_->add_option("DICTIONARY", dictionaries_,
-                       "the dictionaries, in the order in which they are shown; those of an "
-                       "earlier import go");
+      "import", said("take dictionaries of your own into the learner's folder: StarDict (.ifo), "
+                     "dictd (.index), or a word, a tab and its entry a line (.tsv, .txt, .tab); "
+                     "without any, tell which are there"));
+  command_->add_option(
+      "DICTIONARY", dictionaries_,
+      said(
+          "the dictionaries, in the order in which they are shown; those of an earlier import go"));
   command_->add_flag("--imported-first", importedFirst_,
-                     "show them ahead of the course's own senses; else they come behind");
-  command_->add_flag("--remove", remove_, "go back to the course's own dictionary");
+                     said("show them ahead of the course's own senses; else they come behind"));
+  command_->add_flag("--remove", remove_, said("go back to the course's own dictionary"));
   command_->add_option("--pack", pack_,
-                       "the course; without it the one that the program would open");
+                       said("the course; without it the one that the program would open"));
   command_->add_option("--learner", folder_,
-                       "the learner's folder; without it the one that the program uses");
+                       said("the learner's folder; without it the one that the program uses"));
 }
 
 int ImportCommand::run() {
   const LearnersPlaces places = placesFor(pack_, folder_);
   const auto code = [](ListResult result) { return static_cast<int>(result); };
   if (remove_) return code(removeImported(places.learner, std::cout));
-  if (dictionaries_.empty()) return code(showImported(places.learner, std::cout));
+  if (dictionaries_.empty()) return code(showImported(places.learner, places.pack, std::cout));
   if (places.pack.empty()) {
-    std::cout << "Không tìm thấy bộ bài học; hãy chỉ thư mục của nó bằng --pack.\n";
+    std::cout << said("No course was found; tell its folder with --pack.") << "\n";
     return code(ListResult::Impossible);
   }
   const ImportWish wish{{dictionaries_.begin(), dictionaries_.end()},

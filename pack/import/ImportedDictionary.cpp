@@ -1,5 +1,7 @@
 #include "pack/import/ImportedDictionary.h"
 
+#include "pack/Message.h"
+
 #include <utility>
 
 namespace talvora::pack {
@@ -13,7 +15,7 @@ constexpr std::size_t mostText = std::size_t{768} << 20;
 bool EntryCollector::add(std::string head, std::string text) {
   bytes_ += head.size() + text.size();
   if (dictionary.entries.size() >= MostImportedEntries || bytes_ > mostText) {
-    problems_.add({file_}, "the dictionary is too large");
+    problems_.add({file_}, said("the dictionary is too large"));
     return false;
   }
   dictionary.entries.push_back({std::move(head), std::move(text)});
@@ -21,7 +23,7 @@ bool EntryCollector::add(std::string head, std::string text) {
 }
 
 void EntryCollector::fail(std::size_t offset, const std::string& what) {
-  problems_.add({file_}, "offset " + std::to_string(offset) + ": " + what);
+  problems_.add({file_}, said("offset {}: {}", offset, what));
 }
 
 } // namespace talvora::pack

@@ -1,5 +1,6 @@
 #include "pack/import/StarDict.h"
 
+#include "pack/Message.h"
 #include "pack/PlainMarkup.h"
 #include "pack/SourceFile.h"
 
@@ -156,12 +157,11 @@ class Reader {
       const auto offset = head ? index.number(info_.offsetSize) : std::nullopt;
       const auto size = offset ? index.number(shortNumber) : std::nullopt;
       if (!size) {
-        collector_.fail(start, "the index ends within an entry");
+        collector_.fail(start, said("the index ends within an entry"));
         return false;
       }
       if (*offset > files_.articles.size() || *size > files_.articles.size() - *offset) {
-        collector_.fail(start, "the entry \"" + std::string(*head) +
-                                   "\" lies outside the file of articles");
+        collector_.fail(start, said("the entry \"{}\" lies outside the file of articles", *head));
         return false;
       }
       const auto article =
@@ -185,7 +185,7 @@ class Reader {
       const auto head = synonyms.word();
       const auto number = head ? synonyms.number(shortNumber) : std::nullopt;
       if (!number || *number >= texts_.size()) {
-        collector_.fail(start, "the file of synonyms names an entry that is not there");
+        collector_.fail(start, said("the file of synonyms names an entry that is not there"));
         return;
       }
       const std::string& text = texts_[static_cast<std::size_t>(*number)];

@@ -1,5 +1,6 @@
 #include "pack/import/TabbedDictionary.h"
 
+#include "pack/Message.h"
 #include "pack/PlainMarkup.h"
 #include "pack/SourceFile.h"
 
@@ -33,7 +34,7 @@ ImportedDictionary readTabbed(std::string_view text, const std::string& file, Pr
     if (line.text.empty() || line.text.starts_with('#')) continue;
     const std::size_t tab = line.text.find('\t');
     if (tab == std::string_view::npos || tab == 0) {
-      problems.add({file, line.number, 1}, "a line must be a word, a tab and its entry");
+      problems.add({file, line.number, 1}, said("a line must be a word, a tab and its entry"));
       break;
     }
     const auto entry = line.text.substr(tab + 1, LongestImportedEntry);

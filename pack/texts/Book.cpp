@@ -1,4 +1,5 @@
 // Books: an archive with a list of files in their order, each a page of XHTML.
+#include "pack/Message.h"
 #include "pack/ZipFile.h"
 #include "pack/texts/BroughtText.h"
 #include "text/Text.h"
@@ -189,7 +190,7 @@ std::vector<BroughtChapter> chaptersOfBook(std::string_view bytes, const std::st
   const Document document = root == entries.end() ? nullptr : xmlFrom(root->second);
   const auto lists = elementsNamed(document, "rootfile");
   if (lists.empty()) {
-    problems.add({file}, "không phải là sách EPUB: thiếu META-INF/container.xml");
+    problems.add({file}, said("this is no EPUB book: META-INF/container.xml is missing"));
     return {};
   }
   std::vector<BroughtChapter> chapters;

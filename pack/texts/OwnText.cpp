@@ -1,5 +1,6 @@
 #include "pack/texts/OwnText.h"
 
+#include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "pack/texts/SentenceCutter.h"
@@ -138,20 +139,21 @@ OwnTextsFromFile ownTextsFromFile(const std::filesystem::path& file, Problems& p
   std::error_code error;
   const auto size = std::filesystem::file_size(file, error);
   if (!error && size > LargestTextFile) {
-    problems.add({file.string()}, "tệp quá lớn");
+    problems.add({file.string()}, said("the file is too large"));
     return {};
   }
   const bool isBook = lower(file.extension().string()) == ".epub";
   const std::string text = isBook ? readSource(file, problems) : readText(file, problems);
   const auto bad = isBook ? std::nullopt : badByte(text);
-  if (bad) problems.add({file.string()}, "byte " + std::to_string(*bad) + ": không phải UTF-8");
+  if (bad) problems.add({file.string()}, said("byte {}: not valid UTF-8", *bad));
   if (!problems.none()) return {};
   if (!isBook && isTranslated(text)) return readTranslated(text, file, problems);
   Cutter cutter(titleOfName(file));
   for (const BroughtChapter& chapter : chaptersOf(file, text, problems))
     cutter.read(chapter);
   OwnTextsFromFile made = cutter.finish();
-  if (made.texts.empty() && problems.none()) problems.add({file.string()}, "không có câu nào");
+  if (made.texts.empty() && problems.none())
+    problems.add({file.string()}, said("there are no sentences"));
   return made;
 }
 

@@ -3,10 +3,12 @@
 #include "formats/Integers.h"
 #include "formats/LearnerFiles.h"
 #include "pack/LooseText.h"
+#include "pack/Message.h"
 #include "pack/PackFile.h"
 #include "pack/ReadingStore.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "pack/Telling.h"
 #include "pack/texts/OwnText.h"
 #include "platform/Files.h"
 #include "stores/OwnTexts.h"
@@ -25,7 +27,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t mostLostLetters = 12;
 /// The heading of their group takes one place of the list.
 constexpr std::size_t mostTexts = MostOwnTexts - 1;
 constexpr std::size_t digits = 3;
@@ -92,19 +93,7 @@ std::optional<std::string> writeFile(const std::string& learner, const Texts& te
   const std::string bytes = fileOf(texts);
   if (!bytes.empty()) return replaceFile(systemFiles(), path, bytesOfText(bytes));
   const auto error = systemFiles().remove(path);
-  return error ? std::optional(fileProblem(path, "cannot be removed", error)) : std::nullopt;
-}
-
-ListResult tellProblems(const Problems& problems, std::ostream& out) {
-  for (const Problem& problem : problems.all())
-    out << describe(problem) << "\n";
-  out << "Không có gì thay đổi.\n";
-  return ListResult::Impossible;
-}
-
-ListResult tellUnwritten(const std::string& problem, std::ostream& out) {
-  out << "Không ghi được: " << problem << "\n";
-  return ListResult::Impossible;
+  return error ? std::optional(fileProblem(path, said("cannot be removed"), error)) : std::nullopt;
 }
 
 std::size_t sentencesOf(const ReadingText& text) {
@@ -115,7 +104,8 @@ std::size_t sentencesOf(const ReadingText& text) {
 }
 
 void tellText(int number, const ReadingText& text, std::ostream& out) {
-  out << number << "\t" << utf8Of(text.title) << "\t" << sentencesOf(text) << " câu\n";
+  out << number << "\t" << utf8Of(text.title) << "\t"
+      << saidOf(sentencesOf(text), "{} sentence", "{} sentences") << "\n";
 }
 
 /// Writes the sources of texts, then the program's file; on a failure the sources go again.
@@ -124,7 +114,7 @@ std::optional<std::string> putNew(const std::string& learner, const Texts& fresh
   const fs::path folder = folderIn(learner);
   std::error_code error;
   fs::create_directories(folder, error);
-  if (error) return fileProblem(folder.string(), "cannot be made", error);
+  if (error) return fileProblem(folder.string(), said("cannot be made"), error);
   std::optional<std::string> problem;
   for (const auto& [number, text] : fresh) {
     problem = store({nameOf(number), writeReadingText(text)}, folder);
@@ -156,18 +146,18 @@ ListResult addTexts(const std::string& learner, const std::vector<fs::path>& fil
   if (!problems.none()) return tellProblems(problems, out);
   all.insert(fresh.begin(), fresh.end());
   if (all.size() > mostTexts) {
-    out << "Chỉ có chỗ cho " << mostTexts << " bài; đã có " << all.size() - fresh.size()
-        << ", muốn thêm " << fresh.size() << ".\nKhông có gì thay đổi.\n";
-    return ListResult::Impossible;
+    out << said("There is room for {} texts only; there are {}, and {} more are asked for.",
+                mostTexts, all.size() - fresh.size(), fresh.size())
+        << "\n";
+    return tellUnchanged(out);
   }
   if (const auto problem = putNew(learner, fresh, all)) return tellUnwritten(*problem, out);
   for (const auto& [each, text] : fresh)
     tellText(each, text, out);
-  if (!lost.empty()) {
-    out << "Những chữ không có trong phông chữ đã bị bỏ: " << lostLetters(lost, mostLostLetters)
-        << "\n";
-  }
-  out << "Từ lần mở sau, các bài này ở cuối danh sách bài đọc, dưới \"Bài của bạn\".\n";
+  tellLost(lost, out);
+  out << said("When it is started next, the program has these texts at the end of the list of "
+              "reading texts, below \"Bài của bạn\".")
+      << "\n";
   return ListResult::Fine;
 }
 
@@ -178,7 +168,7 @@ ListResult listTexts(const std::string& learner, std::ostream& out) {
     tellText(number, text, out);
   for (const Problem& problem : problems.all())
     out << describe(problem) << "\n";
-  out << texts.size() << " bài\n";
+  out << saidOf(texts.size(), "{} text", "{} texts") << "\n";
   return problems.none() ? ListResult::Fine : ListResult::Found;
 }
 
@@ -189,17 +179,20 @@ ListResult removeTexts(const std::string& learner, const std::vector<int>& numbe
   if (!problems.none()) return tellProblems(problems, out);
   for (const int number : numbers) {
     if (texts.erase(number) > 0) continue;
-    out << "Không có bài số " << number << ".\nKhông có gì thay đổi.\n";
-    return ListResult::Impossible;
+    out << said("There is no text number {}.", number) << "\n";
+    return tellUnchanged(out);
   }
   // The program's file goes first: a source that is left over is only told again.
   if (const auto problem = writeFile(learner, texts)) return tellUnwritten(*problem, out);
   for (const int number : numbers) {
     const auto path = (folderIn(learner) / nameOf(number)).string();
     if (const auto error = systemFiles().remove(path))
-      return tellUnwritten(fileProblem(path, "cannot be removed", error), out);
+      return tellUnwritten(fileProblem(path, said("cannot be removed"), error), out);
   }
-  out << "Đã bỏ " << numbers.size() << " bài. Từ vựng lấy từ bài đó vẫn giữ câu của mình.\n";
+  out << saidOf(numbers.size(),
+                "{} text has been taken away. Words collected from it keep their sentences.",
+                "{} texts have been taken away. Words collected from them keep their sentences.")
+      << "\n";
   return ListResult::Fine;
 }
 
@@ -208,11 +201,11 @@ ListResult refreshTexts(const std::string& learner, std::ostream& out) {
   const Texts texts = readAll(learner, problems);
   if (!problems.none()) return tellProblems(problems, out);
   if (texts.size() > mostTexts) {
-    out << "Chỉ có chỗ cho " << mostTexts << " bài.\nKhông có gì thay đổi.\n";
-    return ListResult::Impossible;
+    out << said("There is room for {} texts only.", mostTexts) << "\n";
+    return tellUnchanged(out);
   }
   if (const auto problem = writeFile(learner, texts)) return tellUnwritten(*problem, out);
-  out << texts.size() << " bài\n";
+  out << saidOf(texts.size(), "{} text", "{} texts") << "\n";
   return ListResult::Fine;
 }
 

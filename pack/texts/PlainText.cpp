@@ -1,4 +1,5 @@
 // Plain text and subtitles.
+#include "pack/Message.h"
 #include "pack/PlainMarkup.h"
 #include "pack/SourceFile.h"
 #include "pack/texts/BroughtText.h"
@@ -85,7 +86,7 @@ class Subtitles {
     } else if (inside_) {
       appendLine(chapter_.paragraphs.back(), trim(withoutMarkup(text)));
     } else if (!isNumber(text) && problems_.none()) {
-      problems_.add({file_, line.number, 1}, "dòng này không thuộc phụ đề nào");
+      problems_.add({file_, line.number, 1}, said("this line belongs to no subtitle"));
     }
   }
 

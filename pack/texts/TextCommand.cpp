@@ -1,6 +1,7 @@
 // talvora-pack text: texts of a learner's own.
 #include "pack/Command.h"
 #include "pack/FolderSearch.h"
+#include "pack/Message.h"
 #include "pack/texts/OwnTexts.h"
 
 #include <CLI/CLI.hpp>
@@ -31,23 +32,23 @@ class TextCommand final : public Command {
 
 TextCommand::TextCommand(CLI::App& application) {
   command_ = application.add_subcommand(
-      "text", "texts of your own, at the end of the list of reading texts");
+      "text", said("texts of your own, at the end of the list of reading texts"));
   command_->require_subcommand(1);
-  const auto addCommand = [&](const char* name, const char* what) {
+  const auto addCommand = [&](const char* name, const std::string& what) {
     CLI::App* const command = command_->add_subcommand(name, what);
     command->add_option("--learner", folder_,
-                        "the learner's folder; without it the one that the program uses");
+                        said("the learner's folder; without it the one that the program uses"));
     return command;
   };
-  add_ = addCommand("add", "add texts; one that is long becomes several");
+  add_ = addCommand("add", said("add texts; one that is long becomes several"));
   add_->add_option("FILE", files_,
-                   "plain text, a book (.epub) or subtitles (.srt), in English and UTF-8; in a "
-                   "plain text a line that begins with \"= \" translates the line above it")
+                   said("plain text, a book (.epub) or subtitles (.srt), in English and UTF-8; in "
+                        "a plain text a line that begins with \"= \" translates the line above it"))
       ->required();
-  list_ = addCommand("list", "tell the texts with their numbers");
-  remove_ = addCommand("remove", "take texts away; words keep their sentences");
-  remove_->add_option("NUMBER", numbers_, "as \"list\" tells them")->required();
-  addCommand("refresh", "take over what was changed in the folder \"texts\"");
+  list_ = addCommand("list", said("tell the texts with their numbers"));
+  remove_ = addCommand("remove", said("take texts away; words keep their sentences"));
+  remove_->add_option("NUMBER", numbers_, said("as \"list\" tells them"))->required();
+  addCommand("refresh", said("take over what was changed in the folder \"texts\""));
 }
 
 int TextCommand::run() {

@@ -1,5 +1,7 @@
 #include "pack/words/Database.h"
 
+#include "pack/Message.h"
+
 #include <sqlite3.h>
 
 #include <stdexcept>
@@ -17,8 +19,8 @@ struct FreeBytes {
 
 void require(sqlite3* database, int result, int wanted) {
   if (result == wanted) return;
-  const char* const why = database == nullptr ? "out of memory" : sqlite3_errmsg(database);
-  throw std::runtime_error(std::string("the deck's database cannot be made: ") + why);
+  const std::string why = database == nullptr ? said("out of memory") : sqlite3_errmsg(database);
+  throw std::runtime_error(said("the deck's database cannot be made: {}", why));
 }
 
 std::string insertion(const std::string& table, std::size_t columns) {
@@ -69,7 +71,8 @@ std::string Database::bytes() const {
   sqlite3_int64 size = 0;
   const std::unique_ptr<unsigned char, FreeBytes> content(
       sqlite3_serialize(database_.get(), "main", &size, 0));
-  if (content == nullptr) throw std::runtime_error("the deck's database cannot be made: no memory");
+  if (content == nullptr)
+    throw std::runtime_error(said("the deck's database cannot be made: {}", said("out of memory")));
   return {content.get(), content.get() + size};
 }
 

@@ -2,6 +2,7 @@
 
 #include "learner/VocabularyFile.h"
 #include "learner/WordRows.h"
+#include "pack/Message.h"
 #include "pack/PlainMarkup.h"
 #include "pack/words/CardFields.h"
 #include "pack/words/Table.h"
@@ -85,14 +86,14 @@ std::optional<Columns> columnsBy(const Fields& names) {
 /// Why the list of the program cannot hold a word; empty when it can.
 std::string faultOf(std::string_view word) {
   constexpr CharClass ofWords("[a-zA-Z0-9' -]");
-  if (word.empty()) return "không có từ";
+  if (word.empty()) return said("there is no word");
   if (word.size() > VocabularyWord::LongestWord) {
-    return "từ dài quá " + std::to_string(VocabularyWord::LongestWord) + " chữ";
+    return said("the word has more than {} letters", VocabularyWord::LongestWord);
   }
   const bool isEnglish =
       std::all_of(word.begin(), word.end(), [&](char each) { return ofWords.has(each); }) &&
       std::any_of(word.begin(), word.end(), [](char each) { return Letters.has(each); });
-  return isEnglish ? "" : "không phải là từ tiếng Anh";
+  return isEnglish ? "" : said("this is no English word");
 }
 
 class ListReader {

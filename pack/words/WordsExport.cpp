@@ -1,5 +1,7 @@
 #include "pack/words/WordsExport.h"
 
+#include "pack/Message.h"
+#include "pack/Telling.h"
 #include "pack/words/CardAudio.h"
 #include "pack/words/CardDeck.h"
 #include "pack/words/CardTables.h"
@@ -58,12 +60,12 @@ class Speaking {
   std::vector<std::string> order_;
 };
 
-Spoken spoken(std::vector<WordCard> cards, const std::string& pack, const Counted& progress) {
-  Speaking speaking(pack);
+Spoken spoken(std::vector<WordCard> cards, const ExportWish& wish, const Counted& progress) {
+  Speaking speaking(wish.pack);
   Spoken result;
   for (WordCard& card : cards) {
-    std::string word = speaking.say(card.spokenWord);
-    std::string sentence = speaking.say(card.spokenSentence);
+    std::string word = wish.aloud != Aloud::Sentence ? speaking.say(card.spokenWord) : "";
+    std::string sentence = wish.aloud != Aloud::Word ? speaking.say(card.spokenSentence) : "";
     result.cards.push_back({std::move(card), std::move(word), std::move(sentence)});
     progress(result.cards.size(), cards.size());
   }
@@ -86,7 +88,7 @@ std::string contentOf(const Spoken& words, const ExportWish& wish) {
 std::optional<std::string> writeSounds(const std::vector<SoundClip>& sounds,
                                        const std::filesystem::path& folder, FileSystem& files) {
   if (const auto error = files.makeFolder(folder.string()))
-    return fileProblem(folder.string(), "cannot be made", error);
+    return fileProblem(folder.string(), said("cannot be made"), error);
   for (const SoundClip& sound : sounds) {
     const auto path = (folder / sound.name).string();
     if (auto problem = replaceFile(files, path, bytesOfText(sound.bytes))) return problem;
@@ -107,24 +109,21 @@ std::optional<ExportForm> exportFormOf(const std::filesystem::path& file) {
 ListResult exportWords(const LearnersList& list, const ExportWish& wish, std::ostream& out,
                        const Counted& progress) {
   auto cards = cardsOf(list, wish.pack);
-  if (!cards) {
-    out << "Không đọc được từ vựng trong " << list.folder << "\n";
-    return ListResult::Impossible;
-  }
-  const bool speaks = wish.form == ExportForm::Deck ? wish.spoken : wish.sounds.has_value();
+  if (!cards) return tellUnreadable(list.folder, out);
+  const bool speaks =
+      wish.aloud != Aloud::Nothing && (wish.form == ExportForm::Deck || wish.sounds.has_value());
   const Spoken words =
-      speaks ? spoken(std::move(*cards), wish.pack, progress) : unspoken(std::move(*cards));
+      speaks ? spoken(std::move(*cards), wish, progress) : unspoken(std::move(*cards));
   auto problem = wish.form != ExportForm::Deck && wish.sounds
                      ? writeSounds(words.sounds, *wish.sounds, list.files)
                      : std::nullopt;
   if (!problem)
     problem = replaceFile(list.files, wish.file.string(), bytesOfText(contentOf(words, wish)));
-  if (problem) {
-    out << "Không ghi được: " << *problem << "\n";
-    return ListResult::Impossible;
-  }
-  out << "Đã ghi " << words.cards.size() << " từ vào " << wish.file.string();
-  if (!words.sounds.empty()) out << ", với " << words.sounds.size() << " tệp tiếng";
+  if (problem) return tellUnwritten(*problem, out);
+  out << saidOf(words.cards.size(), "{0} word has been written to {1}",
+                "{0} words have been written to {1}", wish.file.string());
+  if (!words.sounds.empty())
+    out << saidOf(words.sounds.size(), ", with {} sound", ", with {} sounds");
   out << ".\n";
   return ListResult::Fine;
 }

@@ -1,9 +1,9 @@
-// The learner's words on their way out: `talvora-pack words export`. It speaks Vietnamese, for it
-// is the learner who asks.
+// The learner's words on their way out: `talvora-pack words export`.
 #pragma once
 
 #include "pack/LearnersList.h"
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -20,11 +20,24 @@ enum class ExportForm { CommaTable, CardTable, Deck };
 /// another name.
 [[nodiscard]] std::optional<ExportForm> exportFormOf(const std::filesystem::path& file);
 
+/// What of a word has a sound.
+enum class Aloud { Nothing, Word, Sentence, Both };
+
+struct AloudName {
+  Aloud aloud;
+  std::string_view name;
+};
+
+inline constexpr std::array<AloudName, 4> AloudNames = {{{Aloud::Nothing, "none"},
+                                                         {Aloud::Word, "word"},
+                                                         {Aloud::Sentence, "sentence"},
+                                                         {Aloud::Both, "both"}}};
+
 struct ExportWish {
   std::filesystem::path file;
   ExportForm form = ExportForm::CommaTable;
   std::string pack;                            ///< empty when there is none
-  bool spoken = true;                          ///< whether a deck has sounds
+  Aloud aloud = Aloud::Both;                   ///< a table's sounds need a folder besides
   std::optional<std::filesystem::path> sounds; ///< folder for the sounds of a table
   std::int64_t seconds = 0;                    ///< since 1970: when it is made
 };

@@ -2,7 +2,9 @@
 
 #include "learner/LearnerLock.h"
 #include "learner/LearnerWords.h"
+#include "pack/Message.h"
 #include "pack/StreamText.h"
+#include "pack/Telling.h"
 #include "pack/words/WordCards.h"
 #include "pack/words/WordListFile.h"
 #include "platform/Files.h"
@@ -104,12 +106,12 @@ std::optional<std::string> contentOf(const LearnersList& list, const std::string
   std::error_code error;
   const FileStatus status = list.files.status(file, error);
   if (status.size > LargestWordList) {
-    out << file << ": tệp quá lớn, không phải là danh sách từ\n";
+    out << said("{}: the file is too large to be a list of words", file) << "\n";
     return std::nullopt;
   }
   const auto bytes = readWhole(list.files, file, error);
   if (!bytes) {
-    out << "Không đọc được " << file << "\n";
+    out << said("{}: cannot be read", file) << "\n";
     return std::nullopt;
   }
   return textOfBytes(*bytes);
@@ -129,10 +131,7 @@ std::optional<std::string> addRows(LearnerWords& words, std::vector<VocabularyWo
 ListResult importWords(const LearnersList& list, const std::filesystem::path& file,
                        const std::string& pack, std::ostream& out) {
   const LearnerLock lock(list.files, list.folder);
-  if (lock.state() == LearnerLock::State::Taken) {
-    out << "Talvora đang chạy rồi.\n";
-    return ListResult::Impossible;
-  }
+  if (lock.state() == LearnerLock::State::Taken) return tellRunning(out);
   const auto content = contentOf(list, file.string(), out);
   if (!content) return ListResult::Impossible;
   const WordListContent listed = wordListFrom(*content);
@@ -142,19 +141,14 @@ ListResult importWords(const LearnersList& list, const std::filesystem::path& fi
   LearnerWords words(list.folder, list.files, list.calendar);
   words.open();
   const auto there = words.peek();
-  if (!there) {
-    out << "Không đọc được từ vựng trong " << list.folder << "\n";
-    return ListResult::Impossible;
-  }
+  if (!there) return tellUnreadable(list.folder, out);
   const auto rows = newRows(listed.words, *there, list, pack);
   if (!rows.empty()) {
-    if (const auto problem = addRows(words, *there, rows)) {
-      out << "Không ghi được: " << *problem << "\n";
-      return ListResult::Impossible;
-    }
+    if (const auto problem = addRows(words, *there, rows)) return tellUnwritten(*problem, out);
   }
-  out << "Đã thêm " << rows.size() << " từ, " << listed.words.size() - rows.size() << " từ đã có, "
-      << listed.refused.size() << " dòng không nhận được.\n";
+  out << said("{} words added, {} were there already, {} lines were not taken.", rows.size(),
+              listed.words.size() - rows.size(), listed.refused.size())
+      << "\n";
   return listed.refused.empty() ? ListResult::Fine : ListResult::Found;
 }
 

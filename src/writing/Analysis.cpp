@@ -1,12 +1,11 @@
 #include "writing/Analysis.h"
 
+#include "formats/AnalysisLabels.h"
 #include "platform/FatalFailure.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
-#include "text/Vietnamese.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace talvora {
@@ -15,11 +14,6 @@ namespace {
 
 constexpr char StretchEnd = '|';
 constexpr CharClass EndingPoints("[:.,!\"]");
-
-/// The labels that take the place of "|" in turn; "&" opens a blue span of the panel.
-constexpr std::array<std::string_view, 7> Labels = {
-    "&Từ:"_x1,         "&Tự loại:"_x1,   "&Vị trí:"_x1,        "&Chức năng:"_x1,
-    "&Y’cần viết:"_x1, "&Phải có từ"_x1, "ở vị trí này vì:"_x1};
 
 [[noreturn]] void failOverrun(const std::string& what) {
   throw FatalFailure("dataPt.v: an analysed text has more than " + std::to_string(MostStretches) +
@@ -62,8 +56,8 @@ std::vector<std::string> GanGiaiPT(std::string_view PhanTich) {
     }
     if (c == '\r') firstLine = false;
     if (c == '|') {
-      if (!firstLine) entry += Labels[field];
-      field = (field + 1) % Labels.size();
+      if (!firstLine) entry += AnalysisLabels[field];
+      field = (field + 1) % AnalysisLabels.size();
     } else if (!firstLine) {
       entry += c;
     }

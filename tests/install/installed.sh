@@ -65,6 +65,9 @@ install_in_tree "$packages"/*.deb
 in_tree sh -c 'id pupil >/dev/null 2>&1 || useradd --create-home --shell /bin/sh pupil'
 own=$tree/home/pupil/.local/share/talvora
 passed "both packages can be installed"
+in_tree env LC_ALL=vi_VN.UTF-8 talvora-pack --help | grep -q "Cách dùng:" ||
+  fail "the installed compiler does not speak Vietnamese"
+passed "the installed compiler speaks Vietnamese"
 
 : >"$tree$trace"
 chmod 666 "$tree$trace"

@@ -20,6 +20,9 @@ start_display
 find "$tree/usr" -name 'libQt6*' | grep -q . && fail "the tree has a Qt of its own"
 chroot "$tree" useradd --create-home --shell /bin/sh pupil
 tar -xJf "$archive" -C "$tree/home/pupil"
+chroot "$tree" /usr/bin/env -i LC_ALL=vi_VN.UTF-8 LD_LIBRARY_PATH=/home/pupil/talvora/lib \
+  /home/pupil/talvora/bin/talvora-pack --help | grep -q "Cách dùng:" ||
+  fail "the archive's compiler does not speak Vietnamese"
 trace=/tmp/talvora-trace
 : >"$tree$trace"
 chmod 666 "$tree$trace"

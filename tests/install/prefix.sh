@@ -1,6 +1,7 @@
 #!/bin/bash
 # What `cmake --install` puts into a folder runs and speaks from there: what is loaded with the first
-# sound is found, the program does not link it, and no path of the building machine is inside.
+# sound is found, the program does not link it, no path of the building machine is inside, and the
+# compiler has its translations.
 #
 #   prefix.sh BUILD_FOLDER
 set -u
@@ -29,6 +30,9 @@ done
 
 readelf -d "$program" | grep -E 'NEEDED.*(flite|sndfile|Multimedia)' &&
   fail "the start pays for what only sound needs"
+
+LC_ALL=vi_VN.UTF-8 "$work/place/bin/talvora-pack" --help | grep -q "Cách dùng:" ||
+  fail "the installed compiler does not speak Vietnamese"
 
 # The program looks where the modules are, seen from itself.
 from_bin=$(realpath -m --relative-to="$work/place/bin" "$(dirname "${modules[0]}")")

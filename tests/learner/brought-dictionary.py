@@ -2,18 +2,20 @@
 """Brings a dictionary to a learner, looks its words up in the program, and takes it away again."""
 
 import gzip
+import shutil
 import struct
 import subprocess
 import sys
 import tempfile
 from pathlib import Path
 
-from driving import Driver, arguments_with, require
+from driving import Driver, arguments_with, in_english, require
 
 
-def run(options, own, *arguments, code=0):
+def run(options, own, *arguments, code=0, pack=None):
     done = subprocess.run([options.compiler, "import", *map(str, arguments), "--pack",
-                           options.pack, "--learner", str(own)], capture_output=True, text=True)
+                           str(pack or options.pack), "--learner", str(own)], env=in_english(),
+                          capture_output=True, text=True)
     require(done.returncode == code, f"import {arguments}: {done.returncode} {done.stdout}")
     return done.stdout
 
@@ -73,7 +75,15 @@ def main():
         (folder / "Sach.idx").write_bytes(whole)
         (folder / "Sach.dict.dz").write_bytes(packed[:-9])
         require("Sach.dict.dz: offset" in run(options, own, info, code=2), "no place")
-        require("Sach: 2" in run(options, own), "what is there is not told")
+        listed = run(options, own)
+        require("Sach: 2" in listed, "what is there is not told")
+        require("another course" not in listed, "it was made with this course")
+        # A course with another dictionary comes under it.
+        newer = folder / "newer"
+        shutil.copytree(options.pack, newer)
+        with open(newer / "data.avt", "ab") as entries:
+            entries.write(b"more")
+        require("another course" in run(options, own, pack=newer), "the new course is not told of")
         require(look_up(options, own, "bank") == ahead, "a failed import changed something")
         run(options, own, "--remove")
         require(look_up(options, own, "bank") == ours, "it is still there")

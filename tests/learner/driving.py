@@ -2,6 +2,7 @@
 
 import argparse
 import json
+import os
 import subprocess
 
 
@@ -17,6 +18,15 @@ def arguments_with(description, *more):
         parser.add_argument(each, required=True)
     parser.add_argument("--long", action="store_true", help="as thoroughly as one can wait for")
     return parser.parse_args()
+
+
+def in_vietnamese():
+    """An environment in which the compiler speaks Vietnamese."""
+    return os.environ | {"LC_ALL": "vi_VN.UTF-8", "LANGUAGE": "vi"}
+
+
+def in_english():
+    return os.environ | {"LC_ALL": "C"}
 
 
 def require(holds, message):

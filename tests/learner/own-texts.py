@@ -9,7 +9,7 @@ import tempfile
 import zipfile
 from pathlib import Path
 
-from driving import Driver, arguments_with, require
+from driving import Driver, arguments_with, in_vietnamese, require
 
 STORY = """The lighthouse stood on a rock. Mr. Green lived there with his dog.
 
@@ -41,7 +41,7 @@ PAGE = """<?xml version="1.0"?><html xmlns="http://www.w3.org/1999/xhtml"><head>
 
 def run(options, own, *arguments, code=0):
     done = subprocess.run([options.compiler, "text", *map(str, arguments), "--learner", str(own)],
-                          capture_output=True, text=True)
+                          env=in_vietnamese(), capture_output=True, text=True)
     require(done.returncode == code, f"text {arguments}: {done.returncode} {done.stdout}")
     return done.stdout
 
@@ -71,6 +71,30 @@ def row_of(own, word):
     raise AssertionError(f"{word} is not on the list")
 
 
+def hear(driver):
+    """F9 reads an own text aloud, its title and each sentence, round and round."""
+    driver.do("log")
+    driver.key("Home")
+    driver.do("hold", key="Esc", after=15000, **{"for": 25})
+    driver.key("F9")
+    said = [each["text"] for each in driver.do("log")["entries"] if each["what"] == "speak"]
+    require(set(said[:5]) == {"lighthouse", "the lighthouse stood on a rock",
+                              "mr green lived there with his dog", "who is there he asked",
+                              "nobody answered"}, str(said))
+
+
+def see_vocabulary(driver):
+    """A word of an own text shows its sentence in the list of words, and its entry."""
+    driver.do("click", button="but2")
+    rows = driver.do("surface", name="Rchon")["text"]
+    require("rock" in rows, rows)
+    driver.do("mouse", surface="Rchon", at=rows.index("rock") + 1, double=True)
+    sentence = driver.get("ChuoiCau").strip()
+    require(sentence == "The lighthouse stood on a rock.", sentence)
+    require(driver.do("surface", name="RHD")["visible"], "no message for the word's sentence")
+    driver.leave_text()
+
+
 def read(options, pack, own):
     """Reads an own text as a learner does."""
     driver = started(options, pack, own)
@@ -88,7 +112,9 @@ def read(options, pack, own):
     driver.key("F6")
     require(driver.do("surface", name="Rxep")["visible"], "F6 opens no drill")
     driver.key("Esc")
+    hear(driver)
     driver.leave_text()
+    see_vocabulary(driver)
     driver.open_titled("Two Lines")
     driver.do("mouse", surface="R2", at=driver.text().index("kettle") + 2, double=True)
     # The driver tells bytes as they are stored.
@@ -120,7 +146,7 @@ def damaged(options, own, folder):
     run(options, own, "add", folder / "story.txt", folder / "cut.epub", code=2)
     with zipfile.ZipFile(folder / "bomb.epub", "w", zipfile.ZIP_DEFLATED) as archive:
         archive.writestr("META-INF/container.xml", b" " * (80 << 20))
-    require("too large" in run(options, own, "add", folder / "bomb.epub", code=2), "a bomb")
+    require("quá lớn" in run(options, own, "add", folder / "bomb.epub", code=2), "a bomb")
     run(options, own, "add", folder / "nothing.txt", code=2)
     run(options, own, "remove", "77", code=2)
     require((own / "owntexts.av").read_bytes() == before, "a failure changed something")

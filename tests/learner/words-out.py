@@ -13,7 +13,7 @@ import tempfile
 import zipfile
 from pathlib import Path
 
-from driving import Driver, arguments_with, require
+from driving import Driver, arguments_with, in_vietnamese, require
 
 # The tables of a deck's database, with the columns that importers read by their places.
 TABLES = {
@@ -31,7 +31,7 @@ FIELDS = ["Từ", "Dạng gốc", "Phiên âm", "Nghĩa", "Câu", "Dịch", "Bà
 
 def words(options, own, *arguments, code=0):
     done = subprocess.run([options.compiler, "words", *arguments, "--learner", str(own)],
-                          capture_output=True, text=True)
+                          env=in_vietnamese(), capture_output=True, text=True)
     require(done.returncode == code, f"words {arguments}: {done.returncode} {done.stdout}")
     return done.stdout
 
@@ -98,6 +98,14 @@ def deck(options, own, folder):
     again = notes_of(folder / "again.apkg")
     require({guid: note[0] for guid, note in first.items()} ==
             {guid: note[0] for guid, note in again.items()}, "another export, other identities")
+    for audio, with_word, with_sentence in (("word", True, False), ("sentence", False, True),
+                                            ("none", False, False)):
+        file = folder / f"{audio}.apkg"
+        words(options, own, "export", str(file), "--pack", options.pack, "--audio", audio)
+        row, = (each for _, _, each in notes_of(file).values() if each["Từ"] == "bank")
+        require((row["Tiếng của từ"] != "", row["Tiếng của câu"] != "") ==
+                (with_word, with_sentence), f"--audio {audio}: {row}")
+    words(options, own, "export", str(folder / "x.apkg"), "--audio", "loud", code=2)
     require(all(again[guid][1] >= first[guid][1] for guid in first), "the second is not newer")
     return set(first)
 

@@ -22,7 +22,7 @@ expect() {
   [ "$got" = "$code" ] || fail "$check $*: exit code $got instead of $code: $(head -5 "$work/said")"
 }
 
-for check in check_includes.py check_pages.py check_glossary.py; do
+for check in check_includes.py check_pages.py check_glossary.py check_messages.py; do
   expect 0 $check "$root"
   expect 0 $check --help
   expect 2 $check "$root/docs"
@@ -45,3 +45,19 @@ echo 'inline int NuocChay = 0; // and what a comment or "KhongRo" says does not 
 expect 1 check_glossary.py "$work/tree"
 grep -q 'Bytes.h:.*NuocChay.*nuoc' "$work/said" || fail "the name is not told: $(cat "$work/said")"
 [ "$(wc -l <"$work/said")" = 1 ] || fail "more than the new name: $(cat "$work/said")"
+
+cat >"$work/tree/pack/Message.tmp.cpp" <<'END'
+void say(Problems& problems) {
+  // problems.add({}, "a remark is not told");
+  problems.add({}, said("is not a " "folder"));
+  problems.add({{"file"}, 1}, "nobody translates " "this one");
+  problems.add({}, said("has no translation: {}", file));
+}
+END
+sed -i '/^msgid "is not a folder"/{n;s/"$/ {}"/}' "$work/tree/pack/po/vi.po"
+expect 1 check_messages.py "$work/tree"
+grep -q 'Message.tmp.cpp:4: not marked.*nobody translates this one' "$work/said" ||
+  fail "the unmarked message is not told: $(cat "$work/said")"
+[ "$(grep -c 'not marked' "$work/said")" = 1 ] || fail "more is told: $(cat "$work/said")"
+grep -q 'is used but not defined' "$work/said" || fail "no word of the lack: $(cat "$work/said")"
+grep -q 'other values.*is not a folder' "$work/said" || fail "not the values: $(cat "$work/said")"

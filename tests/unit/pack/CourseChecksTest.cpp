@@ -169,8 +169,10 @@ TEST(PlanChecks, TellOfOpenSlotsBetweenTexts) {
   texts.texts[1] = {};
   texts.texts[4] = {};
   EXPECT_EQ(openSlotNote("texts", texts, 4), "texts: 2 open slots stand between texts");
-  EXPECT_EQ(openSlotNote("texts", texts, 6), "texts: 2 open slots stand between texts, and the 2 "
-                                             "at the end have no heading of their own");
+  EXPECT_EQ(
+      openSlotNote("texts", texts, 6),
+      "texts: 2 open slots stand between texts; the 2 open slots at the end have no heading of "
+      "their own");
   texts.texts[2] = texts.texts[3] = {};
   texts.headings[5] = "Sắp có";
   EXPECT_EQ(openSlotNote("texts", texts, 6), "");
@@ -211,7 +213,7 @@ TEST(DrillChecks, HoldOptionsToOneLength) {
              {"He is fine.", "He is at school with us.", "He is going to school now."})};
   EXPECT_THAT(optionProblems(3, items), ElementsAre(HasSubstr("u:1:1: the options differ")));
   EXPECT_THAT(optionProblems(1, items),
-              ElementsAre("listening unit 1: 1 items have options of unlike length"));
+              ElementsAre("listening unit 1: 1 item has options of unlike length"));
 }
 
 TEST(DrillChecks, AllowTheHeardSentenceInAThirdOfTheKeys) {

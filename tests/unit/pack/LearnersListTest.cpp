@@ -52,7 +52,7 @@ TEST_F(LearnersListTest, EveryWordIsToldWithItsTextAndItsSentence) {
   run.folder.write("data.c", record("bank", Bank) + record("river", River));
   runOnce();
   EXPECT_EQ(listWords(list, out), ListResult::Fine);
-  EXPECT_EQ(told(), "bank\tTown\tThe old bank.\nriver\tTown\tA river here.\n2 từ\n");
+  EXPECT_EQ(told(), "bank\tTown\tThe old bank.\nriver\tTown\tA river here.\n2 words\n");
 }
 
 TEST_F(LearnersListTest, AWordWhoseSentenceIsGoneIsMarked) {
@@ -61,8 +61,9 @@ TEST_F(LearnersListTest, AWordWhoseSentenceIsGoneIsMarked) {
   run.writeTexts({{1, "Town\r_\tThe old bank.\r", "_Mot."}});
   runOnce();
   EXPECT_EQ(listWords(list, out), ListResult::Fine);
-  EXPECT_THAT(told(), HasSubstr("river\tTown\tA river here.\t(câu này không còn trong bài học)\n"
-                                "2 từ, 1 từ có câu không còn trong bài học\n"));
+  EXPECT_THAT(told(),
+              HasSubstr("river\tTown\tA river here.\t(this sentence is no longer in the course)\n"
+                        "2 words, 1 of them with a sentence that is no longer in the course\n"));
 }
 
 TEST_F(LearnersListTest, WordsThatAreInTheJournalOnlyAreToldToo) {
@@ -89,14 +90,14 @@ TEST_F(LearnersListTest, WhatACopyHasAndTheListHasNotComesBackWhenAskedTwice) {
   runOnce();
   run.folder.write("data.c", record("bank", Bank) + record("new", Bank));
   EXPECT_EQ(restoreWords(list, "", Doing::Show, out), ListResult::Found);
-  EXPECT_THAT(told(), HasSubstr("river\tTown\tA river here.\n1 từ sẽ được lấy lại"));
+  EXPECT_THAT(told(), HasSubstr("river\tTown\tA river here.\n1 word will be brought back"));
   EXPECT_EQ(run.folder.read("data.c"), record("bank", Bank) + record("new", Bank)) << "only shown";
   EXPECT_EQ(restoreWords(list, "", Doing::Do, out), ListResult::Fine);
   EXPECT_EQ(run.folder.read("data.c"),
             record("bank", Bank) + record("new", Bank) + record("river", River));
   told();
   EXPECT_EQ(restoreWords(list, "", Doing::Do, out), ListResult::Fine);
-  EXPECT_EQ(told(), "Không có từ nào để lấy lại.\n");
+  EXPECT_EQ(told(), "There is no word to bring back.\n");
 }
 
 TEST_F(LearnersListTest, AWordThatComesBackFindsItsSentenceInThePackOfToday) {
@@ -114,11 +115,11 @@ TEST_F(LearnersListTest, AWordThatComesBackFindsItsSentenceInThePackOfToday) {
 
 TEST_F(LearnersListTest, BackupsAreToldAndAWrongNameIsNone) {
   EXPECT_EQ(listBackups(list, out), ListResult::Fine);
-  EXPECT_EQ(told(), "Chưa có bản sao nào.\n");
+  EXPECT_EQ(told(), "There are no copies yet.\n");
   run.folder.write("data.c", record("bank", Bank));
   runOnce();
   EXPECT_EQ(listBackups(list, out), ListResult::Fine);
-  EXPECT_THAT(told(), HasSubstr("\t1 từ\n"));
+  EXPECT_THAT(told(), HasSubstr("\t1 word\n"));
   EXPECT_EQ(restoreWords(list, "2001-01-01_00-00-00", Doing::Do, out), ListResult::Impossible);
 }
 
@@ -127,10 +128,10 @@ TEST_F(LearnersListTest, WhatIsOddIsToldAndMended) {
                                  record("river", Bank + 1) + "odd");
   EXPECT_EQ(checkWords(list, run.folder.path(), Doing::Show, out), ListResult::Found);
   const std::string faults = told();
-  EXPECT_THAT(faults, HasSubstr("Cuối tệp thừa 3 byte."));
-  EXPECT_THAT(faults, HasSubstr("Dòng 2 không có từ."));
-  EXPECT_THAT(faults, HasSubstr("Dòng 3: từ Bank đã có ở trên."));
-  EXPECT_THAT(faults, HasSubstr("Dòng 4: câu của từ river không ở đúng chỗ."));
+  EXPECT_THAT(faults, HasSubstr("3 bytes too many at the end of the file."));
+  EXPECT_THAT(faults, HasSubstr("Line 2 has no word."));
+  EXPECT_THAT(faults, HasSubstr("Line 3: the word Bank stands above already."));
+  EXPECT_THAT(faults, HasSubstr("Line 4: the sentence of the word river is not at its place."));
   EXPECT_EQ(checkWords(list, run.folder.path(), Doing::Do, out), ListResult::Fine);
   EXPECT_EQ(run.folder.read("data.c"), record("bank", Bank) + record("river", 0));
   EXPECT_EQ(checkWords(list, run.folder.path(), Doing::Show, out), ListResult::Fine);
@@ -142,7 +143,7 @@ TEST_F(LearnersListTest, NothingIsWrittenWhileTheProgramRuns) {
   const LearnerLock running(systemFiles(), run.folder.path());
   EXPECT_EQ(checkWords(list, std::nullopt, Doing::Show, out), ListResult::Found);
   EXPECT_EQ(checkWords(list, std::nullopt, Doing::Do, out), ListResult::Impossible);
-  EXPECT_THAT(told(), HasSubstr("Talvora đang chạy rồi."));
+  EXPECT_THAT(told(), HasSubstr("Talvora is running."));
   EXPECT_EQ(run.folder.read("data.c"), record("bank", Bank) + "odd");
 }
 

@@ -16,11 +16,12 @@ std::string shownOf(const std::string& name, std::string_view source, int line =
   folder.write(name, source);
   Problems problems;
   const std::string file = folder.path() + "/" + name;
-  const std::string shown = show({file, line}, problems);
+  std::string shown = show({file, line}, problems);
   for (const Problem& problem : problems.all())
     ADD_FAILURE() << describe(problem);
-  const std::size_t begin = shown.find(file);
-  return begin == std::string::npos ? shown : std::string(shown).replace(begin, file.size(), "F");
+  for (std::size_t at = 0; (at = shown.find(file, at)) != std::string::npos;)
+    shown.replace(at, file.size(), "F");
+  return shown;
 }
 
 TEST(Show, PlacesAreAFileOrALineInIt) {
@@ -60,6 +61,30 @@ TEST(Show, OrderingSentencesLessonsAndTexts) {
             "Thì đơn\n\n> She *goes*\n");
   EXPECT_EQ(shownOf("reading/004-a.txt", "title: A Day\n\nIt rains.\n= Trời mưa.\n"),
             "A Day\n\nIt rains.\n    Trời mưa.\n");
+}
+
+TEST(Show, AQuestionToListenToHasItsAnswers) {
+  const std::string unit = "// Unit 1\n2: She sells bread.\n+ She sells bread.\n- She tells Fred.\n"
+                           "- She sells red.\n- He sells bread.\n\n"
+                           "3: It rains.\n+ It rains.\n- It runs.\n- It reigned.\n- He rains.\n";
+  EXPECT_THAT(shownOf("listening/unit-1.txt", unit, 4),
+              "-- F:2\n2. heard: She sells bread.\nA. She sells bread., right\nB. She tells Fred.\n"
+              "C. She sells red.\nD. He sells bread.\n");
+  EXPECT_THAT(shownOf("mine.txt", unit), HasSubstr("\n\n-- F:8\n3. heard: It rains.\n"))
+      << "a unit is known by how it begins";
+}
+
+TEST(Show, AStretchHasTheLabelsOfThePanelAndItsLessons) {
+  const std::string analysis =
+      "word: My sister\nclass: cụm danh từ\nposition: đầu câu\nfunction: chủ ngữ\nidea: chị tôi\n"
+      "needed: My sister\nbecause: câu cần một chủ ngữ.\nlesson: 2\n\n"
+      "word: makes\nclass: động từ\nposition: sau chủ ngữ\nfunction: động từ chính\n"
+      "idea: pha\nneeded: makes\nbecause: chủ ngữ số ít.\n";
+  EXPECT_EQ(shownOf("analysis/01.txt", analysis, 3),
+            "-- F:1\nTừ: My sister\nTự loại: cụm danh từ\nVị trí: đầu câu\n"
+            "Chức năng: chủ ngữ\nY’cần viết: chị tôi\nPhải có từ My sister ở vị trí này vì: "
+            "câu cần một chủ ngữ.\n→ 2\n");
+  EXPECT_THAT(shownOf("analysis/01.txt", analysis), HasSubstr("→ 2\n\n-- F:10\nTừ: makes\n"));
 }
 
 } // namespace
