@@ -133,7 +133,7 @@ TEST(Compiler, NeverOverwritesWhatTheLearnerOwns) {
 }
 
 TEST(Compiler, AFolderThatCannotBeWrittenIsAFailure) {
-  EXPECT_TRUE(store({"data.vt", "x"}, "/nowhere/at/all"));
+  EXPECT_TRUE(store({"data.vt", "x"}, "/dev/null/in-no-folder"));
 }
 
 TEST(Compiler, AMissingSourceIsReported) {
