@@ -45,7 +45,9 @@ talvora_sound_module(talvora-sound-device
 if(TALVORA_SPEECH)
   # The voices themselves are loaded with the first word.
   talvora_sound_module(talvora-voices
-    SOURCES ${CMAKE_CURRENT_LIST_DIR}/FliteVoices.cpp ${PROJECT_SOURCE_DIR}/src/sound/FliteLexicon.cpp
+    SOURCES
+      ${CMAKE_CURRENT_LIST_DIR}/FliteModule.cpp ${PROJECT_SOURCE_DIR}/src/fronts/FliteVoices.cpp
+      ${PROJECT_SOURCE_DIR}/src/sound/FliteLexicon.cpp
     LIBRARIES Flite::Flite)
 endif()
 if(TALVORA_RECORDINGS)

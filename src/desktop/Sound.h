@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/Recording.h"
-#include "desktop/Voices.h"
+#include "fronts/Voices.h"
 #include "platform/Speech.h"
 #include "platform/WavePlayer.h"
 #include "sound/Pronunciations.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/PcmPlayer.h"
-#include "desktop/Voices.h"
+#include "fronts/Voices.h"
 #include "platform/Speech.h"
 #include "sound/Pronunciations.h"
 

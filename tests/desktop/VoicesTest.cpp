@@ -1,5 +1,5 @@
 // The voices of flite, through the speech engine of the desktop.
-#include "desktop/FliteVoices.h"
+#include "desktop/FliteModule.h"
 #include "desktop/Heard.h"
 #include "desktop/Sound.h"
 #include "desktop/ThreadedSpeech.h"
@@ -23,7 +23,7 @@ constexpr int Rate = HeardRate;
 constexpr int Clearest = 10;
 
 std::unique_ptr<Voices> fliteVoices(std::vector<LexiconEntry> lexicon) {
-  return std::make_unique<FliteVoices>(std::move(lexicon));
+  return std::make_unique<FliteVoices>(loadFliteVoice, std::move(lexicon));
 }
 
 /// What is heard of a text at a speed, once the engine has no more to say.
@@ -75,11 +75,12 @@ TEST(FliteVoices, EveryVoiceHasTheLevelOfTheRecordings) {
 }
 
 TEST(FliteVoices, TheNumbersShareThreeVoicesAndTheLastHasTheClearest) {
-  ASSERT_NE(loadFliteVoice(Clearest), nullptr);
-  EXPECT_STREQ(loadFliteVoice(Clearest)->name, "slt");
+  const auto load = [](int number) { return loadFliteVoice(fliteVoiceName(number)); };
+  ASSERT_NE(load(Clearest), nullptr);
+  EXPECT_STREQ(load(Clearest)->name, "slt");
   for (int voice = 1; voice + 3 <= Clearest; ++voice)
-    EXPECT_EQ(loadFliteVoice(voice), loadFliteVoice(voice + 3)) << voice;
-  EXPECT_NE(loadFliteVoice(Clearest - 1), loadFliteVoice(Clearest));
+    EXPECT_EQ(load(voice), load(voice + 3)) << voice;
+  EXPECT_NE(load(Clearest - 1), load(Clearest));
 }
 
 TEST(FliteVoices, SlowAndFastFollowTheSpeed) {
@@ -105,7 +106,7 @@ TEST(FliteVoices, TheLibraryOfTheVoicesIsFoundAndSpeaks) {
 }
 
 TEST(FliteVoices, NothingMoreIsSaidWhenNoMoreIsWanted) {
-  FliteVoices voices({});
+  FliteVoices voices(loadFliteVoice, {});
   int parts = 0;
   voices.say("a sentence that nobody hears to its end", Clearest, 175,
              [&](std::span<const std::int16_t>, int) {

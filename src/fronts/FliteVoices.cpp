@@ -1,8 +1,7 @@
-#include "desktop/FliteVoices.h"
+#include "fronts/FliteVoices.h"
 
 #include "sound/FliteLexicon.h"
 
-#include <dlfcn.h>
 #include <flite/flite.h>
 
 #include <algorithm>
@@ -14,19 +13,17 @@ namespace talvora {
 
 namespace {
 
-/// Where a voice comes from.
 struct VoiceSource {
-  const char* library;
-  const char* entry; ///< the function that makes it
-  float gain;        ///< brings it to the level of the recordings
+  const char* name;
+  float gain; ///< brings it to the level of the recordings
 };
 
 /// The voices that the numbers go through in turn. The last number has the last and clearest one,
 /// since that is the one in use.
 constexpr std::array<VoiceSource, 3> sources = {{
-    {"libflite_cmu_us_awb.so.1", "register_cmu_us_awb", 0.89F},
-    {"libflite_cmu_us_rms.so.1", "register_cmu_us_rms", 1.0F},
-    {"libflite_cmu_us_slt.so.1", "register_cmu_us_slt", 0.52F},
+    {"awb", 0.89F},
+    {"rms", 1.0F},
+    {"slt", 0.52F},
 }};
 constexpr const char* StreamFeature = "streaming_info";
 constexpr const char* StretchFeature = "duration_stretch";
@@ -61,22 +58,17 @@ struct Stream {
 
 } // namespace
 
-cst_voice* loadFliteVoice(int number) {
-  const VoiceSource& source = sourceOf(number);
-  // Never unloaded: the voice lives in it.
-  void* const library = ::dlopen(source.library, RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return nullptr;
-  using Register = cst_voice*(const char* directory);
-  auto* const makeVoice = reinterpret_cast<Register*>(::dlsym(library, source.entry));
-  return makeVoice == nullptr ? nullptr : makeVoice(nullptr);
+const char* fliteVoiceName(int number) {
+  return sourceOf(number).name;
 }
 
-FliteVoices::FliteVoices(std::vector<LexiconEntry> lexicon) : lexicon_(std::move(lexicon)) {
+FliteVoices::FliteVoices(Load load, std::vector<LexiconEntry> lexicon)
+    : load_(load), lexicon_(std::move(lexicon)) {
   flite_init();
 }
 
 bool FliteVoices::say(const std::string& text, int number, int wordsPerMinute, const Take& take) {
-  cst_voice* const voice = loadFliteVoice(number);
+  cst_voice* const voice = load_(fliteVoiceName(number));
   if (voice == nullptr) return false;
   // All voices have one lexicon; it is there with the first of them.
   if (!std::exchange(taught_, true))
@@ -99,8 +91,3 @@ bool FliteVoices::say(const std::string& text, int number, int wordsPerMinute, c
 }
 
 } // namespace talvora
-
-void talvoraMakeVoices(std::unique_ptr<talvora::Voices>& voices,
-                       const std::vector<talvora::LexiconEntry>& lexicon) {
-  voices = std::make_unique<talvora::FliteVoices>(lexicon);
-}

@@ -1,5 +1,5 @@
-// The voices of the desktop as its speech engine uses them. What speaks lies in a library of its
-// own (FliteVoices.h), so that another synthesiser is another library.
+// Voices as a front's speech engine uses them. What speaks is no part of the program
+// (FliteVoices.h), so that there can be another synthesiser.
 #pragma once
 
 #include <cstdint>
