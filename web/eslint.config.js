@@ -21,7 +21,7 @@ export default [
   },
   // What emscripten's linker copies into the module: its own scope, and its older grammar.
   {
-    files: ['core/**'],
+    files: ['core/**', 'voice/**'],
     languageOptions: {
       sourceType: 'script',
       globals: {
@@ -29,6 +29,7 @@ export default [
         mergeInto: 'readonly',
         LibraryManager: 'readonly',
         Module: 'readonly',
+        HEAP16: 'readonly',
         HEAP32: 'readonly',
         HEAPU8: 'readonly',
         UTF8ToString: 'readonly',

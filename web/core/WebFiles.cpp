@@ -75,6 +75,25 @@ class HeldBytes final : public FileMapping {
   std::vector<unsigned char> bytes_;
 };
 
+/// The bytes of a file of the pack, which may still be on its way: whoever looks at them first
+/// waits.
+class ComingBytes final : public FileMapping {
+ public:
+  ComingBytes(int file, std::size_t size) : file_(file), size_(size) {}
+  [[nodiscard]] std::span<const unsigned char> bytes() const noexcept override {
+    if (bytes_.size() != size_) {
+      bytes_.resize(size_);
+      talvoraPackRead(file_, 0, bytes_.data(), size_);
+    }
+    return bytes_;
+  }
+
+ private:
+  int file_;
+  std::size_t size_;
+  mutable std::vector<unsigned char> bytes_;
+};
+
 FileStatus fileOfSize(int size) {
   FileStatus status;
   status.kind = FileStatus::Kind::File;
@@ -123,6 +142,9 @@ class PackFile final : public SizedFile {
     return errorOf(std::errc::read_only_file_system);
   }
   [[nodiscard]] std::error_code sync() override { return {}; }
+  [[nodiscard]] std::unique_ptr<FileMapping> map(std::size_t size, std::error_code&) override {
+    return std::make_unique<ComingBytes>(number_, size);
+  }
 
  private:
   [[nodiscard]] int size() const override { return talvoraPackSize(number_); }

@@ -12,6 +12,7 @@
 
 #include <exception>
 #include <memory>
+#include <utility>
 
 namespace talvora::web {
 
@@ -105,8 +106,8 @@ class Run {
   void afterwards() {
     picture_.send();
     signs_.send();
-    if (!program_.running() && !failed_ && program_.ending() == Ending::Quit)
-      tellPage(R"({"do":"ended"})");
+    const bool over = !program_.running() && !failed_ && program_.ending() == Ending::Quit;
+    if (over && !std::exchange(endTold_, true)) tellPage(R"({"do":"ended"})");
   }
 
   Faces faces_;
@@ -134,6 +135,7 @@ class Run {
   Signs signs_{program_.form(), program_.input()};
   Router router_{program_, input_, inbox_, layout_};
   bool failed_ = false;
+  bool endTold_ = false;
 };
 
 // The worker calls functions that are given nothing.

@@ -194,7 +194,7 @@ export class FormView {
    */
   describeRows(element, rows, current) {
     element.removeAttribute('aria-activedescendant');
-    for (const row of rows) {
+    for (const row of rows.filter((each) => each.textContent?.trim() !== '')) {
       const top = parseFloat(row.style.top);
       const acted = current !== undefined && top >= current[1] && top < current[1] + current[3];
       row.setAttribute('role', 'option');

@@ -1,6 +1,7 @@
 // The page: starts the worker, paints what it tells, and tells it what the learner does.
 import { FormView } from './form.js';
 import { Input } from './input.js';
+import { Stage, openPack } from './pack.js';
 import { Kind, Sounds, makeRing, put } from './ring.js';
 import { Sound } from './sound.js';
 import { Strip } from './strip.js';
@@ -27,10 +28,14 @@ const place = { left: 0, top: 0, scale: 1 };
 function arrange() {
   const width = screen.width * TwipsPerPixel;
   const height = screen.height * TwipsPerPixel;
-  const room = innerHeight - byId('keys').offsetHeight;
-  place.scale = Math.min(innerWidth / width, room / height);
-  place.left = (innerWidth - width * place.scale) / 2;
-  place.top = (room - height * place.scale) / 2;
+  const keys = byId('keys');
+  // The bar stands where the screen is longer: below, or at the side.
+  const upright = keys.offsetHeight > keys.offsetWidth;
+  const wide = innerWidth - (upright ? keys.offsetWidth : 0);
+  const high = innerHeight - (upright ? 0 : keys.offsetHeight);
+  place.scale = Math.min(wide / width, high / height);
+  place.left = (wide - width * place.scale) / 2;
+  place.top = (high - height * place.scale) / 2;
   const caption = Math.round(height * CaptionPart);
   Object.assign(stage.style, {
     width: `${width}px`,
@@ -68,11 +73,22 @@ function showEnd(text) {
   again.focus();
 }
 
-function start() {
+/** @param {import('./pack.js').Pack} pack */
+function start(pack) {
   const ring = makeRing();
   const events = new Int32Array(ring);
   const sounds = new SharedArrayBuffer(Sounds.All * Int32Array.BYTES_PER_ELEMENT);
   const worker = new Worker(new URL('worker.js', import.meta.url), { type: 'module' });
+  const fetcher = new Worker(new URL('fetcher.js', import.meta.url), { type: 'module' });
+  const waiting = byId('waiting');
+  fetcher.onmessage = ({ data }) => {
+    if (data.do === 'progress') {
+      const bar = data.stage === Stage.First ? 'progress' : 'waited';
+      /** @type {HTMLProgressElement} */ (byId(bar)).value = data.part;
+    }
+    if (data.do === 'stalled')
+      byId('loadingText').textContent = 'Chưa có mạng, đang chờ để tải tiếp…';
+  };
   /** @param {number[]} event */
   const tell = (event) => {
     put(events, event);
@@ -80,7 +96,7 @@ function start() {
   };
   const view = new FormView(byId('form'));
   const input = new Input(stage, tell, () => place);
-  const sound = new Sound(new Int32Array(sounds));
+  const sound = new Sound(sounds, pack.entries);
   const strip = new Strip(announce);
   const box = /** @type {HTMLDialogElement} */ (byId('box'));
   input.open = () => !box.open;
@@ -123,16 +139,21 @@ function start() {
   worker.onmessage = ({ data }) => {
     switch (data.do) {
       case 'paint':
-        byId('loading').hidden = true;
+        if (!byId('loading').hidden) {
+          byId('loading').hidden = true;
+          keepForNextTime();
+          sound.prepare();
+        }
         if (data.caption !== undefined) strip.setCaption(data.caption);
         strip.setPlace(data.menu);
         view.paint(data);
         break;
-      case 'progress':
-        /** @type {HTMLProgressElement} */ (byId('progress')).value = data.part;
+      case 'waiting':
+        waiting.hidden = !data.waiting;
+        if (data.waiting) announce('Đang tải từ điển…');
         break;
       case 'notKept':
-        strip.notice('Trình duyệt không cho lưu: từ vựng sẽ mất khi đóng trang.');
+        strip.warn('Trình duyệt không cho lưu: từ vựng sẽ mất khi đóng trang.');
         break;
       case 'ask':
         showBox(data, true);
@@ -166,7 +187,8 @@ function start() {
     }
   };
   worker.onerror = (fault) => showEnd(`Chương trình gặp lỗi nên phải dừng lại. ${fault.message}`);
-  worker.postMessage({ do: 'begin', ring, sounds, ...screen });
+  worker.postMessage({ do: 'begin', ring, sounds, pack, ...screen });
+  fetcher.postMessage(pack);
 }
 
 /**
@@ -179,7 +201,11 @@ async function startAlone(tries = LockTries) {
     { ifAvailable: true },
     async (lock) => {
       if (lock === null) return false;
-      start();
+      try {
+        start(await openPack());
+      } catch (fault) {
+        showEnd(`Không tải được bộ bài học. ${fault}`);
+      }
       return new Promise(() => {});
     },
   );
@@ -191,21 +217,23 @@ async function startAlone(tries = LockTries) {
   setTimeout(() => void startAlone(tries - 1), LockPauseMs);
 }
 
+/** Asks the browser to keep the page and what the learner owns. */
+function keepForNextTime() {
+  void navigator.serviceWorker?.register('service.js').catch(() => undefined);
+  void navigator.storage?.persist?.().catch(() => undefined);
+}
+
 async function main() {
   byId('keys').hidden = !matchMedia('(pointer: coarse)').matches;
   arrange();
   addEventListener('resize', arrange);
-  if ('serviceWorker' in navigator) {
-    await navigator.serviceWorker.register('service.js').catch(() => undefined);
-    if (!globalThis.crossOriginIsolated && navigator.serviceWorker.controller === null) {
-      // The service worker adds what the memory that page and program share needs.
-      await navigator.serviceWorker.ready;
-      location.reload();
-      return;
-    }
-  }
   if (globalThis.crossOriginIsolated) {
     void startAlone();
+  } else if (navigator.serviceWorker?.controller === null) {
+    // The service worker adds what the memory that page and program share needs.
+    await navigator.serviceWorker.register('service.js').catch(() => undefined);
+    navigator.serviceWorker.addEventListener('controllerchange', () => location.reload());
+    await navigator.serviceWorker.ready;
   } else {
     showEnd('Trình duyệt này không cho Talvora chạy.');
   }

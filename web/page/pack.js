@@ -1,56 +1,56 @@
-// The content pack: fetched compressed, held outside the program's memory.
+// The content pack: which files it has, memory for them that all workers see, and how they are read.
+// What has not come yet is waited for.
 
-/** @typedef {{name: string, size: number, file: string, packed: number}} Entry */
+/** When a file is fetched: ahead of the menu, behind it, or last, only to be kept. */
+export const Stage = Object.freeze({ First: 0, Late: 1, Kept: 2 });
 
+/** @typedef {{name: string, size: number, file: string, packed: number, stage: number}} Entry */
 /**
- * @param {Entry} entry
- * @param {(bytes: number) => void} came
+ * @typedef {object} Pack
+ * @property {Entry[]} entries
+ * @property {SharedArrayBuffer[]} contents of the files, in the order of the entries; nothing for those
+ *   that are only kept
+ * @property {SharedArrayBuffer} arrived a number a file: 1 when it is there
  */
-async function fetchOne(entry, came) {
-  const reply = await fetch(`pack/${entry.file}`);
-  if (!reply.ok || reply.body === null) throw new Error(`pack/${entry.file}: ${reply.status}`);
-  const counted = new TransformStream({
-    transform(chunk, out) {
-      came(chunk.length);
-      out.enqueue(chunk);
-    },
-  });
-  const plain = reply.body.pipeThrough(counted).pipeThrough(new DecompressionStream('gzip'));
-  const bytes = new Uint8Array(entry.size);
-  let at = 0;
-  const reader = plain.getReader();
-  for (let part = await reader.read(); !part.done; part = await reader.read()) {
-    if (at + part.value.length > bytes.length) throw new Error(`pack/${entry.file}: too long`);
-    bytes.set(part.value, at);
-    at += part.value.length;
-  }
-  if (at !== entry.size) throw new Error(`pack/${entry.file}: cut short`);
-  return bytes;
+
+/** Reads what the pack has and makes room for it. @returns {Promise<Pack>} */
+export async function openPack() {
+  const reply = await fetch('pack/pack.json');
+  if (!reply.ok) throw new Error(`pack/pack.json: ${reply.status}`);
+  /** @type {Entry[]} */
+  const entries = await reply.json();
+  return {
+    entries,
+    contents: entries.map(
+      ({ size, stage }) => new SharedArrayBuffer(stage === Stage.Kept ? 0 : size),
+    ),
+    arrived: new SharedArrayBuffer(entries.length * Int32Array.BYTES_PER_ELEMENT),
+  };
 }
 
 /**
- * Fetches the pack; `progress` hears what part of it is there.
- * @param {(part: number) => void} progress
+ * The pack as the core reads it; `waits` hears when it has to wait for a file and when that is over.
+ * @param {Pack} pack
+ * @param {(waiting: boolean) => void} waits
  */
-export async function fetchPack(progress) {
-  /** @type {Entry[]} */
-  const entries = await (await fetch('pack/pack.json')).json();
-  const all = entries.reduce((sum, entry) => sum + entry.packed, 0);
-  let came = 0;
-  const contents = await Promise.all(
-    entries.map((entry) =>
-      fetchOne(entry, (bytes) => {
-        came += bytes;
-        progress(came / all);
-      }),
-    ),
-  );
+export function readerOf({ entries, contents, arrived }, waits) {
+  const signs = new Int32Array(arrived);
+  /** @param {number} file */
+  const waitFor = (file) => {
+    if (Atomics.load(signs, file) !== 0) return;
+    waits(true);
+    Atomics.wait(signs, file, 0);
+    waits(false);
+  };
   return {
     /** @param {string} name */
     find: (name) => entries.findIndex((entry) => entry.name === name),
     /** @param {number} file */
     size: (file) => entries[file].size,
     /** @param {number} file @param {number} offset @param {Uint8Array} into */
-    read: (file, offset, into) => into.set(contents[file].subarray(offset, offset + into.length)),
+    read: (file, offset, into) => {
+      waitFor(file);
+      into.set(new Uint8Array(contents[file], offset, into.length));
+    },
   };
 }

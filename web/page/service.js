@@ -1,13 +1,27 @@
-// Keeps the page and the pack for times without a network, and adds the headers that let page and
-// program share memory.
-const Store = 'talvora-1';
+// Keeps the page for times without a network, all of its files of one version together, and adds the
+// headers that let page and program share memory. The pack keeps itself.
+
+// Both are put in when the site is put together.
+const Version = '@version@';
+const Files = '@files@'.split(' ');
+const Store = `talvora-page-${Version}`;
+const PackList = 'pack/pack.json';
 
 const worker = /** @type {any} */ (self);
 
-worker.addEventListener('install', () => worker.skipWaiting());
-worker.addEventListener('activate', (/** @type {any} */ event) =>
-  event.waitUntil(worker.clients.claim()),
-);
+async function keep() {
+  const store = await caches.open(Store);
+  await store.addAll(
+    ['./', PackList, ...Files].map((file) => new Request(file, { cache: 'no-cache' })),
+  );
+  await worker.skipWaiting();
+}
+
+async function takeOver() {
+  for (const name of await caches.keys())
+    if (name.startsWith('talvora-page-') && name !== Store) await caches.delete(name);
+  await worker.clients.claim();
+}
 
 /** @param {Response} reply */
 function isolated(reply) {
@@ -19,21 +33,12 @@ function isolated(reply) {
 
 /** @param {Request} request */
 async function answer(request) {
-  const store = await caches.open(Store);
-  const isPack = new URL(request.url).pathname.includes('/pack/') && !request.url.endsWith('.json');
-  const kept = await store.match(request);
-  // The files of the pack have their content in their names and never change.
-  if (isPack && kept !== undefined) return isolated(kept);
-  try {
-    const reply = await fetch(request);
-    if (reply.ok) await store.put(request, reply.clone());
-    return isolated(reply);
-  } catch (fault) {
-    if (kept !== undefined) return isolated(kept);
-    throw fault;
-  }
+  const kept = await (await caches.open(Store)).match(request, { ignoreSearch: true });
+  return isolated(kept ?? (await fetch(request)));
 }
 
+worker.addEventListener('install', (/** @type {any} */ event) => event.waitUntil(keep()));
+worker.addEventListener('activate', (/** @type {any} */ event) => event.waitUntil(takeOver()));
 worker.addEventListener('fetch', (/** @type {any} */ event) => {
   if (event.request.method === 'GET') event.respondWith(answer(event.request));
 });

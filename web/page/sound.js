@@ -1,68 +1,153 @@
-// English speech by the browser's own voices, and the time of it where there is none.
+// What is heard: speech, which a worker makes, and recordings. What still sounds is answered by the
+// clock: a device that is not there, or may not be used before the learner has touched the page,
+// changes nothing but that nothing is heard.
 import { Sounds } from './ring.js';
+import { replyOf } from './store.js';
 
-const NaturalSpeed = 175; // words a minute
-const CharactersPerWord = 6;
+const RecordingRate = 16_000;
 
 export class Sound {
-  /** @param {Int32Array} state how much is being spoken, and whether a recording plays */
-  constructor(state) {
-    this.state = state;
-    this.touched = false;
-    /** @type {ReturnType<typeof setTimeout>[]} */
-    this.silences = [];
-    this.silentUntil = 0;
-    for (const kind of ['pointerdown', 'keydown'])
-      addEventListener(kind, () => (this.touched = true), { once: true });
+  /**
+   * @param {SharedArrayBuffer} sounds how much is being spoken, and whether a recording plays
+   * @param {import('./pack.js').Entry[]} entries of the pack
+   */
+  constructor(sounds, entries) {
+    this.sounds = sounds;
+    this.state = new Int32Array(sounds);
+    this.entries = entries;
+    /** @type {AudioContext | undefined} */
+    this.device = undefined;
+    /** When what was given to the device is over, on its clock in seconds. */
+    this.deviceUntil = 0;
+    /** The same on the page's clock, in milliseconds. */
+    this.until = 0;
+    /** @type {Set<AudioBufferSourceNode>} */
+    this.speech = new Set();
+    /** @type {AudioBufferSourceNode | undefined} */
+    this.recordingSource = undefined;
+    /** @type {Promise<AudioBuffer | undefined>} */
+    this.recording = Promise.resolve(undefined);
+    /** @type {Worker | undefined} */
+    this.speaker = undefined;
+    for (const kind of ['pointerup', 'keydown'])
+      addEventListener(kind, () => this.openDevice(), { capture: true });
+  }
+
+  /** No sound before the learner has touched the page. */
+  openDevice() {
+    this.device ??= new AudioContext();
+    if (this.device.state === 'suspended') void this.device.resume().catch(() => undefined);
+  }
+
+  /** Gets the voices ready. */
+  prepare() {
+    if (this.speaker !== undefined) return;
+    this.speaker = new Worker(new URL('speaker.js', import.meta.url), { type: 'module' });
+    this.speaker.onmessage = ({ data }) => {
+      if (data.do === 'part') this.playPart(data);
+      else this.endText(data);
+    };
+    this.speaker.postMessage({ do: 'begin', sounds: this.sounds, entries: this.entries });
   }
 
   /** @param {any} message */
   take(message) {
-    if (message.do === 'speak') this.speak(message);
-    if (message.do === 'hush') this.hush();
-    if (message.do === 'playWave') this.keepSilent(message);
-  }
-
-  /** @returns {SpeechSynthesisVoice | undefined} An English voice that needs no network. */
-  static voice() {
-    return globalThis.speechSynthesis
-      ?.getVoices()
-      .find((voice) => voice.localService && voice.lang.startsWith('en'));
-  }
-
-  /** @param {{text: string, speed: number, turn: number}} message */
-  speak({ text, speed, turn }) {
-    const done = () => {
-      const current = Atomics.load(this.state, Sounds.SpeechTurn) === turn;
-      if (current) Atomics.sub(this.state, Sounds.Speaking, 1);
-    };
-    const voice = this.touched ? Sound.voice() : undefined;
-    if (voice === undefined) {
-      const now = performance.now();
-      const ms = (text.length * 60_000) / (CharactersPerWord * Math.max(speed, 1));
-      this.silentUntil = Math.max(now, this.silentUntil) + ms;
-      this.silences.push(setTimeout(done, this.silentUntil - now));
-      return;
+    if (message.do === 'speak') {
+      this.prepare();
+      this.speaker?.postMessage(message);
     }
-    const utterance = new SpeechSynthesisUtterance(text);
-    utterance.voice = voice;
-    utterance.rate = speed / NaturalSpeed;
-    utterance.onend = done;
-    utterance.onerror = done;
-    speechSynthesis.speak(utterance);
+    if (message.do === 'hush') this.hush();
+    if (message.do === 'openWave') this.recording = this.open(message.file);
+    if (message.do === 'playWave') void this.play(message);
+    if (message.do === 'stopWave' || message.do === 'closeWave') this.stopRecording();
+  }
+
+  // -- Speech.
+
+  /** @param {number} turn of a text that is spoken */
+  speaks(turn) {
+    return Atomics.load(this.state, Sounds.SpeechTurn) === turn;
+  }
+
+  /** @param {{turn: number, samples: Int16Array, rate: number}} part */
+  playPart({ turn, samples, rate }) {
+    if (!this.speaks(turn) || samples.length === 0) return;
+    const seconds = samples.length / rate;
+    this.until = Math.max(this.until, performance.now()) + 1000 * seconds;
+    if (this.device?.state !== 'running') return;
+    const buffer = this.device.createBuffer(1, samples.length, rate);
+    buffer.copyToChannel(
+      Float32Array.from(samples, (sample) => sample / 0x8000),
+      0,
+    );
+    this.deviceUntil = Math.max(this.deviceUntil, this.device.currentTime);
+    const source = this.start(buffer, this.deviceUntil);
+    this.deviceUntil += seconds;
+    this.speech.add(source);
+    source.onended = () => this.speech.delete(source);
+  }
+
+  /** @param {{turn: number, silentMs: number}} end */
+  endText({ turn, silentMs }) {
+    if (!this.speaks(turn)) return;
+    this.until = Math.max(this.until, performance.now()) + silentMs;
+    setTimeout(() => {
+      if (this.speaks(turn)) Atomics.sub(this.state, Sounds.Speaking, 1);
+    }, this.until - performance.now());
   }
 
   hush() {
-    for (const silence of this.silences.splice(0)) clearTimeout(silence);
-    this.silentUntil = 0;
-    globalThis.speechSynthesis?.cancel();
+    for (const source of this.speech) source.stop();
+    this.speech.clear();
+    this.deviceUntil = 0;
+    this.until = 0;
   }
 
-  /** @param {{from: number, to: number, turn: number}} message */
-  keepSilent({ from, to, turn }) {
+  // -- Recordings.
+
+  /** @param {string} path ending in the recording's name */
+  async open(path) {
+    const name = `sound/${/** @type {string} */ (path.split('/').pop())}`;
+    const entry = this.entries.find((each) => each.name === name);
+    if (entry === undefined) return undefined;
+    try {
+      const bytes = await (await replyOf(entry.file)).arrayBuffer();
+      return await new OfflineAudioContext(1, 1, RecordingRate).decodeAudioData(bytes);
+    } catch {
+      return undefined;
+    }
+  }
+
+  /** @param {{from: number, to: number, turn: number}} stretch in milliseconds */
+  async play({ from, to, turn }) {
+    const buffer = await this.recording;
+    const plays = () => Atomics.load(this.state, Sounds.WaveTurn) === turn;
+    if (!plays()) return;
+    this.stopRecording();
+    if (buffer !== undefined && this.device?.state === 'running')
+      this.recordingSource = this.start(buffer, 0, from / 1000, (to - from) / 1000);
     setTimeout(() => {
-      const current = Atomics.load(this.state, Sounds.WaveTurn) === turn;
-      if (current) Atomics.store(this.state, Sounds.Playing, 0);
+      if (plays()) Atomics.store(this.state, Sounds.Playing, 0);
     }, to - from);
+  }
+
+  stopRecording() {
+    this.recordingSource?.stop();
+    this.recordingSource = undefined;
+  }
+
+  /**
+   * @param {AudioBuffer} buffer
+   * @param {number} at
+   * @param {number} [from]
+   * @param {number} [seconds]
+   */
+  start(buffer, at, from = 0, seconds = buffer.duration) {
+    const device = /** @type {AudioContext} */ (this.device);
+    const source = device.createBufferSource();
+    source.buffer = buffer;
+    source.connect(device.destination);
+    source.start(at, from, seconds);
+    return source;
   }
 }

@@ -15,6 +15,7 @@ export class Strip {
     this.typedWord = '';
     this.news = '';
     this.help = '';
+    this.warning = '';
     /** @type {ReturnType<typeof setTimeout> | undefined} */
     this.emphasis = undefined;
     /** @type {ReturnType<typeof setTimeout> | undefined} */
@@ -51,10 +52,12 @@ export class Strip {
     this.announce(title);
   }
 
-  /** A typed word goes before a notice, and that before help. */
+  /** A typed word goes before a notice, that before help, and a warning comes last. */
   showLeft() {
     const typing = this.typedWord !== '';
-    byId('typed').textContent = typing ? `${this.typedWord}\u258f` : this.news || this.help;
+    byId('typed').textContent = typing
+      ? `${this.typedWord}\u258f`
+      : this.news || this.help || this.warning;
   }
 
   /** @param {string} text */
@@ -66,6 +69,13 @@ export class Strip {
       this.news = '';
       this.showLeft();
     }, NewsMs);
+    this.announce(text);
+  }
+
+  /** Says something for as long as the page is open. @param {string} text */
+  warn(text) {
+    this.warning = text;
+    this.showLeft();
     this.announce(text);
   }
 

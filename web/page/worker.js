@@ -1,7 +1,7 @@
 // The worker in which the program runs.
 import createTalvora from './talvora.js';
 import { openOwnFiles } from './own.js';
-import { fetchPack } from './pack.js';
+import { readerOf } from './pack.js';
 import { Sounds, take, wait } from './ring.js';
 
 /** @type {any} */
@@ -34,12 +34,12 @@ function noteSound(sounds, message) {
   }
 }
 
-/** @param {{ring: SharedArrayBuffer, sounds: SharedArrayBuffer, width: number, height: number}} start */
+/** @param {{ring: SharedArrayBuffer, sounds: SharedArrayBuffer, pack: import('./pack.js').Pack, width: number, height: number}} start */
 async function begin(start) {
   const ring = new Int32Array(start.ring);
   const sounds = new Int32Array(start.sounds);
-  const [pack, own, measures] = await Promise.all([
-    fetchPack((part) => postMessage({ do: 'progress', part })),
+  const pack = readerOf(start.pack, (waiting) => postMessage({ do: 'waiting', waiting }));
+  const [own, measures] = await Promise.all([
     openOwnFiles(),
     fetch('faces.bin').then((reply) => reply.arrayBuffer()),
   ]);

@@ -32,14 +32,19 @@ const server = createServer((request, reply) => {
     reply.writeHead(404).end();
     return;
   }
-  reply.writeHead(200, {
+  const { size, mtimeMs } = statSync(file);
+  const tag = `"${size}-${Math.round(mtimeMs)}"`;
+  const isSame = request.headers['if-none-match'] === tag;
+  reply.writeHead(isSame ? 304 : 200, {
+    ETag: tag,
     'Content-Type': Types[extname(file)] ?? 'application/octet-stream',
-    'Content-Length': statSync(file).size,
+    ...(isSame ? {} : { 'Content-Length': size }),
     'Cross-Origin-Opener-Policy': 'same-origin',
     'Cross-Origin-Embedder-Policy': 'require-corp',
     'Cache-Control': 'no-cache',
   });
-  createReadStream(file).pipe(reply);
+  if (isSame) reply.end();
+  else createReadStream(file).pipe(reply);
 });
 server.listen(Number(port), '127.0.0.1', () => {
   console.log(
