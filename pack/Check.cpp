@@ -1,6 +1,7 @@
 // Reading and counting of what is to be checked.
 #include "pack/Check.h"
 
+#include "pack/Corpora.h"
 #include "pack/CourseChecks.h"
 #include "pack/CourseRules.h"
 #include "pack/DictionaryFindings.h"
@@ -158,12 +159,12 @@ void checkCompiled(const Options& options, Problems& problems, const Progress& p
   static_cast<void>(compile(content, list, options, problems, progress));
   // A small list serves for tests and explains what it can.
   if (options.smallWordList) return;
-  checkCoverage(coverageOf(corporaOf(content), list, readNames(options.source / NamesFile)),
-                problems);
-  for (Problem& problem : hiddenForms(list, content.words))
-    problems.add(std::move(problem.where), std::move(problem.message));
-  for (Problem& problem : englishSenses(list))
-    problems.add(std::move(problem.where), std::move(problem.message));
+  const auto corpora = corporaOf(content);
+  checkCoverage(coverageOf(corpora, list, readNames(options.source / NamesFile)), problems);
+  for (auto& found : {hiddenForms(list, content.words), englishSenses(list),
+                      unlistedForms(corpora, list, content.words)})
+    for (const Problem& problem : found)
+      problems.add(problem.where, problem.message);
 }
 
 } // namespace

@@ -17,7 +17,8 @@ namespace {
 /// Collects the words of one corpus.
 class Collector {
  public:
-  explicit Collector(std::string_view name) : corpus_{name, {}} {}
+  explicit Collector(std::string_view name, CorpusLanguage language = CorpusLanguage::Right)
+      : corpus_{name, {}, language} {}
 
   void add(std::string_view text) { take(clickedWords(text)); }
   void add(const MarkedLine& line) { take(clickedWords(line)); }
@@ -131,14 +132,14 @@ Corpus lessonsOf(const LessonSource& lessons) {
 }
 
 Corpus itemsOf(std::string_view name, const std::vector<Item>& items) {
-  Collector collector(name);
+  Collector collector(name, CorpusLanguage::WithMistakes);
   for (const Item& item : items)
     collector.add(item);
   return collector.takeCorpus();
 }
 
 Corpus lessonItemsOf(const ExerciseSource& exercises) {
-  Collector collector(toSay("items of lessons"));
+  Collector collector(toSay("items of lessons"), CorpusLanguage::WithMistakes);
   for (const auto& [slot, items] : exercises.lessons) {
     for (const Item& item : items)
       collector.add(item);

@@ -1,12 +1,16 @@
 // Going through the words of our own.
 #include "pack/WordListRules.h"
 
+#include "pack/DictionaryCheck.h"
 #include "pack/Inflection.h"
 #include "pack/Message.h"
 #include "pack/StreamText.h"
+#include "pack/WordCoverage.h"
+#include "text/Text.h"
 #include "text/WordForm.h"
 
 #include <algorithm>
+#include <map>
 
 namespace talvora::pack {
 
@@ -24,6 +28,20 @@ bool beginsWithCapital(const std::string& head) {
 bool leadsTo(const Word& word, std::size_t base) {
   return std::ranges::any_of(word.origins,
                              [base](const Origin& origin) { return origin.base == base; });
+}
+
+/// The words that a click does not explain, and where each stands first. What exercises offer as
+/// wrong is left out.
+std::map<std::string, std::string_view> unexplainedWords(const std::vector<Corpus>& corpora,
+                                                         const WordList& list) {
+  std::map<std::string, std::string_view> words;
+  for (const Corpus& corpus : corpora) {
+    if (corpus.language == CorpusLanguage::WithMistakes) continue;
+    for (const std::string& word : corpus.words) {
+      if (!isExplained(list, lower(word))) words.emplace(lower(word), corpus.name);
+    }
+  }
+  return words;
 }
 
 } // namespace
@@ -63,6 +81,29 @@ std::vector<Problem> englishSenses(const WordList& list) {
       found.push_back({{"dictionary"},
                        said("the entry of \"{}\" has an English sense beside the Vietnamese ones",
                             utf8Of(word.head))});
+  }
+  return found;
+}
+
+std::vector<Problem> unlistedForms(const std::vector<Corpus>& corpora, const WordList& list,
+                                   const WordSources& sources) {
+  const auto words = unexplainedWords(corpora, list);
+  KnownWords standing;
+  for (const auto& [word, corpus] : words)
+    standing.insert(word);
+  const Inflections inflections(sources.own, sources.wordNet, standing);
+  std::vector<Problem> found;
+  for (const OwnEntry& entry : sources.own) {
+    const auto base = list.find(ChuanHoaTu(entry.head));
+    if (!base) continue;
+    for (const Form& form : inflections.formsOf(entry.head, list.at(*base).classes)) {
+      const auto word = words.find(lower(form.text));
+      if (word == words.end()) continue;
+      found.push_back({{std::string(AcceptedFile)},
+                       "\"" + form.text + "\", a form of \"" + entry.head +
+                           "\", is in no word list and has to stand here, since " +
+                           std::string(word->second) + " use it"});
+    }
   }
   return found;
 }

@@ -50,5 +50,21 @@ TEST(WordListRules, AnEntryOfOursHasNoEnglishSense) {
             "the entry of \"gaze\" has an English sense beside the Vietnamese ones");
 }
 
+TEST(WordListRules, AFormThatNoWordListHasIsAccepted) {
+  WordSources sources = sourcesOf("mooncake\n  n. [c] bánh trung thu\n\ngo\n  v. đi\n");
+  const std::vector<Corpus> corpora = {{"texts", {"Mooncakes", "go"}},
+                                       {"items", {"goes"}, CorpusLanguage::WithMistakes}};
+  Problems problems;
+  const auto found = [&] {
+    const WordList list = fillWordList(sources, 1000, Filling::OwnOnly, problems);
+    return unlistedForms(corpora, list, sources);
+  };
+  ASSERT_EQ(found().size(), 1U);
+  EXPECT_EQ(found()[0].message, "\"mooncakes\", a form of \"mooncake\", is in no word list and "
+                                "has to stand here, since texts use it");
+  sources.known = {"mooncakes"};
+  EXPECT_TRUE(found().empty());
+}
+
 } // namespace
 } // namespace talvora::pack
