@@ -10,9 +10,9 @@
 #include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/SpeakingSource.h"
-#include "pack/SpellingCheck.h"
 #include "pack/WordCoverage.h"
 #include "pack/WordListRules.h"
+#include "pack/WordingChecks.h"
 
 #include <utility>
 
@@ -185,7 +185,7 @@ CheckReport checkContent(const Options& options, const std::set<ContentKind>& on
   }
   if (problems.none() && only.empty()) {
     progress(said("rules of texts and drills"));
-    checkSpellings(options.source, problems);
+    checkWordings(options.source, problems);
     report.notes = checkTextsAndDrills(options.source, problems);
   }
   return report;

@@ -4,11 +4,11 @@
 #include "dictionary/SyllableGate.h"
 #include "pack/ClickedWords.h"
 #include "pack/EntryLines.h"
-#include "pack/ExampleRules.h"
 #include "pack/Message.h"
 #include "pack/SmallLetters.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "pack/TranslationRules.h"
 #include "sound/Pronunciations.h"
 #include "text/CharClass.h"
 #include "text/GlyphMap.h"
@@ -176,7 +176,7 @@ class Checker {
     if (equals == std::string::npos) return;
     const std::string vietnamese = sense.example.substr(equals + 3);
     checkVietnamese(vietnamese);
-    for (std::string& fault : exampleFaults(utf8Of(english), utf8Of(vietnamese)))
+    for (std::string& fault : translationFaults(utf8Of(english), utf8Of(vietnamese)))
       find(DictionaryRule::TranslationDiffers, std::move(fault));
   }
 

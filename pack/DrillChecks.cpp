@@ -6,7 +6,6 @@
 #include "pack/StreamText.h"
 #include "pack/TextWords.h"
 #include "pack/WordPhones.h"
-#include "pack/WordingChecks.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -68,7 +67,6 @@ class UnitChecker {
   std::string check() {
     for (const ListeningQuestion& item : items_) {
       checkSounds(item);
-      checkWording(item);
       if (!optionsAreLike(item)) tellLength(item);
     }
     const std::size_t exact = exactKeys();
@@ -90,18 +88,6 @@ class UnitChecker {
       const std::string reason = notHeardApart(item.sentence, wrong);
       if (!reason.empty()) problems_.add(item.where, quotedOption(wrong) + reason);
     }
-  }
-
-  /// The heard sentence is checked where it stands, in the script.
-  void checkWording(const ListeningQuestion& item) {
-    checkWording(item.where, item.right);
-    for (const std::string& wrong : item.wrong)
-      checkWording(item.where, wrong);
-  }
-
-  void checkWording(const Where& where, const std::string& option) {
-    for (const OddWording& odd : oddWordings(option))
-      problems_.add(where, quotedOption(option) + odd.message);
   }
 
   static std::string quotedOption(const std::string& option) {

@@ -4,7 +4,7 @@
 #include "pack/Message.h"
 #include "pack/SourceFile.h"
 #include "pack/TextWords.h"
-#include "pack/WordingChecks.h"
+#include "pack/TranslationRules.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -70,7 +70,7 @@ class TextChecker {
  public:
   TextChecker(const std::string& file, TextUse use, const std::unordered_set<std::string>& heads,
               Problems& problems)
-      : file_(file), use_(use), heads_(heads), problems_(problems), wording_(file, problems) {}
+      : file_(file), use_(use), heads_(heads), problems_(problems) {}
 
   void read(const SourceLine& line) {
     if (line.text.empty()) newParagraph_ = true;
@@ -82,12 +82,11 @@ class TextChecker {
     line_ = line.number;
     checkSentence(line.text);
     checkHyphens(line.text);
-    wording_.readSentence(line);
+    sentence_ = line.text;
     if (use_ == TextUse::Speaking) checkSpoken(line.text);
   }
 
   void finish() {
-    wording_.finish();
     if (use_ == TextUse::Speaking && asks_ && paragraphs_ == 1) {
       problems_.add({file_}, said("somebody asks here and all is one paragraph: each turn of a "
                                   "conversation is a paragraph of its own"));
@@ -112,7 +111,8 @@ class TextChecker {
     line_ = line.number;
     if (!endsClosed(line.text))
       report(line.text.size(), said("the translation has no closing point"));
-    wording_.readTranslation(line);
+    for (std::string& fault : translationFaults(sentence_, line.text))
+      report(0, std::move(fault));
   }
 
   void checkHyphens(std::string_view line) {
@@ -158,7 +158,7 @@ class TextChecker {
   TextUse use_;
   const std::unordered_set<std::string>& heads_;
   Problems& problems_;
-  WordingChecker wording_;
+  std::string_view sentence_; ///< the one that was read last
   int line_ = 0;
   int paragraphs_ = 0;
   bool newParagraph_ = true;

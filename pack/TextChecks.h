@@ -18,9 +18,9 @@ enum class TextUse { Reading, Speaking };
 inline constexpr int MostWordsToSpeak = 12;
 
 /// Checks the source of a text: two sentences on a line, a sentence or a translation without its
-/// closing point, a word with a hyphen that no entry explains, wording that is not the course's; in
-/// a text to speak also marks that are not spoken, a line that is too long, and a conversation in
-/// one paragraph. `heads` are the head words in small letters.
+/// closing point, a translation that does not match, a word with a hyphen that no entry explains;
+/// in a text to speak also marks that are not spoken, a line that is too long, and a conversation
+/// in one paragraph. `heads` are the head words in small letters.
 void checkText(std::string_view source, const std::string& file, TextUse use,
                const std::unordered_set<std::string>& heads, Problems& problems);
 

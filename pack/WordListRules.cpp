@@ -100,9 +100,9 @@ std::vector<Problem> unlistedForms(const std::vector<Corpus>& corpora, const Wor
       const auto word = words.find(lower(form.text));
       if (word == words.end()) continue;
       found.push_back({{std::string(AcceptedFile)},
-                       "\"" + form.text + "\", a form of \"" + entry.head +
-                           "\", is in no word list and has to stand here, since " +
-                           std::string(word->second) + " use it"});
+                       said("\"{}\", a form of \"{}\", is in no word list and has to stand here, "
+                            "since {} use it",
+                            form.text, entry.head, translated(word->second))});
     }
   }
   return found;

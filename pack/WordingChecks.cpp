@@ -1,8 +1,12 @@
-// Tables of twin words, and the search for them.
+// Looking for what is written otherwise, line by line.
 #include "pack/WordingChecks.h"
 
+#include "pack/ExerciseSource.h"
+#include "pack/MarkedLine.h"
 #include "pack/Message.h"
 #include "pack/SmallLetters.h"
+#include "pack/SourceFile.h"
+#include "pack/Weekdays.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -15,139 +19,6 @@ namespace talvora::pack {
 
 namespace {
 
-/// What the course writes, and what it does not; several are parted by "/".
-struct Twin {
-  std::string_view ours;
-  std::string_view theirs;
-};
-
-// British words and spellings, as the lessons teach them; "learned" and its like go by the rule
-// that a learner knows.
-constexpr std::array english = {
-    Twin{"lorry", "truck/trucks"},
-    Twin{"flat", "apartment/apartments"},
-    Twin{"lift", "elevator/elevators"},
-    Twin{"pavement", "sidewalk/sidewalks"},
-    Twin{"film", "movie/movies"},
-    Twin{"biscuit", "cookie/cookies"},
-    Twin{"sweets", "candy/candies"},
-    Twin{"holiday", "vacation/vacations"},
-    Twin{"rubbish", "garbage/trash"},
-    Twin{"trousers", "pants"},
-    Twin{"trainers", "sneakers"},
-    Twin{"football", "soccer"},
-    Twin{"mum", "mom/moms"},
-    Twin{"maths", "math"},
-    Twin{"tap", "faucet/faucets"},
-    Twin{"torch", "flashlight/flashlights"},
-    Twin{"petrol", "gasoline"},
-    Twin{"plane", "airplane/airplanes/aeroplane/aeroplanes"},
-    Twin{"mobile phone", "cellphone/cellphones/cell phone/cell phones"},
-    Twin{"wardrobe", "closet/closets"},
-    Twin{"chemist's", "drugstore/drugstores"},
-    Twin{"motorway", "freeway/freeways"},
-    Twin{"postman", "mailman"},
-    Twin{"letter box", "mailbox/mailboxes"},
-    Twin{"nappy", "diaper/diapers"},
-    Twin{"got", "gotten"},
-    Twin{"railway", "railroad/railroads"},
-    Twin{"aubergine", "eggplant/eggplants"},
-    Twin{"coriander", "cilantro"},
-    Twin{"favourite", "favorite/favorites"},
-    Twin{"colour", "color/colors/colored/colorful"},
-    Twin{"neighbour", "neighbor/neighbors/neighborhood"},
-    Twin{"honour", "honor/honors"},
-    Twin{"humour", "humor"},
-    Twin{"labour", "labor"},
-    Twin{"rumour", "rumor/rumors"},
-    Twin{"behaviour", "behavior"},
-    Twin{"flavour", "flavor/flavors"},
-    Twin{"harbour", "harbor/harbors"},
-    Twin{"centre", "center/centers"},
-    Twin{"theatre", "theater/theaters"},
-    Twin{"metre", "kilometer/kilometers/centimeter/centimeters/millimeter/millimeters"},
-    Twin{"litre", "liter/liters"},
-    Twin{"fibre", "fiber/fibers"},
-    Twin{"organise", "organize/organizes/organized/organizing"},
-    Twin{"realise", "realize/realizes/realized/realizing"},
-    Twin{"recognise", "recognize/recognizes/recognized/recognizing"},
-    Twin{"apologise", "apologize/apologizes/apologized/apologizing"},
-    Twin{"travelled", "traveled/traveling/traveler/travelers"},
-    Twin{"cancelled", "canceled/canceling"},
-    Twin{"jewellery", "jewelry"},
-    Twin{"catalogue", "catalog/catalogs"},
-    Twin{"moustache", "mustache/mustaches"},
-    Twin{"pyjamas", "pajamas"},
-    Twin{"plough", "plow/plows/plowed"},
-    Twin{"mould", "mold"},
-    Twin{"grey", "gray"},
-    Twin{"towards", "toward"},
-    Twin{"learned", "learnt"},
-    Twin{"dreamed", "dreamt"},
-    Twin{"smelled", "smelt"},
-    Twin{"spelled", "spelt"},
-    Twin{"leaned", "leant"},
-    Twin{"spilled", "spilt"},
-};
-
-// In translations one spelling of a word.
-constexpr std::array vietnamese = {
-    Twin{"súp", "xúp"},
-    Twin{"tivi", "ti vi/ti-vi"},
-    Twin{"cảm ơn", "cám ơn"},
-    Twin{"giông", "dông"},
-    Twin{"va li", "vali/va-li"},
-    Twin{"sô cô la", "sô-cô-la/socola"},
-    Twin{"bác sĩ", "bác sỹ"},
-    Twin{"ca sĩ", "ca sỹ"},
-    Twin{"kỹ", "kĩ"},
-    Twin{"lý", "lí"},
-    Twin{"rô bốt", "rô-bốt/robot"},
-    Twin{"phô mai", "pho mát/phó mát"},
-    Twin{"xăng-ti-mét", "xăng ti mét/xentimét"},
-    Twin{"ki-lô-mét", "ki lô mét/kilômét"},
-    Twin{"ô tô", "ôtô/ô-tô"},
-};
-
-// Words of the north, and of the south. Only words that mean nothing else stand here.
-constexpr std::array regional = {
-    Twin{"thìa", "muỗng"},
-    Twin{"lợn", "thịt heo/con heo/heo con/heo nái/bầy heo"},
-    Twin{"củ lạc/hạt lạc/lạc rang/kẹo lạc", "đậu phộng/đậu phọng"},
-    Twin{"xà phòng", "xà bông"},
-    Twin{"nghìn", "ngàn"},
-    Twin{"rẽ", "quẹo"},
-    Twin{"chăn", "mền"},
-    Twin{"đôi tất/chiếc tất/bít tất", "đôi vớ/chiếc vớ"},
-    Twin{"bố tôi/bố mẹ/bố con", "ba tôi/ba má/ba mẹ"},
-    Twin{"mẹ tôi/bố mẹ", "má tôi/ba má"},
-    Twin{"tàu hỏa", "xe lửa"},
-    Twin{"tầng hai/tầng ba/tầng bốn/tầng trên", "lầu hai/lầu ba/lầu bốn/trên lầu"},
-    Twin{"ngõ", "hẻm/con hẻm"},
-    Twin{"nhé", "nghen"},
-    Twin{"lốp", "vỏ xe"},
-    Twin{"bắp ngô/ngô luộc/ngô nướng/hạt ngô", "trái bắp/bắp luộc/bắp nướng/hạt bắp"},
-    Twin{"quả dứa", "trái thơm/trái khóm"},
-    Twin{"quả cam/quả chuối/quả dừa/quả xoài/quả táo/quả bưởi/quả bí/quả cà",
-         "trái cam/trái chuối/trái dừa/trái xoài/trái táo/trái bưởi/trái bí/trái cà"},
-    Twin{"chiếc ô/cái ô", "chiếc dù/cái dù/cây dù"},
-    Twin{"mũ bảo hiểm", "nón bảo hiểm"},
-    Twin{"xe máy", "xe gắn máy"},
-    Twin{"xe khách", "xe đò"},
-    Twin{"kính", "kiếng"},
-    Twin{"mướp đắng", "khổ qua"},
-    Twin{"nem rán", "chả giò"},
-    Twin{"vừng", "mè"},
-};
-
-constexpr std::array<std::pair<std::string_view, std::string_view>, 7> weekdays = {
-    {{"monday", "thứ hai"},
-     {"tuesday", "thứ ba"},
-     {"wednesday", "thứ tư"},
-     {"thursday", "thứ năm"},
-     {"friday", "thứ sáu"},
-     {"saturday", "thứ bảy"},
-     {"sunday", "chủ nhật"}}};
 // "may" and "march" are also verbs.
 constexpr std::array<std::string_view, 10> months = {"january",  "february", "april",     "june",
                                                      "july",     "august",   "september", "october",
@@ -163,172 +34,266 @@ bool has(const List& list, std::string_view word) {
   return std::find(list.begin(), list.end(), word) != list.end();
 }
 
-// Outside ASCII a text has Vietnamese letters and typographic marks.
-constexpr std::array<std::string_view, 7> marks = {"“", "”", "‘", "’", "–", "—", "…"};
-
-bool endsWithLetter(std::string_view text) {
-  if (text.empty()) return false;
-  const auto isEnd = [text](std::string_view mark) { return text.ends_with(mark); };
-  if (static_cast<unsigned char>(text.back()) < 0x80) return Letters.has(text.back());
-  return std::none_of(marks.begin(), marks.end(), isEnd);
+bool isDay(std::string_view word) {
+  if (word.ends_with("days")) word.remove_suffix(1);
+  return std::ranges::any_of(Weekdays,
+                             [word](const Weekday& day) { return lower(day.english) == word; });
 }
 
-bool beginsWithLetter(std::string_view text) {
-  if (text.empty()) return false;
-  const auto isStart = [text](std::string_view mark) { return text.starts_with(mark); };
-  if (static_cast<unsigned char>(text.front()) < 0x80) return Letters.has(text.front());
-  return std::none_of(marks.begin(), marks.end(), isStart);
+/// Whether a byte of UTF-8 belongs to a word; quotation marks and dashes begin with the byte 0xE2.
+bool isWordByte(char byte) {
+  const auto code = static_cast<unsigned char>(byte);
+  return code < 0x80 ? Letters.has(byte) : code != 0xE2;
 }
 
-/// Where a phrase stands as whole words.
-std::optional<std::size_t> placeOf(std::string_view phrase, std::string_view text) {
-  for (std::size_t at = text.find(phrase); at != std::string_view::npos;
-       at = text.find(phrase, at + 1)) {
-    const bool opens = !endsWithLetter(text.substr(0, at));
-    if (opens && !beginsWithLetter(text.substr(at + phrase.size()))) return at;
+/// The places at which a word or two stand in a line as words of their own.
+std::vector<std::size_t> placesOf(std::string_view line, std::string_view words) {
+  constexpr std::size_t markLength = 3; // of a quotation mark
+  std::vector<std::size_t> places;
+  for (std::size_t at = line.find(words); at != std::string_view::npos;
+       at = line.find(words, at + 1)) {
+    const std::size_t end = at + words.size();
+    const bool behindMark = at >= markLength && line[at - markLength] == '\xE2';
+    const bool opens = at == 0 || behindMark || !isWordByte(line[at - 1]);
+    if (opens && (end == line.size() || !isWordByte(line[end]))) places.push_back(at);
   }
-  return std::nullopt;
+  return places;
 }
 
-struct Found {
-  std::size_t at = 0;
-  std::string_view phrase;
-};
-
-/// The first phrase of a list parted by "/" that stands in a text.
-std::optional<Found> anyOf(std::string_view phrases, std::string_view text) {
-  while (!phrases.empty()) {
-    const std::string_view phrase = phrases.substr(0, phrases.find('/'));
-    if (const auto at = placeOf(phrase, text)) return Found{*at, phrase};
-    phrases.remove_prefix(std::min(phrases.size(), phrase.size() + 1));
+/// The line with a small letter at the start of each sentence.
+std::string smallOpenings(std::string_view line) {
+  std::string small(line);
+  bool opens = true;
+  for (char& character : small) {
+    if (Letters.has(character)) {
+      if (opens) character = lower(character);
+      opens = false;
+    } else if (std::string_view(".?!").find(character) != std::string_view::npos) {
+      opens = true;
+    }
   }
-  return std::nullopt;
+  return small;
 }
 
-template <typename Table>
-void findTwins(const Table& table, std::string_view small, std::vector<OddWording>& odd) {
-  for (const Twin& twin : table) {
-    const auto found = anyOf(twin.theirs, small);
-    if (!found) continue;
-    odd.push_back(
-        {found->at, said("the course writes \"{}\" for \"{}\"", twin.ours, found->phrase)});
-  }
+/// The spelling with a capital where what stands for it has one.
+std::string likeCapital(std::string_view used, std::string_view found) {
+  std::string word(used);
+  const bool capital = !found.empty() && found.front() >= 'A' && found.front() <= 'Z';
+  if (capital && word.front() >= 'a' && word.front() <= 'z')
+    word.front() = static_cast<char>(word.front() - 'a' + 'A');
+  return word;
 }
 
-struct Word {
+struct Stretch {
   std::size_t at = 0;
   std::string_view text;
 };
 
-std::vector<Word> wordsOf(std::string_view sentence) {
-  std::vector<Word> words;
-  for (std::size_t at = 0; at < sentence.size(); ++at) {
-    if (!Letters.has(sentence[at])) continue;
+std::vector<Stretch> wordsOf(std::string_view line) {
+  std::vector<Stretch> words;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (!Letters.has(line[at])) continue;
     std::size_t end = at;
-    while (end < sentence.size() && Letters.has(sentence[end]))
+    while (end < line.size() && Letters.has(line[end]))
       ++end;
-    words.push_back({at, sentence.substr(at, end - at)});
+    words.push_back({at, line.substr(at, end - at)});
     at = end;
   }
   return words;
 }
 
-/// "thirty five", but not the "twenty" of the year "twenty twenty-five".
-void findPartedNumbers(std::string_view sentence, std::vector<OddWording>& odd) {
-  const auto words = wordsOf(sentence);
-  for (std::size_t at = 0; at + 1 < words.size(); ++at) {
-    const Word& ten = words[at];
-    const Word& unit = words[at + 1];
-    const bool beside = unit.at == ten.at + ten.text.size() + 1 && sentence[unit.at - 1] == ' ';
-    if (!beside || !has(tens, lower(ten.text)) || !has(units, lower(unit.text))) continue;
-    odd.push_back({ten.at, said("a number has a hyphen: \"{}-{}\"", ten.text, unit.text)});
-  }
+/// The first of some phrases that stands in a line; empty without one.
+std::string firstOf(const std::vector<std::string>& phrases, std::string_view line) {
+  const auto found = std::ranges::find_if(
+      phrases, [line](const std::string& phrase) { return !placesOf(line, phrase).empty(); });
+  return found == phrases.end() ? std::string() : *found;
 }
 
-void findSmallDays(std::string_view sentence, std::vector<OddWording>& odd) {
-  for (const Word& word : wordsOf(sentence)) {
-    std::string_view day = word.text;
-    if (day.ends_with("days")) day.remove_suffix(1);
-    const bool isDay = std::any_of(weekdays.begin(), weekdays.end(),
-                                   [day](const auto& each) { return each.first == day; });
-    if (isDay || has(months, word.text))
-      odd.push_back({word.at, said("\"{}\" begins with a capital", word.text)});
-  }
+/// Where the translation begins in a line "= ..." or "> Sentence. = ..."; behind it without one.
+std::size_t translationIn(std::string_view line) {
+  if (line.starts_with("= ")) return 0;
+  return std::min(line.find(" = "), line.size());
 }
+
+/// Checks one source.
+class WordingChecker {
+ public:
+  WordingChecker(const std::string& file, const WordingList& list, WordingUse use,
+                 Problems& problems)
+      : file_(file), list_(list), use_(use), problems_(problems), north_(list.regions.size()),
+        south_(list.regions.size()) {}
+
+  void read(const SourceLine& line) {
+    line_ = line;
+    if (line.text.starts_with("//")) return;
+    if (above_.empty()) ownTwin_ = twinOpening(line.text);
+    checkVietnamese();
+    if (use_ != WordingUse::Lessons) checkEnglish();
+    if (use_ == WordingUse::Texts) checkText();
+    above_ = line.text;
+  }
+
+  void finish() {
+    for (std::size_t row = 0; row < north_.size(); ++row) {
+      const Regional& north = north_[row];
+      const Regional& south = south_[row];
+      if (north.word.empty() || south.word.empty()) continue;
+      problems_.add({file_, std::max(north.line, south.line), 1},
+                    said("\"{}\" of the north and \"{}\" of the south stand in one text, here "
+                         "and in line {}",
+                         north.word, south.word, std::min(north.line, south.line)));
+    }
+  }
+
+ private:
+  /// A word of one region, and where it stands first.
+  struct Regional {
+    std::string word;
+    int line = 0;
+  };
+
+  /// The unused spelling that an entry of the dictionary is about; empty for another one.
+  [[nodiscard]] std::string twinOpening(std::string_view block) const {
+    std::string head = lower(block.substr(0, block.find(' ')));
+    const bool twin = std::ranges::find(list_.english, head, &Twin::unused) != list_.english.end();
+    return twin && use_ == WordingUse::Dictionary ? head : std::string();
+  }
+
+  void report(std::size_t at, std::string message) {
+    problems_.add(placeIn(line_.text, at, {file_, line_.number, 1}), std::move(message));
+  }
+
+  void reportTwin(std::size_t at, const Twin& twin) {
+    const std::string_view found = line_.text.substr(at, twin.unused.size());
+    report(at, said("\"{}\" is written \"{}\" here", found, likeCapital(twin.used, found)));
+  }
+
+  void checkVietnamese() {
+    const std::string small = smallUtf8(line_.text);
+    const std::size_t translation = translationIn(line_.text);
+    for (const Twin& twin : list_.everywhere) {
+      // Of "chủ nhật" and "Chủ nhật" the capital is the matter.
+      const bool capital = smallUtf8(twin.used) == twin.unused;
+      for (const std::size_t at : placesOf(capital ? line_.text : small, twin.unused))
+        reportTwin(at, twin);
+    }
+    for (const Twin& twin : list_.translations) {
+      for (const std::size_t at : placesOf(small, twin.unused))
+        if (at > translation) reportTwin(at, twin);
+    }
+    for (const Weekday& day : Weekdays)
+      checkWeekday(day, small);
+  }
+
+  void checkWeekday(const Weekday& day, std::string_view small) {
+    const auto isThere = [this](std::string_view word) {
+      return !word.empty() && (line_.text.find(word) != std::string_view::npos ||
+                               above_.find(word) != std::string_view::npos);
+    };
+    if (!isThere(day.english) || isThere(day.ordinal)) return;
+    // The first letter is that of any word; the capital is the second one's.
+    const std::string_view capital = day.vietnamese.substr(day.vietnamese.find(' '));
+    for (const std::size_t at : placesOf(small, smallUtf8(day.vietnamese))) {
+      if (!line_.text.substr(0, at + day.vietnamese.size()).ends_with(capital))
+        reportTwin(at, {std::string(day.vietnamese), std::string(day.vietnamese)});
+    }
+  }
+
+  void checkEnglish() {
+    const std::string small = smallUtf8(line_.text);
+    for (const Twin& twin : list_.english) {
+      if (!ownTwin_.empty() && twin.unused.starts_with(ownTwin_)) continue;
+      for (const std::size_t at : placesOf(small, twin.unused))
+        reportTwin(at, twin);
+    }
+  }
+
+  void checkText() {
+    const std::string small = smallOpenings(line_.text);
+    for (const Twin& twin : list_.texts) {
+      for (const std::size_t at : placesOf(small, twin.unused))
+        reportTwin(at, twin);
+    }
+    if (line_.text.starts_with('=')) {
+      collectRegional(smallUtf8(line_.text));
+    } else {
+      checkNumbers();
+      checkCapitals();
+    }
+  }
+
+  /// "thirty five", but not the "twenty" of the year "twenty twenty-five".
+  void checkNumbers() {
+    const auto words = wordsOf(line_.text);
+    for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+      const Stretch& ten = words[at];
+      const Stretch& unit = words[at + 1];
+      const bool beside = unit.at == ten.at + ten.text.size() + 1 && line_.text[unit.at - 1] == ' ';
+      if (!beside || !has(tens, lower(ten.text)) || !has(units, lower(unit.text))) continue;
+      report(ten.at, said("a number has a hyphen: \"{}-{}\"", ten.text, unit.text));
+    }
+  }
+
+  void checkCapitals() {
+    for (const Stretch& word : wordsOf(line_.text)) {
+      if (isDay(word.text) || has(months, word.text))
+        report(word.at, said("\"{}\" begins with a capital", word.text));
+    }
+  }
+
+  void collectRegional(std::string_view small) {
+    for (std::size_t row = 0; row < list_.regions.size(); ++row) {
+      const auto note = [&](Regional& first, const std::vector<std::string>& phrases) {
+        if (!first.word.empty()) return;
+        first = {firstOf(phrases, small), line_.number};
+      };
+      note(north_[row], list_.regions[row].north);
+      note(south_[row], list_.regions[row].south);
+    }
+  }
+
+  const std::string& file_;
+  const WordingList& list_;
+  WordingUse use_;
+  Problems& problems_;
+  SourceLine line_;
+  std::string ownTwin_;         ///< the unused spelling that the block may have
+  std::string above_;           ///< the line above
+  std::vector<Regional> north_; ///< by the row of the list; empty where the text has none
+  std::vector<Regional> south_;
+};
 
 } // namespace
 
-std::vector<OddWording> oddWordings(std::string_view sentence) {
-  std::vector<OddWording> odd;
-  findPartedNumbers(sentence, odd);
-  findSmallDays(sentence, odd);
-  // "Mrs Gray" and "Center Street" are names: the twins are looked for as they stand, and at the
-  // start of a sentence in small letters.
-  std::string small(sentence);
-  if (!small.empty()) small.front() = lower(small.front());
-  findTwins(english, small, odd);
-  return odd;
+void checkWording(std::string_view text, const std::string& file, const WordingList& list,
+                  WordingUse use, Problems& problems) {
+  WordingChecker checker(file, list, use, problems);
+  for (const SourceLine& line : linesOf(text))
+    checker.read(line);
+  checker.finish();
 }
 
-void WordingChecker::report(int line, std::size_t at, const std::string& message) {
-  problems_.add({file_, line, static_cast<int>(at) + 1}, message);
-}
-
-void WordingChecker::readSentence(const SourceLine& line) {
-  sentence_ = lower(line.text);
-  for (const OddWording& odd : oddWordings(line.text))
-    report(line.number, odd.at, odd.message);
-}
-
-void WordingChecker::readTranslation(const SourceLine& line) {
-  const std::string small = smallUtf8(line.text);
-  std::vector<OddWording> odd;
-  findTwins(vietnamese, small, odd);
-  for (const OddWording& each : odd)
-    report(line.number, 0, each.message);
-  checkAgainstSentence(line, small);
-  collectRegional(line, small);
-}
-
-void WordingChecker::checkAgainstSentence(const SourceLine& line, std::string_view small) {
-  const bool asks = sentence_.find('?') != std::string::npos;
-  const bool asked = small.find('?') != std::string_view::npos;
-  if (asks != asked) {
-    report(line.number, 0,
-           asks ? said("the sentence asks and its translation does not")
-                : said("the translation asks and its sentence does not"));
+void checkWordings(const std::filesystem::path& source, Problems& problems) {
+  const WordingList list = readWordingList(source / WordingFile, problems);
+  constexpr std::array<std::pair<std::string_view, WordingUse>, 6> folders = {
+      {{"reading", WordingUse::Texts},
+       {"speaking", WordingUse::Texts},
+       {"listening", WordingUse::Texts},
+       {"dictionary", WordingUse::Dictionary},
+       {"lessons", WordingUse::Lessons},
+       {"analysis", WordingUse::Lessons}}};
+  const auto checkFile = [&](const std::filesystem::path& path, WordingUse use) {
+    checkWording(readText(path, problems), path.string(), list, use, problems);
+  };
+  for (const auto& [folder, use] : folders) {
+    for (const auto& path : textFilesIn(source / folder))
+      checkFile(path, use);
   }
-  for (const auto& [day, name] : weekdays) {
-    const bool named = placeOf(day, sentence_) || placeOf(std::string(day) + "s", sentence_);
-    if (named && !placeOf(name, small))
-      report(line.number, 0, said("the translation has no \"{}\"", name));
+  for (const std::string_view bank : BankNames) {
+    for (const auto& path : textFilesIn(source / "exercises" / bank))
+      checkFile(path, WordingUse::Lessons);
   }
-}
-
-void WordingChecker::collectRegional(const SourceLine& line, std::string_view small) {
-  north_.resize(regional.size());
-  south_.resize(regional.size());
-  for (std::size_t row = 0; row < regional.size(); ++row) {
-    const auto note = [&](Regional& first, std::string_view phrases) {
-      if (!first.word.empty()) return;
-      if (const auto found = anyOf(phrases, small))
-        first = {std::string(found->phrase), line.number};
-    };
-    note(north_[row], regional[row].ours);
-    note(south_[row], regional[row].theirs);
-  }
-}
-
-void WordingChecker::finish() {
-  for (std::size_t row = 0; row < north_.size(); ++row) {
-    const Regional& north = north_[row];
-    const Regional& south = south_[row];
-    if (north.word.empty() || south.word.empty()) continue;
-    report(
-        std::max(north.line, south.line), 0,
-        said("\"{}\" of the north and \"{}\" of the south stand in one text, here and in line {}",
-             north.word, south.word, std::min(north.line, south.line)));
-  }
+  checkFile(source / "guide.txt", WordingUse::Lessons);
 }
 
 } // namespace talvora::pack

@@ -47,16 +47,23 @@ TEST(TextChecks, FindASentenceWithoutItsPoint) {
               ElementsAre(HasSubstr("t:2:4: the translation has no closing point")));
 }
 
-TEST(TextChecks, FindWordingThatIsNotTheCourses) {
-  EXPECT_THAT(problemsOf("Thirty five trucks came.\n= Đến.\n"),
-              ElementsAre(HasSubstr("t:1:1: a number has a hyphen"),
-                          HasSubstr("t:1:13: the course writes \"lorry\"")));
+TEST(TextChecks, HoldATranslationToItsSentence) {
+  EXPECT_THAT(problemsOf("Is it Monday?\n= Hôm nay thứ Ba.\n"),
+              ElementsAre(HasSubstr("t:2:1: the sentence asks"),
+                          HasSubstr("t:2:1: the translation has no \"thứ Hai\"")));
+  EXPECT_THAT(problemsOf("Go.\n= Đi nhé?\n"), ElementsAre(HasSubstr("the translation asks")));
+  EXPECT_THAT(problemsOf("“On Mondays?”\n= “Thứ Hai à?”\n"), ElementsAre());
+  EXPECT_THAT(problemsOf("They have two cats.\n= Họ có ba con mèo.\n"),
+              ElementsAre("t:2:1: \"two\" is not in the translation"));
+  EXPECT_THAT(problemsOf("He saw the the cat.\n= Anh ấy thấy con mèo.\n"),
+              ElementsAre("t:2:1: \"the\" stands twice in a row"));
 }
 
 TEST(TextChecks, FindAHyphenThatNoEntryExplains) {
   EXPECT_THAT(problemsOf("He sent an e-mail.\n= x.\n"),
               ElementsAre(HasSubstr("t:1:12: \"e-mail\"")));
-  EXPECT_THAT(problemsOf("A second-hand car is thirty-five years old.\n= x.\n"), ElementsAre());
+  EXPECT_THAT(problemsOf("A second-hand car is thirty-five years old.\n= Ba mươi lăm tuổi.\n"),
+              ElementsAre());
 }
 
 TEST(TextChecks, HoldATextToSpeakToShortLinesThatCanBeSpoken) {

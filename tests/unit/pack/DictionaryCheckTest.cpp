@@ -62,11 +62,18 @@ TEST(DictionaryCheck, ATranslationSaysWhatItsSentenceSays) {
   EXPECT_EQ(found("Do you go on Friday? = Thứ Sáu bạn đi không?"), Lines{});
   EXPECT_EQ(found("I had had two bowls by half past six. = Lúc sáu giờ rưỡi tôi đã ăn hai bát."),
             Lines{});
-  EXPECT_EQ(found("Do you go? = Bạn đi."), Lines{"go: only one of the two asks"});
+  EXPECT_EQ(found("Do you go? = Bạn đi."),
+            Lines{"go: the sentence asks and its translation does not"});
   EXPECT_EQ(found("I go on Friday. = Thứ Bảy tôi đi."),
-            Lines{"go: \"friday\" is not in the translation"});
+            Lines{"go: the translation has no \"thứ Sáu\""});
   EXPECT_EQ(found("I go at seven. = Tôi đi lúc sáu giờ."),
             Lines{"go: \"seven\" is not in the translation"});
+  EXPECT_EQ(found("Forty of 1945 go. = Bốn chục người đi."), Lines{});
+  EXPECT_EQ(found("Forty go. = Năm 1945 đi."), Lines{});
+  EXPECT_EQ(found("Forty go. = Năm 1915, bốn người đi."),
+            Lines{"go: \"forty\" is not in the translation"});
+  EXPECT_EQ(found("A thousand go. = 999 người đi."),
+            Lines{"go: \"thousand\" is not in the translation"});
   EXPECT_EQ(found("I go to to school. = Tôi đi học."), Lines{"go: \"to\" stands twice in a row"});
 }
 

@@ -9,7 +9,7 @@ namespace talvora::pack {
 
 /// What the two do not agree in: the question mark, the days of the week, the number words; and a
 /// word that the English one has twice in a row. Both in UTF-8; empty when all is well.
-[[nodiscard]] std::vector<std::string> exampleFaults(std::string_view english,
-                                                     std::string_view vietnamese);
+[[nodiscard]] std::vector<std::string> translationFaults(std::string_view english,
+                                                         std::string_view vietnamese);
 
 } // namespace talvora::pack

@@ -1,0 +1,162 @@
+// Comparing word by word.
+#include "pack/TranslationRules.h"
+
+#include "pack/Message.h"
+#include "pack/SmallLetters.h"
+#include "pack/Weekdays.h"
+#include "sound/Pronunciations.h"
+#include "text/CharClass.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace talvora::pack {
+
+namespace {
+
+constexpr CharClass digits("[0-9]");
+
+/// A number word and what stands for it in Vietnamese: a word, or digits.
+struct NumberWord {
+  std::string_view english;
+  std::array<std::string_view, 4> vietnamese; ///< in small letters; an empty one stands for none
+  std::string_view digits;                    ///< in a number written in digits
+};
+
+// "Ba giờ rưỡi" is half past three, "mùng năm" is the fifth, "một tạ" is a hundred kilos, and of
+// money "sáu chục" is sixty thousand. Years and large numbers have their digits in translations:
+// the "forty" of 1945.
+constexpr std::array<NumberWord, 15> numberWords = {
+    {{"two", {"hai", "đôi"}, "2"},
+     {"three", {"ba"}, "3"},
+     {"four", {"bốn", "tư"}, "4"},
+     {"five", {"năm", "lăm"}, "5"},
+     {"six", {"sáu"}, "6"},
+     {"seven", {"bảy"}, "7"},
+     {"eight", {"tám"}, "8"},
+     {"nine", {"chín"}, "9"},
+     {"ten", {"mười", "chục"}, "10"},
+     {"eleven", {"mười một", "nghìn một"}, "11"},
+     {"twelve", {"mười hai", "nghìn hai"}, "12"},
+     {"hundred", {"trăm", "tạ"}, ""},
+     {"thousand", {"ngàn", "nghìn", "vạn", "chục"}, ""},
+     {"million", {"triệu"}, "000"},
+     {"billion", {"tỉ"}, "000"}}};
+
+/// The tens by the number that they are ten times of.
+constexpr std::array<NumberWord, 8> tens = {{{"twenty", {"hai"}, "2"},
+                                             {"thirty", {"ba", "rưỡi"}, "3"},
+                                             {"forty", {"bốn"}, "4"},
+                                             {"fifty", {"năm", "rưỡi"}, "5"},
+                                             {"sixty", {"sáu"}, "6"},
+                                             {"seventy", {"bảy"}, "7"},
+                                             {"eighty", {"tám"}, "8"},
+                                             {"ninety", {"chín"}, "9"}}};
+
+/// What makes a ten of the number ahead: "bốn mươi", "bốn chục", the "bốn lăm" of a time, "hai, ba
+/// mươi", and in "chín vạn" its ten thousands.
+constexpr std::array<std::string_view, 14> behindTen = {" mươi", " chục", " vạn", ",",    " một",
+                                                        " hai",  " ba",   " bốn", " tư",  " lăm",
+                                                        " sáu",  " bảy",  " tám", " chín"};
+
+/// The longest number in digits, without the points that part thousands: "1.200" has four.
+std::string longestNumber(std::string_view text) {
+  std::string longest;
+  std::string number;
+  for (const char character : text) {
+    if (digits.has(character)) number += character;
+    if (number.size() > longest.size()) longest = number;
+    if (!digits.has(character) && character != '.') number.clear();
+  }
+  return longest;
+}
+
+bool saysInDigits(std::string_view vietnamese, const NumberWord& number) {
+  const std::string longest = longestNumber(vietnamese);
+  if (number.english == "hundred") return longest.size() > 2;
+  if (number.english == "thousand") return longest.size() > 3;
+  return std::ranges::any_of(vietnamese, [](char each) { return digits.has(each); }) &&
+         vietnamese.find(number.digits) != std::string_view::npos;
+}
+
+bool says(std::string_view small, const NumberWord& number) {
+  return saysInDigits(small, number) ||
+         std::ranges::any_of(number.vietnamese, [small](std::string_view each) {
+           return !each.empty() && small.find(each) != std::string_view::npos;
+         });
+}
+
+bool saysTen(std::string_view small, const NumberWord& ten) {
+  const std::string times(ten.vietnamese[0]);
+  const std::string_view other = ten.vietnamese[1];
+  if (saysInDigits(small, ten)) return true;
+  if (!other.empty() && small.find(other) != std::string_view::npos) return true;
+  return std::ranges::any_of(behindTen, [&](std::string_view behind) {
+    return small.find(times + std::string(behind)) != std::string_view::npos;
+  });
+}
+
+/// Whether a word is no number, or a number that the translation says.
+bool isSaid(std::string_view word, std::string_view small) {
+  const auto* const number = std::ranges::find(numberWords, word, &NumberWord::english);
+  if (number != numberWords.end()) return says(small, *number);
+  const auto* const ten = std::ranges::find(tens, word, &NumberWord::english);
+  return ten == tens.end() || saysTen(small, *ten);
+}
+
+/// The day of the week that a word names: "mondays".
+const Weekday* dayOf(std::string_view word) {
+  if (word.ends_with("days")) word.remove_suffix(1);
+  const auto* const day = std::ranges::find_if(
+      Weekdays, [word](const Weekday& each) { return lower(each.english) == word; });
+  return day == Weekdays.end() ? nullptr : day;
+}
+
+bool asks(std::string_view sentence) {
+  return sentence.find('?') != std::string_view::npos;
+}
+
+/// Words that may stand twice in a row; a telephone has "five five".
+bool mayRepeat(std::string_view word) {
+  static constexpr std::array<std::string_view, 8> words = {"had", "that", "no",    "bye",
+                                                            "ha",  "very", "great", "one"};
+  return std::ranges::find(words, word) != words.end() ||
+         std::ranges::find(numberWords, word, &NumberWord::english) != numberWords.end() ||
+         std::ranges::find(tens, word, &NumberWord::english) != tens.end();
+}
+
+/// Whether a word stands twice with no more than a blank between.
+bool standsTwice(const std::string& word, std::string_view small) {
+  return small.find(word + " " + word) != std::string_view::npos;
+}
+
+void addAsking(std::vector<std::string>& faults, std::string_view english,
+               std::string_view vietnamese) {
+  if (asks(english) && !asks(vietnamese))
+    faults.push_back(said("the sentence asks and its translation does not"));
+  if (!asks(english) && asks(vietnamese))
+    faults.push_back(said("the translation asks and its sentence does not"));
+}
+
+} // namespace
+
+std::vector<std::string> translationFaults(std::string_view english, std::string_view vietnamese) {
+  std::vector<std::string> faults;
+  addAsking(faults, english, vietnamese);
+  const std::string smallEnglish = lower(english);
+  const std::string small = smallUtf8(vietnamese);
+  std::string before;
+  for (std::string& word : spokenWordsOf(english)) {
+    if (word == before && !mayRepeat(word) && standsTwice(word, smallEnglish))
+      faults.push_back(said("\"{}\" stands twice in a row", word));
+    if (!isSaid(word, small)) faults.push_back(said("\"{}\" is not in the translation", word));
+    const Weekday* const day = dayOf(word);
+    if (day != nullptr && small.find(smallUtf8(day->vietnamese)) == std::string::npos)
+      faults.push_back(said("the translation has no \"{}\"", day->vietnamese));
+    before = std::move(word);
+  }
+  return faults;
+}
+
+} // namespace talvora::pack
