@@ -100,9 +100,9 @@ std::vector<Problem> unlistedForms(const std::vector<Corpus>& corpora, const Wor
       const auto word = words.find(lower(form.text));
       if (word == words.end()) continue;
       found.push_back({{std::string(AcceptedFile)},
-                       said("\"{}\", a form of \"{}\", is in no word list and has to stand here, "
-                            "since {} use it",
-                            form.text, entry.head, translated(word->second))});
+                       said("\"{}\", a form of \"{}\", is in no word list and has to stand here; "
+                            "it is used in: {}",
+                            utf8Of(form.text), utf8Of(entry.head), translated(word->second))});
     }
   }
   return found;

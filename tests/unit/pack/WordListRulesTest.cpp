@@ -61,7 +61,7 @@ TEST(WordListRules, AFormThatNoWordListHasIsAccepted) {
   };
   ASSERT_EQ(found().size(), 1U);
   EXPECT_EQ(found()[0].message, "\"mooncakes\", a form of \"mooncake\", is in no word list and "
-                                "has to stand here, since texts use it");
+                                "has to stand here; it is used in: texts");
   sources.known = {"mooncakes"};
   EXPECT_TRUE(found().empty());
 }
