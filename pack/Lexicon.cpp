@@ -9,9 +9,10 @@
 #include <array>
 #include <stdexcept>
 
-// The lexicon comes without a header.
+// The lexicon and the rules of the language come without headers.
 extern "C" {
 cst_lexicon* cmu_lex_init(void);
+int us_aswd(const char* word);
 }
 
 namespace talvora::pack {
@@ -48,6 +49,10 @@ bool lexiconHas(const std::string& word) {
   return std::any_of(classes.begin(), classes.end(), [&](const char* each) {
     return in_lex(&lexicon(), word.c_str(), each, nullptr) != 0;
   });
+}
+
+bool isSpelledOut(const std::string& word) {
+  return us_aswd(word.c_str()) == 0;
 }
 
 } // namespace talvora::pack

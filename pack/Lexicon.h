@@ -19,4 +19,8 @@ namespace talvora::pack {
 /// letters. Throws as above.
 [[nodiscard]] bool lexiconHas(const std::string& word);
 
+/// Whether the voices take a word for unspeakable by the letters at its ends, as "Nguyen". They
+/// name its letters then, unless their own lexicon has it; what they were taught does not count.
+[[nodiscard]] bool isSpelledOut(const std::string& word);
+
 } // namespace talvora::pack

@@ -15,4 +15,8 @@ bool lexiconHas(const std::string&) {
   return false;
 }
 
+bool isSpelledOut(const std::string&) {
+  return false;
+}
+
 } // namespace talvora::pack

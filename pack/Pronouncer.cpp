@@ -101,6 +101,14 @@ std::string joined(const Phones& phones) {
   return text;
 }
 
+/// A correction of a word wherever it stands. The voice names the letters of some words and looks
+/// others up without their apostrophe: they need a spelling of their own, as words of a phrase get.
+SpokenCorrection everywhere(const std::string& word, const Phones& phones) {
+  if (isSpelledOut(word) || word.find('\'') != std::string::npos)
+    return {SpokenWhere::Within, word, joined(phones), {word}};
+  return {SpokenWhere::Everywhere, word, joined(phones)};
+}
+
 bool isStressed(const Phones& phones) {
   return std::ranges::any_of(phones, [](const std::string& phone) { return phone.ends_with('1'); });
 }
@@ -192,7 +200,7 @@ void Pronouncer::addForms(std::vector<SpokenCorrection>& corrections,
   for (const auto& [word, phones] : said) {
     const bool guessedRight = lexiconPhones(word, lexiconClasses[0]) == phones;
     if (!guessedRight && !unclear.contains(word) && isStressed(phones) && faultOf(phones).empty())
-      corrections.push_back({SpokenWhere::Everywhere, word, joined(phones)});
+      corrections.push_back(everywhere(word, phones));
   }
 }
 
@@ -220,10 +228,13 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries,
   for (const PronunciationRule& rule : rules_) {
     const std::string word = lower(rule.word);
     if (rule.phones.empty() || (rule.wordClass && heads.contains(word))) continue;
-    const SpokenWhere where = !rule.phrase.empty() ? SpokenWhere::Within
-                              : rule.wordClass     ? SpokenWhere::Alone
-                                                   : SpokenWhere::Everywhere;
-    corrections.push_back({where, word, joined(rule.phones), spokenWordsOf(rule.phrase)});
+    if (!rule.phrase.empty())
+      corrections.push_back(
+          {SpokenWhere::Within, word, joined(rule.phones), spokenWordsOf(rule.phrase)});
+    else if (rule.wordClass)
+      corrections.push_back({SpokenWhere::Alone, word, joined(rule.phones)});
+    else
+      corrections.push_back(everywhere(word, rule.phones));
   }
   return Pronunciations(std::move(corrections));
 }

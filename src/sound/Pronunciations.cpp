@@ -43,16 +43,18 @@ std::vector<Place> placesOf(std::string_view text) {
   return places;
 }
 
-/// A spelling that no text has: the word with a tail that numbers the correction.
+/// A spelling that no text has: the word with a tail that numbers the correction. A vowel stands at
+/// both ends, for the voice names the letters of what it finds unspeakable ("collectqzk"), although
+/// its lexicon has it.
 std::string ownSpelling(const SpokenCorrection& correction, std::size_t number) {
-  std::string spelling = correction.word;
+  std::string spelling = "e" + correction.word;
   std::erase(spelling, '\'');
   spelling += "qz";
   do {
     spelling += static_cast<char>('a' + number % 26);
     number /= 26;
   } while (number > 0);
-  return spelling;
+  return spelling + "e";
 }
 
 /// True when the words from a place on are those of the phrase.

@@ -4,6 +4,7 @@
 #include "pack/PhonesReport.h"
 #include "pack/Pronouncer.h"
 #include "pack/StreamText.h"
+#include "pack/Voice.h"
 
 #include <gtest/gtest.h>
 
@@ -164,6 +165,25 @@ TEST(Pronouncer, AClickedHeadWordIsSaidAsItsCommonestClassIs) {
             "alone\tuse\ty uw1 z\nalone\tdr\td aa1 k t er0\n"
             "within\tlives\tl ih1 v z\tshe lives\nalone\tused\ty uw1 z d\n"
             "everywhere\thue\thh w ey1\n");
+}
+
+TEST(Pronouncer, TheVoiceSaysEveryCorrectedWordAsItWasTaught) {
+  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
+  Problems problems;
+  const auto entries =
+      parseDictionary("use\n  v. dùng\n\ncollect\n  v. sưu tầm\n", "d.txt", problems);
+  const Pronouncer pronouncer(rulesOf("Nguyen = ng w iy1 n\nisn't = ih1 z ax0 n t\n"));
+  const Pronunciations corrections = pronouncer.correctionsFor(entries);
+  Voice::learn(corrections);
+  const Voice voice(Speaker::Slt);
+  const auto syllablesOf = [&](const std::string& text) {
+    return voice.speak(corrections.prepared(text), 1.0F).syllables;
+  };
+  EXPECT_EQ(syllablesOf("Use"), 1);
+  EXPECT_EQ(syllablesOf("collect"), 2);
+  EXPECT_EQ(syllablesOf("Mr Nguyen came"), 4);
+  EXPECT_EQ(syllablesOf("isn't"), 2) << "one as the voice has it";
+  Voice::learn({});
 }
 
 } // namespace

@@ -19,32 +19,32 @@ TEST(Pronunciations, WordsOfATextAreInSmallLettersWithTheirApostrophes) {
 }
 
 TEST(Pronunciations, AWordAloneIsSaidInItsWayAndWithinATextAsTheVoiceLikes) {
-  EXPECT_EQ(corrections.prepared("use"), "useqza");
-  EXPECT_EQ(corrections.prepared(" Use. "), " useqza. ");
+  EXPECT_EQ(corrections.prepared("use"), "euseqzae");
+  EXPECT_EQ(corrections.prepared(" Use. "), " euseqzae. ");
   EXPECT_EQ(corrections.prepared("I use it"), "I use it");
 }
 
 TEST(Pronunciations, APhraseIsFoundWhateverStandsBetweenItsWords) {
   EXPECT_EQ(corrections.prepared("Well, I live here; i, live."),
-            "Well, I liveqzc here; i, liveqzc.");
+            "Well, I eliveqzce here; i, eliveqzce.");
   EXPECT_EQ(corrections.prepared("live music"), "live music");
-  EXPECT_EQ(corrections.prepared("She used to. Used."), "She usedqzd to. Used.");
+  EXPECT_EQ(corrections.prepared("She used to. Used."), "She eusedqzde to. Used.");
 }
 
 TEST(Pronunciations, TheLexiconKnowsEveryCorrection) {
   ASSERT_EQ(corrections.lexicon().size(), 4U);
-  EXPECT_EQ(corrections.lexicon()[0].word, "useqza");
+  EXPECT_EQ(corrections.lexicon()[0].word, "euseqzae");
   EXPECT_EQ(corrections.lexicon()[1].word, "hue");
   const auto needed = corrections.lexiconFor("I live in Hue, for use.");
   ASSERT_EQ(needed.size(), 2U);
   EXPECT_EQ(needed[0].word, "hue");
-  EXPECT_EQ(needed[1].word, "liveqzc");
+  EXPECT_EQ(needed[1].word, "eliveqzce");
 }
 
 TEST(Pronunciations, TheFileBringsThemBack) {
   EXPECT_EQ(Pronunciations::read(corrections.write()).write(), corrections.write());
   EXPECT_EQ(Pronunciations::read("rubbish\nalone\tx\n\nnowhere\ta\tb\n").write(), "");
-  EXPECT_EQ(Pronunciations::read(corrections.write()).prepared("I live"), "I liveqzc");
+  EXPECT_EQ(Pronunciations::read(corrections.write()).prepared("I live"), "I eliveqzce");
 }
 
 } // namespace
