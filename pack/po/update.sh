@@ -12,4 +12,6 @@ for language in pack/po/*.po; do
   msgmerge --quiet --update --backup=none --no-location --no-wrap --sort-output "$language" \
     "$work/talvora-pack.pot"
   msgattrib --no-obsolete --no-location --no-wrap --sort-output -o "$language" "$language"
+  # The date of the messages would differ in any two branches.
+  sed -i '/^"POT-Creation-Date: /d' "$language"
 done
