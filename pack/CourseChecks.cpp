@@ -3,6 +3,7 @@
 
 #include "pack/DrillChecks.h"
 #include "pack/GuideTextCheck.h"
+#include "pack/Heteronyms.h"
 #include "pack/KeySentences.h"
 #include "pack/Message.h"
 #include "pack/PlanChecks.h"
@@ -33,6 +34,7 @@ std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source
   checkTexts(source / "reading", TextUse::Reading, heads, problems);
   checkGuideTextIn(source / "reading", problems);
   checkTexts(source / "speaking", TextUse::Speaking, heads, problems);
+  checkHeteronyms(source, problems);
   checkCutting(readAnalyses(source / "analysis", problems), source / "analysis", problems);
   const auto folder = source / "listening";
   auto notes = checkOptions(readListening(folder, problems), folder, problems);

@@ -366,6 +366,13 @@ Phones phonesOf(std::string_view text) {
   return phones;
 }
 
+std::string joined(const Phones& phones) {
+  std::string text;
+  for (const std::string& phone : phones)
+    text += (text.empty() ? "" : " ") + phone;
+  return text;
+}
+
 std::string faultOf(const Phones& phones) {
   bool vowel = false;
   for (const std::string& phone : phones) {

@@ -12,6 +12,8 @@ using Phones = std::vector<std::string>;
 
 /// Phones that blanks part.
 [[nodiscard]] Phones phonesOf(std::string_view text);
+/// The same as a text.
+[[nodiscard]] std::string joined(const Phones& phones);
 
 /// What is wrong with phones that a source gives; empty when the voice can say them.
 [[nodiscard]] std::string faultOf(const Phones& phones);

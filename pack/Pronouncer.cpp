@@ -10,6 +10,8 @@
 #include <array>
 #include <iterator>
 #include <map>
+#include <ranges>
+#include <set>
 #include <unordered_set>
 #include <utility>
 
@@ -36,10 +38,27 @@ char lexiconClass(WordClass wordClass) {
   }
 }
 
-bool isSaidInSeveralWays(const std::string& word) {
-  const Phones first = lexiconPhones(word, lexiconClasses[0]);
-  return std::any_of(lexiconClasses.begin(), lexiconClasses.end(),
-                     [&](char each) { return lexiconPhones(word, each) != first; });
+/// Whether a line tells of a word by itself in sentences: its phrase is the word.
+bool isDefault(const PronunciationRule& rule) {
+  return lower(rule.phrase) == lower(rule.word);
+}
+
+bool isStressed(const Phones& phones) {
+  return std::ranges::any_of(phones, [](const std::string& phone) { return phone.ends_with('1'); });
+}
+
+std::set<Phones> lexiconWays(const std::string& word) {
+  std::set<Phones> ways;
+  for (const char each : lexiconClasses)
+    ways.insert(lexiconPhones(word, each));
+  return ways;
+}
+
+/// Whether the classes of a word are said in several ways, each with a stress: "to" is only weak or
+/// not.
+bool lexiconHasSeveral(const std::string& word) {
+  const auto ways = lexiconWays(word);
+  return ways.size() > 1 && std::ranges::all_of(ways, isStressed);
 }
 
 bool isAbbreviation(std::string_view word) {
@@ -94,11 +113,15 @@ std::vector<std::string> partsOf(std::string_view head) {
   return parts;
 }
 
-std::string joined(const Phones& phones) {
-  std::string text;
-  for (const std::string& phone : phones)
-    text += (text.empty() ? "" : " ") + phone;
-  return text;
+/// Whether a phrase with the word at a place stands around it.
+bool standsAround(const std::vector<std::string>& phrase, const std::vector<std::string>& words,
+                  std::size_t at) {
+  for (std::size_t ahead = 0; ahead < phrase.size() && ahead <= at; ++ahead) {
+    if (phrase[ahead] != words[at] || at - ahead + phrase.size() > words.size()) continue;
+    if (std::equal(phrase.begin(), phrase.end(), words.begin() + static_cast<long>(at - ahead)))
+      return true;
+  }
+  return false;
 }
 
 /// A correction of a word wherever it stands. The voice names the letters of some words and looks
@@ -109,16 +132,44 @@ SpokenCorrection everywhere(const std::string& word, const Phones& phones) {
   return {SpokenWhere::Everywhere, word, joined(phones)};
 }
 
-bool isStressed(const Phones& phones) {
-  return std::ranges::any_of(phones, [](const std::string& phone) { return phone.ends_with('1'); });
-}
-
 } // namespace
 
 Pronouncer::Pronouncer(std::vector<PronunciationRule> rules) : rules_(std::move(rules)) {
   for (const PronunciationRule& rule : rules_) {
-    if (rule.phrase.empty()) byWord_[lower(rule.word)].push_back(&rule);
+    auto& kind = rule.phrase.empty() ? byWord_ : withinPhrases_;
+    kind[lower(rule.word)].push_back(&rule);
   }
+}
+
+bool Pronouncer::isSaidInSeveralWays(const std::string& word) const {
+  if (withinPhrases_.contains(word)) return true;
+  const auto found = byWord_.find(word);
+  if (found == byWord_.end()) return lexiconHasSeveral(word);
+  std::set<Phones> ways;
+  for (const PronunciationRule* rule : found->second)
+    if (rule->wordClass && !rule->phones.empty()) ways.insert(rule->phones);
+  const bool everywhere = ruleEverywhere(word) != nullptr;
+  return ways.size() > 1 || (!everywhere && lexiconHasSeveral(word));
+}
+
+Phones Pronouncer::phonesWithin(const std::vector<std::string>& words, std::size_t at) const {
+  const auto within = withinPhrases_.find(words.at(at));
+  // A later line goes before an earlier one.
+  if (within != withinPhrases_.end()) {
+    for (const PronunciationRule* rule : std::views::reverse(within->second))
+      if (standsAround(spokenWordsOf(rule->phrase), words, at)) return rule->phones;
+  }
+  const PronunciationRule* rule = ruleEverywhere(words[at]);
+  return rule != nullptr ? rule->phones : Phones{};
+}
+
+const PronunciationRule* Pronouncer::ruleEverywhere(const std::string& word) const {
+  const auto found = byWord_.find(word);
+  if (found == byWord_.end()) return nullptr;
+  const auto rule = std::ranges::find_if(found->second, [](const PronunciationRule* each) {
+    return !each->wordClass && !each->phones.empty();
+  });
+  return rule == found->second.end() ? nullptr : *rule;
 }
 
 // A rule for the class goes before one for all.
@@ -138,6 +189,13 @@ const PronunciationRule* Pronouncer::ruleFor(const std::string& word, WordClass 
 Phones Pronouncer::phonesOfWord(const std::string& word, WordClass wordClass) const {
   const PronunciationRule* rule = ruleFor(word, wordClass, Gives::Sounds);
   if (rule != nullptr) return rule->phones;
+  if (word.find('-') != std::string::npos) {
+    Phones phones;
+    for (const std::string& part : partsOf(word))
+      for (std::string& phone : phonesOfWord(part, wordClass))
+        phones.push_back(std::move(phone));
+    return phones;
+  }
   for (const ShortEnding& ending : shortEndings) {
     if (!word.ends_with(ending.spelling) || word.size() == ending.spelling.size()) continue;
     Phones phones = phonesOfWord(word.substr(0, word.size() - ending.spelling.size()), wordClass);
@@ -157,6 +215,8 @@ Phones Pronouncer::phonesOfWord(const std::string& word, WordClass wordClass) co
 std::string Pronouncer::shownOf(std::string_view head, WordClass wordClass) const {
   const PronunciationRule* whole = ruleFor(std::string(head), wordClass, Gives::Notation);
   if (whole != nullptr) return whole->shown;
+  const PronunciationRule* sounds = ruleFor(std::string(head), wordClass, Gives::Sounds);
+  if (sounds != nullptr && sounds->parts.size() > 1) return phoneticOf(sounds->phones, head);
   std::string shown;
   for (const std::string& part : partsOf(head)) {
     const PronunciationRule* rule = ruleFor(part, wordClass, Gives::Notation);
@@ -204,9 +264,28 @@ void Pronouncer::addForms(std::vector<SpokenCorrection>& corrections,
   }
 }
 
+// They go ahead of what holds for a word alone and within phrases, since later ones go before.
+std::vector<SpokenCorrection> Pronouncer::defaultsInSentences() const {
+  std::vector<SpokenCorrection> corrections;
+  for (const PronunciationRule& rule : rules_) {
+    const std::string word = lower(rule.word);
+    if (isDefault(rule))
+      corrections.push_back({SpokenWhere::Within, word, joined(rule.phones), {word}});
+  }
+  return corrections;
+}
+
+// The voice takes the parts of a word with a hyphen for words.
+void Pronouncer::addParts(std::vector<SpokenCorrection>& corrections,
+                          const PronunciationRule& rule) {
+  const auto words = spokenWordsOf(rule.word);
+  for (std::size_t at = 0; at < words.size(); ++at)
+    corrections.push_back({SpokenWhere::Within, words[at], joined(rule.parts[at]), words});
+}
+
 Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries,
                                           const std::vector<SpokenForm>& forms) const {
-  std::vector<SpokenCorrection> corrections;
+  std::vector<SpokenCorrection> corrections = defaultsInSentences();
   std::unordered_set<std::string> heads;
   for (const OwnEntry& entry : entries) {
     const std::string word = lower(utf8Of(entry.head));
@@ -215,7 +294,7 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries,
     const WordClass wordClass = entry.block.senses.front().wordClass;
     const PronunciationRule* rule = ruleFor(entry.head, wordClass, Gives::Sounds);
     const bool ruled = rule != nullptr && rule->wordClass;
-    if (!ruled && !isSaidInSeveralWays(word)) continue;
+    if (!ruled && lexiconWays(word).size() < 2) continue;
     // Small words without a stress of their own ("to", "in") are said well alone as it is.
     const Phones phones = phonesOfWord(entry.head, wordClass);
     if (isStressed(phones)) corrections.push_back({SpokenWhere::Alone, word, joined(phones)});
@@ -227,7 +306,12 @@ Pronunciations Pronouncer::correctionsFor(const std::vector<OwnEntry>& entries,
   addForms(corrections, others);
   for (const PronunciationRule& rule : rules_) {
     const std::string word = lower(rule.word);
-    if (rule.phones.empty() || (rule.wordClass && heads.contains(word))) continue;
+    if (rule.phones.empty() || (rule.wordClass && heads.contains(word)) || isDefault(rule))
+      continue;
+    if (rule.parts.size() > 1) {
+      addParts(corrections, rule);
+      continue;
+    }
     if (!rule.phrase.empty())
       corrections.push_back(
           {SpokenWhere::Within, word, joined(rule.phones), spokenWordsOf(rule.phrase)});

@@ -41,8 +41,25 @@ std::string ruleFault(const PronunciationRule& rule) {
   }
   if (!rule.phrase.empty() && !holds(rule.phrase, rule.word))
     return said("the phrase does not have the word");
-  if (spokenWordsOf(rule.word).size() != 1) return said("one word at a time can have phones");
-  return faultOf(rule.phones);
+  if (rule.word.find(' ') != std::string::npos) return said("one word at a time can have phones");
+  if (spokenWordsOf(rule.word).size() != rule.parts.size())
+    return said("the phones have \" - \" where the word has its hyphen");
+  for (const Phones& part : rule.parts)
+    if (std::string fault = faultOf(part); !fault.empty()) return fault;
+  return {};
+}
+
+/// The phones of each part of a word with hyphens.
+std::vector<Phones> partsIn(std::string_view sounds) {
+  std::vector<Phones> parts(1);
+  for (std::string& phone : phonesOf(sounds)) {
+    if (phone == "-") {
+      parts.emplace_back();
+    } else {
+      parts.back().push_back(std::move(phone));
+    }
+  }
+  return parts;
 }
 
 } // namespace
@@ -72,7 +89,9 @@ std::vector<PronunciationRule> parsePronunciations(std::string_view text, const 
     if (notation) {
       rule.shown = said;
     } else {
-      rule.phones = phonesOf(said);
+      rule.parts = partsIn(said);
+      for (const Phones& part : rule.parts)
+        rule.phones.insert(rule.phones.end(), part.begin(), part.end());
     }
     if (std::string fault = ruleFault(rule); !fault.empty()) {
       problems.add(where, std::move(fault));

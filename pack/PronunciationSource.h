@@ -15,9 +15,10 @@ namespace talvora::pack {
 
 /// One line: how a word is said, everywhere, as a word of one class, or within a phrase.
 struct PronunciationRule {
-  std::string word;                                  ///< as it is spelled
-  Phones phones;                                     ///< none when only the notation is given
-  std::string shown = {};                            ///< "/ðə/" in UTF-8; empty without it
+  std::string word;               ///< as it is spelled
+  Phones phones;                  ///< none when only the notation is given
+  std::vector<Phones> parts = {}; ///< the same by the parts that hyphens make: one without a hyphen
+  std::string shown = {};         ///< "/ðə/" in UTF-8; empty without it
   std::optional<WordClass> wordClass = std::nullopt; ///< none for every class
   std::string phrase = {}; ///< in which the word is said so; empty for everywhere
   Where where = {};

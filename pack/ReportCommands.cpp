@@ -2,6 +2,7 @@
 #include "pack/Command.h"
 #include "pack/CourseReport.h"
 #include "pack/DictionaryFindings.h"
+#include "pack/Heteronyms.h"
 #include "pack/Message.h"
 #include "pack/PhonesReport.h"
 #include "pack/Planner.h"
@@ -103,11 +104,15 @@ class PhonesCommand final : public Command {
             "phones", said("tell how the head words of SOURCE are said, or the WORDs alone"))) {
     command_.add_option("SOURCE", source_, said("folder of the content sources"))->required();
     command_.add_option("WORD", words_, said("words to tell of"));
+    command_.add_flag("--sentences", sentences_,
+                      said("tell how the words of several pronunciations are said in the texts' "
+                           "sentences"));
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }
   [[nodiscard]] int run() override {
     Problems problems;
-    std::cout << phonesReport(source_, words_, problems);
+    std::cout << (sentences_ ? heteronymReport(source_, problems)
+                             : phonesReport(source_, words_, problems));
     return tell(problems);
   }
 
@@ -115,6 +120,7 @@ class PhonesCommand final : public Command {
   CLI::App& command_;
   std::filesystem::path source_;
   std::vector<std::string> words_;
+  bool sentences_ = false;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 // How words are said: the source, the notation, and what the voice is told.
 #include "pack/EntryLines.h"
+#include "pack/Heteronyms.h"
 #include "pack/Lexicon.h"
 #include "pack/PhonesReport.h"
 #include "pack/Pronouncer.h"
@@ -45,6 +46,53 @@ TEST(PronunciationSource, ReportsWhatIsWrong) {
             "p.txt:1:1: the phrase does not have the word");
   EXPECT_EQ(problemOf("Hoi An = hh oy1\n"), "p.txt:1:1: one word at a time can have phones");
   EXPECT_EQ(problemOf("the = /ð₫/\n"), "p.txt:1:1: the notation has a letter that cannot be shown");
+}
+
+TEST(PronunciationSource, AWordWithHyphensHasThePhonesOfItsParts) {
+  const auto rules = rulesOf("X-ray = eh1 k s - r ey0\n");
+  ASSERT_EQ(rules.size(), 1U);
+  EXPECT_EQ(rules[0].parts, (std::vector<Phones>{{"eh1", "k", "s"}, {"r", "ey0"}}));
+  EXPECT_EQ(problemOf("X-ray = eh1 k s r ey0\n"),
+            "p.txt:1:1: the phones have \" - \" where the word has its hyphen");
+  EXPECT_EQ(problemOf("X-ray = eh1 k s - r\n"), "p.txt:1:1: a word needs a vowel");
+  const Pronouncer pronouncer(rules);
+  EXPECT_EQ(joined(pronouncer.phonesOfWord("X-ray", WordClass::Noun)), "eh1 k s r ey0");
+  EXPECT_EQ(pronouncer.shownOf("X-ray", WordClass::Noun), "/'eksrei/");
+  EXPECT_EQ(pronouncer.correctionsFor({}).write(),
+            "within\tx\teh1 k s\tx ray\nwithin\tray\tr ey0\tx ray\n");
+}
+
+TEST(Pronouncer, AWordWithHyphensIsSaidPartByPart) {
+  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
+  const Pronouncer pronouncer({});
+  EXPECT_EQ(joined(pronouncer.phonesOfWord("T-shirt", WordClass::Noun)), "t iy1 sh er1 t");
+}
+
+TEST(Pronouncer, AWordAloneGoesBeforeTheSameWordInSentences) {
+  Problems problems;
+  const auto entries = parseDictionary("use\n  n. cách dùng\n", "d.txt", problems);
+  const Pronouncer pronouncer(rulesOf("use n. = y uw1 s\nuse = y uw1 z : use\n"));
+  const Pronunciations told = pronouncer.correctionsFor(entries);
+  EXPECT_EQ(told.write(), "within\tuse\ty uw1 z\tuse\nalone\tuse\ty uw1 s\n");
+  const auto phones = [&](std::string_view text) { return told.lexiconFor(text).at(0).phones; };
+  EXPECT_EQ(phones("use"), "y uw1 s");
+  EXPECT_EQ(phones("They use it."), "y uw1 z");
+}
+
+TEST(Heteronyms, APhraseSettlesThemAndElseTheLineForTheWord) {
+  const Pronouncer pronouncer(rulesOf("use v. = y uw1 z\nuse n. = y uw1 s\nuse = y uw1 z : use\n"
+                                      "use = y uw1 s : no use\ntear v. = t eh1 r\n"
+                                      "tear n. = t ih1 r\nHue = hh w ey1\n"));
+  const auto told = [&](std::string_view sentence) {
+    std::string list;
+    for (const SaidWord& said : heteronymsIn(sentence, pronouncer))
+      list += said.word + " (" + joined(said.phones) + ") ";
+    return list;
+  };
+  EXPECT_EQ(told("Use it, it is of no use in Hue."), "use (y uw1 z) use (y uw1 s) ");
+  EXPECT_EQ(told("Do not tear it."), "tear () ");
+  EXPECT_EQ(told("No, use it."), "use (y uw1 s) ")
+      << "a comma parts no phrase for the voice either";
 }
 
 TEST(Phonetics, WritesWhatSchoolDictionariesWrite) {
