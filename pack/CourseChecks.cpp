@@ -26,6 +26,22 @@ std::unordered_set<std::string> headsOf(const std::vector<OwnEntry>& own) {
   return heads;
 }
 
+/// Who is heard in each unit that no teacher has recorded. Where there is no script, the live voice
+/// is.
+UnitVoices voicesOf(const ReadingSource& readings, const std::filesystem::path& recordings) {
+  UnitVoices voices;
+  for (int unit = 1; unit <= ListeningUnits; ++unit) {
+    if (!std::filesystem::exists(recordings / (std::to_string(unit) + ".wav"))) voices[unit] = {};
+  }
+  for (const Script& script : scriptsOf(readings)) {
+    const auto found = voices.find(script.number);
+    if (found == voices.end()) continue;
+    for (const ScriptLine& line : script.lines)
+      found->second.push_back(line.speaker);
+  }
+  return voices;
+}
+
 } // namespace
 
 std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source,
@@ -37,12 +53,13 @@ std::vector<std::string> checkTextsAndDrills(const std::filesystem::path& source
   checkHeteronyms(source, problems);
   checkCutting(readAnalyses(source / "analysis", problems), source / "analysis", problems);
   const auto folder = source / "listening";
-  auto notes = checkOptions(readListening(folder, problems), folder, problems);
+  const ReadingSource readings = readReadings(source / "reading", problems);
+  auto notes = checkOptions(readListening(folder, problems),
+                            voicesOf(readings, source / "recordings"), folder, problems);
   const Planner planner = readPlanner(source, problems);
   std::ranges::move(checkBudgets(planner, source / "reading", problems), std::back_inserter(notes));
   // The listening scripts close the list of reading texts and have their fixed slots.
-  notes.push_back(openSlotNote(said("reading texts"), readReadings(source / "reading", problems),
-                               FirstRecordedText - 1));
+  notes.push_back(openSlotNote(said("reading texts"), readings, FirstRecordedText - 1));
   notes.push_back(openSlotNote(said("speaking texts"), readSpeaking(source / "speaking", problems),
                                SpeakingSlots));
   notes.push_back(checkKeySentencesIn(source / "speaking", problems));

@@ -1,26 +1,18 @@
 // Options by length and by sound, stretches by their class.
 #include "pack/DrillChecks.h"
 
-#include "pack/Lexicon.h"
+#include "pack/HeardApart.h"
 #include "pack/Message.h"
 #include "pack/StreamText.h"
-#include "pack/TextWords.h"
-#include "pack/WordPhones.h"
 #include "text/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
 namespace talvora::pack {
 
 namespace {
-
-/// Sounds that the recorded voices hardly keep apart: in one of the two the distance of such words
-/// is less than one and a half times that of one word from itself at another speed.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 3> likeSounds = {
-    {{"uh", "uw"}, {"p", "b"}, {"ch", "sh"}}};
 
 constexpr double lengthShare = 0.25;
 /// In short options a letter or two weigh too much.
@@ -32,36 +24,15 @@ constexpr double mostLongest = 0.35;
 constexpr std::size_t enoughItems = 20;
 constexpr double linkedShare = 0.9;
 
-bool soundAlike(const std::string& first, const std::string& second) {
-  return std::any_of(likeSounds.begin(), likeSounds.end(), [&](const auto& pair) {
-    return (pair.first == first && pair.second == second) ||
-           (pair.first == second && pair.second == first);
-  });
-}
-
-// "can" is said in full, so that only a stop ahead of the next word would tell it from "can't".
-bool isCanAndCant(const std::string& first, const std::string& second) {
-  return (first == "can" && second == "can't") || (first == "can't" && second == "can");
-}
-
-bool wordsSoundAlike(const std::string& first, const std::string& second) {
-  if (isCanAndCant(first, second)) return true;
-  // Without a lexicon nobody can tell.
-  if (!hasLexicon()) return false;
-  const auto left = wordPhones(first);
-  const auto right = wordPhones(second);
-  if (left.size() != right.size()) return false;
-  for (std::size_t at = 0; at < left.size(); ++at) {
-    if (left[at] != right[at] && !soundAlike(left[at], right[at])) return false;
-  }
-  return true;
-}
-
 /// The checks of one unit.
 class UnitChecker {
  public:
-  UnitChecker(int unit, const ListeningUnit& items, std::string file, Problems& problems)
-      : unit_(unit), items_(items), file_(std::move(file)), problems_(problems) {}
+  UnitChecker(int unit, const ListeningUnit& items, const UnitVoices& voices, std::string file,
+              Problems& problems)
+      : unit_(unit), items_(items), file_(std::move(file)), problems_(problems) {
+    const auto found = voices.find(unit);
+    if (found != voices.end()) voices_ = &found->second;
+  }
 
   /// What is only counted; empty for a strict unit, whose problems are reported.
   std::string check() {
@@ -84,8 +55,11 @@ class UnitChecker {
 
  private:
   void checkSounds(const ListeningQuestion& item) {
+    if (voices_ == nullptr) return;
+    const auto place = static_cast<std::size_t>(item.number) - 1;
+    const Speaker speaker = place < voices_->size() ? (*voices_)[place] : LiveSpeaker;
     for (const std::string& wrong : item.wrong) {
-      const std::string reason = notHeardApart(item.sentence, wrong);
+      const std::string reason = notHeardApart(item.sentence, wrong, speaker);
       if (!reason.empty()) problems_.add(item.where, quotedOption(wrong) + reason);
     }
   }
@@ -154,6 +128,7 @@ class UnitChecker {
 
   int unit_;
   const ListeningUnit& items_;
+  const std::vector<Speaker>* voices_ = nullptr; ///< null when a person reads
   std::string file_;
   Problems& problems_;
   int unlike_ = 0;
@@ -172,25 +147,12 @@ bool isTwoPhrases(std::string_view wordClass) {
 
 } // namespace
 
-std::string notHeardApart(std::string_view heard, std::string_view other) {
-  const auto left = plainWords(heard);
-  const auto right = plainWords(other);
-  if (left.size() != right.size()) return {};
-  std::string pairs;
-  for (std::size_t at = 0; at < left.size(); ++at) {
-    if (left[at] == right[at]) continue;
-    if (!wordsSoundAlike(left[at], right[at])) return {};
-    pairs += (pairs.empty() ? "" : ", ") + left[at] + "/" + right[at];
-  }
-  return pairs.empty() ? pairs : said("the voice does not keep {} apart", pairs);
-}
-
-std::vector<std::string> checkOptions(const ListeningSource& source,
+std::vector<std::string> checkOptions(const ListeningSource& source, const UnitVoices& voices,
                                       const std::filesystem::path& folder, Problems& problems) {
   std::vector<std::string> notes;
   for (const auto& [unit, items] : source.units) {
     const auto file = folder / ("unit-" + std::to_string(unit) + ".txt");
-    std::string note = UnitChecker(unit, items, file.string(), problems).check();
+    std::string note = UnitChecker(unit, items, voices, file.string(), problems).check();
     if (!note.empty()) notes.push_back(std::move(note));
   }
   return notes;

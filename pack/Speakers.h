@@ -9,6 +9,8 @@ namespace talvora::pack {
 
 /// A man, and the woman who speaks live as well.
 enum class Speaker { Rms, Slt };
+/// Who is heard where no recording is.
+inline constexpr Speaker LiveSpeaker = Speaker::Slt;
 
 /// The names that scripts call the speakers by.
 inline constexpr std::array<std::string_view, 2> SpeakerNames = {"rms", "slt"};
