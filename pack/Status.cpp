@@ -4,8 +4,11 @@
 #include "pack/Message.h"
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
+#include "pack/StreamText.h"
+#include "pack/TextWords.h"
 
 #include <array>
+#include <iterator>
 
 namespace talvora::pack {
 
@@ -25,6 +28,33 @@ std::string textReport(std::string_view name, const ReadingSource& texts, std::s
 
 std::string filledReport(std::string_view name, std::size_t filled, std::size_t slots) {
   return "  " + said("{}: {} filled, {} open", name, filled, slots - filled) + "\n";
+}
+
+/// The texts of each heading and their running words; what stands ahead of the first heading is
+/// left out.
+std::string headingReport(std::string_view title, const ReadingSource& texts) {
+  std::string report = std::string(title) + "\n";
+  for (auto heading = texts.headings.begin(); heading != texts.headings.end(); ++heading) {
+    const auto next = std::next(heading);
+    const auto end =
+        next == texts.headings.end() ? texts.texts.end() : texts.texts.lower_bound(next->first);
+    std::size_t count = 0;
+    std::size_t words = 0;
+    for (auto text = texts.texts.lower_bound(heading->first); text != end; ++text) {
+      ++count;
+      for (const std::string_view sentence : sentencesOf(text->second))
+        words += textWords(sentence).size();
+    }
+    report += "  " + said("{}: {} texts, {} words", utf8Of(heading->second), count, words) + "\n";
+  }
+  return report;
+}
+
+std::string unitReport(const ListeningSource& listening) {
+  std::string report = said("Items of the listening units") + "\n";
+  for (const auto& [unit, items] : listening.units)
+    report += line(said("unit {}", unit), items.size());
+  return report;
 }
 
 std::string slotReport(const Content& content) {
@@ -69,6 +99,9 @@ std::string statusReport(const Content& content, const WordList& list,
                          const CoverageReport& coverage) {
   const auto side = vietnameseSideOf(list, content.words.listed);
   std::string report = slotReport(content) + "\n";
+  report += headingReport(said("Reading texts by heading"), content.readings) + "\n";
+  report += headingReport(said("Speaking texts by heading"), content.speaking) + "\n";
+  report += unitReport(content.listening) + "\n";
   report += kindReport(said("Word list"), list.words()) + "\n";
   report += kindReport(said("Vietnamese side, which needs {}", VietnameseSideCount), side);
   report += "\n";

@@ -177,6 +177,8 @@ TEST(Status, ListsWordsWithoutAVietnameseSense) {
   const std::string report = statusReport(read, list, coverage);
   EXPECT_NE(report.find("5 texts, 2 headings, 401 open"), std::string::npos);
   EXPECT_NE(report.find("running words"), std::string::npos);
+  EXPECT_NE(report.find("BÀI NGẮN: 4 texts, "), std::string::npos);
+  EXPECT_NE(report.find("unit 1: 2\n"), std::string::npos);
 }
 
 } // namespace
