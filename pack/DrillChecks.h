@@ -29,8 +29,8 @@ using UnitVoices = std::map<int, std::vector<Speaker>>;
                                                     const std::filesystem::path& folder,
                                                     Problems& problems);
 
-/// Checks that a stretch is one phrase, a conjunction or a subject never together with a verb, and
-/// that nine of ten stretches lead to a lesson.
+/// Checks that a stretch is one phrase, a conjunction, a subject or an adverb never together with a
+/// verb, and that nine of ten stretches lead to a lesson.
 void checkCutting(const AnalysisSource& source, const std::filesystem::path& folder,
                   Problems& problems);
 

@@ -281,13 +281,15 @@ TEST(DrillChecks, CutOnePhraseAStretch) {
                         entry("I try", "chủ ngữ + động từ thường", true),
                         entry("do you use", "trợ động từ + chủ ngữ + động từ", true),
                         entry("is making", "động từ to be + động từ thêm ing", false),
+                        entry("am also learning", "động từ ở thì hiện tại tiếp diễn", true),
+                        entry("only", "trạng từ", true),
                         entry("My book", "cụm danh từ: tính từ sở hữu + danh từ", true)};
   Problems problems;
   checkCutting(source, "a", problems);
   EXPECT_THAT(told(problems),
               ElementsAre(HasSubstr("\"and asks\" is more than one phrase"), HasSubstr("\"I try\""),
-                          HasSubstr("\"do you use\""),
-                          HasSubstr("a/03.txt: 4 of 5 stretches lead to a lesson")));
+                          HasSubstr("\"do you use\""), HasSubstr("\"am also learning\""),
+                          HasSubstr("a/03.txt: 6 of 7 stretches lead to a lesson")));
 }
 
 // -- All together.
