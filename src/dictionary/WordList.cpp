@@ -15,8 +15,9 @@ namespace {
 
 constexpr CharClass Marker("[a-z,A-Z]");
 // Line ends are sought in pieces of so many characters, so that a list that is too long is found
-// out before much memory is spent on it.
-constexpr std::size_t PieceSize = 1 << 16;
+// out before much memory is spent on it. A piece without a line end is a line that would take too
+// long to lay out.
+constexpr std::size_t PieceSize = WordList::LongestLine;
 
 [[noreturn]] void failAtLine(const std::string& path, int line, const std::string& what) {
   throw FatalFailure(path + ": line " + std::to_string(line) + ": " + what);
@@ -55,6 +56,7 @@ void WordList::findLines(const std::string& path) {
   if (!text_.empty()) starts_.push_back(0);
   for (std::size_t from = 0; from < text_.size(); from += PieceSize) {
     const std::string_view piece = text_.substr(from, PieceSize);
+    const std::size_t linesAhead = starts_.size();
     appendLineStarts(piece, static_cast<int>(from), starts_);
     const std::size_t to = from + piece.size();
     if (to < text_.size() && endsLine(piece.back(), text_[to])) {
@@ -63,6 +65,9 @@ void WordList::findLines(const std::string& path) {
     if (starts_.size() > std::size_t{MostLines}) {
       failAtLine(path, MostLines + 1,
                  "the word list has more than " + std::to_string(MostLines) + " lines");
+    }
+    if (starts_.size() == linesAhead && piece.size() == PieceSize) {
+      failAtLine(path, static_cast<int>(linesAhead), "the line is too long for a word");
     }
   }
   count_ = static_cast<int>(starts_.size());

@@ -27,6 +27,8 @@ class WordList {
   static constexpr int LetterSlots = 27;
   /// A line whose end is lost counts as a word of so many characters.
   static constexpr std::size_t LongestWord = 1000;
+  /// Bytes of a line that are always borne; from twice as many on no line is.
+  static constexpr std::size_t LongestLine = std::size_t{1} << 16;
   /// The load is cut into strides of so many lines, with one tick of the progress for each.
   static constexpr int Stride = 48135;
 

@@ -48,7 +48,7 @@ void UnitList::wireEvents() {
 
 void UnitList::HienBT(int SoCauBT) {
   Surface& Rchon = controls_.Rchon;
-  Rchon.LoadFile(stores_.hold(packfile::ListeningPage));
+  Rchon.LoadFile(stores_.holdPage(packfile::ListeningPage));
   Rchon.format(
       {0, Rchon.TextLength()},
       {.bold = true,

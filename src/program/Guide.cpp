@@ -19,7 +19,7 @@ void Guide::open() {
   Rcachhoc.FontSize(state_.measures.CoChu);
   Rcachhoc.TabIndex(Controls::ButtonCount + 1);
   Rcachhoc.Locked(false);
-  Rcachhoc.LoadFile(stores_.hold(packfile::Guide));
+  Rcachhoc.LoadFile(stores_.holdPage(packfile::Guide));
   shell_.transitions.MoRan(Rcachhoc, controls_.Frame1);
   shell_.curtain.KeoMan(Rcachhoc);
 }

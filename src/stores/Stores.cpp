@@ -3,6 +3,7 @@
 #include "formats/Integers.h"
 #include "formats/LearnerFiles.h"
 #include "formats/PackFiles.h"
+#include "platform/FatalFailure.h"
 #include "stores/ByteCode.h"
 #include "stores/OwnTexts.h"
 #include "surface/SectionNumbers.h"
@@ -101,6 +102,14 @@ std::string Stores::dictionaryFolder() const {
 
 std::shared_ptr<const MappedFile> Stores::hold(std::string_view storedName) const {
   return MappedFile::open(pathBelow(places_.ThuMuc, storedName), fileSystem_);
+}
+
+std::shared_ptr<const MappedFile> Stores::holdPage(std::string_view storedName) const {
+  auto page = hold(storedName);
+  if (page->bytes().size() > LongestPage) {
+    throw FatalFailure(pathBelow(places_.ThuMuc, storedName) + ": is too long for a page");
+  }
+  return page;
 }
 
 bool Stores::has(std::string_view storedName) const {

@@ -76,6 +76,8 @@ class RecordFile {
 inline constexpr std::int64_t LongestText = limit::TextBytes;
 /// The same of a title.
 inline constexpr std::int64_t LongestTitle = limit::TitleBytes;
+/// Bytes of a file that is shown whole as one page. A guide takes a fiftieth of it.
+inline constexpr std::size_t LongestPage = std::size_t{1} << 20;
 
 /// Reads a stream piece by piece from a record on; each piece is what one stored byte stands for.
 class PieceReader {
@@ -127,6 +129,9 @@ class Stores {
   [[nodiscard]] std::string dictionaryFolder() const;
   /// Holds a file of the pack. Throws FatalFailure naming it when it is missing.
   [[nodiscard]] std::shared_ptr<const MappedFile> hold(std::string_view storedName) const;
+  /// The same of a file that is shown whole as one page. Throws FatalFailure naming it also when it
+  /// is longer than any page.
+  [[nodiscard]] std::shared_ptr<const MappedFile> holdPage(std::string_view storedName) const;
   /// Whether the pack has a file of that name.
   [[nodiscard]] bool has(std::string_view storedName) const;
   /// Opens a file that does not stay open for the run. Throws FatalFailure naming it when it is

@@ -17,6 +17,8 @@ namespace talvora::test {
 namespace {
 
 constexpr int KilledExit = 77;
+/// How many trials may share a processor before one that waits for its turn counts as hung.
+constexpr int MostSharing = 20;
 
 /// Where a trial tells its outcome; -1 outside of one.
 int tellTo = -1;
@@ -39,6 +41,13 @@ std::string readAll(int from) {
   }
 }
 
+void limitTo(std::chrono::seconds patience) {
+  const auto most = static_cast<rlim_t>(patience.count());
+  const rlimit processor{most, RLIM_INFINITY};
+  ::setrlimit(RLIMIT_CPU, &processor);
+  ::alarm(static_cast<unsigned>(MostSharing * patience.count()));
+}
+
 [[noreturn]] void runTrial(const std::function<std::string()>& trial) {
   std::string told;
   try {
@@ -54,7 +63,8 @@ std::string readAll(int from) {
 
 Outcome::Kind kindOf(int status) {
   if (WIFSIGNALED(status)) {
-    return WTERMSIG(status) == SIGALRM ? Outcome::Kind::Hung : Outcome::Kind::Crashed;
+    const bool late = WTERMSIG(status) == SIGALRM || WTERMSIG(status) == SIGXCPU;
+    return late ? Outcome::Kind::Hung : Outcome::Kind::Crashed;
   }
   if (WEXITSTATUS(status) == KilledExit) return Outcome::Kind::Killed;
   return WEXITSTATUS(status) == EXIT_SUCCESS ? Outcome::Kind::Returned : Outcome::Kind::Crashed;
@@ -76,7 +86,7 @@ Outcome tryInChild(const std::function<std::string()>& trial, std::chrono::secon
   if (child == 0) {
     ::close(ends[0]);
     tellTo = ends[1];
-    ::alarm(static_cast<unsigned>(patience.count()));
+    limitTo(patience);
     runTrial(trial);
   }
   ::close(ends[1]);

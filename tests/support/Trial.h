@@ -23,7 +23,8 @@ struct Outcome {
   long peakKilobytes = 0;                  ///< of memory
 };
 
-/// Runs a trial in a child of this process, which is ended when it takes longer than `patience`.
+/// Runs a trial in a child of this process, which is ended when it takes more of the processor than
+/// `patience`, or many times that by the clock, as one does that waits for nothing.
 [[nodiscard]] Outcome tryInChild(const std::function<std::string()>& trial,
                                  std::chrono::seconds patience);
 

@@ -51,9 +51,15 @@ TEST_F(WordListTest, ReadsLinesOfEveryKindOfLineEnd) {
 }
 
 TEST_F(WordListTest, ALineThatNeverEndsIsCutOff) {
-  load("one\n" + std::string(3'000'000, 'x'));
+  load("one\n" + std::string(WordList::LongestLine, 'x'));
   EXPECT_EQ(words.Chu(1), "one");
   EXPECT_EQ(words.Chu(2), std::string(WordList::LongestWord, 'x'));
+}
+
+TEST_F(WordListTest, EndsTheProgramAtALineThatWouldTakeTooLongToShow) {
+  folder.writeIntegers("data.mtd", {});
+  folder.write("datatu.txt", "one\n" + std::string(2 * WordList::LongestLine, 'x'));
+  EXPECT_THAT(failure(), testing::HasSubstr("datatu.txt: line 2: the line is too long for a word"));
 }
 
 TEST_F(WordListTest, CountsNoLineBehindTheLastLineEnd) {

@@ -85,6 +85,18 @@ TEST_F(StoresTest, AMissingFileIsNamed) {
   }
 }
 
+TEST_F(StoresTest, APageThatIsTooLongIsNamed) {
+  folder.write("page.rtf", std::string(LongestPage, 'x'));
+  EXPECT_EQ(stores.holdPage("page.rtf")->bytes().size(), LongestPage);
+  folder.write("page.rtf", std::string(LongestPage + 1, 'x'));
+  try {
+    static_cast<void>(stores.holdPage("page.rtf"));
+    FAIL() << "no failure";
+  } catch (const FatalFailure& failure) {
+    EXPECT_THAT(failure.what(), testing::HasSubstr("page.rtf: is too long for a page"));
+  }
+}
+
 TEST_F(StoresTest, TheLearnersFilesAreCreatedWhenMissing) {
   stores.MoDuLieu();
   EXPECT_TRUE(folder.has("data.c"));
