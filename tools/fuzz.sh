@@ -47,5 +47,5 @@ objects=()
 for target in $targets; do objects+=(-object "$work/talvora-fuzz-$target"); done
 llvm-cov export -summary-only -instr-profile "$work/all.profdata" "${objects[@]}" \
   >"$work/coverage.json"
-python3 tests/fuzz/coverage.py "$work/coverage.json" tests/fuzz/readers.txt "$floor" || failed=1
+python3 tools/coverage.py "$work/coverage.json" tests/fuzz/readers.txt "$floor" || failed=1
 exit "$failed"

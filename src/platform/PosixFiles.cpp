@@ -132,6 +132,8 @@ std::error_code PosixFile::write(std::size_t offset, std::span<const unsigned ch
     const ssize_t part = retried(
         [&] { return ::pwrite(handle_, bytes.data(), bytes.size(), static_cast<off_t>(offset)); });
     if (part < 0) return lastError();
+    // A device that takes nothing and calls that no error would be written to for ever.
+    if (part == 0) return std::make_error_code(std::errc::io_error);
     offset += static_cast<std::size_t>(part);
     bytes = bytes.subspan(static_cast<std::size_t>(part));
   }
@@ -141,15 +143,9 @@ std::error_code PosixFile::write(std::size_t offset, std::span<const unsigned ch
 /// What `open` is asked for. Nothing that is no file, a pipe for one, makes it wait.
 int flagsFor(OpenFor purpose) {
   constexpr int always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-  switch (purpose) {
-  case OpenFor::Writing:
-    return always | O_RDWR | O_CREAT;
-  case OpenFor::CreatingNew:
-    return always | O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW;
-  case OpenFor::Reading:
-    break;
-  }
-  return always | O_RDONLY;
+  if (purpose == OpenFor::Reading) return always | O_RDONLY;
+  constexpr int writing = always | O_RDWR | O_CREAT;
+  return purpose == OpenFor::CreatingNew ? writing | O_EXCL | O_NOFOLLOW : writing;
 }
 
 std::string parentOf(const std::string& path) {

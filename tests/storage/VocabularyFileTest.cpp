@@ -102,5 +102,10 @@ TEST(VocabularyFileTest, AMissingListIsNoEmptyOne) {
   EXPECT_THROW(static_cast<void>(file.read()), FatalFailure);
 }
 
+TEST(VocabularyFileTest, AWordHasNoBlanksAroundIt) {
+  EXPECT_EQ((VocabularyWord{paddedWord("bank"), 1}).word(), "bank");
+  EXPECT_EQ((VocabularyWord{paddedWord(""), 1}).word(), "");
+}
+
 } // namespace
 } // namespace talvora

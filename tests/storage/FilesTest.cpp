@@ -131,6 +131,8 @@ TEST(LeftOver, IsKnownByItsName) {
   EXPECT_FALSE(isLeftOver("data.c.new", "data.c"));
   EXPECT_FALSE(isLeftOver("data.c.abcdef012345.old", "data.c"));
   EXPECT_FALSE(isLeftOver("data.cx.abcdef01234.new", "data.c"));
+  EXPECT_FALSE(isLeftOver("datb.c.abcdef012345.new", "data.c"));
+  EXPECT_FALSE(isLeftOver("data.c-abcdef012345.new", "data.c"));
 }
 
 TEST(HeldFile, ASmallOneIsTheProgramsOwnWhateverBecomesOfItOnDisk) {
@@ -177,6 +179,78 @@ TEST(Lock, IsHeldByOneAndGoesWithIt) {
   EXPECT_EQ(second->lock(), std::errc::resource_unavailable_try_again);
   first.reset();
   EXPECT_FALSE(second->lock());
+}
+
+TEST_F(ReplacedFile, ALookThatFailsLeavesTheOldContent) {
+  folder.write("data.c", "old");
+  files.looksCount = true;
+  EXPECT_EQ(replace("data.c", "old"), std::nullopt);
+  const int calls = files.calls;
+  for (int call = 1; call <= calls; ++call) {
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_TRUE(replace("data.c", "new")) << call;
+    files.failNever();
+    EXPECT_EQ(folder.read("data.c"), call == calls ? "new" : "old") << call;
+    EXPECT_EQ(folder.names(), Names{"data.c"}) << call;
+  }
+}
+
+TEST_F(ReplacedFile, IsNotWrittenWhereNoNewNameCanBeHad) {
+  folder.write("data.c", "old");
+  files.counts = [](const std::string& call, const std::string&) { return call == "open"; };
+  files.failAlways(std::errc::file_exists);
+  EXPECT_TRUE(replace("data.c", "new"));
+  EXPECT_EQ(folder.read("data.c"), "old");
+  files.failFrom = 1;
+  files.failTo = files.calls + 3;
+  EXPECT_EQ(replace("data.c", "new"), std::nullopt) << "the fourth name is free";
+  EXPECT_EQ(folder.read("data.c"), "new");
+}
+
+TEST_F(ReplacedFile, IsReadWholeOrNot) {
+  folder.write("data.c", "content");
+  files.looksCount = true;
+  std::error_code error;
+  EXPECT_EQ(textOfBytes(readWhole(files, folder.pathOf("data.c"), error).value()), "content");
+  const int calls = files.calls;
+  EXPECT_EQ(calls, 3) << "opened, examined, read";
+  for (int call = 1; call <= calls; ++call) {
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_FALSE(readWhole(files, folder.pathOf("data.c"), error)) << call;
+    EXPECT_TRUE(error) << call;
+  }
+  files.failNever();
+  EXPECT_FALSE(readWhole(files, folder.path(), error)) << "a folder";
+  EXPECT_EQ(error, std::errc::invalid_argument);
+}
+
+TEST_F(ReplacedFile, IsThereWhenItIsNoFolder) {
+  folder.write("data.c", "content");
+  EXPECT_TRUE(TonTaiFile(folder.pathOf("data.c"), files));
+  EXPECT_FALSE(TonTaiFile(folder.pathOf("nowhere"), files));
+  EXPECT_FALSE(TonTaiFile(folder.path(), files));
+  EXPECT_FALSE(TonTaiFile(folder.pathOf("data.c/below"), files)) << "it cannot be examined";
+}
+
+TEST(FolderOf, IsWhatAPathLiesIn) {
+  EXPECT_EQ(folderOf("/home/words/data.c"), "/home/words");
+  EXPECT_EQ(folderOf("/data.c"), "/");
+  EXPECT_EQ(folderOf("data.c"), ".");
+}
+
+TEST(HeldFile, ALargeOneReadsTheSameWhenItsMemoryWasLetGo) {
+  TestFolder folder;
+  folder.write("large", std::string(MappedFile::LargeFile, 'x') + "end");
+  const auto held = MappedFile::open(folder.pathOf("large"));
+  held->letMemoryGo();
+  EXPECT_TRUE(held->text().ends_with("xend"));
+}
+
+TEST(HeldFile, OneThatHasShrunkIsNamedInWords) {
+  EXPECT_EQ(shrunkFileProblem("/course/data.av"),
+            "/course/data.av: has become shorter while the program was reading it");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Dated copies of what the learner owns.
 #include "learner/DatedCopies.h"
 
+#include "learner/VocabularyFile.h"
 #include "support/TestFolder.h"
 #include "tests/support/FaultyFiles.h"
 
@@ -105,6 +106,67 @@ TEST_F(DatedCopiesTest, FoldersOfOtherNamesAreLeftAlone) {
   EXPECT_TRUE(folder.has("backups/mine/data.c"));
 }
 
+TEST_F(DatedCopiesTest, ALookThatFailsLosesNoCopyThatIsThere) {
+  writeWords(1);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  files.looksCount = true;
+  files.calls = 0;
+  writeWords(2);
+  calendar.moment.hour = 19;
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  const int calls = files.calls;
+  for (int call = 1; call <= calls; ++call) {
+    writeWords(call + 2);
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    static_cast<void>(copies.keep());
+    files.failNever();
+    const Names names = namesOf(copies.all());
+    ASSERT_GE(names.size(), 2U) << call;
+    EXPECT_EQ(names[0], "2026-03-31_18-05-09") << call;
+    EXPECT_EQ(copies.read(names[1], "data.c")->size(), 2 * VocabularyWord::RecordSize) << call;
+  }
+}
+
+TEST_F(DatedCopiesTest, AFolderOfThatNameWithoutAListIsNoCopy) {
+  writeWords(1);
+  folder.write("backups/2026-01-01_00-00-00/words.txt", "rows");
+  EXPECT_TRUE(copies.all().empty());
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_EQ(copies.all().size(), 1U);
+}
+
+TEST_F(DatedCopiesTest, AChangedRowIsCopiedThoughTheWordsAreTheSame) {
+  writeWords(1);
+  folder.write("words.txt", "rows");
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  folder.write("words.txt", "other rows");
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_EQ(copies.all().size(), 2U);
+}
+
+TEST_F(DatedCopiesTest, AMomentHasAHundredNamesAtMost) {
+  for (int words = 1; words <= 105; ++words) {
+    writeWords(words);
+    EXPECT_EQ(copies.keep(), std::nullopt);
+  }
+  const auto all = copies.all();
+  EXPECT_EQ(all.size(), 99U);
+  EXPECT_EQ(all[9].name, "2026-03-31_18-05-09-10");
+  EXPECT_EQ(all.back().words, 105U) << "the last name has the newest";
+}
+
+TEST_F(DatedCopiesTest, OldCopiesMakeRoomForNewOnes) {
+  for (int day = 1; day <= 28; ++day) {
+    writeWords(day);
+    calendar.moment = {2026, 2, day, 12, 0, 0};
+    EXPECT_EQ(copies.keep(), std::nullopt);
+  }
+  const Names names = namesOf(copies.all());
+  EXPECT_LT(names.size(), 14U);
+  EXPECT_EQ(names.back(), "2026-02-28_12-00-00");
+}
+
 /// A copy a day over so many days, the newest last.
 std::vector<DatedCopy> daily(int days) {
   std::vector<DatedCopy> copies;
@@ -157,6 +219,14 @@ TEST(Thinning, ALongPauseCostsNothing) {
   auto copies = daily(10);
   copies.push_back({"2031-01-01_08-00-00", 10});
   EXPECT_GE(thinned(copies).size(), 8U);
+}
+
+TEST(Thinning, ANameThatIsNoMomentCountsAsTheOldest) {
+  auto copies = daily(60);
+  copies.insert(copies.begin(), {"0-odd", 1});
+  const auto stay = thinned(copies);
+  EXPECT_EQ(stay.front().name, "0-odd");
+  EXPECT_EQ(stay.back().name, copies.back().name);
 }
 
 } // namespace

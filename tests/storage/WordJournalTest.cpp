@@ -8,6 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+
+#include <sys/stat.h>
+
 namespace talvora {
 namespace {
 
@@ -149,6 +155,95 @@ TEST_F(Journal, AFailureAtAnyCallLeavesItAsItWas) {
     files.failNever();
     EXPECT_EQ(journal.read(), Deeds{added("bank")}) << call;
   }
+}
+
+TEST_F(Journal, ALookThatFailsAddsNothing) {
+  EXPECT_FALSE(journal.append({added("bank")}));
+  files.looksCount = true;
+  files.calls = 0;
+  EXPECT_FALSE(journal.append({added("go")}));
+  const int calls = files.calls;
+  for (int call = 1; call <= calls; ++call) {
+    EXPECT_FALSE(journal.clear());
+    EXPECT_FALSE(journal.append({added("bank")}));
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_TRUE(journal.append({added("go")})) << call;
+    files.failNever();
+    EXPECT_EQ(journal.read(), Deeds{added("bank")}) << call;
+  }
+}
+
+TEST_F(Journal, OneThatCannotBeMadeIsTold) {
+  files.looksCount = true;
+  EXPECT_FALSE(journal.append({added("bank")}));
+  const int calls = files.calls;
+  for (int call = 1; call <= calls; ++call) {
+    folder.remove("words.journal");
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_TRUE(journal.append({added("bank")})) << call;
+    files.failNever();
+    EXPECT_EQ(journal.read(), Deeds{}) << call;
+  }
+}
+
+TEST_F(Journal, IsNotKeptInAFolder) {
+  std::filesystem::create_directory(folder.pathOf("words.journal"));
+  EXPECT_TRUE(journal.append({added("bank")}));
+  folder.remove("words.journal");
+  ASSERT_EQ(::mkfifo(folder.pathOf("words.journal").c_str(), 0600), 0);
+  EXPECT_EQ(journal.append({added("bank")}), std::errc::invalid_argument);
+}
+
+TEST_F(Journal, AClearingThatFailsIsToldAndKeepsItOrEmptiesIt) {
+  EXPECT_FALSE(journal.clear()) << "there is none";
+  EXPECT_FALSE(journal.append({added("bank")}));
+  files.looksCount = true;
+  files.calls = 0;
+  EXPECT_FALSE(journal.clear());
+  const int calls = files.calls;
+  EXPECT_GE(calls, 4) << "looked at, opened, emptied, synced";
+  EXPECT_FALSE(journal.clear()) << "it is empty";
+  for (int call = 1; call <= calls; ++call) {
+    files.looksCount = false;
+    EXPECT_FALSE(journal.append({added("bank")}));
+    files.looksCount = true;
+    files.calls = 0;
+    files.failFrom = files.failTo = call;
+    EXPECT_TRUE(journal.clear()) << call;
+    files.failNever();
+    EXPECT_EQ(journal.read(), call == calls ? Deeds{} : Deeds{added("bank")}) << call;
+    EXPECT_FALSE(journal.clear());
+  }
+}
+
+/// A line of the journal with the check that belongs to it, whatever it says.
+std::string checked(const std::string& text) {
+  std::uint32_t sum = 2166136261U;
+  for (const char byte : text)
+    sum = (sum ^ static_cast<unsigned char>(byte)) * 16777619U;
+  char digits[9];
+  std::snprintf(digits, sizeof digits, "%08x", sum);
+  return digits + ("\t" + text) + "\n";
+}
+
+TEST_F(Journal, ALineThatSaysNothingKnownCountsForNothing) {
+  const std::string row = lineOf(rowOf("bank", 17, "Here."));
+  for (const std::string& text : {"?\t" + row, "+" + row, "+x" + row, std::string("+\tno row"),
+                                  std::string("+\t"), std::string("+")}) {
+    folder.write("words.journal", checked(text));
+    EXPECT_EQ(journal.read(), Deeds{}) << text;
+  }
+  folder.write("words.journal", checked("+\t" + row));
+  EXPECT_EQ(journal.read().size(), 1U) << "the test's own check is right";
+  folder.write("words.journal", "12345678 no tab behind the check");
+  EXPECT_EQ(journal.read(), Deeds{});
+}
+
+TEST_F(Journal, ADeletionAheadOfANewWordIsWhole) {
+  EXPECT_FALSE(journal.append({removed("bank"), added("go")}));
+  EXPECT_EQ(journal.read(), (Deeds{removed("bank"), added("go")}));
 }
 
 } // namespace
