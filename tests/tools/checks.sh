@@ -30,6 +30,23 @@ for check in check_includes.py check_pages.py check_glossary.py check_messages.p
   expect 2 $check "$root" "$root"
 done
 
+# Every name of the page as ctest would list it, then one less, then one of safety too many.
+list_tests() {
+  sed -n 's/^|.*|\(.*\)|$/\1/p' "$root/docs/promises.md" | grep -o '`[^`]*`' | tr -d '`*' |
+    sed 's/\.$/.x/; s/-$/-x/' | awk '{ print "  Test #" NR ": " $0 }'
+}
+promises() {
+  local code=$1 got=0
+  python3 "$root/tools/check_promises.py" "$root" >"$work/said" 2>&1 || got=$?
+  [ "$got" = "$code" ] || fail "check_promises.py: exit code $got instead of $code: $(head -5 "$work/said")"
+}
+list_tests | promises 0
+list_tests | grep -v learner-kills | promises 1
+grep -q 'there is no test learner-kills' "$work/said" || fail "the test is not named: $(cat "$work/said")"
+{ list_tests; echo '  Test #999: learner-new'; } | promises 1
+grep -q 'learner-new holds no promise' "$work/said" || fail "the test is not named: $(cat "$work/said")"
+promises 2 </dev/null
+
 mkdir "$work/tree"
 for folder in src pack docs tests bench; do cp -r "$root/$folder" "$work/tree/$folder"; done
 
