@@ -44,6 +44,17 @@ bool replay(const std::vector<WordDeed>& deeds, Words& words) {
   return words != before;
 }
 
+/// A list that could not be read, with what was taken meanwhile behind it. What was there keeps its
+/// sentence also where it was taken once more.
+Words joined(Words before, Words meanwhile) {
+  const auto wasThere = [&](const VocabularyWord& word) {
+    return findWord(before, word) != before.end();
+  };
+  std::erase_if(meanwhile, wasThere);
+  before.insert(before.end(), meanwhile.begin(), meanwhile.end());
+  return before;
+}
+
 void count(Carried& carried, Found found) {
   switch (found) {
   case Found::InItsText:
@@ -243,13 +254,9 @@ void LearnerWords::journal(std::vector<WordDeed> deeds) {
 
 std::optional<std::string> LearnerWords::write(std::vector<VocabularyWord> words) {
   if (unread_) {
-    const auto unseen = read();
+    auto unseen = read();
     if (unread_) return pathOf(learnerfile::Words) + ": cannot be read";
-    if (unseen) {
-      for (auto word = unseen->rbegin(); word != unseen->rend(); ++word) {
-        if (findWord(words, *word) == words.end()) words.insert(words.begin(), *word);
-      }
-    }
+    if (unseen) words = joined(std::move(*unseen), std::move(words));
   }
   if (auto problem = list_.write(words)) return problem;
   pending_.clear();

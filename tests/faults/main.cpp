@@ -34,6 +34,7 @@ constexpr std::chrono::seconds Patience(120);
 
 struct Arguments {
   std::string pack;
+  std::string only;
   int every = 1;
 };
 
@@ -99,6 +100,13 @@ class Lived {
   std::size_t step_ = 0;
 };
 
+std::string listOf(const std::vector<std::string>& words) {
+  std::string list;
+  for (const std::string& word : words)
+    list += (list.empty() ? "" : ", ") + word;
+  return list;
+}
+
 class Trials {
  public:
   Trials(const Arguments& arguments, Journey journey)
@@ -115,7 +123,7 @@ class Trials {
     int number = 0;
     for (const Fault& fault : allFaults()) {
       for (int call = 1; call <= calls; ++call) {
-        if ((number++ + call) % arguments_.every == 0) tryOne(fault, call);
+        if ((number++ + call) % arguments_.every == 0 && isWanted(fault, call)) tryOne(fault, call);
       }
     }
     std::cout << journey_.name << ": " << calls << " calls, " << tried_ << " trials, " << broken_
@@ -124,6 +132,12 @@ class Trials {
   }
 
  private:
+  [[nodiscard]] std::string nameOf(const Fault& fault, int call) const {
+    return journey_.name + ", " + fault.name + " at call " + std::to_string(call);
+  }
+  [[nodiscard]] bool isWanted(const Fault& fault, int call) const {
+    return nameOf(fault, call).find(arguments_.only) != std::string::npos;
+  }
   [[nodiscard]] Folders foldersOf(const fs::path& learner) const {
     return {fs::absolute(arguments_.pack).string(), learner.string()};
   }
@@ -193,8 +207,7 @@ class Trials {
     }
     if (wrong.empty()) return;
     ++broken_;
-    std::cout << journey_.name << ", " << fault.name << " at call " << call << " ("
-              << nameOfCall(call) << "): " << wrong << std::endl;
+    std::cout << nameOf(fault, call) << " (" << nameOfCall(call) << "): " << wrong << std::endl;
   }
 
   std::string liveWith(const Fault& fault, int call, const fs::path& learner) const {
@@ -285,7 +298,7 @@ class Trials {
       for (std::size_t each = 0; each < settings.size(); ++each)
         settings[each] = settings[each] || known.settings[each] == state.settings[each];
     }
-    if (!words) return "the words are those of no moment: " + std::to_string(state.words.size());
+    if (!words) return "the words are those of no moment: " + listOf(state.words);
     if (!lists) return "the places in the lists are those of no moment: " + state.lists;
     const auto strange = std::find(settings.begin(), settings.end(), false);
     if (strange == settings.end()) return {};
@@ -308,6 +321,8 @@ int run(int argc, char** argv) {
   app.add_option("--pack", arguments.pack, "The content pack")
       ->required()
       ->check(CLI::ExistingDirectory);
+  app.add_option("--only", arguments.only,
+                 "Tries only what has this in \"JOURNEY, FAULT at call N\"");
   app.add_option("--every", arguments.every, "Tries only one trial in so many")
       ->capture_default_str()
       ->check(CLI::PositiveNumber);

@@ -321,6 +321,22 @@ TEST_F(LearnerWordsTest, AListThatCannotBeReadIsNotWrittenOver) {
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
 }
 
+TEST_F(LearnerWordsTest, AWordThatWasThereKeepsItsSentenceWhenTheListComesBack) {
+  std::filesystem::create_directory(own.pathOf("data.c"));
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  learning.leaveText();
+  std::filesystem::remove(own.pathOf("data.c"));
+  own.write("data.c", record("river", 2) + record("bank", 1));
+  learning.openText();
+  learning.add("old");
+  learning.leaveText();
+  EXPECT_TRUE(own.read("data.c").starts_with(record("river", 2) + record("bank", 1)));
+  EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
+}
+
 // -- A kill at each call.
 
 /// Goes through a learner's evening; tells after each deed what must be kept from then on.
