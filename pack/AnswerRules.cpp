@@ -2,6 +2,7 @@
 #include "pack/AnswerStatistics.h"
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
+#include "pack/kinds/ItemKind.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -156,7 +157,7 @@ RuleReport positionsDoNotRun(const Course& course) {
   std::string group;
   std::pair<int, int> last{0, 0};
   for (const CourseItem& each : course.items) {
-    if (each.item->form != ItemForm::Choice) continue;
+    if (each.item->kind->options() == 0) continue;
     const std::string own =
         std::string(groupOf(each)) + std::to_string(each.unit) + std::to_string(each.lesson);
     if (std::exchange(group, own) != own) last = {0, 0};
@@ -200,7 +201,7 @@ RuleReport bluePhraseIsNoCue(const Course& course) {
 RuleReport shortFormsAreAccepted(const Course& course) {
   RuleReport report{said("a short form is not accepted"), {}, 0};
   for (const CourseItem& each : course.items) {
-    if (each.item->form != ItemForm::Fill || each.item->heading == fullFormHeading) continue;
+    if (!each.item->kind->isTyped() || each.item->heading == fullFormHeading) continue;
     for (const BlankInText& blank : blanksOf(*each.item)) {
       if (!takesShortForm(blank)) continue;
       report.found.push_back(

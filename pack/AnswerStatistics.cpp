@@ -1,5 +1,6 @@
 // Counting of answers.
 #include "pack/AnswerStatistics.h"
+#include "pack/kinds/ItemKind.h"
 
 #include "text/Text.h"
 
@@ -20,13 +21,13 @@ bool longestIsRight(const Item& item, std::size_t right) {
 
 std::string bluePhraseOf(const Item& item) {
   const std::size_t from = item.question.find('*');
-  if (item.form != ItemForm::Choice || from == std::string::npos) return {};
+  if (item.kind->options() == 0 || from == std::string::npos) return {};
   const std::size_t to = std::min(item.question.find('_', from), item.question.size());
   return item.question.substr(from + 1, to - from - 1);
 }
 
 void countAnswer(AnswerStatistics& statistics, const Item& item) {
-  if (item.form != ItemForm::Choice || item.key < 1) return;
+  if (item.kind->options() == 0 || item.key < 1) return;
   const auto right = static_cast<std::size_t>(item.key) - 1;
   if (right >= item.options.size() || right >= statistics.positions.size()) return;
   ++statistics.choices;

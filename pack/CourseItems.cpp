@@ -1,5 +1,6 @@
 // Sentences out of the stored form of questions.
 #include "pack/CourseItems.h"
+#include "pack/kinds/ItemKind.h"
 
 #include "text/Bytes.h"
 #include "text/CharClass.h"
@@ -17,7 +18,7 @@ constexpr CharClass wordCharacters("[a-zA-Z']");
 
 /// The question with each "*key\other___" as its key, and the gap of a stem as the right option.
 std::string completed(const Item& item) {
-  const bool choice = item.form == ItemForm::Choice;
+  const bool choice = item.kind->options() > 0;
   const auto key = static_cast<std::size_t>(item.key);
   const std::string right = choice && key > 0 && key <= item.options.size()
                                 ? " " + item.options[key - 1] + " "
@@ -37,7 +38,7 @@ std::string completed(const Item& item) {
         text += right;
         placed = true;
       }
-      if (inKey || item.form == ItemForm::Order) text += " ";
+      if (inKey || item.kind->hasSentences()) text += " ";
       inKey = false;
       inOther = false;
     } else if (inKey && character == '\\') {
@@ -116,17 +117,6 @@ std::vector<std::string> englishWordsOf(std::string_view line) {
   }
   finish();
   return words;
-}
-
-int explainableCount(const Item& item) {
-  switch (item.form) {
-  case ItemForm::Order:
-    return 0;
-  case ItemForm::Choice:
-    return static_cast<int>(item.options.size());
-  default:
-    return static_cast<int>(std::count(item.question.begin(), item.question.end(), '*'));
-  }
 }
 
 } // namespace talvora::pack

@@ -38,7 +38,4 @@ struct CourseItem {
 /// Whether a line in the text font's bytes has Vietnamese letters.
 [[nodiscard]] bool isVietnamese(std::string_view line);
 
-/// How many explanations by number an item can have: of its blanks, options or phrases.
-[[nodiscard]] int explainableCount(const Item& item);
-
 } // namespace talvora::pack

@@ -5,7 +5,9 @@
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
 #include "pack/WordCoverage.h"
+#include "pack/kinds/ItemKinds.h"
 
+#include <algorithm>
 #include <iomanip>
 #include <map>
 #include <set>
@@ -18,7 +20,7 @@ namespace {
 
 /// The counts of a bank, or of the lessons together.
 struct Row {
-  std::map<ItemForm, std::size_t> kinds;
+  std::map<const ItemKind*, std::size_t> kinds;
   std::size_t items = 0;
   std::size_t words = 0;
   std::set<std::string> untranslated;
@@ -40,7 +42,7 @@ std::vector<Row> rowsOf(const std::vector<CourseItem>& items, const WordList& li
   for (const CourseItem& each : items) {
     Row& row = rowOf(rows, each);
     ++row.items;
-    ++row.kinds[each.item->form];
+    ++row.kinds[each.item->kind];
     row.words += each.words.size();
     countAnswer(row.answers, *each.item);
     for (const std::string& word : each.words) {
@@ -68,25 +70,47 @@ std::string positionsOf(const AnswerStatistics& answers) {
   return text;
 }
 
-void writeRow(std::ostream& out, const std::vector<std::string>& cells) {
-  constexpr int nameWidth = 18;
-  constexpr int cellWidth = 10;
-  out << "  " << std::left << std::setw(nameWidth) << cells.front();
-  for (std::size_t at = 1; at < cells.size(); ++at)
-    out << std::right << std::setw(at == 6 ? 2 * cellWidth : cellWidth) << cells[at];
+/// A cell, with blanks on the side given; letters count, and not their bytes.
+std::string padded(const std::string& cell, std::size_t width, bool ahead) {
+  const auto letters = static_cast<std::size_t>(
+      std::count_if(cell.begin(), cell.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
+  const std::string blanks(width - std::min(letters, width), ' ');
+  return ahead ? blanks + cell : cell + blanks;
+}
+
+/// Writes a row: a name, a count of each kind behind that of all items, and what was found of them.
+void writeRow(std::ostream& out, const std::string& name, const std::string& all,
+              const std::vector<std::string>& kinds, const std::vector<std::string>& found) {
+  constexpr std::size_t nameWidth = 18;
+  constexpr std::size_t cellWidth = 10;
+  out << "  " << padded(name, nameWidth, false) << padded(all, cellWidth, true);
+  for (const std::string& count : kinds)
+    out << padded(count, cellWidth, true);
+  out << padded(found.front(), 2 * cellWidth, true); // four counts in one
+  for (std::size_t at = 1; at < found.size(); ++at)
+    out << padded(found[at], cellWidth, true);
   out << "\n";
 }
 
+void writeHeading(std::ostream& out) {
+  std::vector<std::string> kinds;
+  for (const ItemKind* kind : itemKinds())
+    kinds.push_back(translated(kind->name()));
+  writeRow(
+      out, "", said("items"), kinds,
+      {said("right A/B/C/D"), said("longest"), said("words"), said("no sense"), said("no lesson")});
+}
+
 void writeRow(std::ostream& out, std::string_view name, const Row& row) {
-  const auto kind = [&](ItemForm form) {
-    const auto found = row.kinds.find(form);
-    return std::to_string(found == row.kinds.end() ? 0 : found->second);
-  };
-  writeRow(out, {std::string(name), std::to_string(row.items), kind(ItemForm::Fill),
-                 kind(ItemForm::Choice), kind(ItemForm::Mistake), kind(ItemForm::Order),
-                 positionsOf(row.answers), share(row.answers.longestRight, row.answers.choices),
-                 meanLength(row), std::to_string(row.untranslated.size()),
-                 std::to_string(row.withoutLesson)});
+  std::vector<std::string> kinds;
+  for (const ItemKind* kind : itemKinds()) {
+    const auto found = row.kinds.find(kind);
+    kinds.push_back(std::to_string(found == row.kinds.end() ? 0 : found->second));
+  }
+  writeRow(out, std::string(name), std::to_string(row.items), kinds,
+           {positionsOf(row.answers), share(row.answers.longestRight, row.answers.choices),
+            meanLength(row), std::to_string(row.untranslated.size()),
+            std::to_string(row.withoutLesson)});
 }
 
 } // namespace
@@ -102,10 +126,8 @@ std::string courseReport(const ExerciseSource& exercises, const LessonSource& le
   for (const Problem& problem : itemsHaveALesson(course).found)
     ++rowOf(rows, *byPlace.at({problem.where.file, problem.where.line})).withoutLesson;
   std::ostringstream out;
-  out << said("Items") << "\n"
-      << said("                         items      fill    choice   mistake     order       right "
-              "A/B/C/D   longest     words  no sense no lesson")
-      << "\n";
+  out << said("Items") << "\n";
+  writeHeading(out);
   for (std::size_t bank = 0; bank < BankCount; ++bank)
     writeRow(out, BankNames[bank], rows[bank]);
   writeRow(out, said("lessons"), rows[BankCount]);

@@ -2,6 +2,7 @@
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
 #include "pack/StreamText.h"
+#include "pack/kinds/ItemKind.h"
 
 #include <algorithm>
 #include <array>
@@ -91,9 +92,10 @@ RuleReport unitsHaveTheirKinds(const Course& course) {
     if (!each.bank) continue;
     Kinds& kinds = units[{*each.bank, each.unit}];
     ++kinds.all;
-    kinds.fill += each.item->form == ItemForm::Fill ? 1 : 0;
-    kinds.choice += each.item->form == ItemForm::Choice ? 1 : 0;
-    kinds.mistake += each.item->form == ItemForm::Mistake ? 1 : 0;
+    const std::string_view kind = each.item->kind->name();
+    if (kind == "fill") ++kinds.fill;
+    if (kind == "choice") ++kinds.choice;
+    if (kind == "mistake") ++kinds.mistake;
   }
   for (const auto& [place, kinds] : units) {
     const UnitPlan& plan = plans[place.first];

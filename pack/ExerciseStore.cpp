@@ -3,9 +3,9 @@
 
 #include "formats/Integers.h"
 #include "formats/PackFiles.h"
-#include "pack/BlankWidth.h"
 #include "pack/Message.h"
 #include "pack/StreamText.h"
+#include "pack/kinds/ItemKinds.h"
 
 #include <algorithm>
 #include <optional>
@@ -20,14 +20,13 @@ constexpr char recordEnd = '@';
 constexpr char sectionMark = '^';
 constexpr char referenceMark = '?';
 constexpr std::size_t sections = limit::ItemSections;
-constexpr std::size_t optionCount = 4;
 constexpr std::size_t headerLength = 3;
 
 // -- To the store.
 
 /// Always three characters, so that a digit at the question's start does not count to the header.
 std::string headerOf(const Item& item) {
-  std::string header = std::to_string(static_cast<int>(item.form));
+  std::string header(1, item.kind->digit());
   header += static_cast<char>('0' + item.heading / 10);
   return header + static_cast<char>('0' + item.heading % 10);
 }
@@ -37,12 +36,7 @@ std::string questionOf(const Item& item) {
   for (std::size_t at = 0; at < item.hints.size(); ++at)
     record += (at == 0 ? '|' : ',') + item.hints[at];
   if (!item.hints.empty()) record += lineEnd;
-  const bool guessable = item.form == ItemForm::Fill && item.hints.empty();
-  record += guessable ? withEvenBlanks(item.question) : item.question;
-  if (item.form == ItemForm::Choice) record += lineEnd;
-  for (const std::string& option : item.options)
-    record += '+' + option + lineEnd;
-  if (item.form == ItemForm::Mistake) record += {lineEnd, '+', lineEnd};
+  record += item.kind->storedQuestion(item) + item.kind->storedTail(item);
   if (item.key > 0) record += {static_cast<char>('A' + item.key - 1), lineEnd};
   return record + recordEnd;
 }
@@ -108,16 +102,15 @@ class ItemDecoder {
 
   /// Empty for a record without a question, and for one that no source leads to.
   std::optional<Item> decode(std::string_view question, std::string_view answer) const {
-    if (question.size() < headerLength || question[0] < '1' || question[0] > '4') {
-      return std::nullopt;
-    }
+    if (question.size() < headerLength) return std::nullopt;
     Item item;
-    item.form = static_cast<ItemForm>(question[0] - '0');
+    item.kind = itemKindOf(question[0]);
+    if (item.kind == nullptr) return std::nullopt;
     item.heading = (question[1] - '0') * 10 + (question[2] - '0');
     question.remove_prefix(headerLength);
     if (question.starts_with('|')) takeHints(question, item);
     takeBody(question, item);
-    if (item.form == ItemForm::Order) {
+    if (item.kind->hasSentences()) {
       takeTranslations(answer, item);
     } else {
       takeAnswer(answer, item);
@@ -148,9 +141,7 @@ class ItemDecoder {
     while (question.starts_with('+')) {
       question.remove_prefix(1);
       const std::string_view option = takeUntil(question, lineEnd);
-      if (item.form == ItemForm::Choice && item.options.size() < optionCount) {
-        item.options.emplace_back(option);
-      }
+      if (item.options.size() < item.kind->options()) item.options.emplace_back(option);
     }
     if (!question.empty()) item.key = question.front() - 'A' + 1;
   }

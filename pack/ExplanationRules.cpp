@@ -2,6 +2,7 @@
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
 #include "pack/StreamText.h"
+#include "pack/kinds/ItemKind.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -107,14 +108,14 @@ RuleReport explanationsAreThere(const Course& course) {
   RuleReport report{said("an explanation is missing"), {}, 0};
   for (const CourseItem& each : course.items) {
     const Item& item = *each.item;
-    if (item.form == ItemForm::Order) continue;
+    if (!item.kind->isExplained()) continue;
     if (item.general.empty())
       report.found.push_back(
           {item.where, said("the general explanation (\"explain:\") is missing")});
-    const bool listed = item.form == ItemForm::Fill &&
-                        std::find(banksWithALessonList.begin(), banksWithALessonList.end(),
-                                  groupOf(each)) != banksWithALessonList.end();
-    for (int number = 1; !listed && number <= explainableCount(item); ++number) {
+    const bool listed =
+        item.kind->isTyped() && std::find(banksWithALessonList.begin(), banksWithALessonList.end(),
+                                          groupOf(each)) != banksWithALessonList.end();
+    for (int number = 1; !listed && number <= item.kind->explainable(item); ++number) {
       if (item.explanations.count(number) > 0) continue;
       report.found.push_back({item.where, said("explanation {} is missing", number)});
     }

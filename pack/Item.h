@@ -10,7 +10,7 @@
 
 namespace talvora::pack {
 
-enum class ItemForm { Choice = 1, Mistake = 2, Order = 3, Fill = 4 };
+class ItemKind;
 
 /// Where items stand: the headings differ.
 enum class ItemPlace { Bank, Lesson };
@@ -36,11 +36,11 @@ struct Subject {
 
 /// An item; texts in the text font's bytes.
 struct Item {
-  Where where;    ///< of its first line
-  std::string id; ///< a name to cite it by; empty for none
-  Subject about;  ///< the lesson it practises
-  ItemForm form = ItemForm::Fill;
-  int heading = 0; ///< its code; 0 for none
+  Where where;                    ///< of its first line
+  std::string id;                 ///< a name to cite it by; empty for none
+  Subject about;                  ///< the lesson it practises
+  const ItemKind* kind = nullptr; ///< not null in an item that was read
+  int heading = 0;                ///< its code; 0 for none
   std::vector<std::string> hints;
   std::string question; ///< as stored; of an ordering item its sentences
   std::vector<std::string> options;

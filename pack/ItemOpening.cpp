@@ -5,9 +5,12 @@
 #include "pack/ItemNotation.h"
 #include "pack/Message.h"
 #include "pack/NearestName.h"
+#include "pack/kinds/ItemKinds.h"
 #include "text/Text.h"
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
 namespace talvora::pack {
 
@@ -22,21 +25,22 @@ class OpeningParser {
   std::optional<ItemOpening> run() {
     const std::string_view rest = line_.text.substr(itemOpener.size());
     const std::size_t comma = rest.find(',');
-    const auto form = readForm(rest.substr(0, comma));
-    if (!form) return std::nullopt;
-    const bool order = *form == ItemForm::Order;
-    if (order && place_ == ItemPlace::Bank) {
-      report(said("an ordering item belongs among a lesson's items: in a bank it ends the run"),
+    const ItemKind* const kind = readKind(rest.substr(0, comma));
+    if (kind == nullptr) return std::nullopt;
+    if (!kind->standsInBanks() && place_ == ItemPlace::Bank) {
+      report(said("the kind \"{}\" belongs among a lesson's items: in a bank it ends the run",
+                  kind->name()),
              itemOpener.size());
     }
     int heading = 0;
     if (comma != std::string_view::npos) {
       heading = readHeading(rest.substr(comma + 1));
-    } else if (!order) {
+    } else if (kind->hasHeading()) {
       report(said("the heading is missing; \"none\" stands for no heading"));
     }
-    if (order && heading != 0) report(said("an ordering item has no heading"));
-    return ItemOpening{*form, heading};
+    if (!kind->hasHeading() && heading != 0)
+      report(said("the kind \"{}\" has no heading", kind->name()));
+    return ItemOpening{kind, heading};
   }
 
  private:
@@ -44,18 +48,18 @@ class OpeningParser {
     problems_.add(placeIn(line_.text, at, {file_, line_.number, 1}), message);
   }
 
-  std::optional<ItemForm> readForm(std::string_view name) {
-    const auto found = std::find_if(formNames.begin(), formNames.end(),
-                                    [&](const FormName& each) { return each.name == name; });
-    if (found != formNames.end()) return found->form;
-    if (!reportsMissingComma(name)) {
-      std::vector<std::string> kinds;
-      for (const FormName& each : formNames)
-        kinds.emplace_back(each.name);
-      report(said("the kind must be fill, choice, mistake or order") + didYouMean(name, kinds),
-             itemOpener.size());
+  /// Null for a name that no kind has, which is reported.
+  const ItemKind* readKind(std::string_view name) {
+    const ItemKind* const kind = itemKindNamed(name);
+    if (kind != nullptr || reportsMissingComma(name)) return kind;
+    std::vector<std::string> names;
+    std::string list;
+    for (const ItemKind* each : itemKinds()) {
+      names.emplace_back(each->name());
+      list += (list.empty() ? "" : ", ") + names.back();
     }
-    return std::nullopt;
+    report(said("the kind must be one of {}", list) + didYouMean(name, names), itemOpener.size());
+    return nullptr;
   }
 
   /// "choice replace" stands for "choice, replace".
@@ -63,9 +67,7 @@ class OpeningParser {
     const std::size_t blank = std::min(name.find(' '), name.size());
     const std::string kind(name.substr(0, blank));
     const std::string heading(trim(name.substr(blank)));
-    const bool known = std::any_of(formNames.begin(), formNames.end(),
-                                   [&](const FormName& each) { return each.name == kind; });
-    if (!known || heading.empty()) return false;
+    if (itemKindNamed(kind) == nullptr || heading.empty()) return false;
     report(said("a comma is missing: \"item: {}, {}\"", kind, heading), itemOpener.size() + blank);
     return true;
   }

@@ -17,8 +17,8 @@ inline constexpr std::string_view ItemFirstLine =
     toSay("an item begins with \"item: KIND, HEADING\"");
 
 struct ItemOpening {
-  ItemForm form = ItemForm::Fill;
-  int heading = 0; ///< its code; 0 for none
+  const ItemKind* kind = nullptr; ///< never null
+  int heading = 0;                ///< its code; 0 for none
 };
 
 /// Reads the line; empty when it does not tell the kind, which is reported. A heading that does not

@@ -1,7 +1,6 @@
 // Parsing of exercise items.
 #include "pack/ItemSource.h"
 
-#include "pack/ItemCheck.h"
 #include "pack/ItemKeys.h"
 #include "pack/ItemNotation.h"
 #include "pack/ItemOpening.h"
@@ -10,6 +9,7 @@
 #include "pack/NearestName.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "pack/kinds/ItemKind.h"
 #include "text/Bytes.h"
 #include "text/Text.h"
 
@@ -21,7 +21,6 @@ namespace talvora::pack {
 
 namespace {
 
-constexpr std::size_t optionCount = 4;
 constexpr int fewestBlanksBetweenWords = 3;
 
 std::string inQuotes(std::string_view text) {
@@ -88,7 +87,7 @@ class ItemParser {
     // What stands below a line that cannot be read is left out up to the next item.
     skipping_ = true;
     if (!opening) return;
-    item_.form = opening->form;
+    item_.kind = opening->kind;
     item_.heading = opening->heading;
   }
 
@@ -146,7 +145,8 @@ class ItemParser {
       return;
     }
     if (key == ItemKey::Hints) {
-      if (item_.form != ItemForm::Fill) report(line, said("only a fill item has hints"));
+      if (!item_.kind->hasHints())
+        report(line, said("the kind \"{}\" has no hints", item_.kind->name()));
       hintsAt_ = placeOf(line);
       readHints(line);
     } else if (key == ItemKey::Id) {
@@ -198,20 +198,21 @@ class ItemParser {
 
   /// A Vietnamese paragraph without a blank below the question.
   [[nodiscard]] bool isForgottenExplanation(const SourceLine& line) const {
-    if (item_.form == ItemForm::Order || isOption(line) || !hasVietnameseLetters(line.text)) {
+    if (!item_.kind->isExplained() || isOption(line) || !hasVietnameseLetters(line.text)) {
       return false;
     }
-    if (item_.form == ItemForm::Choice) return item_.options.size() == optionCount;
+    const std::size_t options = item_.kind->options();
+    if (options > 0) return item_.options.size() == options;
     return emptyLines_ > 0 && text_.braces > 0 && line.text.find('{') == std::string_view::npos;
   }
 
   [[nodiscard]] bool isOption(const SourceLine& line) const {
-    return item_.form == ItemForm::Choice &&
+    return item_.kind->options() > 0 &&
            (line.text.starts_with(rightOpener) || line.text.starts_with(wrongOpener));
   }
 
   void readQuestion(const SourceLine& line) {
-    if (item_.form == ItemForm::Order) {
+    if (item_.kind->hasSentences()) {
       readSentence(line);
     } else if (isOption(line)) {
       readOption(line);
@@ -219,7 +220,7 @@ class ItemParser {
       report(line, said("behind the options only explanations may stand"));
     } else {
       if (started_) text_.stored.append(emptyLines_ + 1, '\r');
-      parseItemLine(line.text, {file_, line.number, 1}, braceUseOf(item_.form), text_, problems_);
+      parseItemLine(line.text, {file_, line.number, 1}, item_.kind->braces(), text_, problems_);
     }
   }
 
@@ -282,13 +283,14 @@ class ItemParser {
         value = 1;
       }
     }
-    if (item_.form == ItemForm::Order) report(line, said("an ordering item has no explanations"));
+    if (!item_.kind->isExplained())
+      report(line, said("the kind \"{}\" has no explanations", item_.kind->name()));
     if (value <= lastExplained_)
       report(line, said("explanations stand in rising order, each once"));
-    if (value > 0 && item_.form == ItemForm::Fill && help_ == BlankHelp::VerbLessons)
+    if (value > 0 && item_.kind->isTyped() && help_ == BlankHelp::VerbLessons)
       report(line, said("in this bank the program explains each blank with the lessons 2 to 69"));
-    if (value > braces() && item_.form != ItemForm::Order && sound_)
-      report(line, said("the item has only {} to explain", braces()));
+    if (value > explainable() && item_.kind->isExplained() && sound_)
+      report(line, said("the item has only {} to explain", explainable()));
     startExplanation(line, value);
   }
 
@@ -308,8 +310,9 @@ class ItemParser {
                                     : said("explanation {} is empty", explainedNumber_));
   }
 
-  [[nodiscard]] int braces() const {
-    return item_.form == ItemForm::Choice ? static_cast<int>(optionCount) : text_.braces;
+  [[nodiscard]] int explainable() const {
+    const std::size_t options = item_.kind->options();
+    return options > 0 ? static_cast<int>(options) : text_.braces;
   }
 
   void addEmptyLines() {
@@ -348,15 +351,9 @@ class ItemParser {
   void finishItem() {
     if (!std::exchange(begun_, false)) return;
     finishExplanation();
-    if (item_.form == ItemForm::Order) expectTranslation();
-    if (item_.form == ItemForm::Mistake) item_.key = text_.marked;
-    if (sound_) checkWhole(item_, text_, hintsAt_, problems_);
-    if (item_.form == ItemForm::Order) {
-      for (const std::string& sentence : std::exchange(item_.options, {}))
-        item_.question += (item_.question.empty() ? "_" : " _") + sentence;
-    } else {
-      item_.question = std::move(text_.stored);
-    }
+    if (item_.kind->hasSentences()) expectTranslation();
+    if (sound_) item_.kind->check(item_, text_, hintsAt_, problems_);
+    item_.kind->finish(item_, text_);
     items_.push_back(std::move(item_));
   }
 

@@ -4,6 +4,7 @@
 #include "pack/ItemSource.h"
 #include "pack/ItemText.h"
 #include "pack/StreamText.h"
+#include "pack/kinds/ItemKind.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -36,20 +37,19 @@ std::string writtenSentences(const Item& item) {
 }
 
 std::string writeItem(const Item& item, ItemPlace place) {
-  const auto form = std::find_if(formNames.begin(), formNames.end(),
-                                 [&](const FormName& each) { return each.form == item.form; });
-  std::string source = std::string(itemOpener) + std::string(form->name);
-  if (item.form != ItemForm::Order) source += ", " + headingName(item.heading, place);
+  std::string source = std::string(itemOpener) + std::string(item.kind->name());
+  if (item.kind->hasHeading()) source += ", " + headingName(item.heading, place);
   source += "\n";
   if (!item.id.empty()) source += std::string(idOpener) + item.id + "\n";
   if (!item.about.title.empty())
     source += std::string(aboutOpener) + utf8Of(item.about.title) + "\n";
-  if (item.form == ItemForm::Order) return source + "\n" + writtenSentences(item);
+  if (item.kind->hasSentences()) return source + "\n" + writtenSentences(item);
   for (std::size_t at = 0; at < item.hints.size(); ++at)
     source += (at == 0 ? std::string(hintsOpener) : ", ") + utf8Of(item.hints[at]);
   if (!item.hints.empty()) source += "\n";
-  const int marked = item.form == ItemForm::Mistake ? item.key : 0;
-  source += "\n" + writeItemText(item.question, braceUseOf(item.form), marked) + "\n";
+  const BraceUse braces = item.kind->braces();
+  const int marked = braces == BraceUse::Candidate ? item.key : 0;
+  source += "\n" + writeItemText(item.question, braces, marked) + "\n";
   if (!item.options.empty()) source += "\n";
   for (std::size_t at = 0; at < item.options.size(); ++at) {
     const bool right = static_cast<int>(at) + 1 == item.key;

@@ -1,6 +1,7 @@
 // Rules about the sentences of items: what repeats, how long they are, which words they use.
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
+#include "pack/kinds/ItemKind.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -154,7 +155,7 @@ RuleReport lengthsFit(const Course& course) {
   RuleReport report{said("a sentence is shorter or longer than its bank's are"), {}, 0};
   report.allowed = course.items.size() * 7 / 100;
   for (const CourseItem& each : course.items) {
-    if (each.item->form == ItemForm::Order) continue;
+    if (each.item->kind->hasSentences()) continue;
     const LengthRange range = rangeOf(groupOf(each));
     const std::size_t length = each.words.size();
     if (length >= range.least && length <= range.most) continue;

@@ -4,7 +4,6 @@
 #include "exercises/ItemHeadings.h"
 #include "formats/AnalysisLabels.h"
 #include "pack/AnalysisSource.h"
-#include "pack/BlankWidth.h"
 #include "pack/ExerciseSource.h"
 #include "pack/LessonSource.h"
 #include "pack/ListeningSource.h"
@@ -12,6 +11,7 @@
 #include "pack/ReadingSource.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "pack/kinds/ItemKind.h"
 #include "text/CharClass.h"
 #include "text/Text.h"
 
@@ -32,12 +32,12 @@ struct Marked {
   std::vector<std::string> keys; ///< what stands in the braces, "in / during" for two answers
 };
 
-Marked markedOf(std::string_view stored, ItemForm form) {
+Marked markedOf(std::string_view stored, const ItemKind& kind) {
   Marked marked;
   bool inKey = false;
   for (const char character : stored) {
-    const bool cell = form == ItemForm::Fill && (inKey || character == '*' || character == '_');
-    const bool phrase = form != ItemForm::Fill;
+    const bool cell = kind.isTyped() && (inKey || character == '*' || character == '_');
+    const bool phrase = !kind.isTyped();
     if (character == '*') {
       inKey = true;
       marked.keys.emplace_back();
@@ -71,19 +71,6 @@ std::string explained(const ExplanationLines& lines) {
   return text;
 }
 
-/// The name of what an explanation is about: "blank 2 (goes / went)", "C went, right".
-std::string subjectOf(const Item& item, const Marked& marked, int number) {
-  const auto at = static_cast<std::size_t>(number) - 1;
-  const std::string right = number == item.key ? said(", right") : "";
-  if (item.form == ItemForm::Choice && at < item.options.size()) {
-    return std::string(1, static_cast<char>('A' + at)) + ". " + utf8Of(item.options[at]) + right;
-  }
-  const std::string key = at < marked.keys.size() ? utf8Of(marked.keys[at]) : "";
-  if (item.form == ItemForm::Mistake)
-    return std::to_string(number) + ". " + key + (number == item.key ? said(", the mistake") : "");
-  return said("blank {} ({})", number, key.empty() ? said("stays empty") : key);
-}
-
 std::string sentencesOf(const Item& item) {
   std::string text;
   std::size_t number = 0;
@@ -106,10 +93,6 @@ std::string hintsOf(const Item& item) {
   return text.empty() ? "" : said("hints: {}", text) + "\n";
 }
 
-int explainedCount(const Item& item, const Marked& marked) {
-  return static_cast<int>(item.form == ItemForm::Choice ? item.options.size() : marked.keys.size());
-}
-
 /// True when a line of the part that begins at `first` is wanted; `next` is the line of the part
 /// behind it, 0 for the last one.
 bool isWanted(const ShownPlace& place, int first, int next) {
@@ -126,16 +109,17 @@ std::string itemShown(const Item& item, ItemPlace place) {
   const auto origin = place == ItemPlace::Bank ? ItemOrigin::Bank : ItemOrigin::OwnTest;
   const std::string heading = utf8Of(ChonDeMuc(item.heading, origin));
   if (!heading.empty()) text += heading + "\n";
-  if (item.form == ItemForm::Order) return text + sentencesOf(item);
-  const bool evened = item.form == ItemForm::Fill && item.hints.empty();
-  const Marked marked = markedOf(evened ? withEvenBlanks(item.question) : item.question, item.form);
+  if (item.kind->hasSentences()) return text + sentencesOf(item);
+  const Marked marked = markedOf(item.kind->storedQuestion(item), *item.kind);
   text += hintsOf(item) + linesFrom(marked.shown);
   for (std::size_t at = 0; at < item.options.size(); ++at)
     text += std::string(1, static_cast<char>('A' + at)) + ". " + utf8Of(item.options[at]) + "\n";
   if (!item.general.empty()) text += "  " + said("before judging") + "\n" + explained(item.general);
-  for (int number = 1; number <= explainedCount(item, marked); ++number) {
+  for (int number = 1; number <= item.kind->explainable(item); ++number) {
+    const auto at = static_cast<std::size_t>(number) - 1;
+    const std::string phrase = at < marked.keys.size() ? utf8Of(marked.keys[at]) : "";
     const auto lines = item.explanations.find(number);
-    text += "  " + subjectOf(item, marked, number) + "\n" +
+    text += "  " + item.kind->subjectOf(item, number, phrase) + "\n" +
             (lines == item.explanations.end() ? "" : explained(lines->second));
   }
   return text;
