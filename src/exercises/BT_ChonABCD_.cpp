@@ -5,6 +5,7 @@
 #include "exercises/ItemRecord.h"
 #include "surface/Looks.h"
 #include "text/CharClass.h"
+#include "text/Vietnamese.h"
 
 #include <utility>
 
@@ -26,6 +27,12 @@ BT_ChonABCD_::BT_ChonABCD_(ItemServices& services)
     : services_(services), RABCD_(services.controls.RABCD), item_(services.item),
       page_(services.controls.RABCD, services) {
   wireEvents();
+  page_.addToShell(
+      {.pointerName = "RABCD",
+       .closing = CloseRank::Choice,
+       .focus = FocusRank::Choice,
+       .hints = {{{"Nhấn chuột Trái vào ( )=Xem đáp án; Nhấn chuột phải vào ( )=Xem hướng dẫn"_x1,
+                   "Nhấn chuột phải vào câu Anh = Xem câu dịch"_x1}}}});
 }
 
 void BT_ChonABCD_::wireEvents() {

@@ -4,6 +4,7 @@
 #include "exercises/ItemMask.h"
 #include "exercises/ItemRecord.h"
 #include "surface/Looks.h"
+#include "text/Vietnamese.h"
 
 #include <algorithm>
 #include <utility>
@@ -20,6 +21,13 @@ BT_Chonsai::BT_Chonsai(ItemServices& services)
     : services_(services), Rsai_(services.controls.Rsai), item_(services.item),
       page_(services.controls.Rsai, services, HeadingAnswers::No) {
   wireEvents();
+  // It shares the fill-in's pointer; that is meant.
+  page_.addToShell(
+      {.pointerName = "RDT",
+       .closing = CloseRank::Mistake,
+       .focus = FocusRank::Mistake,
+       .hints = {{{"Chuột Trái=Chọn câu; Chuột phải=Xem hướng dẫn"_x1,
+                   "Nhấn chuột phải vào câu Anh = câu dịch; Chuột Trái\\Ctrl=Tra từ"_x1}}}});
 }
 
 void BT_Chonsai::wireEvents() {

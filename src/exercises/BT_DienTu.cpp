@@ -49,6 +49,15 @@ BT_DienTu::BT_DienTu(ItemServices& services)
     : services_(services), RDT_(services.controls.RDT), item_(services.item),
       page_(services.controls.RDT, services) {
   wireEvents();
+  page_.addToShell({.pointerName = "RDT",
+                    .closing = CloseRank::FillIn,
+                    .focus = FocusRank::FillIn,
+                    .hints = {{{"chuột Trái (__) = đáp án; Chuột phải (__) = hướng dẫn"_x1,
+                                "Chuột phải câu Anh = câu dịch; Chuột Trái\\Ctrl=Tra từ"_x1,
+                                "Gõ phím=Tra từ"_x1},
+                               [this] { return item_.DaCham; }},
+                              {{"Chuột Trái=Tra từ; Chuột phải=Xem câu dịch; Next=Qua câu mới"_x1,
+                                "Enter=đáp án (Rồi Nhấn F2)"_x1, " Esc = thoát"_x1}}}});
 }
 
 void BT_DienTu::wireEvents() {

@@ -15,6 +15,20 @@ ItemPage::ItemPage(Surface& surface, ItemServices& services, HeadingAnswers head
   };
 }
 
+void ItemPage::addToShell(KindInShell page) {
+  Shell& shell = services_.shell;
+  shell.pages.add({.surface = surface_,
+                   .textFont = true,
+                   .font = FontStep::Same,
+                   .parked = Parked::BelowTheScreen,
+                   .pointerName = page.pointerName,
+                   .hints = std::move(page.hints)});
+  shell.gestures.onClose(page.closing, surface_,
+                         [this](Surface&) { services_.run.ThoatBT(surface_); });
+  // Items that nothing is typed into get back what a look-up has taken from them.
+  shell.focusReturn.onReturnTo(page.focus, surface_);
+}
+
 void ItemPage::begin() {
   services_.item.KetQuaCau = 0;
   services_.state.atHand.keepCaret(0);

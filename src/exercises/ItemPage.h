@@ -11,6 +11,8 @@
 #include "surface/State.h"
 
 #include <functional>
+#include <string_view>
+#include <vector>
 
 namespace talvora {
 
@@ -42,6 +44,14 @@ struct ItemServices {
   RunCalls& run;
 };
 
+/// What the shell must know of the page of a kind.
+struct KindInShell {
+  std::string_view pointerName; ///< as `Page` has it
+  CloseRank closing;
+  FocusRank focus;
+  std::vector<Hint> hints;
+};
+
 /// Whether Ctrl shows the meaning of a word in an item's heading, too.
 enum class HeadingAnswers { No, Yes };
 
@@ -49,6 +59,9 @@ class ItemPage {
  public:
   ItemPage(Surface& surface, ItemServices& services,
            HeadingAnswers headingAnswers = HeadingAnswers::Yes);
+
+  /// Tells the shell of the page. Esc leaves the item.
+  void addToShell(KindInShell page);
 
   /// Empties the surface and sets the look of an item's text.
   void begin();

@@ -18,20 +18,8 @@ bool isDigit(char character) {
 }
 
 ItemKind kindOf(char digit) {
-  switch (digit) {
-  case '1':
-    return ItemKind::Choice;
-  case '2':
-    return ItemKind::Mistake;
-  case '3':
-    return ItemKind::Ordering;
-  case '4':
-    return ItemKind::FillIn;
-  case '5':
-    return ItemKind::FillInHints;
-  default:
-    return ItemKind::None;
-  }
+  const int kind = isDigit(digit) ? digit - '0' : 0;
+  return kind < static_cast<int>(ItemKind::Count) ? static_cast<ItemKind>(kind) : ItemKind::None;
 }
 
 } // namespace

@@ -12,14 +12,15 @@
 
 namespace talvora {
 
-/// What an item asks for.
+/// What an item asks for; the value is the digit with which its record begins.
 enum class ItemKind {
   None = 0,
   Choice = 1,
   Mistake = 2,
   Ordering = 3,
   FillIn = 4,
-  FillInHints = 5
+  FillInHints = 5,
+  Count
 };
 
 struct ItemState {

@@ -3,7 +3,6 @@
 #include "exercises/ItemHeadings.h"
 #include "exercises/ItemRecord.h"
 #include "text/Text.h"
-#include "text/Vietnamese.h"
 
 #include <utility>
 
@@ -38,40 +37,6 @@ Run::Run(Form& form, ItemServices& services, const ItemKinds& kinds, ItemStore& 
   };
   units.BatDauBai = [this] { BatDauBai(); };
   lessons.BatDauChon = [this] { BatDauChon(); };
-  addToShell();
-}
-
-void Run::addToShell() {
-  const auto add = [this](Surface& surface, std::string_view pointerName, std::vector<Hint> hints,
-                          CloseRank closing, FocusRank focus) {
-    Shell& shell = services_.shell;
-    shell.pages.add({.surface = surface,
-                     .textFont = true,
-                     .font = FontStep::Same,
-                     .parked = Parked::BelowTheScreen,
-                     .pointerName = pointerName,
-                     .hints = std::move(hints)});
-    shell.gestures.onClose(closing, surface, [this, &surface](Surface&) { ThoatBT(surface); });
-    // Items that nothing is typed into get back what a look-up has taken from them.
-    shell.focusReturn.onReturnTo(focus, surface);
-  };
-  const auto judged = [this] { return item_.DaCham; };
-  add(controls_.RDT, "RDT",
-      {{{"chuột Trái (__) = đáp án; Chuột phải (__) = hướng dẫn"_x1,
-         "Chuột phải câu Anh = câu dịch; Chuột Trái\\Ctrl=Tra từ"_x1, "Gõ phím=Tra từ"_x1},
-        judged},
-       {{"Chuột Trái=Tra từ; Chuột phải=Xem câu dịch; Next=Qua câu mới"_x1,
-         "Enter=đáp án (Rồi Nhấn F2)"_x1, " Esc = thoát"_x1}}},
-      CloseRank::FillIn, FocusRank::FillIn);
-  add(controls_.RABCD, "RABCD",
-      {{{"Nhấn chuột Trái vào ( )=Xem đáp án; Nhấn chuột phải vào ( )=Xem hướng dẫn"_x1,
-         "Nhấn chuột phải vào câu Anh = Xem câu dịch"_x1}}},
-      CloseRank::Choice, FocusRank::Choice);
-  // It shares the fill-in's pointer; that is meant.
-  add(controls_.Rsai, "RDT",
-      {{{"Chuột Trái=Chọn câu; Chuột phải=Xem hướng dẫn"_x1,
-         "Nhấn chuột phải vào câu Anh = câu dịch; Chuột Trái\\Ctrl=Tra từ"_x1}}},
-      CloseRank::Mistake, FocusRank::Mistake);
 }
 
 // -- Making a run.

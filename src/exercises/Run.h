@@ -42,7 +42,6 @@ class Run {
   void declare(Variables& variables) const;
 
  private:
-  void addToShell();
   void BatDauChay();
   void TronCau();
   void append(int item);
