@@ -79,7 +79,7 @@ void Popup::VeNghia(const PopupContent& content) {
   RHD.Text("");
   RHD.SelBold(false);
   RHD.SelItalic(false);
-  RHD.SelColor(look::Black);
+  RHD.SelColor(look::popup::Text);
   if (content.message.empty()) {
     // A sentence's popup, which is dark, may still be up.
     RHD.BackColor(state_.measures.MauNenHD);
@@ -97,11 +97,11 @@ void Popup::VeMucTu(const PopupContent& content) {
   const auto rangeOf = [](EntrySpan span) {
     return TextRange{span.start, span.start + span.length};
   };
-  RHD.format({0, static_cast<int>(content.headLength)}, {.color = look::Red, .bold = true});
+  RHD.format({0, static_cast<int>(content.headLength)}, {.color = look::popup::Head, .bold = true});
   for (const EntrySpan& span : entry.blue)
-    RHD.format(rangeOf(span), {.color = look::Blue});
+    RHD.format(rangeOf(span), {.color = look::popup::Class});
   for (const EntrySpan& span : entry.redItalic)
-    RHD.format(rangeOf(span), {.color = look::Red, .italic = true});
+    RHD.format(rangeOf(span), {.color = look::popup::Example, .italic = true});
   CoHopNghia();
   VeKhung();
 }
@@ -122,7 +122,7 @@ void Popup::CoHopNghia() {
 void Popup::VeThongBao(const std::string& message) {
   writeMessage(message);
   VeKhung();
-  controls_.RHD.SelColor(look::Black);
+  controls_.RHD.SelColor(look::popup::Text);
 }
 
 int Popup::rightOfText() const {
@@ -139,8 +139,8 @@ void Popup::writeMessage(const std::string& message) {
   RHD.Text("");
   RHD.Width(form_.TextWidth(wrapped.firstLine) + form_.TextWidth("  "));
   RHD.Height(heightOf(wrapped.lines + 1));
-  RHD.BackColor(look::DarkPanel);
-  RHD.SelColor(look::PanelText);
+  RHD.BackColor(look::popup::MessagePaper);
+  RHD.SelColor(look::popup::MessageText);
   RHD.SelBold(state_.measures.largeScreen());
   RHD.SelText(message);
   RHD.SelStart(RHD.TextLength() - 1);

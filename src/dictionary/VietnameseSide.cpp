@@ -138,19 +138,19 @@ void VietnameseSide::writeEntry() {
   RDOS.Text("");
   RDOS.SelAlignment(Alignment::Centred);
   RDOS.SelFontSize(state_.measures.CoChu);
-  RDOS.SelColor(look::Red);
+  RDOS.SelColor(look::popup::Head);
   for (const char character : state_.word.NghiaD) {
     switch (character) {
     case '~':
-      RDOS.SelColor(look::Black);
+      RDOS.SelColor(look::popup::Text);
       RDOS.SelText(' ');
       break;
     case '<':
       RDOS.SelText('<');
-      RDOS.SelColor(look::Blue);
+      RDOS.SelColor(look::popup::Class);
       break;
     case '>':
-      RDOS.SelColor(look::Black);
+      RDOS.SelColor(look::popup::Text);
       RDOS.SelText('>');
       break;
     default:

@@ -16,7 +16,7 @@ Messages::Messages(Form& form, Controls& controls, Pages& pages, const Measures&
              .textFont = true,
              .font = FontStep::Smaller,
              .parked = Parked::BelowTheScreen,
-             .paper = look::Box,
+             .paper = look::popup::Paper,
              .pointerName = controls_.RHD.Name(),
              .explains = true,
              .hints = {{{"Chuột phải/Esc=thoát; Nhấp chuột=Tra từ"_x1,
@@ -29,7 +29,7 @@ void Messages::ThongBao(std::string_view text, int ms) {
   if (RHD.Visible()) upward_.DongNghia();
   RHD.Text("");
   RHD.SelAlignment(Alignment::Centred);
-  RHD.SelColor(0);
+  RHD.SelColor(look::popup::Text);
   RHD.SelText("\r" + std::string(text) + "\r");
   RHD.SelStart(0);
   RHD.Top(measures_.CaoMH / 3);

@@ -10,7 +10,7 @@ void fitRedPlate(Surface& plate, const Surface& box, const Measures& measures, P
   const double H = measures.CaoMH;
   const int left = Round(2 * W / 400);
   const int right = 2 * Round(2 * W / (rim == PlateRim::Even ? 400 : 350)) - left;
-  plate.BackColor(look::Red);
+  plate.BackColor(look::popup::Plate);
   plate.Text(" ");
   plate.Height(box.Height() + Round(2 * H / 100));
   plate.Width(box.Width() + left + right);

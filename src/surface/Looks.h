@@ -25,3 +25,17 @@ inline constexpr Colour Curtain = 0x400000;
 inline constexpr double BodyIndent = 285.1654;
 
 } // namespace talvora::look
+
+/// The dictionary's popup, and an entry of the Vietnamese side in the hint bar.
+namespace talvora::look::popup {
+
+inline constexpr Colour Paper = Box;
+inline constexpr Colour Plate = Red; ///< of what explains, too
+inline constexpr Colour Text = Black;
+inline constexpr Colour Head = Red;   ///< the word looked up
+inline constexpr Colour Class = Blue; ///< a word class; the base of a form
+inline constexpr Colour Example = Red;
+inline constexpr Colour MessagePaper = DarkPanel;
+inline constexpr Colour MessageText = PanelText;
+
+} // namespace talvora::look::popup
