@@ -8,6 +8,8 @@
 #include "text/Vietnamese.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace talvora {
 
@@ -27,46 +29,16 @@ Reading::Reading(ReadingControls& controls, SharedState& state, Stores& stores, 
       own_(own), text_(stores, state.text), page_(controls, state, shell, services, text_, clock),
       vocabulary_(controls, state, stores, shell, services, text_, own.words) {
   wireEvents();
+  addToShell();
 }
 
 void Reading::wireEvents() {
   Surface& R1 = controls_.R1;
-  R1.KeyDown = [this, &R1](int& KeyCode, int) {
-    shell_.hints.showOnF2(KeyCode, R1);
-    if (KeyCode != key::Right && KeyCode != key::Left) return;
-    if (KeyCode == key::Right) {
-      jumpToNextHeading();
-    } else {
-      jumpToPreviousHeading();
-    }
-    // The surface's own step would take the caret off the heading again.
-    KeyCode = 0;
-  };
-  R1.KeyUp = [this, &R1](int& KeyCode, int) {
-    shell_.gestures.keyReleased();
-    switch (KeyCode) {
-    case key::Up:
-    case key::Down:
-    case key::PgUp:
-    case key::PgDn:
-    case key::Home:
-    case key::End:
-      ChonDongR1(R1);
-      break;
-    default:
-      break;
-    }
-  };
-  R1.KeyPress = [this](int& KeyAscii) {
-    const int pressed = KeyAscii;
-    KeyAscii = 0;
-    if (pressed == key::Esc) pressEsc();
-    if (pressed == key::Enter) openLine();
-    if (Letters.has(chr(pressed))) services_.dictionary.MoDanhSachTu(chr(pressed));
-  };
+  R1.KeyDown = [this](int& KeyCode, int) { pressKey(KeyCode); };
+  R1.KeyUp = [this](int& KeyCode, int) { releaseKey(KeyCode); };
+  R1.KeyPress = [this](int& KeyAscii) { pressCharacter(std::exchange(KeyAscii, 0)); };
   R1.MouseMove = [this, &R1](int, SurfacePoint at) { shell_.gestures.pointerMoved(R1, at); };
   R1.MouseUp = [this](MouseButton button, int, SurfacePoint) { releaseMouse(button); };
-  addToShell();
   page_.leave = [this] { ExitR2(); };
   page_.ThemTuVung = [this] { vocabulary_.ThemTuVung(); };
   vocabulary_.ensureListBuilt = [this] {
@@ -304,6 +276,30 @@ bool Reading::lineOpens() const {
 
 void Reading::openLine() {
   if (lineOpens()) GoiR2();
+}
+
+void Reading::pressKey(int& keyCode) {
+  shell_.hints.showOnF2(keyCode, controls_.R1);
+  if (keyCode != key::Right && keyCode != key::Left) return;
+  if (keyCode == key::Right) {
+    jumpToNextHeading();
+  } else {
+    jumpToPreviousHeading();
+  }
+  // The surface's own step would take the caret off the heading again.
+  keyCode = 0;
+}
+
+void Reading::releaseKey(int keyCode) {
+  shell_.gestures.keyReleased();
+  constexpr std::array moves = {key::Up, key::Down, key::PgUp, key::PgDn, key::Home, key::End};
+  if (std::find(moves.begin(), moves.end(), keyCode) != moves.end()) ChonDongR1(controls_.R1);
+}
+
+void Reading::pressCharacter(int pressed) {
+  if (pressed == key::Esc) pressEsc();
+  if (pressed == key::Enter) openLine();
+  if (Letters.has(chr(pressed))) services_.dictionary.MoDanhSachTu(chr(pressed));
 }
 
 void Reading::pressEsc() {

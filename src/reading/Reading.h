@@ -67,6 +67,9 @@ class Reading {
   /// Opens the recording of a listening script.
   void openVoice();
   void openLine();
+  void pressKey(int& keyCode);
+  void releaseKey(int keyCode);
+  void pressCharacter(int pressed);
   void pressEsc();
   void releaseMouse(MouseButton button);
 
