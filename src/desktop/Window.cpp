@@ -77,11 +77,23 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   announcer_ = new Announcer(this); // NOLINT: Qt owns it
   announcer_->setGeometry(0, 0, 1, 1);
   announcer_->lower();
+  connectStrip();
+  connectView();
+  connectMachine();
+  connectInput();
+}
+
+void Window::connectStrip() {
+  machine_.gate.neverHold(*strip_);
   strip_->closeWindow = [this] { askToClose(); };
   strip_->goBack = [this] { sendStroke(Qt::Key_Escape); };
   strip_->showHint = [this] { sendStroke(Qt::Key_F2); };
   strip_->minimiseWindow = [this] { showMinimized(); };
-  machine.gate.neverHold(*strip_);
+  strip_->told = [this](const QString& text) { announcer_->tell(text); };
+  strip_->setHintTip(shown(allKeyHelp()));
+}
+
+void Window::connectView() {
   view_->onCaptionChanged = [this] {
     strip_->setCaption(
         QString::fromStdU16String(toUnicode(program_.form().Caption(), Encoding::Windows1252)));
@@ -98,7 +110,10 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
           this, [this] { settleHover(); }, Qt::QueuedConnection);
     }
   };
-  connectMachine();
+  view_->onSettled = [this] { strip_->setHelp(shown(keyHelp(program_.form()))); };
+  view_->onCameUp = [this](const Surface& surface) {
+    if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
+  };
 }
 
 void Window::connectMachine() {
@@ -116,13 +131,10 @@ void Window::connectMachine() {
   machine_.boxes.opening = [this] { program_.input().endPress(); };
   machine_.narrator.sign = [this](const QString& text) { strip_->notice(text); };
   machine_.narrator.say = [this](const QString& text) { announcer_->tell(text); };
-  strip_->setHintTip(shown(allKeyHelp()));
-  view_->onSettled = [this] { strip_->setHelp(shown(keyHelp(program_.form()))); };
-  strip_->told = [this](const QString& text) { announcer_->tell(text); };
-  view_->onCameUp = [this](const Surface& surface) {
-    if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
-  };
   machine_.events.programRuns = [this] { return program_.running() && !bridge_.failed(); };
+}
+
+void Window::connectInput() {
   DesktopInput& input = machine_.input;
   input.toGlobal = [this](PixelPoint point) {
     return mapToGlobal((origin_ + QPointF(point.x, point.y) * scale_).toPoint());
@@ -137,12 +149,12 @@ void Window::connectMachine() {
       program_.input().deliver(event, shiftDown());
     });
   };
+  input.moveTo = [this](PixelPoint at) {
+    bridge_.deliver([&] { program_.input().deliverMove(virtualScreen().toForm(at), shiftDown()); });
+  };
   mouseKeys_.movePointer = [this](PixelPoint at) {
     machine_.input.SetCursorPos(at);
     machine_.input.pointerCame(at);
-  };
-  input.moveTo = [this](PixelPoint at) {
-    bridge_.deliver([&] { program_.input().deliverMove(virtualScreen().toForm(at), shiftDown()); });
   };
 }
 

@@ -47,7 +47,10 @@ class Window final : public QWidget {
   bool focusNextPrevChild(bool) override { return false; }
 
  private:
+  void connectStrip();
+  void connectView();
   void connectMachine();
+  void connectInput();
   /// Paints at once what has changed; the first time it brings the window up.
   void refresh();
   void showOnScreen();
