@@ -61,6 +61,30 @@ TEST_F(OpenPage, AClickLooksAWordUpAndSavesPointerAndCaret) {
   EXPECT_THAT(spoken(), testing::ElementsAre("bank", "bank"));
 }
 
+TEST_F(OpenPage, AClickTellsThePageOfFourThings) {
+  int told = 0;
+  const auto count = [&told](auto& event) {
+    if (!event) return;
+    event = [&told, before = event](auto&&... values) {
+      ++told;
+      before(values...);
+    };
+  };
+  count(R2.MouseMove);
+  count(R2.MouseDown);
+  count(R2.MouseUp);
+  count(R2.Click);
+  Notification before = R2.SelChange;
+  R2.SelChange = [&] {
+    ++told;
+    before.tell();
+  };
+  clickWord("bank");
+  // The pointer's move, the caret that the press places, the release, the word that it takes.
+  EXPECT_EQ(told, 4);
+  EXPECT_EQ(R2.SelText(), "bank");
+}
+
 TEST_F(OpenPage, AClickWithoutAWordDoesNothing) {
   // The blank behind the point of a sentence that goes on.
   run.click(R2, static_cast<int>(R2.Text().find("now.")) + 4);
