@@ -34,7 +34,7 @@ ControlView* makeChild(Arguments&&... arguments) {
 FormView::FormView(Form& form, FormInput& input, EventBridge& bridge, QtLineLayout& layout,
                    QWidget* parent)
     : QWidget(parent), form_(form), input_(input), bridge_(bridge), layout_(layout),
-      mouse_(input, bridge), scrollMouse_(bridge) {
+      mouse_(input, bridge), scrollMouse_(bridge), cameUp_(form) {
   scrollMouse_.viewAt = [this](QPointF point) { return barAt(point); };
   setFocusPolicy(Qt::NoFocus);
   setMouseTracking(true);
@@ -108,23 +108,10 @@ void FormView::settle() {
   if (std::exchange(focusMoved_, false) && focus_ != nullptr) {
     if (ControlView* const view = viewOf(*focus_)) tellFocus(*view);
   }
-  tellWhatCameUp();
+  for (const Surface* surface : cameUp_.sinceLast())
+    onCameUp(*surface);
   updateCursor();
   onSettled();
-}
-
-void FormView::tellWhatCameUp() {
-  for (const char* name : {"RHD", "RHDBT", "RDOS"}) {
-    const auto* const surface = as<Surface>(form_.find(name));
-    if (surface == nullptr) continue;
-    if (!surface->Visible()) {
-      cameUp_.erase(surface);
-      continue;
-    }
-    const auto [told, isNew] = cameUp_.try_emplace(surface, surface->revision());
-    if (!isNew && std::exchange(told->second, surface->revision()) == surface->revision()) continue;
-    onCameUp(*surface);
-  }
 }
 
 void FormView::showForm() {

@@ -8,11 +8,11 @@
 #include "desktop/FormMouse.h"
 #include "desktop/QtLineLayout.h"
 #include "desktop/ScrollMouse.h"
+#include "fronts/CameUp.h"
 #include "surface/Form.h"
 
 #include <QWidget>
 
-#include <cstdint>
 #include <functional>
 #include <unordered_map>
 #include <unordered_set>
@@ -69,7 +69,6 @@ class FormView final : public QWidget, public FormObserver {
   /// Brings the widgets in line with their controls and marks what is to be painted.
   void settle();
   void settlePlace(Control& control);
-  void tellWhatCameUp();
   void showForm();
   [[nodiscard]] ControlView* viewOf(const Control& control) const;
   ControlView& makeView(Control& control);
@@ -97,7 +96,7 @@ class FormView final : public QWidget, public FormObserver {
   std::unordered_map<const Control*, ControlView*> views_; ///< owned by this widget
   std::unordered_set<Control*> moved_;
   std::unordered_set<const Control*> changed_;
-  std::unordered_map<const Surface*, std::uint64_t> cameUp_; ///< told, with their revisions
+  CameUp cameUp_;
 };
 
 } // namespace talvora

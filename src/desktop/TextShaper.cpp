@@ -2,6 +2,7 @@
 
 #include "desktop/Fonts.h"
 #include "desktop/Palette.h"
+#include "fronts/TextMeasures.h"
 #include "text/GlyphMap.h"
 
 #include <QFontMetricsF>
@@ -13,16 +14,6 @@
 namespace talvora {
 
 namespace {
-
-constexpr int Margin = 120;           ///< twips at either edge of a surface
-constexpr int ScrollMarkRoom = 120;   ///< twips more at the right, which the scroll mark needs
-constexpr int BulletIndent = 360;     ///< twips from the bullet's place to the text
-constexpr double BulletRadius = 0.13; ///< in heights of a line
-constexpr int TabCharacters = 4;
-constexpr char16_t NoWidth = u'\u200B';    ///< a line may break here
-constexpr char16_t JoinsWords = u'\u2060'; ///< nothing to see, and no line breaks here
-/// The same in a face that has it, so that no other face adds its height to the line.
-constexpr char16_t NothingToSee = u'\u200D';
 
 /// A mark of a sentence stands beside the blank that is to be seen, ahead of a title or behind a
 /// tab: it takes no room there. Between two letters it is the only gap.
@@ -73,7 +64,7 @@ Qt::Alignment alignmentOf(Alignment alignment) {
 
 /// Where the lines of a paragraph begin, in twips.
 double leftOf(const ParagraphView& paragraph) {
-  return Margin + paragraph.style.indent + (paragraph.style.bullet ? BulletIndent : 0);
+  return TextMargin + paragraph.style.indent + (paragraph.style.bullet ? BulletIndent : 0);
 }
 
 } // namespace
@@ -95,7 +86,7 @@ double ShapedParagraph::tabDistance(const FontSpec& font) {
 
 double ShapedParagraph::roomOf(const ParagraphView& paragraph) {
   const bool centred = paragraph.style.align == Alignment::Centred;
-  const double right = centred ? Margin : Margin + ScrollMarkRoom;
+  const double right = centred ? TextMargin : TextMargin + ScrollMarkRoom;
   return std::max(1.0, paragraph.width - right - leftOf(paragraph));
 }
 
@@ -140,7 +131,7 @@ void ShapedParagraph::breakLines(const ParagraphView& paragraph) {
 void ShapedParagraph::placeLines(const ParagraphView& paragraph) {
   const double left = leftOf(paragraph);
   const double room = roomOf(paragraph);
-  bulletX_ = Margin + paragraph.style.indent + BulletIndent / 2.0;
+  bulletX_ = TextMargin + paragraph.style.indent + BulletIndent / 2.0;
   shape_ = {};
   layout_.beginLayout();
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {

@@ -9,11 +9,6 @@ namespace talvora::web {
 
 namespace {
 
-constexpr int Margin = 120;           ///< twips at either edge of a surface
-constexpr int ScrollMarkRoom = 120;   ///< twips more at the right, which the scroll mark needs
-constexpr int BulletIndent = 360;     ///< twips from the bullet's place to the text
-constexpr double BulletRadius = 0.13; ///< in heights of a line
-constexpr int TabCharacters = 4;
 /// A trace of room that keeps letters apart which a face would draw as one.
 constexpr Fine Apart = 3;
 
@@ -181,10 +176,10 @@ std::pair<std::size_t, Fine> Paragraph::lineFrom(std::size_t from, Fine room) {
 }
 
 void Paragraph::breakLines(const ParagraphView& view) {
-  const double start = Margin + view.style.indent;
+  const double start = TextMargin + view.style.indent;
   const double left = start + (bullet_ ? BulletIndent : 0);
   const bool centred = view.style.align == Alignment::Centred;
-  const double right = centred ? Margin : Margin + ScrollMarkRoom;
+  const double right = centred ? TextMargin : TextMargin + ScrollMarkRoom;
   const Fine room = fine(std::max(1.0, view.width - right - left));
   bulletX_ = start + BulletIndent / 2.0;
   shape_ = {};

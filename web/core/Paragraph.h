@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Faces.h"
+#include "fronts/TextMeasures.h"
 #include "platform/LineLayout.h"
 
 #include <cstdint>
@@ -15,11 +16,6 @@ namespace talvora::web {
 /// The letters that bytes show in a font, exactly one UTF-16 unit a byte: what a byte adds to the
 /// letter of another one, or does not show at all, becomes a unit without width.
 [[nodiscard]] std::u16string unitsOf(std::string_view bytes, std::string_view fontName);
-
-/// Units without width.
-inline constexpr char16_t NoWidth = u'\u200B';      ///< a line may break here
-inline constexpr char16_t JoinsWords = u'\u2060';   ///< no line breaks here
-inline constexpr char16_t NothingToSee = u'\u200D'; ///< a mark of a sentence beside a gap
 
 /// A rectangle in twips from the surface's left edge and the paragraph's top edge.
 struct Box {

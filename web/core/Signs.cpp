@@ -46,7 +46,8 @@ void Signs::send() {
   if (!form_.Visible()) return;
   sendPointer();
   sendHelp();
-  sayWhatCameUp();
+  for (const Surface* surface : cameUp_.sinceLast())
+    sendText("say", lettersOf(*surface));
 }
 
 void Signs::sendPointer() {
@@ -60,20 +61,6 @@ void Signs::sendPointer() {
 void Signs::sendHelp() {
   const std::u16string help(keyHelp(form_));
   if (std::exchange(help_, help) != help) sendText("help", help);
-}
-
-void Signs::sayWhatCameUp() {
-  for (const char* name : {"RHD", "RHDBT", "RDOS"}) {
-    const auto* const surface = as<Surface>(form_.find(name));
-    if (surface == nullptr) continue;
-    if (!surface->Visible()) {
-      cameUp_.erase(surface);
-      continue;
-    }
-    const auto [told, isNew] = cameUp_.try_emplace(surface, surface->revision());
-    if (!isNew && std::exchange(told->second, surface->revision()) == surface->revision()) continue;
-    sendText("say", lettersOf(*surface));
-  }
 }
 
 } // namespace talvora::web

@@ -2,17 +2,16 @@
 // strip, and what came up, for those who do not see it.
 #pragma once
 
+#include "fronts/CameUp.h"
 #include "surface/FormInput.h"
 
-#include <cstdint>
-#include <map>
 #include <string>
 
 namespace talvora::web {
 
 class Signs {
  public:
-  Signs(Form& form, FormInput& input) : form_(form), input_(input) {}
+  Signs(Form& form, FormInput& input) : form_(form), input_(input), cameUp_(form) {}
 
   /// Tells the page what has changed since this was last called.
   void send();
@@ -20,13 +19,12 @@ class Signs {
  private:
   void sendPointer();
   void sendHelp();
-  void sayWhatCameUp();
 
   Form& form_;
   FormInput& input_;
   std::string pointer_;
   std::u16string help_;
-  std::map<const Surface*, std::uint64_t> cameUp_; ///< the revision that was told
+  CameUp cameUp_;
 };
 
 } // namespace talvora::web
