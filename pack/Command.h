@@ -48,6 +48,7 @@ void showStep(std::string_view step);
 [[nodiscard]] std::unique_ptr<Command> showCommand(CLI::App& application);
 [[nodiscard]] std::unique_ptr<Command> dumpCommand(CLI::App& application);
 [[nodiscard]] std::unique_ptr<Command> wordsCommand(CLI::App& application);
+[[nodiscard]] std::unique_ptr<Command> folderCommand(CLI::App& application);
 [[nodiscard]] std::unique_ptr<Command> importCommand(CLI::App& application);
 [[nodiscard]] std::unique_ptr<Command> newCommand(CLI::App& application);
 [[nodiscard]] std::unique_ptr<Command> textCommand(CLI::App& application);

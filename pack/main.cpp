@@ -60,7 +60,8 @@ int run(int argumentCount, char** arguments) {
       buildCommand(application),  checkCommand(application),    showCommand(application),
       dumpCommand(application),   compressCommand(application), wordsCommand(application),
       importCommand(application), newCommand(application),      textCommand(application),
-      statusCommand(application), planCommand(application),     phonesCommand(application)};
+      statusCommand(application), planCommand(application),     phonesCommand(application),
+      folderCommand(application)};
   try {
     application.parse(argumentCount, arguments);
   } catch (const CLI::ParseError& error) {

@@ -22,6 +22,7 @@ enum class EventKind {
   Close,    ///< the learner wants the program closed
   Hidden,   ///< the page may be gone soon
   Blur,     ///< another window gets the keys
+  Carry,    ///< what the learner owns is wanted, written down to the last word
 };
 
 struct Event {

@@ -72,6 +72,10 @@ void Router::deliver(const Event& event) {
   case EventKind::Blur:
     form.endPress();
     break;
+  case EventKind::Carry:
+    program_.keep();
+    tellPage(R"({"do":"kept"})");
+    break;
   case EventKind::Answer:
     break;
   }

@@ -7,7 +7,7 @@ const RetryMs = 2000;
 
 /**
  * @param {import('./pack.js').Entry} entry
- * @param {SharedArrayBuffer} content
+ * @param {ArrayBufferLike} content
  * @param {(bytes: number) => void} came
  */
 async function fetchOne(entry, content, came) {
@@ -34,18 +34,22 @@ async function fetchOne(entry, content, came) {
   if (at !== entry.size) throw new Error(`${entry.file}: cut short`);
 }
 
-/** @param {import('./pack.js').Pack} pack @param {number} stage */
-async function fetchStage({ entries, contents, arrived }, stage) {
+/** @typedef {import('./pack.js').Pack & {port?: MessagePort}} Order */
+
+/** @param {Order} order @param {number} stage */
+async function fetchStage({ entries, contents, arrived, port }, stage) {
   const signs = new Int32Array(arrived);
   const wanted = entries.map((_, file) => file).filter((file) => entries[file].stage === stage);
   const all = wanted.reduce((sum, file) => sum + entries[file].packed, 0);
   let came = 0;
   /** @param {number} file */
   const fetchFile = async (file) => {
+    // What is not shared is sent.
+    const content = contents[file] ?? new ArrayBuffer(entries[file].size);
     for (let there = false; !there;) {
       let its = 0;
       try {
-        await fetchOne(entries[file], contents[file], (bytes) => {
+        await fetchOne(entries[file], content, (bytes) => {
           its += bytes;
           came += bytes;
           postMessage({ do: 'progress', stage, part: Math.min(1, came / all) });
@@ -60,11 +64,12 @@ async function fetchStage({ entries, contents, arrived }, stage) {
     }
     Atomics.store(signs, file, 1);
     Atomics.notify(signs, file);
+    port?.postMessage({ file, bytes: new Uint8Array(content) });
   };
   await Promise.all(wanted.map(fetchFile));
 }
 
-/** @param {import('./pack.js').Pack} pack */
+/** @param {Order} pack */
 async function fetchAll(pack) {
   for (const stage of [Stage.First, Stage.Late, Stage.Kept]) await fetchStage(pack, stage);
   await dropOthers(pack.entries.map(({ file }) => file));

@@ -1,4 +1,6 @@
 // The page: starts the worker, paints what it tells, and tells it what the learner does.
+import { canSuspend } from './alone.js';
+import { Carry } from './carry.js';
 import { FormView } from './form.js';
 import { Input } from './input.js';
 import { Stage, openPack } from './pack.js';
@@ -75,9 +77,11 @@ function showEnd(text) {
 
 /** @param {import('./pack.js').Pack} pack */
 function start(pack) {
-  const ring = makeRing();
-  const events = new Int32Array(ring);
-  const sounds = new SharedArrayBuffer(Sounds.All * Int32Array.BYTES_PER_ELEMENT);
+  const sharing = globalThis.crossOriginIsolated;
+  const ring = sharing ? makeRing() : undefined;
+  const events = ring && new Int32Array(ring);
+  const soundsSize = Sounds.All * Int32Array.BYTES_PER_ELEMENT;
+  const sounds = sharing ? new SharedArrayBuffer(soundsSize) : new ArrayBuffer(soundsSize);
   const worker = new Worker(new URL('worker.js', import.meta.url), { type: 'module' });
   const fetcher = new Worker(new URL('fetcher.js', import.meta.url), { type: 'module' });
   const waiting = byId('waiting');
@@ -91,15 +95,25 @@ function start(pack) {
   };
   /** @param {number[]} event */
   const tell = (event) => {
-    put(events, event);
-    worker.postMessage({ do: 'wake' });
+    if (events !== undefined) put(events, event);
+    worker.postMessage(sharing ? { do: 'wake' } : { do: 'wake', event });
   };
   const view = new FormView(byId('form'));
   const input = new Input(stage, tell, () => place);
-  const sound = new Sound(sounds, pack.entries);
+  const sound = new Sound(
+    sounds,
+    pack.entries,
+    sharing ? undefined : (place, turn) => worker.postMessage({ do: 'sounded', place, turn }),
+  );
   const strip = new Strip(announce);
   const box = /** @type {HTMLDialogElement} */ (byId('box'));
-  input.open = () => !box.open;
+  /** @type {(files: Map<string, Uint8Array>) => void} */
+  let kept = () => {};
+  const carry = new Carry(() => {
+    tell([Kind.Carry]);
+    return new Promise((resolve) => (kept = resolve));
+  });
+  input.open = () => !box.open && !carry.dialog.open;
   /** @param {number} answer */
   const answer = (answer) => {
     box.close();
@@ -155,6 +169,9 @@ function start(pack) {
       case 'notKept':
         strip.warn('Trình duyệt không cho lưu: từ vựng sẽ mất khi đóng trang.');
         break;
+      case 'kept':
+        kept(data.files);
+        break;
       case 'ask':
         showBox(data, true);
         break;
@@ -187,8 +204,9 @@ function start(pack) {
     }
   };
   worker.onerror = (fault) => showEnd(`Chương trình gặp lỗi nên phải dừng lại. ${fault.message}`);
-  worker.postMessage({ do: 'begin', ring, sounds, pack, ...screen });
-  fetcher.postMessage(pack);
+  const { port1, port2 } = new MessageChannel();
+  worker.postMessage({ do: 'begin', ring, port: port1, sounds, pack, ...screen }, [port1]);
+  fetcher.postMessage({ ...pack, port: sharing ? undefined : port2 }, sharing ? [] : [port2]);
 }
 
 /**
@@ -229,11 +247,15 @@ async function main() {
   addEventListener('resize', arrange);
   if (globalThis.crossOriginIsolated) {
     void startAlone();
-  } else if (navigator.serviceWorker?.controller === null) {
-    // The service worker adds what the memory that page and program share needs.
-    await navigator.serviceWorker.register('service.js').catch(() => undefined);
-    navigator.serviceWorker.addEventListener('controllerchange', () => location.reload());
-    await navigator.serviceWorker.ready;
+    return;
+  }
+  // The service worker adds what the memory that page and program share needs.
+  const workers = navigator.serviceWorker;
+  const registered = await workers?.register('service.js').catch(() => undefined);
+  if (registered !== undefined && workers.controller === null) {
+    workers.addEventListener('controllerchange', () => location.reload());
+  } else if (canSuspend()) {
+    void startAlone();
   } else {
     showEnd('Trình duyệt này không cho Talvora chạy.');
   }

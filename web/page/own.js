@@ -4,6 +4,7 @@
 // Of the two logs one counts; it is written anew into the other when it has grown.
 
 const LogNames = ['log-0', 'log-1'];
+const Incoming = 'incoming';
 const Magic = 0x314c5654;
 const HeaderSize = 12; // magic, generation, checksum
 const RecordHead = 16; // kind, length of the name, number, length of the data
@@ -25,6 +26,8 @@ const Deed = Object.freeze({ Create: 1, Write: 2, Truncate: 3, Rename: 4, Remove
  * @property {() => number} getSize
  * @property {() => void} flush
  */
+
+const Nothing = new Uint8Array(0);
 
 /** Bytes that grow. */
 class Content {
@@ -54,8 +57,9 @@ class Content {
 
 /** A place in memory, for browsers that keep nothing: what is in it goes with the page. */
 export class MemoryPlace {
-  constructor() {
+  constructor(bytes = Nothing) {
     this.content = new Content();
+    this.content.write(0, bytes);
   }
   /** @param {Uint8Array} into @param {{at: number}} options */
   read(into, { at }) {
@@ -123,8 +127,6 @@ function generationOf(bytes) {
   const whole = numbers.getInt32(8, true) === checksum(bytes.subarray(0, 8));
   return whole && numbers.getUint32(0, true) === Magic ? numbers.getUint32(4, true) : 0;
 }
-
-const Nothing = new Uint8Array(0);
 
 export class OwnFiles {
   /** @param {Place[]} logs two of them */
@@ -308,6 +310,11 @@ export class OwnFiles {
   list() {
     return [...this.files.keys()];
   }
+
+  /** All files as they are now. */
+  copy() {
+    return new Map([...this.files].map(([name, { bytes }]) => [name, bytes.slice()]));
+  }
 }
 
 /**
@@ -326,18 +333,46 @@ async function openLog(file) {
   }
 }
 
+const folderOfLearner = async () =>
+  (await navigator.storage.getDirectory()).getDirectoryHandle('learner', { create: true });
+
+/**
+ * Keeps files that are to be the learner's when the page is loaded anew: all of them or none.
+ * @param {Map<string, Uint8Array>} files
+ */
+export async function keepIncoming(files) {
+  const logs = [new MemoryPlace(), new MemoryPlace()];
+  const own = new OwnFiles(logs);
+  own.rewrite(new Map([...files].map(([name, bytes]) => [name, { bytes }])));
+  const file = await (await folderOfLearner()).getFileHandle(Incoming, { create: true });
+  const writable = await file.createWritable();
+  await writable.write(logs[own.current].content.bytes);
+  await writable.close();
+}
+
+/** Takes over what was kept so. @param {OwnFiles} own @param {FileSystemDirectoryHandle} folder */
+async function takeIncoming(own, folder) {
+  const file = await folder.getFileHandle(Incoming).catch(() => undefined);
+  if (file === undefined) return;
+  const log = new MemoryPlace(new Uint8Array(await (await file.getFile()).arrayBuffer()));
+  const came = generationOf(log.content.bytes) > 0;
+  if (came && own.rewrite(new OwnFiles([log, new MemoryPlace()]).files) < 0) return;
+  await folder.removeEntry(Incoming);
+}
+
 /**
  * Opens the learner's files; without a store that keeps them they live as long as the page.
  * @returns {Promise<{files: OwnFiles, kept: boolean}>}
  */
 export async function openOwnFiles() {
   try {
-    const root = await navigator.storage.getDirectory();
-    const folder = await root.getDirectoryHandle('learner', { create: true });
+    const folder = await folderOfLearner();
     const logs = await Promise.all(
       LogNames.map(async (name) => openLog(await folder.getFileHandle(name, { create: true }))),
     );
-    return { files: new OwnFiles(logs), kept: true };
+    const files = new OwnFiles(logs);
+    await takeIncoming(files, folder);
+    return { files, kept: true };
   } catch {
     return { files: new OwnFiles([new MemoryPlace(), new MemoryPlace()]), kept: false };
   }

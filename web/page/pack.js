@@ -8,9 +8,9 @@ export const Stage = Object.freeze({ First: 0, Late: 1, Kept: 2 });
 /**
  * @typedef {object} Pack
  * @property {Entry[]} entries
- * @property {SharedArrayBuffer[]} contents of the files, in the order of the entries; nothing for those
- *   that are only kept
- * @property {SharedArrayBuffer} arrived a number a file: 1 when it is there
+ * @property {SharedArrayBuffer[]} contents of the files, in the order of the entries, where there is
+ *   memory to share; nothing for those that are only kept
+ * @property {ArrayBufferLike} arrived a number a file: 1 when it is there
  */
 
 /** Reads what the pack has and makes room for it. @returns {Promise<Pack>} */
@@ -19,12 +19,14 @@ export async function openPack() {
   if (!reply.ok) throw new Error(`pack/pack.json: ${reply.status}`);
   /** @type {Entry[]} */
   const entries = await reply.json();
+  const numbers = entries.length * Int32Array.BYTES_PER_ELEMENT;
+  if (!globalThis.crossOriginIsolated)
+    return { entries, contents: [], arrived: new ArrayBuffer(numbers) };
+  const sizes = entries.map(({ size, stage }) => (stage === Stage.Kept ? 0 : size));
   return {
     entries,
-    contents: entries.map(
-      ({ size, stage }) => new SharedArrayBuffer(stage === Stage.Kept ? 0 : size),
-    ),
-    arrived: new SharedArrayBuffer(entries.length * Int32Array.BYTES_PER_ELEMENT),
+    contents: sizes.map((size) => new SharedArrayBuffer(size)),
+    arrived: new SharedArrayBuffer(numbers),
   };
 }
 

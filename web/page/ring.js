@@ -18,6 +18,7 @@ export const Kind = Object.freeze({
   Close: 8,
   Hidden: 9,
   Blur: 10,
+  Carry: 11,
 });
 
 /** Places of what sounds, in memory of their own. */
@@ -73,4 +74,42 @@ export function wait(ring, ms) {
   const taken = Atomics.load(ring, Taken);
   if (taken !== Atomics.load(ring, Written)) return;
   Atomics.wait(ring, Written, taken, ms < 0 ? Infinity : ms);
+}
+
+/**
+ * Counts what sounds, at once, so that the program hears of it before the page has it.
+ * @param {Int32Array} sounds
+ * @param {any} message
+ */
+export function noteSound(sounds, message) {
+  switch (message.do) {
+    case 'speak':
+      Atomics.add(sounds, Sounds.Speaking, 1);
+      message.turn = Atomics.load(sounds, Sounds.SpeechTurn);
+      break;
+    case 'hush':
+      Atomics.add(sounds, Sounds.SpeechTurn, 1);
+      Atomics.store(sounds, Sounds.Speaking, 0);
+      break;
+    case 'playWave':
+      message.turn = Atomics.add(sounds, Sounds.WaveTurn, 1) + 1;
+      Atomics.store(sounds, Sounds.Playing, 1);
+      break;
+    case 'stopWave':
+    case 'closeWave':
+      Atomics.add(sounds, Sounds.WaveTurn, 1);
+      Atomics.store(sounds, Sounds.Playing, 0);
+      break;
+  }
+}
+
+/**
+ * Takes note that something has ended, unless it was stopped before.
+ * @param {Int32Array} sounds
+ * @param {number} place
+ * @param {number} turn
+ */
+export function endSound(sounds, place, turn) {
+  const its = place === Sounds.Speaking ? Sounds.SpeechTurn : Sounds.WaveTurn;
+  if (Atomics.load(sounds, its) === turn) Atomics.sub(sounds, place, 1);
 }

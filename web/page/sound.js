@@ -1,18 +1,21 @@
 // What is heard: speech, which a worker makes, and recordings. What still sounds is answered by the
 // clock: a device that is not there, or may not be used before the learner has touched the page,
 // changes nothing but that nothing is heard.
-import { Sounds } from './ring.js';
+import { Sounds, endSound, noteSound } from './ring.js';
 import { replyOf } from './store.js';
 
 const RecordingRate = 16_000;
 
 export class Sound {
   /**
-   * @param {SharedArrayBuffer} sounds how much is being spoken, and whether a recording plays
+   * @param {ArrayBufferLike} sounds how much is being spoken, and whether a recording plays
    * @param {import('./pack.js').Entry[]} entries of the pack
+   * @param {((place: number, turn: number) => void) | undefined} onEnd called where that is not seen by
+   *   all, when something has ended
    */
-  constructor(sounds, entries) {
+  constructor(sounds, entries, onEnd) {
     this.sounds = sounds;
+    this.onEnd = onEnd;
     this.state = new Int32Array(sounds);
     this.entries = entries;
     /** @type {AudioContext | undefined} */
@@ -52,6 +55,7 @@ export class Sound {
 
   /** @param {any} message */
   take(message) {
+    if (this.onEnd !== undefined) noteSound(this.state, message);
     if (message.do === 'speak') {
       this.prepare();
       this.speaker?.postMessage(message);
@@ -60,6 +64,12 @@ export class Sound {
     if (message.do === 'openWave') this.recording = this.open(message.file);
     if (message.do === 'playWave') void this.play(message);
     if (message.do === 'stopWave' || message.do === 'closeWave') this.stopRecording();
+  }
+
+  /** @param {number} place @param {number} turn */
+  end(place, turn) {
+    endSound(this.state, place, turn);
+    this.onEnd?.(place, turn);
   }
 
   // -- Speech.
@@ -91,9 +101,7 @@ export class Sound {
   endText({ turn, silentMs }) {
     if (!this.speaks(turn)) return;
     this.until = Math.max(this.until, performance.now()) + silentMs;
-    setTimeout(() => {
-      if (this.speaks(turn)) Atomics.sub(this.state, Sounds.Speaking, 1);
-    }, this.until - performance.now());
+    setTimeout(() => this.end(Sounds.Speaking, turn), this.until - performance.now());
   }
 
   hush() {
@@ -121,14 +129,11 @@ export class Sound {
   /** @param {{from: number, to: number, turn: number}} stretch in milliseconds */
   async play({ from, to, turn }) {
     const buffer = await this.recording;
-    const plays = () => Atomics.load(this.state, Sounds.WaveTurn) === turn;
-    if (!plays()) return;
+    if (Atomics.load(this.state, Sounds.WaveTurn) !== turn) return;
     this.stopRecording();
     if (buffer !== undefined && this.device?.state === 'running')
       this.recordingSource = this.start(buffer, 0, from / 1000, (to - from) / 1000);
-    setTimeout(() => {
-      if (plays()) Atomics.store(this.state, Sounds.Playing, 0);
-    }, to - from);
+    setTimeout(() => this.end(Sounds.Playing, turn), to - from);
   }
 
   stopRecording() {

@@ -14,12 +14,13 @@ let turnOfSpeech = Promise.resolve();
 /** The text that is being said. */
 let current = 0;
 /** @type {() => number} */
-let wanted = () => 0;
+let wanted = () => current;
 
-/** @param {{sounds: SharedArrayBuffer, entries: import('./pack.js').Entry[]}} start */
+/** @param {{sounds: ArrayBufferLike, entries: import('./pack.js').Entry[]}} start */
 async function begin({ sounds, entries }) {
   const state = new Int32Array(sounds);
-  wanted = () => Atomics.load(state, Sounds.SpeechTurn);
+  // Where it is not seen here what is wanted, the page drops what is not.
+  if (globalThis.crossOriginIsolated) wanted = () => Atomics.load(state, Sounds.SpeechTurn);
   /** @param {string} name */
   const fetched = async (name) => {
     const entry = entries.find((each) => each.name === name);
@@ -44,8 +45,8 @@ async function begin({ sounds, entries }) {
 
 /** @param {{text: string, voice: number, speed: number, turn: number}} utterance */
 async function say(utterance) {
-  if (wanted() !== utterance.turn) return;
   current = utterance.turn;
+  if (wanted() !== current) return;
   const speed = Math.min(Math.max(utterance.speed, SlowestSpeed), FastestSpeed);
   try {
     await (

@@ -99,5 +99,6 @@ export class Strip {
   setPlace(menu) {
     byId('back').textContent = menu ? 'Thoát (Esc)' : '‹ Quay lại (Esc)';
     byId('hint').hidden = menu;
+    byId('carryOpen').hidden = !menu;
   }
 }

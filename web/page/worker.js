@@ -1,78 +1,85 @@
 // The worker in which the program runs.
 import createTalvora from './talvora.js';
+import * as alone from './alone.js';
 import { openOwnFiles } from './own.js';
 import { readerOf } from './pack.js';
-import { Sounds, take, wait } from './ring.js';
+import { Sounds, endSound, noteSound, take, wait } from './ring.js';
 
 /** @type {any} */
 let program = null;
+let runs = false;
+/** @type {Int32Array} */
+let sounds = new Int32Array(Sounds.All);
 
-/**
- * Counts what sounds, at once, so that the program hears of it before the page has it.
- * @param {Int32Array} sounds
- * @param {any} message
- */
-function noteSound(sounds, message) {
-  switch (message.do) {
-    case 'speak':
-      Atomics.add(sounds, Sounds.Speaking, 1);
-      message.turn = Atomics.load(sounds, Sounds.SpeechTurn);
-      break;
-    case 'hush':
-      Atomics.add(sounds, Sounds.SpeechTurn, 1);
-      Atomics.store(sounds, Sounds.Speaking, 0);
-      break;
-    case 'playWave':
-      message.turn = Atomics.add(sounds, Sounds.WaveTurn, 1) + 1;
-      Atomics.store(sounds, Sounds.Playing, 1);
-      break;
-    case 'stopWave':
-    case 'closeWave':
-      Atomics.add(sounds, Sounds.WaveTurn, 1);
-      Atomics.store(sounds, Sounds.Playing, 0);
-      break;
-  }
+/** @typedef {{ring?: SharedArrayBuffer, port?: MessagePort, sounds: ArrayBufferLike, pack: import('./pack.js').Pack, width: number, height: number}} Start */
+
+/** How the core waits, and reads what may have to be waited for. @param {Start} start */
+function waysOf({ ring, port, pack }) {
+  const waits = (/** @type {boolean} */ waiting) => postMessage({ do: 'waiting', waiting });
+  if (ring === undefined)
+    return {
+      wait: alone.wait,
+      take: alone.take,
+      pack: alone.readerOf(pack.entries, /** @type {MessagePort} */ (port), waits),
+    };
+  const events = new Int32Array(ring);
+  return {
+    /** @param {number} ms */
+    wait: (ms) => wait(events, ms),
+    /** @param {Int32Array} into @param {number} at */
+    take: (into, at) => take(events, into, at),
+    pack: readerOf(pack, waits),
+  };
 }
 
-/** @param {{ring: SharedArrayBuffer, sounds: SharedArrayBuffer, pack: import('./pack.js').Pack, width: number, height: number}} start */
+/** @param {Start} start */
 async function begin(start) {
-  const ring = new Int32Array(start.ring);
-  const sounds = new Int32Array(start.sounds);
-  const pack = readerOf(start.pack, (waiting) => postMessage({ do: 'waiting', waiting }));
+  sounds = new Int32Array(start.sounds);
+  const ways = waysOf(start);
   const [own, measures] = await Promise.all([
     openOwnFiles(),
     fetch('faces.bin').then((reply) => reply.arrayBuffer()),
   ]);
   if (!own.kept) postMessage({ do: 'notKept' });
   const host = {
-    /** @param {number} ms */
-    wait: (ms) => wait(ring, ms),
-    /** @param {Int32Array} into @param {number} at */
-    take: (into, at) => take(ring, into, at),
+    ...ways,
     /** @param {string} json */
     tell: (json) => {
       const message = JSON.parse(json);
       noteSound(sounds, message);
+      if (message.do === 'kept') message.files = own.files.copy();
       postMessage(message);
     },
     /** @param {number} what */
     sounds: (what) => Atomics.load(sounds, what),
-    pack,
     own: own.files,
   };
-  program = await createTalvora({ host });
+  const suspended = start.ring === undefined ? { instantiateWasm: alone.instantiate } : {};
+  program = await createTalvora({ host, ...suspended });
   const bytes = new Uint8Array(measures);
   const place = program._malloc(bytes.length);
   program.HEAPU8.set(bytes, place);
   postMessage({ do: 'ready' });
-  program._talvoraStart(start.width, start.height, place, bytes.length);
+  runs = true;
+  await program._talvoraStart(start.width, start.height, place, bytes.length);
   program._free(place);
+  runs = false;
+}
+
+/** Delivers what has come; a program that is suspended takes it itself. */
+async function pump() {
+  if (program === null || runs) return;
+  runs = true;
+  await program._talvoraPump();
+  runs = false;
 }
 
 self.onmessage = ({ data }) => {
   if (data.do === 'begin') {
     begin(data).catch((fault) => postMessage({ do: 'failed', text: String(fault) }));
-  } else if (program !== null) {
-    program._talvoraPump();
+    return;
   }
+  if (data.do === 'sounded') endSound(sounds, data.place, data.turn);
+  if (data.event !== undefined) alone.tell(data.event);
+  void pump();
 };

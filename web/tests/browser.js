@@ -13,9 +13,10 @@ const server = fileURLToPath(new URL('../tools/serve.js', import.meta.url));
 
 /** The page served, and a browser that opens it. */
 export class Place {
-  static async open() {
+  /** @param {string[]} [how] what else the server is told */
+  static async open(how = []) {
     const place = new Place();
-    place.serving = spawn(process.execPath, [server, process.env.SITE ?? '', '0']);
+    place.serving = spawn(process.execPath, [server, process.env.SITE ?? '', '0', ...how]);
     place.address = await new Promise((resolve) =>
       place.serving?.stdout?.once('data', (line) => resolve(String(line).trim())),
     );

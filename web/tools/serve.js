@@ -1,6 +1,7 @@
 // Serves a folder on the loopback address, with the headers that let page and program share memory.
 //
-// usage: node serve.js FOLDER [PORT]
+// usage: node serve.js FOLDER [PORT] [plain]
+//   plain  without these headers, as many hosts do
 import { createReadStream, existsSync, statSync } from 'node:fs';
 import { createServer } from 'node:http';
 import { extname, join, normalize } from 'node:path';
@@ -18,9 +19,14 @@ const Types = {
   '.png': 'image/png',
 };
 
-const [folder, port = '8714'] = process.argv.slice(2);
-if (folder === undefined) {
-  console.error('usage: node serve.js FOLDER [PORT]');
+const Isolated = {
+  'Cross-Origin-Opener-Policy': 'same-origin',
+  'Cross-Origin-Embedder-Policy': 'require-corp',
+};
+
+const [folder, port = '8714', plain] = process.argv.slice(2);
+if (folder === undefined || (plain ?? 'plain') !== 'plain') {
+  console.error('usage: node serve.js FOLDER [PORT] [plain]');
   process.exit(2);
 }
 
@@ -39,8 +45,7 @@ const server = createServer((request, reply) => {
     ETag: tag,
     'Content-Type': Types[extname(file)] ?? 'application/octet-stream',
     ...(isSame ? {} : { 'Content-Length': size }),
-    'Cross-Origin-Opener-Policy': 'same-origin',
-    'Cross-Origin-Embedder-Policy': 'require-corp',
+    ...(plain ? {} : Isolated),
     'Cache-Control': 'no-cache',
   });
   if (isSame) reply.end();

@@ -1,0 +1,135 @@
+#include "pack/FolderFile.h"
+
+#include "formats/LearnerFiles.h"
+#include "learner/LearnerLock.h"
+#include "learner/LearnerWords.h"
+#include "pack/Message.h"
+#include "pack/Telling.h"
+#include "platform/Files.h"
+#include "stores/OwnTexts.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <regex>
+
+namespace talvora::pack {
+
+namespace {
+
+/// The list comes last: with it the folder is the other one.
+constexpr std::array topFiles = {learnerfile::FirstRun, learnerfile::Settings, OwnTextsFile,
+                                 learnerfile::Lists,    learnerfile::Rows,     learnerfile::Words};
+
+std::string pathOf(const LearnersList& list, std::string_view name) {
+  return list.folder + "/" + std::string(name);
+}
+
+/// The names of all files of the folder that travel.
+std::vector<std::string> namesIn(const LearnersList& list) {
+  std::vector<std::string> names;
+  std::error_code error;
+  const auto addAll = [&](const std::string& folder) {
+    for (const std::string& each : list.files.list(pathOf(list, folder), error)) {
+      if (travels(folder + "/" + each)) names.push_back(folder + "/" + each);
+    }
+  };
+  const std::string copies(learnerfile::Copies);
+  for (const std::string& each : list.files.list(pathOf(list, copies), error))
+    addAll(copies + "/" + each);
+  addAll(std::string(learnerfile::Texts));
+  names.insert(names.end(), topFiles.begin(), topFiles.end());
+  return names;
+}
+
+FolderContent contentOfFile(const LearnersList& list, const std::string& file) {
+  std::error_code error;
+  const FileStatus status = list.files.status(file, error);
+  const bool fits = status.kind == FileStatus::Kind::File && status.size <= folderLimits.bytes;
+  const auto archive = fits ? readWhole(list.files, file, error) : std::nullopt;
+  if (!archive) return {std::nullopt, said("cannot be read")};
+  return folderContentOf(textOfBytes(*archive));
+}
+
+/// Writes a file and the folder that it lies in; gives what went wrong, or nothing.
+std::optional<std::string> put(const LearnersList& list, const std::string& name,
+                               const std::string& content) {
+  const std::string path = pathOf(list, name);
+  if (const auto error = list.files.makeFolder(folderOf(path)))
+    return fileProblem(path, said("cannot be written"), error);
+  return replaceFile(list.files, path, bytesOfText(content));
+}
+
+/// Puts these files in place of those that are there; the list of words last. Gives what went
+/// wrong, or nothing.
+std::optional<std::string> replaceAll(const LearnersList& list,
+                                      const std::map<std::string, std::string>& files) {
+  // A text that is not among them belongs to what was there; copies stay beside each other.
+  for (const std::string& name : namesIn(list)) {
+    const bool isText = name == OwnTextsFile || name.starts_with(learnerfile::Texts);
+    if (isText && !files.contains(name)) static_cast<void>(list.files.remove(pathOf(list, name)));
+  }
+  for (const auto& [name, bytes] : files) {
+    if (name == learnerfile::Words) continue;
+    if (auto problem = put(list, name, bytes)) return problem;
+  }
+  const std::string words(learnerfile::Words);
+  return put(list, words, files.at(words));
+}
+
+} // namespace
+
+bool travels(std::string_view name) {
+  static const std::regex below("texts/[0-9]{3}\\.txt|backups/[0-9]{4}(-[0-9]{2}){2}_[0-9]{2}"
+                                "(-[0-9]{2}){2,3}/(data\\.c|data\\.Kcu|words\\.txt|lists\\.txt)");
+  return std::find(topFiles.begin(), topFiles.end(), name) != topFiles.end() ||
+         std::regex_match(name.begin(), name.end(), below);
+}
+
+FolderContent folderContentOf(std::string_view archive) {
+  auto content = zipContentOf(archive, folderLimits);
+  if (!content.entries) return {std::nullopt, content.problem};
+  std::erase_if(*content.entries, [](const auto& entry) { return !travels(entry.first); });
+  const auto words = content.entries->find(std::string(learnerfile::Words));
+  if (words == content.entries->end() || words->second.size() % VocabularyWord::RecordSize != 0)
+    return {std::nullopt, said("there are no words of Talvora in this file")};
+  return {std::move(content.entries), ""};
+}
+
+ListResult exportFolder(const LearnersList& list, const std::string& file, std::ostream& out) {
+  const LearnerLock lock(list.files, list.folder);
+  if (lock.state() == LearnerLock::State::Taken) return tellRunning(out);
+  // What the journal holds belongs to the list.
+  LearnerWords(list.folder, list.files, list.calendar).open();
+  std::vector<ZipEntry> entries;
+  for (const std::string& name : namesIn(list)) {
+    std::error_code error;
+    if (const auto content = readWhole(list.files, pathOf(list, name), error))
+      entries.push_back({name, textOfBytes(*content)});
+  }
+  if (const auto problem = replaceFile(list.files, file, bytesOfText(zipOf(entries))))
+    return tellUnwritten(*problem, out);
+  out << said("{} files written into {}.", entries.size(), file) << "\n";
+  return ListResult::Fine;
+}
+
+ListResult importFolder(const LearnersList& list, const std::string& file, std::ostream& out) {
+  const FolderContent content = contentOfFile(list, file);
+  if (!content.files) {
+    out << file << ": " << content.problem << "\n";
+    return ListResult::Impossible;
+  }
+  const LearnerLock lock(list.files, list.folder);
+  if (lock.state() == LearnerLock::State::Taken) return tellRunning(out);
+  LearnerWords words(list.folder, list.files, list.calendar);
+  words.open();
+  if (const auto problem = words.copies().keep()) return tellUnwritten(*problem, out);
+  if (const auto problem = replaceAll(list, *content.files)) return tellUnwritten(*problem, out);
+  const std::string& now = content.files->at(std::string(learnerfile::Words));
+  out << said("{} words received; those that were there stand in the copies.",
+              now.size() / VocabularyWord::RecordSize)
+      << "\n";
+  return ListResult::Fine;
+}
+
+} // namespace talvora::pack

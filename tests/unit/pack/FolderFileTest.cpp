@@ -1,0 +1,105 @@
+// What a learner owns as one file: it comes back as it went, and nothing else comes with it.
+#include "pack/FolderFile.h"
+
+#include "learner/LearnerLock.h"
+#include "support/TestFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+
+namespace talvora::pack {
+namespace {
+
+using testing::HasSubstr;
+
+std::string record(const std::string& word) {
+  std::string bytes = word + std::string(20 - word.size(), ' ');
+  return bytes + std::string(4, '\0');
+}
+
+class FolderFileTest : public testing::Test {
+ protected:
+  FolderFileTest() {
+    for (const char* const folder : {"backups/2026-03-31_18-05-09", "texts"}) {
+      std::filesystem::create_directories(mine.pathOf(folder));
+      std::filesystem::create_directories(theirs.pathOf("learner/" + std::string(folder)));
+    }
+  }
+  ListResult exported() { return exportFolder({mine.path()}, file, out); }
+  ListResult imported() { return importFolder(list, file, out); }
+  void putArchive(const std::vector<ZipEntry>& entries) {
+    carried.write("talvora.zip", zipOf(entries));
+  }
+
+  test::TestFolder mine;
+  test::TestFolder theirs;
+  test::TestFolder carried;
+  LearnersList list{theirs.pathOf("learner")};
+  std::string file = carried.path() + "/talvora.zip";
+  std::ostringstream out;
+};
+
+TEST_F(FolderFileTest, WordsSettingsCopiesAndTextsArriveAsTheyWere) {
+  mine.write("data.c", record("bank") + record("river"));
+  mine.write("data.Kcu", std::string(76, '\1'));
+  mine.write("backups/2026-03-31_18-05-09/data.c", record("bank"));
+  mine.write("texts/001.txt", "Mine");
+  mine.write("owntexts.av", "mine");
+  mine.write("talvora.lock", "");
+  EXPECT_EQ(exported(), ListResult::Fine);
+  EXPECT_EQ(imported(), ListResult::Fine) << out.str();
+  for (const char* const name :
+       {"data.c", "data.Kcu", "backups/2026-03-31_18-05-09/data.c", "texts/001.txt", "owntexts.av"})
+    EXPECT_EQ(theirs.read("learner/" + std::string(name)), mine.read(name)) << name;
+  EXPECT_THAT(out.str(), HasSubstr("2 words received"));
+}
+
+TEST_F(FolderFileTest, WhatWasThereIsKeptAsACopy) {
+  theirs.write("learner/data.c", record("field"));
+  theirs.write("learner/texts/002.txt", "Theirs");
+  putArchive({{"data.c", record("bank")}});
+  EXPECT_EQ(imported(), ListResult::Fine);
+  EXPECT_EQ(theirs.read("learner/data.c"), record("bank"));
+  EXPECT_FALSE(theirs.has("learner/texts/002.txt"));
+  EXPECT_EQ(restoreWords(list, "", Doing::Do, out), ListResult::Fine);
+  EXPECT_EQ(theirs.read("learner/data.c"), record("bank") + record("field"));
+}
+
+TEST_F(FolderFileTest, NamesThatAreNoLearnersArePassedOver) {
+  putArchive({{"data.c", record("bank")},
+              {"../data.c", record("evil")},
+              {"texts/../../data.c", record("evil")},
+              {"/tmp/data.c", record("evil")},
+              {"texts/001.txt/x", "evil"},
+              {"notes.txt", "evil"}});
+  EXPECT_EQ(imported(), ListResult::Fine);
+  EXPECT_EQ(theirs.read("learner/data.c"), record("bank"));
+  EXPECT_FALSE(theirs.has("learner/notes.txt"));
+  EXPECT_FALSE(theirs.has("data.c"));
+}
+
+TEST_F(FolderFileTest, AFileThatIsNoneChangesNothing) {
+  theirs.write("learner/data.c", record("field"));
+  carried.write("talvora.zip", "no archive");
+  EXPECT_EQ(imported(), ListResult::Impossible);
+  putArchive({{"data.Kcu", "no words"}});
+  EXPECT_EQ(imported(), ListResult::Impossible);
+  putArchive({{"data.c", "half a record"}});
+  EXPECT_EQ(imported(), ListResult::Impossible);
+  file = carried.path() + "/nothing.zip";
+  EXPECT_EQ(imported(), ListResult::Impossible);
+  EXPECT_EQ(theirs.read("learner/data.c"), record("field"));
+}
+
+TEST_F(FolderFileTest, AProgramThatRunsThereIsLeftAlone) {
+  putArchive({{"data.c", record("bank")}});
+  const LearnerLock lock(systemFiles(), list.folder);
+  EXPECT_EQ(imported(), ListResult::Impossible);
+  EXPECT_THAT(out.str(), HasSubstr("Talvora is running"));
+}
+
+} // namespace
+} // namespace talvora::pack
