@@ -119,7 +119,7 @@ bool asks(std::string_view sentence) {
 
 /// Words that may stand twice in a row; a telephone has "five five".
 bool mayRepeat(std::string_view word) {
-  static constexpr std::array<std::string_view, 8> words = {"had", "that", "no",    "bye",
+  static constexpr std::array<std::string_view, 9> words = {"had", "that", "no",    "bye", "nil",
                                                             "ha",  "very", "great", "one"};
   return std::ranges::find(words, word) != words.end() ||
          std::ranges::find(numberWords, word, &NumberWord::english) != numberWords.end() ||
