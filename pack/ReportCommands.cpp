@@ -55,11 +55,12 @@ class StatusCommand final : public Command {
     const Content content = readContent(options_, problems, showStep);
     if (!problems.none()) return tell(problems);
     const WordList list = makeWordList(content, options_, problems);
-    const auto coverage =
-        coverageOf(corporaOf(content), list, readNames(options_.source / NamesFile));
+    const auto corpora = corporaOf(content);
+    const auto coverage = coverageOf(corpora, list, readNames(options_.source / NamesFile));
     const auto findings = checkDictionaryAlone(options_.source, {}, problems);
     std::cout << statusReport(content, list, coverage) << "\nDictionary\n"
-              << findingsReport(findings) << "\n"
+              << findingsReport(findings)
+              << wordRulesReport(options_.source, content, list, corpora) << "\n"
               << courseReport(content.exercises, content.lessons, list);
     return tell(problems);
   }

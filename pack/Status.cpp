@@ -1,11 +1,14 @@
 // Counting of slots and words.
 #include "pack/Status.h"
 
+#include "pack/Heteronyms.h"
 #include "pack/Message.h"
 #include "pack/Recordings.h"
 #include "pack/SpeakingSource.h"
 #include "pack/StreamText.h"
 #include "pack/TextWords.h"
+#include "pack/WordListRules.h"
+#include "pack/WordingChecks.h"
 
 #include <array>
 #include <iterator>
@@ -107,6 +110,24 @@ std::string statusReport(const Content& content, const WordList& list,
   report += "\n";
   report += said("Words without a Vietnamese sense") + "\n" + coverageLines(coverage);
   return report;
+}
+
+std::string wordRulesReport(const std::filesystem::path& source, const Content& content,
+                            const WordList& list, const std::vector<Corpus>& corpora) {
+  const auto countOf = [&source](void (*check)(const std::filesystem::path&, Problems&)) {
+    Problems problems;
+    check(source, problems);
+    return problems.all().size();
+  };
+  return line(said("forms that the entry of their own head word hides"),
+              hiddenForms(list, content.words).size()) +
+         line(said("entries with English senses beside Vietnamese ones"),
+              englishSenses(list).size()) +
+         line(said("forms that no word list has and that are not accepted"),
+              unlistedForms(corpora, list, content.words).size()) +
+         line(said("words and spellings that the course does not write"), countOf(checkWordings)) +
+         line(said("words of several pronunciations that are said by chance"),
+              countOf(checkHeteronyms));
 }
 
 } // namespace talvora::pack
