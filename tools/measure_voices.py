@@ -252,8 +252,8 @@ def tell(name, engine, items, verbose):
     said = [engine.speak(sentence) for sentence in SENTENCES]
     rates = [count * rate / len(samples) for count, (samples, rate) in zip(SENTENCES.values(), said)]
     levels = [level(samples, rate) for samples, rate in said]
-    print(f"{name} | {said[0][1] // 1000} kHz | {numpy.median(raw_distances(engine)):.1f} | {apart} | {weak or 'none'} | "
-          f"{100 * numpy.mean(found):.0f} % of {len(found)} | {far} | "
+    print(f"{name} | {said[0][1] // 1000} kHz | {numpy.median(raw_distances(engine)):.1f} | "
+          f"{apart} | {weak or 'none'} | {100 * numpy.mean(found):.0f} % of {len(found)} | {far} | "
           f"{min(rates):.1f}-{max(rates):.1f} | {min(levels):.1f} to {max(levels):.1f}", flush=True)
     if verbose:
         for sounds, pairs in contrasts.items():
@@ -274,8 +274,8 @@ def main():
         if name not in VOICES:
             parser.error(f"no voice \"{name}\"")
     items = items_of(Path(__file__).parents[1] / "content" / "listening", given.items)
-    print("voice | samples a second | distance, median | contrasts, median | contrasts under 1.5 | found | items, median | "
-          "syllables a second | level, dBFS", flush=True)
+    print("voice | samples a second | distance, median | contrasts, median | contrasts under 1.5 | "
+          "found | items, median | syllables a second | level, dBFS", flush=True)
     with tempfile.TemporaryDirectory() as folder:
         for name in given.voices or VOICES:
             program = VOICES[name]("x", 1.0, Path(folder, "x.wav"))[0]
