@@ -102,22 +102,31 @@ int yieldToRunningProgram(const std::string& learner) {
   return 0;
 }
 
-/// A display that is lost ends the process through `exit`: what is in memory is kept even then.
+/// A display that is lost ends the process through `exit`: what is in memory is kept even then, and
+/// nothing else is taken down, since other threads are still at work on it and a sound may play.
+struct KeptAtExit {
+  KeptAtExit() = default;
+  KeptAtExit(const KeptAtExit&) = delete;
+  KeptAtExit& operator=(const KeptAtExit&) = delete;
+  ~KeptAtExit() {
+    if (program == nullptr) return;
+    program->keep();
+    std::_Exit(Failed);
+  }
+
+  talvora::Program* program = nullptr;
+};
+
+// What belongs to the thread that ends goes ahead of all that belongs to the process.
+thread_local KeptAtExit keptAtExit;
+
+/// For as long as it lives.
 class KeepAtExit {
  public:
-  explicit KeepAtExit(talvora::Program& program) {
-    kept = &program;
-    std::atexit([] {
-      if (kept != nullptr) kept->keep();
-    });
-  }
+  explicit KeepAtExit(talvora::Program& program) { keptAtExit.program = &program; }
   KeepAtExit(const KeepAtExit&) = delete;
   KeepAtExit& operator=(const KeepAtExit&) = delete;
-  ~KeepAtExit() { kept = nullptr; }
-
- private:
-  // A function that is called at the exit is given nothing.
-  static inline talvora::Program* kept = nullptr;
+  ~KeepAtExit() { keptAtExit.program = nullptr; }
 };
 
 /// What the learner owns is stored; all that is left is to let go of the machine. The library of a
@@ -138,7 +147,7 @@ talvora::Ending runProgram(const talvora::Folders& folders, const std::string& t
   talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
                                   std::random_device{}(), folders.pack);
   talvora::Program program(machine.platform, folders);
-  const KeepAtExit keepAtExit(program);
+  const KeepAtExit keep(program);
   talvora::EventBridge bridge;
   talvora::Window window(machine, program, bridge);
   const talvora::RaiseCalls raiseCalls(folders.learner, [&] { window.comeUp(); });

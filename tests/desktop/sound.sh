@@ -1,7 +1,7 @@
 #!/bin/bash
 # Listens to the real program: a virtual X display, real clicks and keys, and a sound device that
 # plays into nothing and counts what it plays. Then the same without a device, and with a sound
-# server that does not answer: nothing may hang.
+# server that does not answer: nothing may hang. Last, the display goes in the middle of a sound.
 #
 #   sound.sh PROGRAM PACK_FOLDER PICTURE_FOLDER [WIDTHxHEIGHT]
 #
@@ -36,3 +36,9 @@ kill -STOP "$sound_server"
 start_anew
 go_without_sound
 passed "nothing hangs with a sound server that does not answer"
+end_program
+stop_sound_server
+
+start_sound_server
+start_anew
+lose_the_display

@@ -192,3 +192,18 @@ end_program() {
   press Return
   expect_end
 }
+
+# The display goes while a text is read aloud, so that another thread is at work on the sound.
+lose_the_display() {
+  open_text Old
+  listen_from_now
+  press F9
+  expect_heard "$second"
+  kill -KILL "$x_server"
+  wait "$x_server" 2>/dev/null
+  wait "$program_id"
+  local code=$?
+  program_id=
+  [ "$code" -eq 1 ] || fail "exit code $code when the display was lost while a text was read aloud"
+  passed "a display that is lost while a text is read aloud ends the program by no signal"
+}
