@@ -1,15 +1,15 @@
 // The content pack: which files it has, memory for them that all workers see, and how they are read.
 // What has not come yet is waited for.
 
-/** When a file is fetched: ahead of the menu, behind it, or last, only to be kept. */
-export const Stage = Object.freeze({ First: 0, Late: 1, Kept: 2 });
+/** When a file is fetched: ahead of the menu, behind it, last and only to be kept, or when it is wanted. */
+export const Stage = Object.freeze({ First: 0, Late: 1, Kept: 2, Wanted: 3 });
 
 /** @typedef {{name: string, size: number, file: string, packed: number, stage: number}} Entry */
 /**
  * @typedef {object} Pack
  * @property {Entry[]} entries
  * @property {SharedArrayBuffer[]} contents of the files, in the order of the entries, where there is
- *   memory to share; nothing for those that are only kept
+ *   memory to share; nothing for those that the core does not read
  * @property {ArrayBufferLike} arrived a number a file: 1 when it is there
  */
 
@@ -22,7 +22,7 @@ export async function openPack() {
   const numbers = entries.length * Int32Array.BYTES_PER_ELEMENT;
   if (!globalThis.crossOriginIsolated)
     return { entries, contents: [], arrived: new ArrayBuffer(numbers) };
-  const sizes = entries.map(({ size, stage }) => (stage === Stage.Kept ? 0 : size));
+  const sizes = entries.map(({ size, stage }) => (stage < Stage.Kept ? size : 0));
   return {
     entries,
     contents: sizes.map((size) => new SharedArrayBuffer(size)),

@@ -41,10 +41,10 @@ const newLearner = () => place.learner({}, (context) => context.addInitScript(li
 test('a word is spoken, and going back ends it', async () => {
   const learner = await newLearner();
   await learner.openText();
+  assert.deepEqual(await heardBy(learner), []);
   const word = await learner.wordOfText();
   await learner.clickWord('R2', word);
   await learner.control('RHD').locator('.line').first().waitFor();
-  assert.deepEqual(await heardBy(learner), []);
   const point = await learner.pointOf('R2', word);
   await learner.page.mouse.click(point.x, point.y, { button: 'right' });
   await untilHeard(learner);

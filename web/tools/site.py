@@ -14,13 +14,14 @@ from pathlib import Path
 
 PAGE = Path(__file__).resolve().parent.parent / "page"
 PAGE_FILES = ("*.html", "*.css", "*.js", "*.webmanifest")
-# When a file is fetched: ahead of the menu, behind it, or last, only to be kept.
-FIRST, LATE, KEPT = range(3)
-# The menu opens before the entries of the dictionary are there, which are most of the pack.
-STAGES = {"data.avt": LATE}
+# When a file is fetched: ahead of the menu, behind it, last and only to be kept, or when it is wanted.
+FIRST, LATE, KEPT, WANTED = range(4)
+# The menu opens before the dictionary is there, which is most of the pack.
+STAGES = {"data.avt": LATE, "data.mtd": LATE}
 # Not for a browser: what is the learner's own, and what is for the compiler alone.
 LEFT_OUT = ("data.c", "data.Kcu", "Yes1", "dictionary.made")
-VOICES = ("slt", "rms", "awb")
+# The clearest voice is the one in use.
+VOICES = {"slt": KEPT, "rms": WANTED, "awb": WANTED}
 SPEECH_KBITS = "32"
 # Every letter that the program's bytes can show.
 LETTERS = "U+0020-024F,U+0259,U+0283,U+028C,U+0292,U+014B,U+03B8,U+1EA0-1EF9,U+2000-206F,U+20AC,U+2122"
@@ -67,8 +68,8 @@ def contents_of(pack, made):
     for source in sorted(pack.iterdir()):
         if source.is_file() and source.name not in LEFT_OUT:
             yield source.name, STAGES.get(source.name, FIRST), source.read_bytes(), True
-    for name in VOICES:
-        yield f"{name}.flitevox", KEPT, voice_of(name, made), True
+    for name, stage in VOICES.items():
+        yield f"{name}.flitevox", stage, voice_of(name, made), True
     for source in sorted((pack / "sound").glob("*.wav")):
         yield f"sound/{source.name}", KEPT, recording_of(source, made), False
 
