@@ -100,7 +100,8 @@ async function visits() {
   await page.waitForFunction(async () => {
     const store = await caches.open('talvora-pack');
     const list = await (await fetch('pack/pack.json')).json();
-    return (await store.keys()).length === list.length;
+    const fetched = list.filter((/** @type {any} */ { stage }) => stage < 3);
+    return (await store.keys()).length >= fetched.length;
   });
   await page.close();
   /** @type {number[]} */
@@ -160,7 +161,7 @@ async function reactions() {
   const points = await page.locator('#c-R2').evaluate((surface) => {
     /** @type {{x: number, y: number}[]} */
     const found = [];
-    for (const line of surface.querySelectorAll('.line')) {
+    for (const line of surface.querySelectorAll('.line:lang(en)')) {
       const walker = document.createTreeWalker(line, NodeFilter.SHOW_TEXT);
       for (let node = walker.nextNode(); node !== null; node = walker.nextNode())
         for (const { index } of (node.textContent ?? '').matchAll(/\b[a-z]{4,}\b/g)) {
@@ -209,13 +210,17 @@ function bytes() {
   for (const path of /** @type {string[]} */ (readdirSync(site, { recursive: true }))) {
     const file = join(site, path);
     if (!statSync(file).isFile()) continue;
-    if (path.startsWith('pack/sound-')) recordings += statSync(file).size;
+    if (/^pack.(sound-|rms|awb)/.test(path)) recordings += statSync(file).size;
     else if (path.startsWith('pack/')) pack += statSync(file).size;
     else page += execFileSync('gzip', ['-9', '-c', file], { maxBuffer: 1 << 28 }).length;
   }
   row('page, program and faces', page / 1e6, 'MB', 15);
-  row('and the pack with the voices', (page + pack) / 1e6, 'MB', 15);
-  rows.push(['recordings besides', `${Math.round(recordings / 1e4) / 100} MB`, '']);
+  row('and the pack with its voice', (page + pack) / 1e6, 'MB', 15);
+  rows.push([
+    'recordings and other voices besides',
+    `${Math.round(recordings / 1e4) / 100} MB`,
+    '',
+  ]);
 }
 
 bytes();
