@@ -126,8 +126,9 @@ ListResult importFolder(const LearnersList& list, const std::string& file, std::
   if (const auto problem = words.copies().keep()) return tellUnwritten(*problem, out);
   if (const auto problem = replaceAll(list, *content.files)) return tellUnwritten(*problem, out);
   const std::string& now = content.files->at(std::string(learnerfile::Words));
-  out << said("{} words received; those that were there stand in the copies.",
-              now.size() / VocabularyWord::RecordSize)
+  out << saidOf(now.size() / VocabularyWord::RecordSize,
+                "{} word received; those that were there stand in the copies.",
+                "{} words received; those that were there stand in the copies.")
       << "\n";
   return ListResult::Fine;
 }

@@ -87,7 +87,7 @@ test('words go to the desktop and come back', async () => {
   const out = join(folder, 'out.zip');
   await (await download).saveAs(out);
   const desktop = join(folder, 'desktop');
-  assert.match(tool('folder', 'import', out, '--learner', desktop), /Đã nhận 1 từ/);
+  assert.match(tool('folder', 'import', out, '--learner', desktop), /1 word received/);
   assert.match(tool('words', 'list', '--learner', desktop), new RegExp(`${word}\\tA Small Guide`));
   await learner.close();
 
