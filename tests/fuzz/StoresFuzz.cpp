@@ -2,7 +2,10 @@
 // analyses and as marks of recordings: everything that reads them ends, and nothing leads outside.
 #include "exercises/ItemState.h"
 #include "exercises/ItemStore.h"
+#include "formats/LearnerFiles.h"
 #include "formats/PackFiles.h"
+#include "formats/Settings.h"
+#include "learner/ListPlaces.h"
 #include "learner/TextCatalogue.h"
 #include "listening/ListeningItems.h"
 #include "platform/FatalFailure.h"
@@ -21,6 +24,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -70,9 +74,31 @@ void readTexts(Desk& desk) {
       for (int at = 0; at <= length; at += 1 + length / 16) {
         const int sentence = text.CauTaiViTri(at);
         require(text.markOf(sentence) >= 0 && text.markOf(sentence) <= length + 1);
+        static_cast<void>(text.translationOf(sentence));
       }
     });
   }
+}
+
+/// What the learner's words and places are tied to.
+void readCatalogue(Desk& desk, test::MemoryFiles& files) {
+  const TextCatalogue catalogue(desk.stores);
+  require(catalogue.fingerprint().size() == 16);
+  // Each is sought among all the texts.
+  constexpr std::size_t Some = 20;
+  const std::vector<SentencePlace> all = catalogue.all();
+  for (std::size_t each = 0; each < all.size(); each += 1 + all.size() / Some) {
+    static_cast<void>(catalogue.at(all[each].place));
+    static_cast<void>(catalogue.translationOf(all[each]));
+  }
+  for (const TextKind kind : {TextKind::Reading, TextKind::Speaking}) {
+    for (const int number : {1, catalogue.textsOf(kind)})
+      static_cast<void>(catalogue.titleOf(kind, number));
+  }
+  ListPlaces lists(Pack, desk.stores, files);
+  lists.open(catalogue);
+  lists.store(setting::ReadingCaret, 5, 1);
+  ListPlaces(Pack, desk.stores, files).open(catalogue);
 }
 
 void readAnalyses(Desk& desk) {
@@ -80,6 +106,13 @@ void readAnalyses(Desk& desk) {
   PTCau analysis(desk.state, desk.stores, desk.shell, item);
   for (const int number : {1, 2, 11})
     trying([&] { analysis.NapPhanTich(number); });
+  Surface& page = desk.controls.R2;
+  page.Text(desk.state.text.VanBanGoc);
+  const int length = page.TextLength();
+  for (int at = 0; at <= length; at += 1 + length / 16) {
+    page.SelStart(at);
+    trying([&] { analysis.GiaiTuPT(page); });
+  }
 }
 
 void readItems(Desk& desk) {
@@ -91,6 +124,7 @@ void readItems(Desk& desk) {
   }
   for (const int section : {0, 1, ItemStore::Sections, ItemStore::Sections + 1})
     require(items.itemsOf(section) >= 0 || items.countOf(section) < 0);
+  static_cast<void>(items.bankItemsBefore(limit::Banks));
   ListeningItems heard(desk.stores);
   trying([&] {
     heard.LapBangNghe();
@@ -99,7 +133,19 @@ void readItems(Desk& desk) {
   });
 }
 
+void readPages(Desk& desk) {
+  trying([&] { require(desk.stores.holdPage(packfile::Guide)->bytes().size() <= LongestPage); });
+  require(desk.stores.has(packfile::Guide));
+  static_cast<void>(desk.stores.readSetting(setting::ReadingCaret));
+}
+
 void readMarks(Desk& desk) {
+  for (const char* recording : {"1", "2"}) {
+    trying([&] {
+      desk.voice.MoAm(recording);
+      desk.voice.DongAm();
+    });
+  }
   for (const int recording : {1, 2, 9}) {
     trying([&] {
       desk.voice.NapMoc(recording);
@@ -132,6 +178,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     put(stream, contents[1]);
   put(name::ItemCounts, contents[2]);
   put(name::Marks, contents[2]);
+  put(name::Guide, contents[2]);
+  put("sound\\1.wav", contents[2]);
+  put(learnerfile::Lists, contents[2]);
 
   Desk desk(files);
   desk.stores.MoDuLieu();
@@ -139,8 +188,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     desk.stores.ChonKho(store);
     readTexts(desk);
   }
+  // It reads every text of both stores, so that only some inputs are taken through it.
+  constexpr std::size_t Some = 8;
+  if (size % Some == 0) readCatalogue(desk, files);
   readAnalyses(desk);
   readItems(desk);
   readMarks(desk);
+  readPages(desk);
   return 0;
 }

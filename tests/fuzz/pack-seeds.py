@@ -30,6 +30,10 @@ def main():
         for name, files in STORES.items():
             parts = [(pack / file).read_bytes()[:LONGEST] for file in files]
             (folder / target / name).write_bytes(MARK.join(parts))
+    # Places in lists of another course.
+    places = b"\n".join(b"%d\t0123456789abcdef\t2\tA title" % record for record in range(1, 20))
+    texts = [(pack / file).read_bytes()[:LONGEST] for file in ("data.vt", "data.av")]
+    (folder / "Stores" / "places").write_bytes(MARK.join([*texts, places]))
     spoken = folder / "Pronunciations"
     spoken.mkdir(exist_ok=True)
     rules = (pack / "pronunciation.txt").read_bytes()[:LONGEST]
