@@ -29,16 +29,25 @@ _talvora_named() {
   "$@" --help 2>/dev/null | sed -n 's/^  \(-[a-z],\)\{0,1\}\(-\{0,2\}[a-z][a-z-]*\).*/\2/p'
 }
 
+# Commands stand first; some have commands of their own, which come second. Behind them are files, and
+# what the command's own help names.
 _talvora_pack() {
-  local word=${COMP_WORDS[COMP_CWORD]}
-  if [ "$COMP_CWORD" -eq 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W "$(_talvora_named "${COMP_WORDS[0]}")" -- "$word")
-  elif [[ $word == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W \
-      "$(_talvora_named "${COMP_WORDS[0]}" "${COMP_WORDS[1]}")" -- "$word")
-  else
-    mapfile -t COMPREPLY < <(compgen -f -- "$word")
-  fi
+  local word=${COMP_WORDS[COMP_CWORD]} names= commands=1
+  case ${COMP_WORDS[1]} in text | words) commands=2 ;; esac
+  case "${COMP_WORDS[1]} ${COMP_WORDS[COMP_CWORD - 1]}" in
+    "new new") names="text lesson item unit analysis" ;;
+    *" --only") names="reading speaking listening analysis lessons exercises dictionary guide" ;;
+    *" --audio") names="none word sentence both" ;;
+    *)
+      if [ "$COMP_CWORD" -le "$commands" ]; then
+        names=$(_talvora_named "${COMP_WORDS[@]:0:COMP_CWORD}")
+      elif [[ $word == -* ]]; then
+        names=$(_talvora_named "${COMP_WORDS[@]:0:commands+1}")
+      fi
+      ;;
+  esac
+  mapfile -t COMPREPLY < <(compgen -W "$names" -- "$word")
+  if [ -z "$names" ]; then mapfile -t COMPREPLY < <(compgen -f -- "$word"); fi
 }
 
 complete -F _talvora talvora
