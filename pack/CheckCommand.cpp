@@ -1,11 +1,10 @@
 // talvora-pack check: what is wrong with sources.
 #include "pack/Check.h"
 #include "pack/Command.h"
+#include "pack/CommandLine.h"
 #include "pack/FolderSearch.h"
 #include "pack/Message.h"
 #include "pack/import/MergedCourse.h"
-
-#include <CLI/CLI.hpp>
 
 #include <iostream>
 #include <map>
@@ -35,9 +34,9 @@ class CheckCommand final : public Command {
   explicit CheckCommand(CLI::App& application)
       : command_(*application.add_subcommand("check", said("check SOURCE and write nothing"))) {
     addSourceOptions(command_, options_);
-    command_
-        .add_option("--only", only_, said("check these kinds alone, which takes a second or two"))
-        ->transform(CLI::CheckedTransformer(namedKinds()));
+    takeOneOf(*command_.add_option("--only", only_,
+                                   said("check these kinds alone, which takes a second or two")),
+              namedKinds());
     command_.add_flag("--warnings", listed_, said("name the places of the warnings"));
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }

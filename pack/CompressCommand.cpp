@@ -1,9 +1,8 @@
 // talvora-pack compress: a pack that travels carries its recordings in half the room.
 #include "pack/Command.h"
+#include "pack/CommandLine.h"
 #include "pack/CompressRecordings.h"
 #include "pack/Message.h"
-
-#include <CLI/CLI.hpp>
 
 #include <filesystem>
 #include <iostream>
@@ -27,9 +26,7 @@ CompressCommand::CompressCommand(CLI::App& application) {
   compress_ = application.add_subcommand(
       "compress", said("put the recordings of the pack PACK into FLAC, half the size, to be sent "
                        "or installed; the program reads both"));
-  compress_->add_option("PACK", pack_, said("folder of the pack"))
-      ->required()
-      ->check(CLI::ExistingDirectory);
+  takeFolder(*compress_->add_option("PACK", pack_, said("folder of the pack"))->required());
 }
 
 int CompressCommand::run() {

@@ -1,5 +1,6 @@
 // The commands that only tell: show, status, plan, phones.
 #include "pack/Command.h"
+#include "pack/CommandLine.h"
 #include "pack/CourseReport.h"
 #include "pack/DictionaryFindings.h"
 #include "pack/Heteronyms.h"
@@ -8,8 +9,6 @@
 #include "pack/Planner.h"
 #include "pack/Show.h"
 #include "pack/Status.h"
-
-#include <CLI/CLI.hpp>
 
 #include <filesystem>
 #include <iostream>
@@ -78,8 +77,8 @@ class PlanCommand final : public Command {
             said("tell what the reading texts of SOURCE do with words; for a SLOT also which "
                  "lemmas are known by then, which may be new and which are due again"))) {
     command_.add_option("SOURCE", source_, said("folder of the content sources"))->required();
-    command_.add_option("SLOT", slot_, said("number of a reading text"))
-        ->check(CLI::Range(1, ReadingSlots));
+    takeNumberUpTo(*command_.add_option("SLOT", slot_, said("number of a reading text")),
+                   ReadingSlots);
     command_.add_flag("--known", known_, said("list the known lemmas as well"));
   }
   [[nodiscard]] bool given() const override { return command_.parsed(); }

@@ -1,12 +1,11 @@
 // talvora-pack words: what a learner has collected, and the ways out and in.
 #include "pack/Command.h"
+#include "pack/CommandLine.h"
 #include "pack/FolderSearch.h"
 #include "pack/LearnersList.h"
 #include "pack/Message.h"
 #include "pack/words/WordsExport.h"
 #include "pack/words/WordsImport.h"
-
-#include <CLI/CLI.hpp>
 
 #include <chrono>
 #include <iostream>
@@ -89,9 +88,9 @@ WordsCommand::WordsCommand(CLI::App& application) {
       ->required();
   exporting_->add_option("--pack", pack_,
                          said("the course; without it the one that the program would open"));
-  exporting_
-      ->add_option("--audio", aloud_, said("what is read aloud: none, word, sentence or both"))
-      ->transform(CLI::CheckedTransformer(namedAloud()));
+  takeOneOf(*exporting_->add_option("--audio", aloud_,
+                                    said("what is read aloud: none, word, sentence or both")),
+            namedAloud());
   exporting_->add_flag("--silent", silent_, said("the same as --audio none, which takes no time"));
   exporting_->add_option("--sounds", sounds_, said("a folder for the sounds of a table"));
   importing_ = add("import", said("add the words of a list, one a line or as a table with "

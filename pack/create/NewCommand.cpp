@@ -1,10 +1,9 @@
 // talvora-pack new: a commented example to write over.
 #include "pack/Command.h"
+#include "pack/CommandLine.h"
 #include "pack/Message.h"
 #include "pack/PackFile.h"
 #include "pack/create/NewSource.h"
-
-#include <CLI/CLI.hpp>
 
 #include <filesystem>
 #include <iostream>
@@ -58,9 +57,9 @@ NewCommand::NewCommand(CLI::App& application) {
   command_ =
       application.add_subcommand("new", said("put down a commented example to write over: a text, "
                                              "a lesson, an item, a listening unit, an analysis"));
-  command_->add_option("KIND", kind_, said("text, lesson, item, unit or analysis"))
-      ->required()
-      ->transform(CLI::CheckedTransformer(namedKinds()));
+  takeOneOf(*command_->add_option("KIND", kind_, said("text, lesson, item, unit or analysis"))
+                 ->required(),
+            namedKinds());
   command_->add_option("FILE", file_,
                        said("the file to write, which must not exist; without one it is printed"));
 }

@@ -53,6 +53,7 @@ def check_help(options):
         vietnamese = say(options, VIETNAMESE, *command, "--help").splitlines()
         require(any(SENTENCE.search(line) for line in english), f"{command}: help in English")
         for line in vietnamese:
+            require(not line.startswith(("Options:", "Commands:")), f"{command} in English: {line}")
             require(line not in english or not SENTENCE.search(line), f"{command} in English: {line}")
 
 
@@ -76,6 +77,14 @@ def check_faults(options, folder):
         require(f"{text}:4:1: {told}" in wrong, wrong)
 
     require("thiếu một lệnh" in say(options, VIETNAMESE, code=2), "no command")
+    require("không hiểu: chek" in say(options, VIETNAMESE, "chek", code=2), "no such command")
+    for told, line in (('không thuộc analysis|', ("check", content, "--only", "read")),
+                       ("--words cần một giá trị", ("check", content, "--words")),
+                       ("không hiểu: --words = few", ("check", content, "--words", "few")),
+                       ("không phải là số từ 1 đến", ("plan", content, "0")),
+                       ("không phải là thư mục", ("compress", folder / "nowhere"))):
+        wrong = say(options, VIETNAMESE, *line, code=2)
+        require(told in wrong, wrong)
     require("thiếu SOURCE" in say(options, VIETNAMESE, "check", code=2), "no argument")
     require("không hiểu: --x" in say(options, VIETNAMESE, "check", content, "--x", code=2), "extra")
     missing = say(options, VIETNAMESE, "show", folder / "no.txt", code=1)
