@@ -33,7 +33,7 @@ _talvora_named() {
 # what the command's own help names.
 _talvora_pack() {
   local word=${COMP_WORDS[COMP_CWORD]} names= commands=1
-  case ${COMP_WORDS[1]} in text | words) commands=2 ;; esac
+  case ${COMP_WORDS[1]} in text | words | folder) commands=2 ;; esac
   case "${COMP_WORDS[1]} ${COMP_WORDS[COMP_CWORD - 1]}" in
     "new new") names="text lesson item unit analysis" ;;
     *" --only") names="reading speaking listening analysis lessons exercises dictionary guide" ;;

@@ -40,6 +40,7 @@ for language in en vi; do
   expect " none word sentence both " words export --audio ""
   expect " words.csv " words import w
   expect " add " text a
+  expect "* export import *" folder ""
   expect " --warnings " check --wa
   expect " analysis " check content --only ana
   expect " text lesson item unit analysis " new ""

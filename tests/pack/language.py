@@ -44,7 +44,7 @@ def commands(options):
 
     first = listed()
     require(len(first) >= 12, f"commands: {first}")
-    return [[], *first, *listed("words"), *listed("text")]
+    return [[], *first, *listed("words"), *listed("text"), *listed("folder")]
 
 
 def check_help(options):
