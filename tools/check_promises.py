@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks that every test that docs/promises.md names exists, and that it names every test of safety.
 
-usage: ctest --preset release -N | check_promises.py [REPOSITORY]
+usage: { ctest --preset release -N; ctest --preset web -N; } | check_promises.py [REPOSITORY]
 
 A test of safety is one of the families below, or of a suite that stands in a folder below.
 Exit code 0 when all is well, 1 with a line for each fault, 2 on a wrong call.
