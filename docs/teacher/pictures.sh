@@ -33,7 +33,8 @@ commands() {
   sed -n '/^## 1/,/^## 2/s/^    \(talvora-pack .*\)/\1/p' "$guide"
 }
 sample() {
-  sed -n '/^## 1/,/^## 2/s/^    //p' "$guide" | sed -n '/^title: /,$p' | grep -v '^talvora-pack '
+  sed -n '/^## 1/,/^## 2/p' "$guide" |
+    awk '/^    title: / { within = 1 } /^[^ ]/ { within = 0 } within { sub(/^    /, ""); print }'
 }
 
 # A command line in which the guide's commands are given; the text is written behind the first.
