@@ -5,8 +5,22 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
+
+extern "C" {
+/// Milliseconds since some fixed moment.
+double talvoraNow();
+/// Returns when the page has told something or the time is over; less than 0 waits for ever.
+void talvoraWait(double ms);
+int talvoraTake(int* into);
+void talvoraTell(const char* text, std::size_t length);
+unsigned talvoraSeed();
+/// Year, month, day, hour, minute and second of local time.
+void talvoraMoment(int* into);
+/// Whether the page still speaks what it was given, or plays a recording.
+int talvoraSpeaks();
+int talvoraPlays();
+}
 
 namespace talvora::web {
 
@@ -34,19 +48,16 @@ struct Event {
   int extra = 0;
 };
 
-/// Milliseconds since some fixed moment.
-[[nodiscard]] double hostNow();
-/// Returns when the page has told something or the time is over; less than 0 waits for ever.
-void hostWait(double ms);
 /// What the page has told next.
-[[nodiscard]] std::optional<Event> takeEvent();
+[[nodiscard]] inline std::optional<Event> takeEvent() {
+  std::array<int, 6> told{};
+  if (talvoraTake(told.data()) == 0) return std::nullopt;
+  return Event{static_cast<EventKind>(told[0]), told[1], told[2], told[3], told[4], told[5]};
+}
+
 /// Sends a message, which is JSON in UTF-8, to the page.
-void tellPage(std::string_view json);
-[[nodiscard]] std::uint32_t hostSeed();
-/// Year, month, day, hour, minute and second of local time.
-[[nodiscard]] std::array<int, 6> hostMoment();
-/// Whether the page still speaks what it was given.
-[[nodiscard]] bool hostIsSpeaking();
-[[nodiscard]] bool hostIsPlaying();
+inline void tellPage(std::string_view json) {
+  talvoraTell(json.data(), json.size());
+}
 
 } // namespace talvora::web

@@ -27,7 +27,7 @@ bool isInput(EventKind kind) {
 // -- What the page tells.
 
 void Inbox::note(const Event& event) {
-  if (isInput(event.kind)) lastInput_ = hostNow();
+  if (isInput(event.kind)) lastInput_ = talvoraNow();
   const bool repeats = event.kind == EventKind::KeyDown && event.extra != 0;
   // A key that is held down while the program sleeps counts once.
   if (repeats && asleep_) return;
@@ -48,7 +48,7 @@ void Inbox::gather() {
 }
 
 void Inbox::wait(double ms) {
-  hostWait(ms);
+  talvoraWait(ms);
   gather();
 }
 
@@ -100,8 +100,8 @@ std::optional<bool> Inbox::takeAnswer() {
 Flow WebClock::Sleep(int ms) {
   if (ms > 0 && !inbox_.closeWanted()) {
     paint();
-    const double end = hostNow() + ms;
-    for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - hostNow())
+    const double end = talvoraNow() + ms;
+    for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - talvoraNow())
       inbox_.sleep(left);
   }
   return inbox_.closeWanted() ? Flow::Interrupt : Flow::Continue;
@@ -123,21 +123,21 @@ Flow WebEventLoop::letEventsRunUntilNextFrame() {
   inbox_.gather();
   if (!inbox_.hasNext()) {
     const bool rests = inbox_.quietMs() > RestAfterMs;
-    const double wait = std::clamp(nextFrame_ - hostNow(), 0.0, FrameMs);
+    const double wait = std::clamp(nextFrame_ - talvoraNow(), 0.0, FrameMs);
     inbox_.wait(rests ? ForEver : wait);
-    nextFrame_ = hostNow() + FrameMs;
+    nextFrame_ = talvoraNow() + FrameMs;
   }
   pump();
   return flow();
 }
 
 void WebScreen::RefreshStep() {
-  const double now = hostNow();
+  const double now = talvoraNow();
   // A step that comes much later than the one before begins a movement of its own.
   if (now > nextStep_ + LongestMovementPauseMs) nextStep_ = now;
   const double due = std::exchange(nextStep_, nextStep_ + FrameMs);
   if (now > due + FrameMs) return;
-  for (double left = due - now; left > 0; left = due - hostNow())
+  for (double left = due - now; left > 0; left = due - talvoraNow())
     inbox_.sleep(left);
   paint();
 }
@@ -244,7 +244,8 @@ void WebNarrator::answerJudged(Verdict verdict) {
 }
 
 Moment WebCalendar::now() const {
-  const auto parts = hostMoment();
+  std::array<int, 6> parts{};
+  talvoraMoment(parts.data());
   return {parts[0], parts[1], parts[2], parts[3], parts[4], parts[5]};
 }
 

@@ -37,7 +37,7 @@ class Inbox {
   [[nodiscard]] bool closeWanted() const noexcept { return closeWanted_; }
   void closeDelivered() noexcept { closeWanted_ = false; }
   /// Milliseconds since the learner last touched anything.
-  [[nodiscard]] double quietMs() const { return hostNow() - lastInput_; }
+  [[nodiscard]] double quietMs() const { return talvoraNow() - lastInput_; }
   /// Takes the answer to a box out of what has come.
   [[nodiscard]] std::optional<bool> takeAnswer();
 
@@ -61,7 +61,9 @@ class WebClock final : public Clock {
  public:
   explicit WebClock(Inbox& inbox) : inbox_(inbox) {}
 
-  [[nodiscard]] std::int64_t nowMs() const override { return static_cast<std::int64_t>(hostNow()); }
+  [[nodiscard]] std::int64_t nowMs() const override {
+    return static_cast<std::int64_t>(talvoraNow());
+  }
   [[nodiscard]] Flow Sleep(int ms) override;
 
   /// Brings to the page what has changed; set by whoever paints.
@@ -125,7 +127,7 @@ class WebSpeech final : public SpeechEngine {
  public:
   void Speak(std::string_view text) override;
   void StopSpeaking() override;
-  [[nodiscard]] bool IsSpeaking() const override { return hostIsSpeaking(); }
+  [[nodiscard]] bool IsSpeaking() const override { return talvoraSpeaks() != 0; }
   void Speed(int wordsPerMinute) override { wordsPerMinute_ = wordsPerMinute; }
   bool Select(int voice) override;
 
@@ -140,7 +142,7 @@ class WebWave final : public WavePlayer {
   void Close() override;
   void Play(int from, int to) override;
   void Stop() override;
-  [[nodiscard]] int Mode() const override { return hostIsPlaying() ? Playing : Stopped; }
+  [[nodiscard]] int Mode() const override { return talvoraPlays() != 0 ? Playing : Stopped; }
 };
 
 class WebBoxes final : public Boxes {

@@ -30,8 +30,11 @@ mergeInto(LibraryManager.library, {
       into >> 2,
     );
   },
-  talvoraSounds: function (what) {
-    return Module.host.sounds(what);
+  talvoraSpeaks: function () {
+    return Module.host.speaks();
+  },
+  talvoraPlays: function () {
+    return Module.host.plays();
   },
   talvoraPackFind: function (name, length) {
     return Module.host.pack.find(UTF8ToString(name, length));

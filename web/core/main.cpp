@@ -124,7 +124,7 @@ class Run {
   WebClipboard clipboard_;
   WebInstallation installation_;
   WebNarrator narrator_;
-  Random random_{hostSeed()};
+  Random random_{talvoraSeed()};
   WebFiles files_;
   WebCalendar calendar_;
   Platform platform_{clock_,        events_,   input_,  speech_, wave_,

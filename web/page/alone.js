@@ -1,5 +1,6 @@
 // In the place of memory that page and workers share, where a browser has none: messages go to and
 // fro, and the program is suspended while it waits for one.
+import { indexOf } from './pack.js';
 import { Fields } from './ring.js';
 
 /** @typedef {import('./pack.js').Entry} Entry */
@@ -45,10 +46,7 @@ export function readerOf(entries, port, waits) {
     came();
   };
   return {
-    /** @param {string} name */
-    find: (name) => entries.findIndex((entry) => entry.name === name),
-    /** @param {number} file */
-    size: (file) => entries[file].size,
+    ...indexOf(entries),
     /** @param {number} file @param {number} offset @param {Uint8Array} into */
     read: async (file, offset, into) => {
       if (!contents.has(file)) waits(true);

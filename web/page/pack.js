@@ -30,6 +30,14 @@ export async function openPack() {
   };
 }
 
+/** Which files there are, as the core asks. @param {Entry[]} entries */
+export const indexOf = (entries) => ({
+  /** @param {string} name */
+  find: (name) => entries.findIndex((entry) => entry.name === name),
+  /** @param {number} file */
+  size: (file) => entries[file].size,
+});
+
 /**
  * The pack as the core reads it; `waits` hears when it has to wait for a file and when that is over.
  * @param {Pack} pack
@@ -45,10 +53,7 @@ export function readerOf({ entries, contents, arrived }, waits) {
     waits(false);
   };
   return {
-    /** @param {string} name */
-    find: (name) => entries.findIndex((entry) => entry.name === name),
-    /** @param {number} file */
-    size: (file) => entries[file].size,
+    ...indexOf(entries),
     /** @param {number} file @param {number} offset @param {Uint8Array} into */
     read: (file, offset, into) => {
       waitFor(file);

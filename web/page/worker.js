@@ -35,27 +35,29 @@ function waysOf({ ring, port, pack }) {
 /** @param {Start} start */
 async function begin(start) {
   sounds = new Int32Array(start.sounds);
-  const ways = waysOf(start);
-  const [own, measures] = await Promise.all([
-    openOwnFiles(),
-    fetch('faces.bin').then((reply) => reply.arrayBuffer()),
-  ]);
-  if (!own.kept) postMessage({ do: 'notKept' });
   const host = {
-    ...ways,
+    ...waysOf(start),
     /** @param {string} json */
     tell: (json) => {
       const message = JSON.parse(json);
       noteSound(sounds, message);
-      if (message.do === 'kept') message.files = own.files.copy();
+      if (message.do === 'kept') message.files = host.own?.copy();
       postMessage(message);
     },
-    /** @param {number} what */
-    sounds: (what) => Atomics.load(sounds, what),
-    own: own.files,
+    speaks: () => Atomics.load(sounds, Sounds.Speaking),
+    plays: () => Atomics.load(sounds, Sounds.Playing),
+    /** @type {import('./own.js').OwnFiles | undefined} */
+    own: undefined,
   };
   const suspended = start.ring === undefined ? { instantiateWasm: alone.instantiate } : {};
-  program = await createTalvora({ host, ...suspended });
+  const [own, measures, made] = await Promise.all([
+    openOwnFiles(),
+    fetch('faces.bin').then((reply) => reply.arrayBuffer()),
+    createTalvora({ host, ...suspended }),
+  ]);
+  if (!own.kept) postMessage({ do: 'notKept' });
+  host.own = own.files;
+  program = made;
   const bytes = new Uint8Array(measures);
   const place = program._malloc(bytes.length);
   program.HEAPU8.set(bytes, place);

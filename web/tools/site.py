@@ -23,6 +23,9 @@ LEFT_OUT = ("data.c", "data.Kcu", "Yes1", "dictionary.made")
 # The clearest voice is the one in use.
 VOICES = {"slt": KEPT, "rms": WANTED, "awb": WANTED}
 SPEECH_KBITS = "32"
+# In the order of `Face`.
+FACES = ("Lato-Regular", "Lato-Semibold", "Lato-Bold", "Lato-Italic", "Lato-SemiboldItalic",
+         "texgyreschola-regular", "texgyreschola-bold")
 # Every letter that the program's bytes can show.
 LETTERS = "U+0020-024F,U+0259,U+0283,U+028C,U+0292,U+014B,U+03B8,U+1EA0-1EF9,U+2000-206F,U+20AC,U+2122"
 
@@ -36,13 +39,17 @@ def face_files(build):
 
 def put_fonts(build, site):
     (site / "fonts").mkdir(exist_ok=True)
-    for face in face_files(build):
+    style = ""
+    faces = {face.stem: face for face in face_files(build)}
+    for number, face in enumerate(faces[name] for name in FACES):
+        style += f"@font-face {{ font-family: F{number}; src: url('{face.stem}.woff2'); }}\n"
         out = site / "fonts" / (face.stem + ".woff2")
         if out.exists():
             continue
         subprocess.run(
             ["pyftsubset", face, f"--unicodes={LETTERS}", "--layout-features=kern", "--flavor=woff2",
              f"--output-file={out}"], check=True)
+    (site / "fonts" / "faces.css").write_text(style)
 
 
 def voice_of(name, made):
