@@ -7,11 +7,11 @@
 #include "pack/Telling.h"
 #include "platform/Files.h"
 #include "stores/OwnTexts.h"
+#include "text/CharClass.h"
 
 #include <algorithm>
 #include <array>
 #include <ostream>
-#include <regex>
 
 namespace talvora::pack {
 
@@ -20,6 +20,28 @@ namespace {
 /// The list comes last: with it the folder is the other one.
 constexpr std::array topFiles = {learnerfile::FirstRun, learnerfile::Settings, OwnTextsFile,
                                  learnerfile::Lists,    learnerfile::Rows,     learnerfile::Words};
+
+/// What a dated copy keeps.
+constexpr std::array copiedFiles = {learnerfile::Words, learnerfile::Settings, learnerfile::Rows,
+                                    learnerfile::Lists};
+
+/// Whether a name is as a pattern says, in which "#" stands for a digit.
+bool fits(std::string_view name, std::string_view pattern) {
+  static constexpr CharClass digits("[0-9]");
+  return std::ranges::equal(name, pattern, [](char letter, char asked) {
+    return asked == '#' ? digits.has(letter) : letter == asked;
+  });
+}
+
+/// Whether a name is that of a file in a dated copy; a second copy of one second has a number.
+bool isOfCopy(std::string_view name) {
+  const std::size_t end = name.rfind('/');
+  if (end == std::string_view::npos) return false;
+  const std::string_view folder = name.substr(0, end);
+  const bool isCopy =
+      fits(folder, "backups/####-##-##_##-##-##") || fits(folder, "backups/####-##-##_##-##-##-##");
+  return isCopy && std::ranges::find(copiedFiles, name.substr(end + 1)) != copiedFiles.end();
+}
 
 std::string pathOf(const LearnersList& list, std::string_view name) {
   return list.folder + "/" + std::string(name);
@@ -80,10 +102,8 @@ std::optional<std::string> replaceAll(const LearnersList& list,
 } // namespace
 
 bool travels(std::string_view name) {
-  static const std::regex below("texts/[0-9]{3}\\.txt|backups/[0-9]{4}(-[0-9]{2}){2}_[0-9]{2}"
-                                "(-[0-9]{2}){2,3}/(data\\.c|data\\.Kcu|words\\.txt|lists\\.txt)");
-  return std::find(topFiles.begin(), topFiles.end(), name) != topFiles.end() ||
-         std::regex_match(name.begin(), name.end(), below);
+  return std::ranges::find(topFiles, name) != topFiles.end() || fits(name, "texts/###.txt") ||
+         isOfCopy(name);
 }
 
 FolderContent folderContentOf(std::string_view archive) {

@@ -101,5 +101,17 @@ TEST_F(FolderFileTest, AProgramThatRunsThereIsLeftAlone) {
   EXPECT_THAT(out.str(), HasSubstr("Talvora is running"));
 }
 
+TEST(FolderFile, TakesTheNamesOfALearnersFilesAndNoOthers) {
+  for (const char* name : {"data.c", "texts/001.txt", "backups/2026-11-22_10-00-00/data.c",
+                           "backups/2026-11-22_10-00-00-02/words.txt"})
+    EXPECT_TRUE(travels(name)) << name;
+  for (const char* name :
+       {"", "/data.c", "../data.c", "talvora.lock", "texts/01.txt", "texts/0001.txt",
+        "texts/../1.txt", "backups/data.c", "backups/2026-11-22/data.c",
+        "backups/2026-11-22_10-00-00/other", "backups/../../../../x/data.c",
+        "backups/2026-11-22_10-00-00/data.c/more"})
+    EXPECT_FALSE(travels(name)) << name;
+}
+
 } // namespace
 } // namespace talvora::pack
