@@ -227,8 +227,19 @@ std::string LearnerWords::keptSentence(const VocabularyWord& word) const {
 std::optional<std::vector<VocabularyWord>> LearnerWords::read() {
   std::error_code error;
   auto words = list_.read(error);
-  unread_ = !words && error != std::errc::no_such_file_or_directory;
+  if (!words && error != std::errc::no_such_file_or_directory) missedList_ = true;
+  if (words && missedList_) catchUp(*words);
   return words;
+}
+
+/// Does to a list that could not be read for a while what was done since it was written; true when
+/// that changed it.
+bool LearnerWords::catchUp(Words& words) {
+  auto deeds = journal_.read();
+  deeds.insert(deeds.end(), pending_.begin(), pending_.end());
+  for (const WordDeed& deed : deeds)
+    rows_.try_emplace(keyOf(deed.row.record()), deed.row);
+  return replay(deeds, words);
 }
 
 void LearnerWords::noteAdded(const VocabularyWord& word) {
@@ -253,12 +264,17 @@ void LearnerWords::journal(std::vector<WordDeed> deeds) {
 }
 
 std::optional<std::string> LearnerWords::write(std::vector<VocabularyWord> words) {
-  if (unread_) {
-    auto unseen = read();
-    if (unread_) return pathOf(learnerfile::Words) + ": cannot be read";
-    if (unseen) words = joined(std::move(*unseen), std::move(words));
+  if (missedList_) {
+    std::error_code error;
+    auto unseen = list_.read(error);
+    if (!unseen && error != std::errc::no_such_file_or_directory)
+      return pathOf(learnerfile::Words) + ": cannot be read";
+    Words before = std::move(unseen).value_or(Words());
+    if (catchUp(before)) static_cast<void>(copies_.keep());
+    words = joined(std::move(before), std::move(words));
   }
   if (auto problem = list_.write(words)) return problem;
+  missedList_ = false;
   pending_.clear();
   writeRows(words);
   return std::nullopt;

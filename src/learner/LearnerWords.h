@@ -50,7 +50,8 @@ class LearnerWords {
   /// Whether every word that was taken is on the disk, in one file or the other.
   [[nodiscard]] bool safe() const noexcept { return pending_.empty(); }
 
-  /// The list as it is on disk; nothing when it is missing or cannot be read just now.
+  /// The list as it is on disk; nothing when it is missing or cannot be read just now. One that
+  /// comes back has what was done meanwhile.
   [[nodiscard]] std::optional<std::vector<VocabularyWord>> read();
   /// A word has been taken: it is on the disk when this returns, unless `safe` says no.
   void noteAdded(const VocabularyWord& word);
@@ -81,6 +82,7 @@ class LearnerWords {
   void clearLeftOvers();
   void readRows();
   void mergeJournal();
+  bool catchUp(std::vector<VocabularyWord>& words);
   void journal(std::vector<WordDeed> deeds);
   [[nodiscard]] WordRow rowOf(const VocabularyWord& word) const;
   void writeRows(const std::vector<VocabularyWord>& words);
@@ -96,7 +98,8 @@ class LearnerWords {
   std::string pack_;                       ///< its fingerprint
   std::vector<WordDeed> pending_;          ///< deeds that are on no disk
   bool storing_ = true;
-  bool unread_ = false; ///< there is a list on the disk that could not be read
+  /// Since it was last written, there was a list on the disk that could not be read.
+  bool missedList_ = false;
 };
 
 } // namespace talvora

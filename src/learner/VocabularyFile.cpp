@@ -1,7 +1,6 @@
 #include "learner/VocabularyFile.h"
 
 #include "formats/Integers.h"
-#include "platform/FatalFailure.h"
 #include "platform/Files.h"
 #include "text/Text.h"
 
@@ -53,13 +52,6 @@ std::optional<std::vector<VocabularyWord>> VocabularyFile::read(std::error_code&
   VocabularyContent content = vocabularyFrom(*bytes);
   oddBytes_ = std::move(content.oddBytes);
   return std::move(content.words);
-}
-
-std::vector<VocabularyWord> VocabularyFile::read() {
-  std::error_code error;
-  auto words = read(error);
-  if (!words) throw FatalFailure(fileProblem(path_, "cannot be read", error));
-  return std::move(*words);
 }
 
 std::optional<std::string> VocabularyFile::write(const std::vector<VocabularyWord>& words) {

@@ -48,8 +48,6 @@ class VocabularyFile {
   /// stay at the file's end. Nothing when the file is missing or cannot be read; `error` tells
   /// which.
   [[nodiscard]] std::optional<std::vector<VocabularyWord>> read(std::error_code& error);
-  /// The same; throws FatalFailure when the file is missing or cannot be read.
-  [[nodiscard]] std::vector<VocabularyWord> read();
   /// Replaces all records at once; odd bytes that were read are kept behind them. Returns what went
   /// wrong, or nothing; then the old list stands.
   [[nodiscard]] std::optional<std::string> write(const std::vector<VocabularyWord>& words);

@@ -337,6 +337,62 @@ TEST_F(LearnerWordsTest, AWordThatWasThereKeepsItsSentenceWhenTheListComesBack) 
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
 }
 
+TEST_F(LearnerWordsTest, AWordThatIsDeletedStaysDeletedWhenTheListComesBack) {
+  std::filesystem::create_directory(own.pathOf("data.c"));
+  Learning learning(pack, own);
+  learning.run.start();
+  learning.openText();
+  learning.add("bank");
+  learning.leaveText();
+  learning.removeFirst();
+  std::filesystem::remove(own.pathOf("data.c"));
+  own.write("data.c", record("river", 2) + record("bank", 1));
+  learning.openText();
+  learning.add("old");
+  learning.leaveText();
+  EXPECT_EQ(learning.words(), (Texts{"river", "old"}));
+  EXPECT_EQ(wordsNextTime(), (Texts{"river", "old"}));
+}
+
+TEST_F(LearnerWordsTest, AWordThatIsDeletedWhileTheListIsAwayStaysDeleted) {
+  const std::string list = record("bank", 1) + record("river", 2);
+  own.write("data.c", list);
+  Learning learning(pack, own);
+  learning.run.start();
+  EXPECT_EQ(learning.words(), (Texts{"bank", "river"}));
+  own.remove("data.c");
+  std::filesystem::create_directory(own.pathOf("data.c"));
+  EXPECT_EQ(learning.words(), (Texts{"bank", "river"}));
+  learning.removeFirst();
+  std::filesystem::remove(own.pathOf("data.c"));
+  own.write("data.c", list);
+  learning.openText();
+  learning.leaveText();
+  EXPECT_EQ(learning.words(), Texts{"river"});
+  EXPECT_EQ(wordsNextTime(), Texts{"river"});
+}
+
+TEST_F(LearnerWordsTest, WhatAnEarlierRunTookIsThereWhenTheListComesBack) {
+  std::filesystem::create_directory(own.pathOf("data.c"));
+  {
+    Learning earlier(pack, own);
+    earlier.run.start();
+    earlier.openText();
+    earlier.add("bank");
+    earlier.leaveText();
+  }
+  Learning learning(pack, own);
+  learning.run.start();
+  std::filesystem::remove(own.pathOf("data.c"));
+  own.write("data.c", record("river", 2));
+  EXPECT_EQ(learning.words(), (Texts{"river", "bank"}));
+  learning.openText();
+  learning.add("old");
+  learning.leaveText();
+  EXPECT_EQ(learning.words(), (Texts{"river", "bank", "old"}));
+  EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
+}
+
 // -- A kill at each call.
 
 /// Goes through a learner's evening; tells after each deed what must be kept from then on.
