@@ -1,6 +1,7 @@
 #include "exercises/XepTu.h"
 
 #include "exercises/WordOrder.h"
+#include "formats/PackFiles.h"
 #include "surface/Looks.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
@@ -24,7 +25,8 @@ int blanksIn(std::string_view text) {
 XepTu::XepTu(ExerciseControls& controls, SharedState& state, const Stores& stores, Shell& shell,
              PageServices services, Random& random, BackNextLinks& sharedLinks)
     : links(sharedLinks), controls_(controls), state_(state), shell_(shell), services_(services),
-      words_(controls, state, shell, services), random_(random), text_(stores, state.text) {
+      words_(controls, state, shell, services), random_(random), stores_(stores),
+      text_(stores, state.text) {
   wireEvents();
 }
 
@@ -57,7 +59,7 @@ void XepTu::VaoXepTu(std::string_view LoiGiai) {
   XepChay = true;
   CurrentText& text = state_.text;
   text.CauHoi = "_" + text.CauHoi + "_end.";
-  text_.TachCau("data.bt: a word ordering item");
+  text_.TachCau(stores_.pathOf(packfile::Items) + ": a word ordering item");
   text.DichCau = split(std::string(LoiGiai) + "_end.", '_');
   ChiSoCau = text.SoCauVanBan;
   VeXepTu(controls_.Rxep);

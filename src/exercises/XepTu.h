@@ -116,6 +116,7 @@ class XepTu {
   PageServices services_;
   WordHelp words_;
   Random& random_;
+  const Stores& stores_;
   ReadingText text_;
 
   Origin origin_ = Origin::Text;

@@ -1,5 +1,6 @@
 #include "lessons/VanPham.h"
 
+#include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
@@ -166,7 +167,7 @@ void VanPham::appendLine(int n) {
 void VanPham::addHeading(int n) {
   CurrentList& list = state_.list;
   if (list.SoNhom == static_cast<int>(CurrentList::MaxHeadings)) {
-    throw FatalFailure("datavp.n: lesson " + std::to_string(n) +
+    throw FatalFailure(stores_.pathOf(packfile::Lessons) + ": lesson " + std::to_string(n) +
                        " is one heading more than the list has room for");
   }
   ++list.SoNhom;

@@ -14,15 +14,15 @@ namespace {
   throw FatalFailure(where + " has more than " + std::to_string(most) + " sentence marks");
 }
 
-std::string nameOfStore(int stream) {
-  return std::string(stream == file::SpeakingTexts ? packfile::SpeakingTexts
-                                                   : packfile::ReadingTexts);
+std::string_view nameOfStore(int stream) {
+  return stream == file::SpeakingTexts ? packfile::SpeakingTexts : packfile::ReadingTexts;
 }
 
 } // namespace
 
 void ReadingText::DocBai(int i) {
-  const std::string where = nameOfStore(stores_.FileVanBan) + ": text " + std::to_string(i);
+  const std::string where =
+      stores_.pathOf(nameOfStore(stores_.FileVanBan)) + ": text " + std::to_string(i);
   std::string& text = text_.CauHoi;
   text = "_";
   const std::int64_t start = stores_.ViTriBai.at(static_cast<std::size_t>(i));

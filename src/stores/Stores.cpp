@@ -100,20 +100,24 @@ std::string Stores::dictionaryFolder() const {
   return dictionaryFolderOf(places_.ThuMuc, places_.learnerFolder(), fileSystem_);
 }
 
+std::string Stores::pathOf(std::string_view storedName) const {
+  return pathBelow(places_.ThuMuc, storedName);
+}
+
 std::shared_ptr<const MappedFile> Stores::hold(std::string_view storedName) const {
-  return MappedFile::open(pathBelow(places_.ThuMuc, storedName), fileSystem_);
+  return MappedFile::open(pathOf(storedName), fileSystem_);
 }
 
 std::shared_ptr<const MappedFile> Stores::holdPage(std::string_view storedName) const {
   auto page = hold(storedName);
   if (page->bytes().size() > LongestPage) {
-    throw FatalFailure(pathBelow(places_.ThuMuc, storedName) + ": is too long for a page");
+    throw FatalFailure(pathOf(storedName) + ": is too long for a page");
   }
   return page;
 }
 
 bool Stores::has(std::string_view storedName) const {
-  return TonTaiFile(pathBelow(places_.ThuMuc, storedName), fileSystem_);
+  return TonTaiFile(pathOf(storedName), fileSystem_);
 }
 
 RecordFile Stores::open(std::string_view storedName) {

@@ -127,6 +127,8 @@ class Stores {
   /// The folder of the dictionary's files: the learner's, where one that was merged with brought
   /// dictionaries is whole there, else the pack.
   [[nodiscard]] std::string dictionaryFolder() const;
+  /// Where a file of the pack lies.
+  [[nodiscard]] std::string pathOf(std::string_view storedName) const;
   /// Holds a file of the pack. Throws FatalFailure naming it when it is missing.
   [[nodiscard]] std::shared_ptr<const MappedFile> hold(std::string_view storedName) const;
   /// The same of a file that is shown whole as one page. Throws FatalFailure naming it also when it

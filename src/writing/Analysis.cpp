@@ -15,9 +15,8 @@ namespace {
 constexpr char StretchEnd = '|';
 constexpr CharClass EndingPoints("[:.,!\"]");
 
-[[noreturn]] void failOverrun(const std::string& what) {
-  throw FatalFailure("dataPt.v: an analysed text has more than " + std::to_string(MostStretches) +
-                     " " + what);
+[[noreturn]] void failOverrun(const std::string& where, const std::string& what) {
+  throw FatalFailure(where + " has more than " + std::to_string(MostStretches) + " " + what);
 }
 
 char at(std::string_view text, int position) {
@@ -28,19 +27,20 @@ char at(std::string_view text, int position) {
 
 } // namespace
 
-std::vector<AnalysedStretch> LapOTuPT(std::string_view VanBanGoc, int titleEnd) {
+std::vector<AnalysedStretch> LapOTuPT(std::string_view VanBanGoc, int titleEnd,
+                                      const std::string& where) {
   std::vector<AnalysedStretch> stretches;
   int start = titleEnd - 2;
   for (int i = std::max(titleEnd, 1); i <= static_cast<int>(VanBanGoc.size()); ++i) {
     if (at(VanBanGoc, i) != StretchEnd) continue;
-    if (stretches.size() == MostStretches) failOverrun("stretches");
+    if (stretches.size() == MostStretches) failOverrun(where, "stretches");
     stretches.push_back({start, i, std::string()});
     start = i + 1;
   }
   return stretches;
 }
 
-std::vector<std::string> GanGiaiPT(std::string_view PhanTich) {
+std::vector<std::string> GanGiaiPT(std::string_view PhanTich, const std::string& where) {
   std::vector<std::string> entries;
   std::string entry;
   bool firstLine = true;
@@ -50,7 +50,7 @@ std::vector<std::string> GanGiaiPT(std::string_view PhanTich) {
       field = 0;
       firstLine = true;
       // The text behind the mark needs a place too.
-      if (entries.size() + 1 == MostStretches) failOverrun("explanations");
+      if (entries.size() + 1 == MostStretches) failOverrun(where, "explanations");
       entries.push_back(std::exchange(entry, std::string()));
       continue;
     }

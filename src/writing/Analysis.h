@@ -23,12 +23,14 @@ struct AnalysedStretch {
 inline constexpr std::size_t MostStretches = limit::Stretches;
 
 /// Cuts a marked text into stretches: each "|" from the body on ends one. `titleEnd` is the
-/// position at which the body begins. Throws FatalFailure when there are too many.
-[[nodiscard]] std::vector<AnalysedStretch> LapOTuPT(std::string_view VanBanGoc, int titleEnd);
+/// position at which the body begins. Throws FatalFailure naming `where` when there are too many.
+[[nodiscard]] std::vector<AnalysedStretch> LapOTuPT(std::string_view VanBanGoc, int titleEnd,
+                                                    const std::string& where);
 
 /// Splits an analysis at "^" and writes the labels of the fields into it. Element k is the text of
-/// stretch k + 1. Throws FatalFailure when there are too many.
-[[nodiscard]] std::vector<std::string> GanGiaiPT(std::string_view PhanTich);
+/// stretch k + 1. Throws FatalFailure naming `where` when there are too many.
+[[nodiscard]] std::vector<std::string> GanGiaiPT(std::string_view PhanTich,
+                                                 const std::string& where);
 
 /// A stretch of a surface, in characters.
 struct WordMark {

@@ -1,5 +1,6 @@
 #include "writing/PTCau.h"
 
+#include "formats/PackFiles.h"
 #include "surface/Looks.h"
 
 #include <algorithm>
@@ -10,8 +11,10 @@ void PTCau::NapPhanTich(int n) {
   shell_.messages.ThongBao("Loading Data...", 0);
   PhanTich_ = readAnalysis(n);
   if (PhanTich_.size() > 1) calls.ThayTenBai(PhanTich_);
-  auto stretches = LapOTuPT(state_.text.VanBanGoc, ViTriTieuDe());
-  const auto texts = GanGiaiPT(PhanTich_);
+  const std::string name = "analysis " + std::to_string(n);
+  auto stretches = LapOTuPT(state_.text.VanBanGoc, ViTriTieuDe(),
+                            stores_.pathOf(packfile::ReadingTexts) + ": the text of " + name);
+  const auto texts = GanGiaiPT(PhanTich_, stores_.pathOf(packfile::Analyses) + ": " + name);
   for (std::size_t k = 0; k < std::min(stretches.size(), texts.size()); ++k) {
     stretches[k].Chu = texts[k];
   }

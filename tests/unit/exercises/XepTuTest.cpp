@@ -348,7 +348,8 @@ TEST_F(Ordering, TooManySentencesEndTheProgramAndNameTheStore) {
     drill.VaoXepTu("");
     FAIL() << "no failure";
   } catch (const FatalFailure& failure) {
-    EXPECT_THAT(failure.what(), testing::HasSubstr("data.bt"));
+    EXPECT_THAT(failure.what(),
+                testing::StartsWith(run.state().places.ThuMuc + "/data.bt: a word ordering item"));
   }
 }
 

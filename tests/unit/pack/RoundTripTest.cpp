@@ -113,14 +113,14 @@ TEST_F(RoundTrip, Analyses) {
   for (const auto& [number, analysis] : source.analyses) {
     const std::string read = shown(number + AnalysedTextsAhead);
     const int titleEnd = static_cast<int>(read.find('\r')) + 2;
-    const auto stretches = LapOTuPT(text.VanBanGoc, titleEnd);
+    const auto stretches = LapOTuPT(text.VanBanGoc, titleEnd, "the text");
     EXPECT_EQ(stretches.size(), analysis.size()) << number;
     const std::int64_t start = stores.fileOf(file::AnalysisPositions).integer(number);
     PieceReader pieces(stores.fileOf(file::Analyses), start + 1);
     std::string stored;
     for (auto piece = pieces.next(); piece && *piece != "@"; piece = pieces.next())
       stored += *piece;
-    const auto told = GanGiaiPT(stored);
+    const auto told = GanGiaiPT(stored, "the analysis");
     ASSERT_EQ(told.size(), analysis.size()) << number;
     for (std::size_t place = 0; place < analysis.size(); ++place) {
       for (const std::string& field : analysis[place].fields)
