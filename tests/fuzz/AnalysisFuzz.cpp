@@ -16,8 +16,8 @@ namespace {
 
 void readAsAnalysis(std::string_view bytes) {
   try {
-    const auto stretches = LapOTuPT(bytes, static_cast<int>(bytes.size() % 7));
-    const auto entries = GanGiaiPT(bytes);
+    const auto stretches = LapOTuPT(bytes, static_cast<int>(bytes.size() % 7), "text");
+    const auto entries = GanGiaiPT(bytes, "analysis");
     if (stretches.size() > MostStretches || entries.size() > MostStretches) std::abort();
   } catch (const FatalFailure&) {
     return;

@@ -3,6 +3,7 @@
 #include "exercises/Exercises.h"
 #include "exercises/ItemMask.h"
 #include "exercises/ItemRecord.h"
+#include "pack/ExerciseStore.h"
 #include "pack/ItemSource.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/ProgramControls.h"
@@ -113,6 +114,28 @@ void draw(Desk& desk, std::string question, std::string_view answer) {
   use(desk, page.surface());
 }
 
+/// What is stored must be read again; references to lessons, of which there are none, come back
+/// empty.
+void checkStore(const std::vector<pack::Item>& items) {
+  using namespace talvora::pack;
+  ExerciseSource source;
+  source.banks[1] = items;
+  source.lessons[2] = items;
+  const LessonSource none;
+  const auto files = compileExercises(source, none);
+  Problems problems;
+  const ExerciseSource back =
+      decodeExercises({files.at(0).bytes, files.at(1).bytes, files.at(2).bytes}, none, problems);
+  if (!problems.none() || back.banks[1].size() != items.size()) std::abort();
+  for (std::size_t at = 0; at < items.size(); ++at) {
+    const bool alike = back.banks[1][at].kind == items[at].kind &&
+                       back.banks[1][at].question == items[at].question &&
+                       back.banks[1][at].options == items[at].options &&
+                       back.banks[1][at].hints == items[at].hints;
+    if (!alike) std::abort();
+  }
+}
+
 /// What is accepted as a source of items must survive being written and read again.
 void checkSource(std::string_view text) {
   using namespace talvora::pack;
@@ -122,6 +145,7 @@ void checkSource(std::string_view text) {
   const std::string written = writeItems(items, ItemPlace::Bank);
   const auto again = parseItems(written, "items", ItemPlace::Bank, BlankHelp::Own, problems);
   if (!problems.none() || writeItems(again, ItemPlace::Bank) != written) std::abort();
+  checkStore(items);
 }
 
 } // namespace

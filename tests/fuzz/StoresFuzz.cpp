@@ -130,6 +130,9 @@ void readItems(Desk& desk) {
     heard.LapBangNghe();
     for (const int number : {0, 1, 2, 9, ListeningItems::Count, ListeningItems::Count + 1})
       static_cast<void>(heard.textsAt(heard.item(number).ViTri));
+    Variables variables;
+    heard.declare(variables);
+    static_cast<void>((*variables.find("CauNghe"))());
   });
 }
 

@@ -2,6 +2,7 @@
 // line at a caret is the one that a walk finds.
 #include "dictionary/LookUp.h"
 #include "platform/FatalFailure.h"
+#include "tests/fuzz/Pieces.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -49,6 +50,14 @@ void search(const WordList& words, std::string_view key) {
   if (lookUp.TimThay && ChuanHoaTu(words.Chu(lookUp.ViTriGan)) != lower(key)) std::abort();
 }
 
+std::string manyTimes(const std::string& list) {
+  constexpr std::size_t Enough = std::size_t{WordList::MostLines} + 1;
+  std::string many = list + "\n";
+  while (many.size() < Enough)
+    many += many;
+  return many;
+}
+
 int walkTo(const WordList& words, int caret) {
   int i = 1;
   while (i < WordList::WordCount && words.ViTriDanhSach(i) <= caret)
@@ -61,9 +70,13 @@ int walkTo(const WordList& words, int caret) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const Folder folder;
   const std::string_view input(reinterpret_cast<const char*>(data), size);
-  // The first bytes are the records, the other half is the list.
-  folder.write("data.mtd", input.substr(0, size / 2));
-  folder.write("datatu.txt", input.substr(size / 2));
+  // First the records, then the list; where there is more, the list stands many times over, which
+  // is more than any list may be.
+  fuzz::Pieces pieces(input);
+  folder.write("data.mtd", pieces.next());
+  std::string list(pieces.next());
+  if (!pieces.next().empty()) list = manyTimes(list);
+  folder.write("datatu.txt", list);
   WordList words;
   try {
     words.NapTuDien(folder.path(), [] {});
@@ -76,7 +89,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (int i = 1; i <= std::min(words.count(), 40); ++i)
     search(words, ChuanHoaTu(words.Chu(i)));
   words.examineCarets();
-  const int caret = words.ViTriDanhSach(1);
-  if (words.lineAt(caret) != walkTo(words, caret)) std::abort();
+  for (const int line : {1, 2, 7, words.count() / 2}) {
+    const int caret = words.ViTriDanhSach(line);
+    if (words.lineAt(caret) != walkTo(words, caret)) std::abort();
+  }
   return 0;
 }

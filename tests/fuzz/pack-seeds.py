@@ -34,6 +34,13 @@ def main():
     places = b"\n".join(b"%d\t0123456789abcdef\t2\tA title" % record for record in range(1, 20))
     texts = [(pack / file).read_bytes()[:LONGEST] for file in ("data.vt", "data.av")]
     (folder / "Stores" / "places").write_bytes(MARK.join([*texts, places]))
+    # A list of words with carets that rise, and the same many times over.
+    words = folder / "WordFiles"
+    words.mkdir(exist_ok=True)
+    list_of_words = b"\n".join((pack / "datatu.txt").read_bytes().split(b"\n")[:1500])
+    both = MARK.join([(pack / "data.mtd").read_bytes()[:12000], list_of_words])
+    (words / "course").write_bytes(both)
+    (words / "long").write_bytes(both + MARK + b"more")
     spoken = folder / "Pronunciations"
     spoken.mkdir(exist_ok=True)
     rules = (pack / "pronunciation.txt").read_bytes()[:LONGEST]
