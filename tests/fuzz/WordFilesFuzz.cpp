@@ -50,9 +50,10 @@ void search(const WordList& words, std::string_view key) {
   if (lookUp.TimThay && ChuanHoaTu(words.Chu(lookUp.ViTriGan)) != lower(key)) std::abort();
 }
 
+/// So often that a list of short words has too many lines, and one without lines too long a one.
 std::string manyTimes(const std::string& list) {
-  constexpr std::size_t Enough = std::size_t{WordList::MostLines} + 1;
-  std::string many = list + "\n";
+  constexpr std::size_t Enough = 5 * std::size_t{WordList::MostLines};
+  std::string many = list.empty() ? "\n" : list;
   while (many.size() < Enough)
     many += many;
   return many;
@@ -70,8 +71,7 @@ int walkTo(const WordList& words, int caret) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const Folder folder;
   const std::string_view input(reinterpret_cast<const char*>(data), size);
-  // First the records, then the list; where there is more, the list stands many times over, which
-  // is more than any list may be.
+  // First the records, then the list; where there is more, the list stands many times over.
   fuzz::Pieces pieces(input);
   folder.write("data.mtd", pieces.next());
   std::string list(pieces.next());
@@ -89,7 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (int i = 1; i <= std::min(words.count(), 40); ++i)
     search(words, ChuanHoaTu(words.Chu(i)));
   words.examineCarets();
-  for (const int line : {1, 2, 7, words.count() / 2}) {
+  for (const int line : {1, words.count() / 2}) {
     const int caret = words.ViTriDanhSach(line);
     if (words.lineAt(caret) != walkTo(words, caret)) std::abort();
   }
