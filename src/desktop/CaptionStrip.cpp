@@ -142,7 +142,8 @@ void CaptionStrip::resizeEvent(QResizeEvent*) {
 }
 
 void CaptionStrip::arrange() {
-  if (height() <= 0) return;
+  // Ahead of its first place every letter would be measured at a size that is never seen.
+  if (!testAttribute(Qt::WA_Resized) || height() <= 0) return;
   int right = width();
   for (StripButton* button : {close_, minimise_, hint_, back_}) {
     button->setFont(textFont(false));

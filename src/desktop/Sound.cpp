@@ -42,7 +42,8 @@ std::unique_ptr<Recording> openRecording(const std::string& path) {
 }
 
 Sound makeSound(const std::filesystem::path& pack) {
-  return {std::make_unique<ThreadedSpeech>(openSoundDevice, loadVoices, pronunciationsOf(pack)),
+  return {std::make_unique<ThreadedSpeech>(openSoundDevice, loadVoices,
+                                           [pack] { return pronunciationsOf(pack); }),
           std::make_unique<WaveOutput>(openSoundDevice, openRecording)};
 }
 

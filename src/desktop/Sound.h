@@ -20,8 +20,8 @@ struct Sound {
 };
 
 /// Makes both, for a pack in a folder, which tells what the voices say wrong of themselves. They
-/// look for the default sound device, for voices and for what reads recordings when the first sound
-/// comes. What is missing keeps its timing silently.
+/// look for the default sound device, for voices, for that and for what reads recordings when the
+/// first sound comes. What is missing keeps its timing silently.
 [[nodiscard]] Sound makeSound(const std::filesystem::path& pack);
 
 /// The voices and the reader of recordings that lie in libraries beside the program, which are

@@ -31,9 +31,9 @@ std::int64_t spokenMs(std::string_view text, int wordsPerMinute) {
 } // namespace
 
 ThreadedSpeech::ThreadedSpeech(PcmPlayer::MakeDevice makeDevice, MakeVoices makeVoices,
-                               Pronunciations pronunciations)
+                               ReadPronunciations readPronunciations)
     : player_(std::move(makeDevice)), makeVoices_(std::move(makeVoices)),
-      pronunciations_(std::move(pronunciations)), wordsPerMinute_(FirstSpeed),
+      readPronunciations_(std::move(readPronunciations)), wordsPerMinute_(FirstSpeed),
       thread_([this](const std::stop_token& ending) { run(ending); }) {}
 
 ThreadedSpeech::~ThreadedSpeech() {
@@ -88,7 +88,10 @@ void ThreadedSpeech::run(const std::stop_token& ending) {
     synthesising_ = true;
     const std::uint64_t stops = stops_;
     lock.unlock();
-    if (!voices) voices = makeVoices_(pronunciations_.lexicon());
+    if (!voices) {
+      pronunciations_ = readPronunciations_();
+      voices = makeVoices_(pronunciations_.lexicon());
+    }
     say(utterance, voices->get(), stops);
     lock.lock();
     // Stopped, it was over already, and something else may be on its way.

@@ -26,10 +26,13 @@ class ThreadedSpeech final : public SpeechEngine {
   /// the first word; null when there are none.
   using MakeVoices = std::function<std::unique_ptr<Voices>(std::vector<LexiconEntry> lexicon)>;
 
-  /// `pronunciations` is what the voices say wrong of themselves, and for words that are said in
-  /// several ways what they cannot know.
-  ThreadedSpeech(PcmPlayer::MakeDevice makeDevice, MakeVoices makeVoices,
-                 Pronunciations pronunciations = {});
+  /// Reads what the voices say wrong of themselves, and for words that are said in several ways
+  /// what they cannot know. Called on the engine's thread with the first word.
+  using ReadPronunciations = std::function<Pronunciations()>;
+
+  ThreadedSpeech(
+      PcmPlayer::MakeDevice makeDevice, MakeVoices makeVoices,
+      ReadPronunciations readPronunciations = [] { return Pronunciations(); });
   ThreadedSpeech(const ThreadedSpeech&) = delete;
   ThreadedSpeech& operator=(const ThreadedSpeech&) = delete;
   ~ThreadedSpeech() override;
@@ -55,7 +58,8 @@ class ThreadedSpeech final : public SpeechEngine {
 
   PcmPlayer player_;
   const MakeVoices makeVoices_;
-  const Pronunciations pronunciations_;
+  const ReadPronunciations readPronunciations_;
+  Pronunciations pronunciations_; ///< of the thread alone
   mutable std::mutex mutex_;
   std::condition_variable_any changed_;
   std::deque<Utterance> queue_;

@@ -58,14 +58,18 @@ TextCatalogue::TextCatalogue(const std::string& pack, const std::string& learner
 }
 
 std::string TextCatalogue::fingerprint() const {
+  if (!fingerprint_.empty()) return fingerprint_;
   std::uint64_t hash = HashStart;
   for (const Store* each : {&reading_, &speaking_}) {
     hash = hashed(hash, each->positions.bytes());
     hash = hashed(hash, each->stream.bytes());
+    // Of the texts that were gone through few are opened.
+    each->stream.letMemoryGo();
   }
   std::array<char, 17> digits{};
   std::snprintf(digits.data(), digits.size(), "%016llx", static_cast<unsigned long long>(hash));
-  return digits.data();
+  fingerprint_ = digits.data();
+  return fingerprint_;
 }
 
 std::string TextCatalogue::listLine(TextKind kind, int text) const {

@@ -39,7 +39,8 @@ class TextCatalogue {
   /// that is missing.
   TextCatalogue(const std::string& pack, const std::string& learner, FileSystem& files);
 
-  /// A name for the texts of this pack: sixteen digits, others for other texts.
+  /// A name for the texts of this pack: sixteen digits, others for other texts. All of them are
+  /// read for it, once.
   [[nodiscard]] std::string fingerprint() const;
   /// The sentence that begins at a place; nothing when none does.
   [[nodiscard]] std::optional<SentencePlace> at(std::int32_t place) const;
@@ -69,6 +70,7 @@ class TextCatalogue {
 
   Store reading_;
   Store speaking_;
+  mutable std::string fingerprint_; ///< empty until it is asked for
 };
 
 } // namespace talvora

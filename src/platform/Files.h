@@ -54,8 +54,9 @@ readWhole(FileSystem& files, const std::string& path, std::error_code& error);
 /// into memory, so that whatever becomes of it on disk changes nothing; a large one is mapped.
 class MappedFile {
  public:
-  /// Files from this size on are mapped.
-  static constexpr std::size_t LargeFile = std::size_t{1} << 20;
+  /// Files from this size on are mapped: in a course the texts and the words, of which one sitting
+  /// reads little.
+  static constexpr std::size_t LargeFile = std::size_t{1} << 17;
 
   /// An empty file gives an empty span.
   /// Throws FatalFailure naming the file when it is missing or cannot be read.

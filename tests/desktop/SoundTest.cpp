@@ -200,6 +200,7 @@ TEST(ThreadedSpeech, ATextHasTheVoiceAndTheSpeedThatWereInUseWhenItCame) {
 }
 
 TEST(ThreadedSpeech, TheVoicesAreMadeWithTheFirstWordAndOnce) {
+  std::atomic<int> read = 0;
   std::atomic<int> made = 0;
   std::atomic<int> lexicon = 0;
   Heard heard;
@@ -211,13 +212,18 @@ TEST(ThreadedSpeech, TheVoicesAreMadeWithTheFirstWordAndOnce) {
         ++made;
         return std::make_unique<CountingVoices>(said);
       },
-      Pronunciations({{SpokenWhere::Everywhere, "colonel", "k er1 n ax0 l"}}));
+      [&] {
+        ++read;
+        return Pronunciations({{SpokenWhere::Everywhere, "colonel", "k er1 n ax0 l"}});
+      });
   EXPECT_TRUE(speech.Select(1));
   speech.StopSpeaking();
+  EXPECT_EQ(read, 0);
   EXPECT_EQ(made, 0);
   speech.Speak("go");
   speech.Speak("come");
   EXPECT_TRUE(comesTrue([&] { return heard.count() >= Rate / 5; }));
+  EXPECT_EQ(read, 1);
   EXPECT_EQ(made, 1);
   EXPECT_EQ(lexicon, 1);
 }
