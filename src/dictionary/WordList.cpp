@@ -1,5 +1,6 @@
 #include "dictionary/WordList.h"
 
+#include "formats/Integers.h"
 #include "formats/PackFiles.h"
 #include "platform/FatalFailure.h"
 #include "surface/LineEnds.h"
@@ -7,7 +8,10 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
+#include <span>
 
 namespace talvora {
 
@@ -114,10 +118,20 @@ std::string_view WordList::Chu(int i) const noexcept {
 }
 
 void WordList::examineCarets() {
+  // All of them are gone through while the list opens: each is read once, where it lies.
+  constexpr std::size_t Record = IntegerSize * PartsOfRecord;
+  const std::span<const unsigned char> bytes = positions_.bytes();
+  const auto whole = static_cast<int>(std::min<std::size_t>(bytes.size() / Record, WordCount));
   risingTo_ = 1;
-  while (risingTo_ < WordCount && ViTriDanhSach(risingTo_ + 1) >= ViTriDanhSach(risingTo_)) {
-    ++risingTo_;
+  for (std::int32_t before = ViTriDanhSach(1); risingTo_ < whole; ++risingTo_) {
+    const auto record = static_cast<std::size_t>(risingTo_) * Record;
+    const std::int32_t next = integerAt(bytes.data() + record + IntegerSize * ListPart);
+    if (next < before) break;
+    before = next;
   }
+  // Behind the end of the file all are 0.
+  while (risingTo_ < WordCount && ViTriDanhSach(risingTo_ + 1) >= ViTriDanhSach(risingTo_))
+    ++risingTo_;
   positions_.letMemoryGo();
 }
 

@@ -15,13 +15,14 @@ inline constexpr std::size_t CountSize = 2;
 
 static_assert(IntegerSize == sizeof(std::int32_t) && CountSize == sizeof(std::int16_t));
 
-/// The integer in four bytes; the caller has checked that they are there.
-[[nodiscard]] constexpr std::int32_t integerAt(const unsigned char* bytes) {
-  std::uint32_t value = 0;
-  for (std::size_t place = 0; place < IntegerSize; ++place) {
-    value |= static_cast<std::uint32_t>(bytes[place]) << (8 * place);
-  }
-  return static_cast<std::int32_t>(value);
+/// The integer in four bytes; the caller has checked that they are there. Written without a loop,
+/// it is a single load.
+template <class Byte>
+[[nodiscard]] constexpr std::int32_t integerAt(const Byte* bytes) {
+  const auto part = [bytes](int place) {
+    return std::uint32_t{static_cast<unsigned char>(bytes[place])} << (8 * place);
+  };
+  return static_cast<std::int32_t>(part(0) | part(1) | part(2) | part(3));
 }
 
 [[nodiscard]] constexpr std::array<unsigned char, IntegerSize> bytesOf(std::int32_t value) {
@@ -35,10 +36,7 @@ static_assert(IntegerSize == sizeof(std::int32_t) && CountSize == sizeof(std::in
 /// The 4-byte record of a number; 0 outside the table.
 [[nodiscard]] constexpr std::int32_t integerAt(std::string_view table, std::size_t record) {
   if (record == 0 || record > table.size() / IntegerSize) return 0;
-  std::array<unsigned char, IntegerSize> bytes{};
-  for (std::size_t place = 0; place < IntegerSize; ++place)
-    bytes[place] = static_cast<unsigned char>(table[(record - 1) * IntegerSize + place]);
-  return integerAt(bytes.data());
+  return integerAt(table.data() + (record - 1) * IntegerSize);
 }
 
 /// Appends a 4-byte record.
