@@ -10,7 +10,6 @@
 #include <array>
 #include <iterator>
 #include <map>
-#include <ranges>
 #include <set>
 #include <unordered_set>
 #include <utility>
@@ -156,8 +155,12 @@ Phones Pronouncer::phonesWithin(const std::vector<std::string>& words, std::size
   const auto within = withinPhrases_.find(words.at(at));
   // A later line goes before an earlier one.
   if (within != withinPhrases_.end()) {
-    for (const PronunciationRule* rule : std::views::reverse(within->second))
-      if (standsAround(spokenWordsOf(rule->phrase), words, at)) return rule->phones;
+    const auto& rules = within->second;
+    const auto rule =
+        std::find_if(rules.rbegin(), rules.rend(), [&](const PronunciationRule* each) {
+          return standsAround(spokenWordsOf(each->phrase), words, at);
+        });
+    if (rule != rules.rend()) return (*rule)->phones;
   }
   const PronunciationRule* rule = ruleEverywhere(words[at]);
   return rule != nullptr ? rule->phones : Phones{};

@@ -35,7 +35,7 @@ class Voice {
   [[nodiscard]] SpokenSentence speak(std::string_view sentence, float stretch) const;
 
  private:
-  cst_voice_struct* voice_; // The library's own.
+  [[maybe_unused]] cst_voice_struct* voice_; // The library's own; none in a silent build.
 };
 
 /// The name and release of what synthesises.

@@ -63,7 +63,7 @@ bool readEntry(archive* reader, std::string& bytes, std::size_t room) {
     if (count <= 0) return count == 0;
     bytes.append(step.data(), static_cast<std::size_t>(count));
     if (bytes.size() > room) {
-      archive_set_error(reader, ARCHIVE_FATAL, said("the archive is too large").c_str());
+      archive_set_error(reader, ARCHIVE_FATAL, "%s", said("the archive is too large").c_str());
       return false;
     }
   }
