@@ -59,10 +59,9 @@ test('the pages have roles and names, and no fault that axe-core knows', async (
 
 test('what comes up is told: entries, words that were taken, questions', async () => {
   const learner = await place.learner();
-  const told = learner.page.locator('#told');
   await learner.openText();
   await learner.takeWord();
-  assert.match((await told.textContent()) ?? '', /Đã lưu/);
+  await learner.page.locator('#told', { hasText: 'Đã lưu' }).waitFor();
   await learner.clickWord('R2', await learner.wordOfText());
   await learner.control('RHD').locator('.line').first().waitFor();
   const entry = (await learner.control('RHD').locator('.line').first().textContent()) ?? '-';

@@ -6,6 +6,7 @@ import { fileURLToPath } from 'node:url';
 import { chromium } from 'playwright-core';
 
 const Patience = 30_000;
+const Unseen = 4000;
 const Desktop = { width: 1366, height: 768 };
 const server = fileURLToPath(new URL('../tools/serve.js', import.meta.url));
 
@@ -102,16 +103,42 @@ export class Learner {
     await this.page.locator('.menu.focused').waitFor();
   }
 
-  /** Goes back, a page at a time, until the menu stands. */
-  async backToMenu() {
-    const menu = this.page.locator('.menu.focused');
-    while ((await menu.count()) === 0) {
-      const before = await this.page.locator('.focused').getAttribute('id');
-      await this.key('Escape');
-      const left = this.page.locator(`.focused:not(#${before})`);
-      // What stands over a page leaves it its keyboard.
-      await left.waitFor({ timeout: 4000 }).catch(() => undefined);
+  /** What stands on the screen, and who has the keyboard. */
+  standing() {
+    return this.page.evaluate(() =>
+      [...document.querySelectorAll('[id^="c-"]')]
+        .filter((each) => each.checkVisibility())
+        .map((each) => `${each.id} ${each.className}`)
+        .join(),
+    );
+  }
+
+  /**
+   * Goes back, a step at a time, until the menu stands; a step is over when the screen has changed.
+   * @param {() => Promise<unknown>} [step]
+   */
+  async backToMenu(step = () => this.key('Escape')) {
+    while ((await this.page.locator('.menu.focused').count()) === 0) {
+      const before = await this.standing();
+      await step();
+      // A step that ends a sound changes nothing that can be seen.
+      const change = Date.now() + Unseen;
+      while ((await this.standing()) === before && Date.now() < change)
+        await this.page.waitForTimeout(20);
     }
+    await this.onMenu();
+  }
+
+  /** Opens the vocabulary, in which these words stand. @param {string[]} words */
+  async findInVocabulary(...words) {
+    await this.control('but2').click();
+    await this.at('Rchon');
+    for (const word of words) await this.control('Rchon').getByText(word).first().waitFor();
+  }
+
+  /** Loads the page anew, which opens with the menu. */
+  async reload() {
+    await this.page.reload();
     await this.onMenu();
   }
 

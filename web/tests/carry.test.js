@@ -69,13 +69,6 @@ test('what was there becomes a copy beside those that there are', () => {
   );
 });
 
-/** @param {import('./browser.js').Learner} learner */
-const vocabularyOf = async (learner) => {
-  await learner.control('but2').click();
-  await learner.at('Rchon');
-  return learner.control('Rchon').innerText();
-};
-
 test('words go to the desktop and come back', async () => {
   const learner = await place.learner();
   await learner.openText();
@@ -107,7 +100,6 @@ test('words go to the desktop and come back', async () => {
   await other.page.locator('#carryTake').click();
   await other.page.locator('#carry').waitFor({ state: 'hidden' });
   await other.onMenu();
-  const words = await vocabularyOf(other);
-  for (const each of ['bank', word]) assert.match(words, new RegExp(each));
+  await other.findInVocabulary('bank', word);
   await other.close();
 });

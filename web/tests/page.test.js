@@ -34,19 +34,16 @@ test('a word that is taken is there after a reload in the middle of a text', asy
   const learner = await place.learner();
   await learner.openText();
   const word = await learner.takeWord();
-  await learner.page.reload();
-  await learner.onMenu();
-  await learner.control('but2').click();
-  await learner.at('Rchon');
-  assert.match(await learner.control('Rchon').innerText(), new RegExp(word));
+  await learner.reload();
+  await learner.findInVocabulary(word);
   await learner.backToMenu();
   // The list of texts opens where it was left.
   await learner.control('but1').click();
   await learner.at('R1');
-  assert.match(
-    (await learner.control('R1').locator('[aria-selected="true"]').textContent()) ?? '',
-    /Small Guide/,
-  );
+  await learner
+    .control('R1')
+    .locator('[aria-selected="true"]', { hasText: 'Small Guide' })
+    .waitFor();
   await learner.close();
 });
 
@@ -62,11 +59,9 @@ test('a second page on the same files says so', async () => {
 test('without a network the page opens all the same', async () => {
   const learner = await place.learner();
   await learner.page.evaluate(() => navigator.serviceWorker.ready);
-  await learner.page.reload();
-  await learner.onMenu();
+  await learner.reload();
   await learner.context.setOffline(true);
-  await learner.page.reload();
-  await learner.onMenu();
+  await learner.reload();
   assert.equal(await learner.page.locator('.menu').count(), 18);
   learner.faults = [];
   await learner.close();

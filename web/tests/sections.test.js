@@ -43,9 +43,10 @@ test('keys alone lead from the menu through a text, a lesson and an item', async
   const learner = await place.learner();
   const goTo = async (/** @type {string} */ button) => {
     for (let step = 0; step < 18; ++step) {
-      if ((await learner.page.locator('.menu.focused').getAttribute('id')) === `c-${button}`)
-        return;
+      const at = await learner.page.locator('.menu.focused').getAttribute('id');
+      if (at === `c-${button}`) return;
       await learner.key('ArrowDown');
+      await learner.page.locator(`.menu.focused:not(#${at})`).waitFor();
     }
     assert.fail(`the arrows do not come to ${button}`);
   };
@@ -75,7 +76,7 @@ test('keys alone lead from the menu through a text, a lesson and an item', async
   await learner.at('RN1');
   await learner.key('Enter');
   await learner.at('RDT');
-  assert.match((await learner.page.locator('#title').textContent()) ?? '', /Cau/);
+  await learner.page.locator('#title', { hasText: 'Cau' }).waitFor();
   await learner.close();
 });
 
@@ -84,7 +85,7 @@ test('typed letters find a word in the list of words', async () => {
   await learner.openText();
   await learner.page.keyboard.type('wat');
   await learner.control('RTD').locator('.current').waitFor();
-  assert.match((await learner.page.locator('#typed').textContent()) ?? '', /wat/);
+  await learner.page.locator('#typed', { hasText: 'wat' }).waitFor();
   await learner.close();
 });
 
@@ -105,15 +106,7 @@ for (const viewport of Phones) {
     for (const [button, its] of Sections.slice(0, 2)) {
       await learner.control(button).tap();
       await learner.at(its);
-      // The hints of a first opening go first.
-      while ((await page.locator('.menu.focused').count()) === 0) {
-        await twoFingers();
-        await page
-          .locator('.menu.focused')
-          .waitFor({ timeout: 2000 })
-          .catch(() => undefined);
-      }
-      await learner.onMenu();
+      await learner.backToMenu(twoFingers);
     }
     await learner.control('but1').tap();
     await learner.at('R1');
