@@ -14,8 +14,9 @@ class TemporaryFolder {
  public:
   /// Throws std::runtime_error when there is no room for one.
   TemporaryFolder() {
-    // What mkdtemp puts in place of the six letters makes the name the only one of its kind.
-    std::string pattern = (std::filesystem::temp_directory_path() / "talvora-XXXXXX").string();
+    // The name ends with six letters that mkdtemp puts others in place of, until no folder has it.
+    const std::string name = "talvora-" + std::string(6, 'X');
+    std::string pattern = (std::filesystem::temp_directory_path() / name).string();
     if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
     path_ = pattern;
   }

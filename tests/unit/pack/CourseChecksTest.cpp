@@ -3,14 +3,12 @@
 
 #include "pack/DrillChecks.h"
 #include "pack/GuideTextCheck.h"
-#include "pack/HeardApart.h"
 #include "pack/KeySentences.h"
-#include "pack/Lexicon.h"
+#include "pack/OptionProblems.h"
 #include "pack/PlanChecks.h"
 #include "pack/StreamText.h"
 #include "pack/TextChecks.h"
 #include "pack/Told.h"
-#include "pack/WordPhones.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
@@ -187,64 +185,6 @@ TEST(PlanChecks, TellOfOpenSlotsBetweenTexts) {
 }
 
 // -- Listening options.
-
-TEST(DrillChecks, KnowWhatTheVoiceKeepsApart) {
-  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
-  EXPECT_THAT(wordPhones("ship"), ElementsAre("sh", "ih", "p"));
-  const auto reason = [](const std::string& heard, const std::string& other) {
-    return notHeardApart(heard, other, Speaker::Rms);
-  };
-  EXPECT_THAT(reason("I can find it.", "I can't find it."), HasSubstr("can/can't"));
-  EXPECT_THAT(reason("The jug is full.", "The jug is fool."), HasSubstr("full/fool"));
-  EXPECT_THAT(reason("It's their house.", "It's there house."), HasSubstr("their/there"));
-  EXPECT_EQ(reason("It's a ship.", "It's a sheep."), "");
-  EXPECT_EQ(reason("I can find it.", "I can't find them."), "");
-  EXPECT_EQ(reason("I can find it.", "I can find it now."), "");
-  EXPECT_EQ(reason("I can find it.", "I can find it."), "");
-}
-
-TEST(DrillChecks, KnowEachVoiceByItself) {
-  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
-  const auto apart = [](const std::string& heard, const std::string& other, Speaker speaker) {
-    return notHeardApart(heard, other, speaker).empty();
-  };
-  EXPECT_FALSE(apart("It's a van.", "It's a fan.", Speaker::Rms));
-  EXPECT_TRUE(apart("It's a van.", "It's a fan.", Speaker::Slt));
-  EXPECT_TRUE(apart("It's a path.", "It's a bath.", Speaker::Rms));
-  EXPECT_THAT(notHeardApart("It's a path.", "It's a bath.", Speaker::Slt),
-              HasSubstr("the voice of slt does not keep path/bath apart"));
-}
-
-ListeningQuestion itemOf(const std::string& heard, const std::string& right,
-                         const std::array<std::string, 3>& wrong) {
-  return {1, heard, right, wrong, {"u", 1, 1}};
-}
-
-std::vector<std::string> optionProblems(int unit, const ListeningUnit& items,
-                                        const UnitVoices& voices = {}) {
-  ListeningSource source;
-  source.units[unit] = items;
-  Problems problems;
-  auto lines = checkOptions(source, voices, "l", problems);
-  for (const std::string& line : told(problems))
-    lines.push_back(line);
-  return lines;
-}
-
-TEST(DrillChecks, AskTheVoiceThatSaysTheSentence) {
-  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
-  const ListeningUnit items = {
-      itemOf("It's a van.", "It's a van.", {"It's a fan.", "It's a car.", "It's a bus."})};
-  const auto soundProblems = [&](const UnitVoices& voices) {
-    auto lines = optionProblems(1, items, voices);
-    std::erase_if(lines, [](const std::string& line) { return !line.starts_with("u:"); });
-    return lines;
-  };
-  EXPECT_THAT(soundProblems({{1, {Speaker::Rms}}}), ElementsAre(HasSubstr("van/fan")));
-  EXPECT_THAT(soundProblems({{1, {Speaker::Slt}}}), ElementsAre());
-  EXPECT_THAT(soundProblems({{1, {}}}), ElementsAre()) << "the live voice is slt";
-  EXPECT_THAT(soundProblems({}), ElementsAre()) << "a person reads the unit";
-}
 
 TEST(DrillChecks, HoldOptionsToOneLength) {
   const ListeningUnit items = {

@@ -1,11 +1,8 @@
 // A teacher's own recordings, and the speakers that a script names.
 #include "pack/OwnRecording.h"
 
-#include "pack/Lexicon.h"
 #include "pack/ReadingSource.h"
-#include "pack/Recordings.h"
-#include "pack/SourceFile.h"
-#include "pack/SpeechLevel.h"
+#include "pack/RecordedPack.h"
 #include "pack/Told.h"
 #include "support/TestFolder.h"
 
@@ -59,28 +56,16 @@ TEST(OwnRecording, TellsWhatCannotBeUsed) {
   EXPECT_THAT(told(problems), ElementsAre(HasSubstr("3.wav: a recording is 1.wav to 9.wav")));
 }
 
-ReadingSource oneScript() {
-  ReadingSource readings;
-  readings.texts[400] = {"T", {{{"Good morning.", "x"}, {"It rains.", "x"}}}};
-  return readings;
-}
-
-void noProgress(std::string_view) {}
-
 TEST(OwnRecording, TakesThePlaceOfTheSynthesisedOneAndIsKept) {
-  TestFolder pack;
-  std::filesystem::create_directories(std::filesystem::path(pack.path()) / "sound");
-  const std::map<int, OwnRecording> own = {{1, {waveOf(1500), {700, 1500}}}};
-  const auto files = compileRecordings(oneScript(), own, {}, pack.path(), noProgress);
-  ASSERT_EQ(files.size(), 3U);
-  EXPECT_EQ(files[0].bytes, waveOf(1500));
-  for (const PackFile& file : files)
-    ASSERT_FALSE(store(file, pack.path()));
-  EXPECT_EQ(compileRecordings(oneScript(), own, {}, pack.path(), noProgress).size(), 1U);
-  const std::map<int, OwnRecording> moved = {{1, {waveOf(1500), {800, 1500}}}};
-  EXPECT_EQ(compileRecordings(oneScript(), moved, {}, pack.path(), noProgress).size(), 3U);
-  EXPECT_EQ(compileRecordings(oneScript(), {}, {}, pack.path(), noProgress).size(), 3U)
-      << "without it the voices speak again";
+  RecordedPack pack;
+  pack.own = {{1, {waveOf(1500), {700, 1500}}}};
+  EXPECT_EQ(pack.build(oneScript()).size(), 3U);
+  EXPECT_EQ(pack.bytes("sound/1.wav"), waveOf(1500));
+  EXPECT_EQ(pack.build(oneScript()).size(), 1U);
+  pack.own.at(1).marks = {800, 1500};
+  EXPECT_EQ(pack.build(oneScript()).size(), 3U);
+  pack.own.clear();
+  EXPECT_EQ(pack.build(oneScript()).size(), 3U) << "without it the voices speak again";
 }
 
 TEST(Speakers, TakeTurnsWhereTheScriptNamesNone) {
@@ -100,27 +85,6 @@ TEST(Speakers, AreNamedInTheLineAheadOfASentence) {
   EXPECT_EQ(writeReadingText(readings.texts[400]), source);
   static_cast<void>(parseReadingText("title: T\n\n// voice: tom\nA.\n= x\n", "t", problems));
   EXPECT_THAT(told(problems), ElementsAre(HasSubstr("t:3:11: a voice is")));
-}
-
-TEST(Speakers, HaveOneLevelAndTheRateOfTheirUnit) {
-  if (!hasLexicon()) GTEST_SKIP() << "built without speech";
-  EXPECT_DOUBLE_EQ(syllablesASecond(1), 3.0);
-  EXPECT_DOUBLE_EQ(syllablesASecond(9), 4.8);
-  ReadingSource readings = oneScript();
-  readings.texts[400].paragraphs[0][0].speaker = "slt";
-  readings.texts[408] = readings.texts[400];
-  TestFolder pack;
-  std::map<std::string, std::string> waves;
-  for (const PackFile& file : compileRecordings(readings, {}, {}, pack.path(), noProgress))
-    waves[file.name] = file.bytes;
-  EXPECT_GT(waves["sound/1.wav"].size(), waves["sound/9.wav"].size()) << "the first unit is slower";
-  const std::string bytes = waves["sound/1.wav"].substr(44);
-  Samples samples(bytes.size() / 2);
-  for (std::size_t at = 0; at < samples.size(); ++at) {
-    samples[at] = static_cast<std::int16_t>(static_cast<unsigned char>(bytes[2 * at]) |
-                                            static_cast<unsigned char>(bytes[2 * at + 1]) << 8);
-  }
-  EXPECT_NEAR(speechLevel(samples, 16000), RecordedLevel, 1.0);
 }
 
 } // namespace
