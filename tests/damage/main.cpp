@@ -189,10 +189,5 @@ int run(int argc, char** argv) {
 } // namespace talvora::damage
 
 int main(int argc, char** argv) {
-  try {
-    return talvora::damage::run(argc, argv);
-  } catch (const std::exception& error) {
-    std::cerr << "talvora-damage: " << error.what() << '\n';
-    return 2;
-  }
+  return talvora::test::runTrials("talvora-damage", talvora::damage::run, argc, argv);
 }

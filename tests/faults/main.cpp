@@ -107,6 +107,18 @@ std::string listOf(const std::vector<std::string>& words) {
   return list;
 }
 
+/// A copy that is gone with its owner.
+class CopiedFolder {
+ public:
+  explicit CopiedFolder(const fs::path& folder) {
+    fs::copy(folder, path(), fs::copy_options::recursive);
+  }
+  [[nodiscard]] const fs::path& path() const noexcept { return copy_.path(); }
+
+ private:
+  test::TemporaryFolder copy_;
+};
+
 class Trials {
  public:
   Trials(const Arguments& arguments, Journey journey)
@@ -165,22 +177,19 @@ class Trials {
   }
 
   [[nodiscard]] State stateOf(const fs::path& learner) const {
-    const test::TemporaryFolder copy;
-    fs::copy(learner, copy.path(), fs::copy_options::recursive);
+    const CopiedFolder copy(learner);
     return stateAfterRestart(fs::absolute(arguments_.pack).string(), copy.path().string());
   }
 
   [[nodiscard]] State stateBehind(std::size_t count) const {
-    const test::TemporaryFolder learner;
-    fs::copy(prepared_.path(), learner.path(), fs::copy_options::recursive);
+    const CopiedFolder learner(prepared_.path());
     liveWell(learner.path(), Steps(journey_.steps.begin(),
                                    journey_.steps.begin() + static_cast<std::ptrdiff_t>(count)));
     return stateOf(learner.path());
   }
 
   [[nodiscard]] int countCalls() const {
-    const test::TemporaryFolder learner;
-    fs::copy(prepared_.path(), learner.path(), fs::copy_options::recursive);
+    const CopiedFolder learner(prepared_.path());
     const auto outcome = test::tryInChild(
         [&] {
           test::FaultyFiles files;
@@ -194,8 +203,7 @@ class Trials {
   }
 
   void tryOne(const Fault& fault, int call) {
-    const test::TemporaryFolder learner;
-    fs::copy(prepared_.path(), learner.path(), fs::copy_options::recursive);
+    const CopiedFolder learner(prepared_.path());
     const auto outcome =
         test::tryInChild([&] { return liveWith(fault, call, learner.path()); }, Patience);
     ++tried_;
@@ -240,8 +248,7 @@ class Trials {
 
   /// What a call is, for whoever reads of a trial that broke something.
   [[nodiscard]] std::string nameOfCall(int call) const {
-    const test::TemporaryFolder learner;
-    fs::copy(prepared_.path(), learner.path(), fs::copy_options::recursive);
+    const CopiedFolder learner(prepared_.path());
     const auto outcome = test::tryInChild(
         [&] {
           test::FaultyFiles files;
@@ -338,10 +345,5 @@ int run(int argc, char** argv) {
 } // namespace talvora::faults
 
 int main(int argc, char** argv) {
-  try {
-    return talvora::faults::run(argc, argv);
-  } catch (const std::exception& error) {
-    std::cerr << "talvora-faults: " << error.what() << '\n';
-    return 2;
-  }
+  return talvora::test::runTrials("talvora-faults", talvora::faults::run, argc, argv);
 }

@@ -3,7 +3,12 @@
 import argparse
 import json
 import os
+import shutil
 import subprocess
+import tempfile
+from contextlib import contextmanager
+from pathlib import Path
+from types import SimpleNamespace
 
 
 def arguments(description):
@@ -33,6 +38,23 @@ def require(holds, message):
     """Ends the test with a message unless something holds."""
     if not holds:
         raise AssertionError(message)
+
+
+@contextmanager
+def course_to_change(options, words):
+    """A place with a copy of the content, its pack of so many words, and the own folder of a learner who
+    has been here. `build` compiles it, first now and then whenever something has changed."""
+    with tempfile.TemporaryDirectory() as folder:
+        course = SimpleNamespace(**{name: Path(folder, name) for name in ("content", "pack", "own")},
+                                 place=Path(folder))
+        course.build = lambda: subprocess.run(
+            [options.compiler, "build", str(course.content), str(course.pack), "--words", str(words)],
+            check=True)
+        shutil.copytree(options.content, course.content)
+        course.own.mkdir()
+        (course.own / "Yes1").touch()
+        course.build()
+        yield course
 
 
 class Ended(Exception):

@@ -3,20 +3,12 @@
 program plays each sentence between the teacher's marks, and without it the voices speak again."""
 
 import shutil
-import subprocess
 import sys
-import tempfile
 import wave
-from pathlib import Path
 
-from driving import Driver, arguments_with, require
+from driving import Driver, arguments_with, course_to_change, require
 
 MARKS = [700, 1500]
-
-
-def build(options, content, pack):
-    subprocess.run([options.compiler, "build", str(content), str(pack), "--words", "2000"],
-                   check=True)
 
 
 def record(folder):
@@ -30,9 +22,9 @@ def record(folder):
     return (folder / "1.wav").read_bytes()
 
 
-def played(options, pack, own):
+def played(options, course):
     """Where the first sentence that the first unit asks for is played, by the sentence."""
-    driver = Driver(options.driver, str(pack), str(own))
+    driver = Driver(options.driver, str(course.pack), str(course.own))
     driver.do("start")
     driver.do("click", button="but4")
     driver.do("log")
@@ -47,24 +39,19 @@ def played(options, pack, own):
 
 def main():
     options = arguments_with(__doc__, "--compiler", "--content")
-    with tempfile.TemporaryDirectory() as folder:
-        content, pack, own = Path(folder, "content"), Path(folder, "pack"), Path(folder, "own")
-        shutil.copytree(options.content, content)
-        own.mkdir()
-        (own / "Yes1").touch()
-        build(options, content, pack)
-        wave_file = pack / "sound" / "1.wav"
+    with course_to_change(options, 2000) as course:
+        wave_file = course.pack / "sound" / "1.wav"
         synthesised = wave_file.read_bytes()
-        sentence, start, synthesised_end = played(options, pack, own)
+        sentence, start, synthesised_end = played(options, course)
         require((sentence, start) == ("The boy is running.", 1), f"{sentence} from {start}")
-        recorded = record(content / "recordings")
-        build(options, content, pack)
+        recorded = record(course.content / "recordings")
+        course.build()
         require(wave_file.read_bytes() == recorded, "the pack has another recording")
-        require(played(options, pack, own) == (sentence, 1, MARKS[0]), "the marks are not the teacher's")
-        shutil.rmtree(content / "recordings")
-        build(options, content, pack)
+        require(played(options, course) == (sentence, 1, MARKS[0]), "the marks are not the teacher's")
+        shutil.rmtree(course.content / "recordings")
+        course.build()
         require(len(wave_file.read_bytes()) == len(synthesised), "the voices do not speak again")
-        require(played(options, pack, own) == (sentence, 1, synthesised_end), "the old marks stand")
+        require(played(options, course) == (sentence, 1, synthesised_end), "the old marks stand")
     return 0
 
 

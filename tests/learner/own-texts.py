@@ -5,11 +5,9 @@ takes them away again: the words that were taken keep their sentences."""
 import shutil
 import subprocess
 import sys
-import tempfile
 import zipfile
-from pathlib import Path
 
-from driving import Driver, arguments_with, in_vietnamese, require
+from driving import Driver, arguments_with, course_to_change, in_vietnamese, require
 
 STORY = """The lighthouse stood on a rock. Mr. Green lived there with his dog.
 
@@ -154,14 +152,8 @@ def damaged(options, own, folder):
 
 def main():
     options = arguments_with(__doc__, "--compiler", "--content")
-    with tempfile.TemporaryDirectory() as place:
-        folder = Path(place)
-        content, pack, own = folder / "content", folder / "pack", folder / "own"
-        shutil.copytree(options.content, content)
-        build = [options.compiler, "build", str(content), str(pack), "--words", "2000"]
-        subprocess.run(build, check=True)
-        own.mkdir()
-        (own / "Yes1").touch()
+    with course_to_change(options, 2000) as course:
+        folder, own = course.place, course.own
         (folder / "story.txt").write_text(STORY, encoding="utf-8")
         (folder / "story.txt").rename(folder / "lighthouse.txt")
         shutil.copy(folder / "lighthouse.txt", folder / "story.txt")
@@ -174,21 +166,21 @@ def main():
         for wanted in ("1\tlighthouse\t4 câu", "2\tTwo Lines\t2 câu", "3\tfilm\t2 câu",
                        "4\tChapter one\t2 câu", "5\tChapter two\t2 câu"):
             require(wanted in listed.splitlines(), f"{wanted}: {listed}")
-        read(options, pack, own)
+        read(options, course.pack, own)
         place_before = row_of(own, "rock")[1]
         damaged(options, own, folder)
         # A new course under the texts: the words find their sentences.
-        text = content / "reading" / "005-the-bank-by-the-river.txt"
+        text = course.content / "reading" / "005-the-bank-by-the-river.txt"
         source = text.read_text(encoding="utf-8")
         text.write_text(source.replace("\n\n", "\n\nIt was a long and quiet morning.\n= Hôm đó là "
                                        "một buổi sáng dài và yên tĩnh.\n", 1), encoding="utf-8")
-        subprocess.run(build, check=True)
-        started(options, pack, own).end()
+        course.build()
+        started(options, course.pack, own).end()
         rock = row_of(own, "rock")
         require(rock[1] not in ("0", place_before), f"the place stayed {rock[1]}")
         require(rock[7].startswith("The lighthouse stood on a rock."), str(rock))
         run(options, own, "remove", "1")
-        started(options, pack, own).end()
+        started(options, course.pack, own).end()
         rock, river = row_of(own, "rock"), row_of(own, "river")
         require(rock[1] == "0" and rock[7].startswith("The lighthouse"), str(rock))
         require(river[1] != "0", str(river))

@@ -3,23 +3,15 @@
 moved and gone, and looks what became of each word."""
 
 import random
-import shutil
 import subprocess
 import sys
-import tempfile
-from pathlib import Path
 
-from driving import Driver, arguments_with
+from driving import Driver, arguments_with, course_to_change
 
 # Of the lists of reading and of speaking texts: how many texts are opened, and how many words are
 # taken from each. The whole course is every text of both.
 SHARE = {"but1": (36, 7), "but7": (24, 3)}
 WHOLE = {"but1": (9999, 4), "but7": (9999, 2)}
-
-
-def build(options, content, pack):
-    subprocess.run([options.compiler, "build", str(content), str(pack), "--words", "30000"],
-                   check=True)
 
 
 def starts_of_texts(driver):
@@ -42,9 +34,9 @@ def take_words(driver, wanted, chance):
         driver.key("Enter")
 
 
-def collect(options, pack, own, share, chance):
+def collect(options, course, share, chance):
     """Takes words from texts of both lists, as a learner does; tells how many texts he opened."""
-    driver = Driver(options.driver, str(pack), str(own))
+    driver = Driver(options.driver, str(course.pack), str(course.own))
     driver.do("start")
     opened = 0
     for button, (texts, words) in share.items():
@@ -104,29 +96,24 @@ def main():
     options = arguments_with(__doc__, "--compiler", "--content")
     seed = random.randrange(1 << 32)
     chance = random.Random(seed)
-    with tempfile.TemporaryDirectory() as folder:
-        content, pack, own = Path(folder, "content"), Path(folder, "pack"), Path(folder, "own")
-        shutil.copytree(options.content, content)
-        own.mkdir()
-        (own / "Yes1").touch()
-        build(options, content, pack)
-        opened = collect(options, pack, own, WHOLE if options.long else SHARE, chance)
-        before = rows_of(own)
+    with course_to_change(options, 30000) as course:
+        opened = collect(options, course, WHOLE if options.long else SHARE, chance)
+        before = rows_of(course.own)
         # The guide, the analysed texts and the scripts are named by their numbers elsewhere.
-        reading = revise(content / "reading", lambda slot: 20 <= slot < 400, chance)
-        speaking = revise(content / "speaking", lambda slot: slot > 0, chance)
-        forget_pack(pack)
-        build(options, content, pack)
-        driver = Driver(options.driver, str(pack), str(own))
+        reading = revise(course.content / "reading", lambda slot: 20 <= slot < 400, chance)
+        speaking = revise(course.content / "speaking", lambda slot: slot > 0, chance)
+        forget_pack(course.pack)
+        course.build()
+        driver = Driver(options.driver, str(course.pack), str(course.own))
         driver.do("start")
         driver.end()
-        after = rows_of(own)
+        after = rows_of(course.own)
         listed = subprocess.run(
-            [options.compiler, "words", "list", "--learner", str(own)],
+            [options.compiler, "words", "list", "--learner", str(course.own)],
             check=True, capture_output=True, text=True).stdout.splitlines()
         checked = subprocess.run(
-            [options.compiler, "words", "check", "--learner", str(own), "--pack", str(pack)],
-            capture_output=True, text=True)
+            [options.compiler, "words", "check", "--learner", str(course.own),
+             "--pack", str(course.pack)], capture_output=True, text=True)
     same = sum(after[w][2] == before[w][2] and after[w][0] != 0 for w in before if w in after)
     kept = sum(after[w][0] == 0 for w in after)
     anew = len(after) - same - kept

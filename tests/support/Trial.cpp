@@ -109,4 +109,13 @@ void killTrial(const std::string& told) {
   std::_Exit(KilledExit);
 }
 
+int runTrials(std::string_view program, int (*run)(int argc, char** argv), int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << program << ": " << error.what() << '\n';
+    return 2;
+  }
+}
+
 } // namespace talvora::test

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace talvora::test {
 
@@ -30,5 +31,9 @@ struct Outcome {
 
 /// Ends the trial at once, as a kill of the program does. Only to be called in a trial.
 [[noreturn]] void killTrial(const std::string& told = {});
+
+/// The main function of a program that tries many things: what `run` gives, or 2 and a message
+/// behind the program's name when that throws.
+int runTrials(std::string_view program, int (*run)(int argc, char** argv), int argc, char** argv);
 
 } // namespace talvora::test

@@ -187,10 +187,5 @@ int run(int argc, char** argv) {
 } // namespace talvora::walk
 
 int main(int argc, char** argv) {
-  try {
-    return talvora::walk::run(argc, argv);
-  } catch (const std::exception& error) {
-    std::cerr << "talvora-walk: " << error.what() << '\n';
-    return 2;
-  }
+  return talvora::test::runTrials("talvora-walk", talvora::walk::run, argc, argv);
 }

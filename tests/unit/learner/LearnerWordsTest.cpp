@@ -55,6 +55,12 @@ class Learning {
     while (run.controls().R1.Visible() || run.controls().R2.Visible())
       run.key(key::Esc);
   }
+  /// Takes a word of the text and goes back to the menu.
+  void take(const std::string& word) {
+    openText();
+    add(word);
+    leaveText();
+  }
   /// Deletes the first word of the list.
   void removeFirst() {
     run.clickButton(2);
@@ -107,6 +113,15 @@ class LearnerWordsTest : public testing::Test {
     for (const char* name : {"data.vt", "data.av"})
       pack.write(name, writer.folder.read(name));
   }
+  /// Puts something in the list's place that cannot be read.
+  void hideList() {
+    std::filesystem::remove(own.pathOf("data.c"));
+    std::filesystem::create_directory(own.pathOf("data.c"));
+  }
+  void bringListBack(const std::string& records) {
+    std::filesystem::remove(own.pathOf("data.c"));
+    own.write("data.c", records);
+  }
   /// The words at the next start.
   Texts wordsNextTime() {
     Learning next(pack, own);
@@ -125,9 +140,7 @@ TEST_F(LearnerWordsTest, ThePackIsOnlyReadAndTheLearnersFolderIsWritten) {
   const std::string settings = pack.read("data.Kcu");
   Learning learning(pack, own);
   learning.run.start();
-  learning.openText();
-  learning.add("bank");
-  learning.leaveText();
+  learning.take("bank");
   learning.run.program.closeWindow();
   EXPECT_EQ(pack.names(), before);
   EXPECT_EQ(pack.read("data.Kcu"), settings);
@@ -221,9 +234,7 @@ TEST_F(LearnerWordsTest, AFolderThatMayNotBeWrittenIsToldOfInOneSentenceAndThePr
   learning.run.start();
   ASSERT_TRUE(learning.run.program.running());
   EXPECT_EQ(learning.run.machine.log.count("message"), 1);
-  learning.openText();
-  learning.add("bank");
-  learning.leaveText();
+  learning.take("bank");
   EXPECT_EQ(learning.words(), Texts{"bank"}) << "for this run";
   learning.run.program.closeWindow();
   EXPECT_FALSE(learning.run.program.running());
@@ -306,50 +317,35 @@ TEST_F(LearnerWordsTest, AListThatIsTakenAwayInMidRunIsMadeAgain) {
 }
 
 TEST_F(LearnerWordsTest, AListThatCannotBeReadIsNotWrittenOver) {
-  std::filesystem::create_directory(own.pathOf("data.c"));
+  hideList();
   Learning learning(pack, own);
   learning.run.start();
-  learning.openText();
-  learning.add("bank");
-  learning.leaveText();
+  learning.take("bank");
   EXPECT_TRUE(std::filesystem::is_directory(own.pathOf("data.c")));
-  std::filesystem::remove(own.pathOf("data.c"));
-  own.write("data.c", record("river", 1));
-  learning.openText();
-  learning.add("old");
-  learning.leaveText();
+  bringListBack(record("river", 1));
+  learning.take("old");
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
 }
 
 TEST_F(LearnerWordsTest, AWordThatWasThereKeepsItsSentenceWhenTheListComesBack) {
-  std::filesystem::create_directory(own.pathOf("data.c"));
+  hideList();
   Learning learning(pack, own);
   learning.run.start();
-  learning.openText();
-  learning.add("bank");
-  learning.leaveText();
-  std::filesystem::remove(own.pathOf("data.c"));
-  own.write("data.c", record("river", 2) + record("bank", 1));
-  learning.openText();
-  learning.add("old");
-  learning.leaveText();
+  learning.take("bank");
+  bringListBack(record("river", 2) + record("bank", 1));
+  learning.take("old");
   EXPECT_TRUE(own.read("data.c").starts_with(record("river", 2) + record("bank", 1)));
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
 }
 
 TEST_F(LearnerWordsTest, AWordThatIsDeletedStaysDeletedWhenTheListComesBack) {
-  std::filesystem::create_directory(own.pathOf("data.c"));
+  hideList();
   Learning learning(pack, own);
   learning.run.start();
-  learning.openText();
-  learning.add("bank");
-  learning.leaveText();
+  learning.take("bank");
   learning.removeFirst();
-  std::filesystem::remove(own.pathOf("data.c"));
-  own.write("data.c", record("river", 2) + record("bank", 1));
-  learning.openText();
-  learning.add("old");
-  learning.leaveText();
+  bringListBack(record("river", 2) + record("bank", 1));
+  learning.take("old");
   EXPECT_EQ(learning.words(), (Texts{"river", "old"}));
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "old"}));
 }
@@ -360,12 +356,10 @@ TEST_F(LearnerWordsTest, AWordThatIsDeletedWhileTheListIsAwayStaysDeleted) {
   Learning learning(pack, own);
   learning.run.start();
   EXPECT_EQ(learning.words(), (Texts{"bank", "river"}));
-  own.remove("data.c");
-  std::filesystem::create_directory(own.pathOf("data.c"));
+  hideList();
   EXPECT_EQ(learning.words(), (Texts{"bank", "river"}));
   learning.removeFirst();
-  std::filesystem::remove(own.pathOf("data.c"));
-  own.write("data.c", list);
+  bringListBack(list);
   learning.openText();
   learning.leaveText();
   EXPECT_EQ(learning.words(), Texts{"river"});
@@ -373,22 +367,17 @@ TEST_F(LearnerWordsTest, AWordThatIsDeletedWhileTheListIsAwayStaysDeleted) {
 }
 
 TEST_F(LearnerWordsTest, WhatAnEarlierRunTookIsThereWhenTheListComesBack) {
-  std::filesystem::create_directory(own.pathOf("data.c"));
+  hideList();
   {
     Learning earlier(pack, own);
     earlier.run.start();
-    earlier.openText();
-    earlier.add("bank");
-    earlier.leaveText();
+    earlier.take("bank");
   }
   Learning learning(pack, own);
   learning.run.start();
-  std::filesystem::remove(own.pathOf("data.c"));
-  own.write("data.c", record("river", 2));
+  bringListBack(record("river", 2));
   EXPECT_EQ(learning.words(), (Texts{"river", "bank"}));
-  learning.openText();
-  learning.add("old");
-  learning.leaveText();
+  learning.take("old");
   EXPECT_EQ(learning.words(), (Texts{"river", "bank", "old"}));
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
 }
@@ -465,9 +454,7 @@ TEST_F(LearnerWordsTest, AWordFindsItsSentenceInAPackThatHasNewTextsAheadOfIt) {
   {
     Learning learning(pack, own);
     learning.run.start();
-    learning.openText();
-    learning.add("river");
-    learning.leaveText();
+    learning.take("river");
   }
   writeTexts({{1, "A new text\r_\tWith a sentence. _And one more.\r", "_Mot._Hai."}, bankText(7)});
   Learning learning(pack, own);
@@ -482,9 +469,7 @@ TEST_F(LearnerWordsTest, AWordWhoseSentenceIsGoneStillShowsIt) {
   {
     Learning learning(pack, own);
     learning.run.start();
-    learning.openText();
-    learning.add("river");
-    learning.leaveText();
+    learning.take("river");
   }
   const std::string before = own.read("data.c");
   writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}});
