@@ -125,17 +125,23 @@ std::string itemShown(const Item& item, ItemPlace place) {
   return text;
 }
 
+/// Those of a source's parts that stand in a wanted line, as `show` has each.
+template <class Parts, class Show>
+std::string partsShown(const ShownPlace& place, const Parts& parts, Show show) {
+  std::string text;
+  for (auto each = parts.begin(); each != parts.end(); ++each) {
+    const auto next = std::next(each);
+    if (isWanted(place, each->where.line, next == parts.end() ? 0 : next->where.line))
+      text += (text.empty() ? "" : "\n") + show(*each);
+  }
+  return text;
+}
+
 std::string itemsShown(const ShownPlace& place, const std::string& source, Problems& problems) {
   const bool lesson = lessonSlotOf(place.file).has_value();
   const ItemPlace where = lesson ? ItemPlace::Lesson : ItemPlace::Bank;
-  const auto items = parseItems(source, place.file.string(), where, BlankHelp::Own, problems);
-  std::string text;
-  for (auto item = items.begin(); item != items.end(); ++item) {
-    const auto next = std::next(item);
-    if (!isWanted(place, item->where.line, next == items.end() ? 0 : next->where.line)) continue;
-    text += (text.empty() ? "" : "\n") + itemShown(*item, where);
-  }
-  return text;
+  return partsShown(place, parseItems(source, place.file.string(), where, BlankHelp::Own, problems),
+                    [&](const Item& item) { return itemShown(item, where); });
 }
 
 std::string lessonShown(const Lesson& lesson) {
@@ -165,14 +171,8 @@ std::string questionShown(const ListeningQuestion& question) {
 }
 
 std::string unitShown(const ShownPlace& place, const std::string& source, Problems& problems) {
-  const auto unit = parseListeningUnit(source, place.file.string(), problems);
-  std::string text;
-  for (auto each = unit.begin(); each != unit.end(); ++each) {
-    const auto next = std::next(each);
-    if (isWanted(place, each->where.line, next == unit.end() ? 0 : next->where.line))
-      text += (text.empty() ? "" : "\n") + questionShown(*each);
-  }
-  return text;
+  return partsShown(place, parseListeningUnit(source, place.file.string(), problems),
+                    questionShown);
 }
 
 /// The title of a lesson in the folder beside a source's; its number when that has none.
@@ -203,14 +203,8 @@ std::string stretchShown(const ShownPlace& place, const AnalysisEntry& entry) {
 }
 
 std::string analysisShown(const ShownPlace& place, const std::string& source, Problems& problems) {
-  const Analysis analysis = parseAnalysis(source, place.file.string(), problems);
-  std::string text;
-  for (auto each = analysis.begin(); each != analysis.end(); ++each) {
-    const auto next = std::next(each);
-    if (isWanted(place, each->where.line, next == analysis.end() ? 0 : next->where.line))
-      text += (text.empty() ? "" : "\n") + stretchShown(place, *each);
-  }
-  return text;
+  return partsShown(place, parseAnalysis(source, place.file.string(), problems),
+                    [&](const AnalysisEntry& entry) { return stretchShown(place, entry); });
 }
 
 /// The first line that is no comment.

@@ -12,20 +12,8 @@ if [ $# -ne 3 ]; then
   exit 2
 fi
 set -- "$1" "$2" "$3" 1366x768
-here=$(dirname "$(realpath "$0")")/../../tests/desktop
-for part in frame start; do
-  # shellcheck source=/dev/null
-  . "$here/walk/$part.sh"
-done
-
-# Takes a picture for a page: smaller, in few colours.
-shot() { # NAME
-  sleep 0.8
-  import -window root "$work/shot.png"
-  convert "$work/shot.png" -resize 1024x -strip -dither None -colors 128 \
-    -define png:exclude-chunks=date,time "PNG8:$pictures/$1.png"
-  passed "$1"
-}
+# shellcheck source=/dev/null
+. "$(dirname "$(realpath "$0")")/../pictures.sh"
 
 start_display
 cp -r "$pack" "$work/pack"

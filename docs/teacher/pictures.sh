@@ -13,20 +13,9 @@ if [ $# -ne 4 ]; then
 fi
 compiler=$(realpath "$2")
 guide=$(dirname "$(realpath "$0")")/../huong-dan-giao-vien.md
-here=$(dirname "$(realpath "$0")")/../../tests/desktop
 set -- "$1" "$3" "$4" 1366x768
-for part in frame start; do
-  # shellcheck source=/dev/null
-  . "$here/walk/$part.sh"
-done
-
-shot() { # NAME
-  sleep 0.8
-  import -window root "$work/shot.png"
-  convert "$work/shot.png" -resize 1024x -strip -dither None -colors 128 \
-    -define png:exclude-chunks=date,time "PNG8:$pictures/$1.png"
-  passed "$1"
-}
+# shellcheck source=/dev/null
+. "$(dirname "$(realpath "$0")")/../pictures.sh"
 
 # What the first part of the guide has people type, and the text that it has them write.
 commands() {
