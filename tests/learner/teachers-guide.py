@@ -11,12 +11,7 @@ import tempfile
 from pathlib import Path
 
 from driving import Driver, arguments_with, in_vietnamese, require
-
-
-def blocks_of(part):
-    """The stretches of a part that are to be typed."""
-    indented = re.findall(r"(?:^(?:    .*)?\n)+", part, re.M)
-    return [re.sub(r"^    ", "", block, flags=re.M).strip("\n") for block in indented if block.strip()]
+from pages import blocks_of
 
 
 class Teacher:
