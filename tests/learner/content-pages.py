@@ -70,6 +70,11 @@ class Course:
 
 # -- Items.
 
+def shown_at(course, file):
+    """What is shown of a file with one item, without the place that stands above it."""
+    return course.tell("show", file).partition("\n")[2]
+
+
 def put_items(course, page):
     """Every example of an item, in a bank or among a lesson's items, with what is shown of it."""
     shown = {}
@@ -82,7 +87,7 @@ def put_items(course, page):
             else:
                 course.put("lessons/002-items.txt", item)
             alone = course.put("exercises/alone.txt" if bank else "lessons/009-items.txt", item)
-            shown.setdefault(kind, []).append(course.tell("show", alone))
+            shown.setdefault(kind, []).append(shown_at(course, alone))
             alone.unlink()
     return shown
 
@@ -120,7 +125,7 @@ def check_headings(course, page):
                 expected = said.setdefault(each, heading) if heading == "as above" else heading
                 said[each] = expected
                 item = f"item: choice, {each}\n\nHe is _____.\n\n+ a\n- b\n- c\n- d"
-                shown = course.tell("show", course.put(name, item)).splitlines()[1]
+                shown = shown_at(course, course.put(name, item)).splitlines()[0]
                 require(shown == expected, f"{each} is {shown!r} and not {expected!r}")
         (course.content / name).unlink()
         known = names_known(course, name) - {"none"}
@@ -307,6 +312,19 @@ def check_text(driver, text):
     driver.leave_text()
 
 
+def check_commands(course, page):
+    """The compiler has the commands of the page, and the kinds that it may be told."""
+    told = blocks_of(part_of(page, "The compiler"))[0]
+    commands = set(re.findall(r"^talvora-pack ([a-z]+)", told, re.M))
+    known = set(re.findall(r"^  ([a-z]+) ", course.tell("--help"), re.M))
+    require({"build", "check", "new", "show"} <= commands <= known, f"{commands} of {known}")
+    for command, begins in (("check", "reading, "), ("new", "text, ")):
+        kinds = re.search(rf"{begins}[a-z, \n]*", told)[0]
+        listed = set(re.findall("[a-z]+", kinds.split("talvora")[0]))
+        offered = re.search(r"([a-z]+(?:\|[a-z]+)+)", course.tell(command, "--help"))[1]
+        require(listed == set(offered.split("|")), f"{command}: {listed} and {offered}")
+
+
 def check_rules(options, folder, pages):
     """The examples keep the rules of texts, which are looked at where no other source has a fault."""
     course = Course(options, folder, small=False)
@@ -324,6 +342,7 @@ def check_rules(options, folder, pages):
     without_key.unlink()
     require(len(faults) == len(wrong) + 1, told)
     course.check()
+    check_commands(course, pages["content"])
 
 
 def check_program(options, folder, pages):
