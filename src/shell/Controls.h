@@ -6,6 +6,7 @@
 #include "surface/Button.h"
 #include "surface/Control.h"
 #include "surface/Form.h"
+#include "surface/SectionNumbers.h"
 #include "surface/Surface.h"
 
 #include <array>
@@ -18,9 +19,9 @@ namespace talvora {
 struct Controls {
   Controls(Form& form, const LineLayout& layout);
 
-  /// The menu button of a number from 1 to 18.
+  /// The menu button of a section's number, from 1.
   [[nodiscard]] Button& but(int number) { return *but_.at(static_cast<std::size_t>(number - 1)); }
-  static constexpr int ButtonCount = 18;
+  static constexpr int ButtonCount = section::LastBank;
 
   Image Im1;                    ///< background picture
   Control MM;                   ///< the multimedia control, which never shows

@@ -12,6 +12,7 @@ inline constexpr int Writing = 6; ///< the closed one
 inline constexpr int Speaking = 7;
 inline constexpr int Settings = 8;
 inline constexpr int Guide = 9;
-inline constexpr int FirstBank = 10; ///< of nine, up to 18
+inline constexpr int FirstBank = 10; ///< of nine
+inline constexpr int LastBank = 18;
 
 } // namespace talvora::section
