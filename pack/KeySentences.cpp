@@ -27,18 +27,22 @@ struct Key {
 struct ReadText {
   std::vector<Words> sentences;
   std::vector<Key> keys;
+  bool hasTurns = false; ///< more than one paragraph, which are the turns of a conversation
 };
 
 ReadText read(const SpokenText& text) {
   ReadText found;
+  bool apart = false;
   for (const SourceLine& line : linesOf(text.source)) {
     if (line.text.starts_with(KeyMark)) {
       const std::string key(line.text.substr(KeyMark.size()));
       found.keys.push_back({plainWords(key), key, {text.file, line.number, 1}});
     } else if (!line.text.empty() && !line.text.starts_with("//") && !line.text.starts_with('=') &&
                !line.text.starts_with("title:")) {
+      found.hasTurns = found.hasTurns || (apart && !found.sentences.empty());
       found.sentences.push_back(plainWords(line.text));
     }
+    apart = line.text.empty();
   }
   return found;
 }
@@ -90,7 +94,7 @@ std::string checkKeySentences(const std::vector<SpokenText>& texts, Problems& pr
   int conversations = 0;
   int without = 0;
   for (std::size_t at = 0; at < texts.size(); ++at) {
-    if (!texts[at].conversation) continue;
+    if (!texts[at].conversation || !all[at].hasTurns) continue;
     ++conversations;
     if (!covered[at]) ++without;
   }

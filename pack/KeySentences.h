@@ -19,7 +19,7 @@ inline constexpr int KeyReturns = 2;
 struct SpokenText {
   std::string file;
   std::string source;        ///< UTF-8
-  bool conversation = false; ///< it stands under a heading of situations
+  bool conversation = false; ///< it stands under a heading of situations; one has turns besides
 };
 
 /// Checks that each declared key stands in its own text and returns in others. Tells how many

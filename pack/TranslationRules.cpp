@@ -105,14 +105,6 @@ bool isSaid(std::string_view word, std::string_view small) {
   return ten == tens.end() || saysTen(small, *ten);
 }
 
-/// The day of the week that a word names: "mondays".
-const Weekday* dayOf(std::string_view word) {
-  if (word.ends_with("days")) word.remove_suffix(1);
-  const auto* const day = std::ranges::find_if(
-      Weekdays, [word](const Weekday& each) { return lower(each.english) == word; });
-  return day == Weekdays.end() ? nullptr : day;
-}
-
 bool asks(std::string_view sentence) {
   return sentence.find('?') != std::string_view::npos;
 }
@@ -151,7 +143,7 @@ std::vector<std::string> translationFaults(std::string_view english, std::string
     if (word == before && !mayRepeat(word) && standsTwice(word, smallEnglish))
       faults.push_back(said("\"{}\" stands twice in a row", word));
     if (!isSaid(word, small)) faults.push_back(said("\"{}\" is not in the translation", word));
-    const Weekday* const day = dayOf(word);
+    const Weekday* const day = weekdayNamed(word);
     if (day != nullptr && small.find(smallUtf8(day->vietnamese)) == std::string::npos)
       faults.push_back(said("the translation has no \"{}\"", day->vietnamese));
     before = std::move(word);

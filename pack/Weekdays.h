@@ -1,6 +1,9 @@
 // The days of the week in both languages.
 #pragma once
 
+#include "text/Text.h"
+
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -19,5 +22,14 @@ inline constexpr std::array<Weekday, 7> Weekdays = {{{"Monday", "thứ Hai", "se
                                                      {"Friday", "thứ Sáu", "sixth"},
                                                      {"Saturday", "thứ Bảy", "seventh"},
                                                      {"Sunday", "Chủ nhật", ""}}};
+
+/// The day that a word in small letters names, alone or as one of many: "mondays". Null for another
+/// word.
+[[nodiscard]] inline const Weekday* weekdayNamed(std::string_view word) {
+  if (word.ends_with("days")) word.remove_suffix(1);
+  const auto* const day = std::ranges::find_if(
+      Weekdays, [word](const Weekday& each) { return lower(each.english) == word; });
+  return day == Weekdays.end() ? nullptr : day;
+}
 
 } // namespace talvora::pack

@@ -34,12 +34,6 @@ bool has(const List& list, std::string_view word) {
   return std::find(list.begin(), list.end(), word) != list.end();
 }
 
-bool isDay(std::string_view word) {
-  if (word.ends_with("days")) word.remove_suffix(1);
-  return std::ranges::any_of(Weekdays,
-                             [word](const Weekday& day) { return lower(day.english) == word; });
-}
-
 /// Whether a byte of UTF-8 belongs to a word; quotation marks and dashes begin with the byte 0xE2.
 bool isWordByte(char byte) {
   const auto code = static_cast<unsigned char>(byte);
@@ -236,7 +230,7 @@ class WordingChecker {
 
   void checkCapitals() {
     for (const Stretch& word : wordsOf(line_.text)) {
-      if (isDay(word.text) || has(months, word.text))
+      if (weekdayNamed(word.text) != nullptr || has(months, word.text))
         report(word.at, said("\"{}\" begins with a capital", word.text));
     }
   }

@@ -87,14 +87,17 @@ TEST(StreamText, TellsOfACapitalThatTheFontShowsSmall) {
 // -- Key sentences.
 
 TEST(KeySentences, ReturnInTwoOtherTexts) {
-  const auto check = [](const std::string& third) {
+  // Without one a text has no turns, and is no conversation.
+  const std::string answer = "\nNo.\n= x.\n";
+  const auto check = [&](const std::string& third) {
     Problems problems;
-    const std::string note =
-        checkKeySentences({{"a", "// key: Is it far?\ntitle: A\n\nIs it far?\n= x?\n", true},
-                           {"b", "title: B\n\nExcuse me, is it far?\n= x?\n", true},
-                           {"c", "title: C\n\n" + third + "\n= x.\n", true},
-                           {"d", "title: Is it far?\n\nIt's far.\n= Is it far?\n", false}},
-                          problems);
+    const std::string note = checkKeySentences(
+        {{"a", "// key: Is it far?\ntitle: A\n\nIs it far?\n= x?\n" + answer, true},
+         {"b", "title: B\n\nExcuse me, is it far?\n= x?\n" + answer, true},
+         {"c", "title: C\n\n" + third + "\n= x.\n" + answer, true},
+         {"d", "title: Is it far?\n\nIt's far.\n= Is it far?\n", false},
+         {"e", "title: E\n\nI live here.\n= x.\nIt is far.\n= x.\n", true}},
+        problems);
     auto lines = told(problems);
     lines.push_back(note);
     return lines;
