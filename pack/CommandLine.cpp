@@ -1,11 +1,13 @@
 // The words around options, and what is wrong with a line.
 #include "pack/CommandLine.h"
 
+#include "pack/HelpColumns.h"
 #include "pack/Message.h"
 
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
+#include <memory>
 
 namespace talvora::pack {
 
@@ -50,7 +52,8 @@ std::string faultOf(const CLI::App& application, const CLI::Error& error) {
 } // namespace
 
 void speakInUsersLanguage(CLI::App& application) {
-  const auto formatter = application.get_formatter();
+  const auto formatter = std::make_shared<HelpColumns>();
+  application.formatter(formatter);
   formatter->label("Usage", said("Usage"));
   formatter->label("Positionals", said("What stands without a name"));
   formatter->label("OPTIONS", said("OPTIONS"));
