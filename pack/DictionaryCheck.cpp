@@ -5,6 +5,7 @@
 #include "pack/ClickedWords.h"
 #include "pack/EntryLines.h"
 #include "pack/Message.h"
+#include "pack/PatternRules.h"
 #include "pack/SmallLetters.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
@@ -102,12 +103,25 @@ class Checker {
 
   void check(const OwnEntry& entry) {
     entry_ = &entry;
+    heads_.insert(lower(utf8Of(entry.head)));
     checkLength();
     checkPhrases();
+    checkPatterns();
     checkForms();
     for (const Sense& sense : entry.block.senses)
       checkSense(sense);
     checkExamples();
+  }
+
+  // A word is accepted for an entry that has it, or as a form of one that only this confirms.
+  void checkAccepted() {
+    if (measures_.vietnamese.empty() || measures_.english.empty()) return;
+    for (const auto& [word, where] : measures_.accepted) {
+      const bool isForm = measures_.entries.contains(ChuanHoaTu(word)) && !heads_.contains(word);
+      if (!met_.contains(word) && !isForm)
+        findings_.push_back({DictionaryRule::AcceptedUnused,
+                             {where, said("no entry needs \"{}\" to be accepted", word)}});
+    }
   }
 
   std::vector<Finding> takeFindings() { return std::move(findings_); }
@@ -138,6 +152,17 @@ class Checker {
       if (!holds)
         find(DictionaryRule::PhraseWithoutHead,
              said("the phrase \"{}\" does not have the word", utf8Of(phrase.english)));
+    }
+  }
+
+  void checkPatterns() {
+    for (const std::string& pattern : patternsAmongPhrases(entry_->block))
+      find(DictionaryRule::PatternIsPhrase,
+           said("\"{}\" stands among the phrases again", utf8Of(pattern)));
+    for (const Sense& sense : entry_->block.senses) {
+      for (const std::string& counted : countedUncountables(entry_->head, sense))
+        find(DictionaryRule::UncountableCounted,
+             said("\"{}\" counts what is said not to be countable", utf8Of(counted)));
     }
   }
 
@@ -196,6 +221,12 @@ class Checker {
     });
   }
 
+  bool isAccepted(const std::string& word) {
+    const bool accepted = measures_.accepted.contains(word);
+    if (accepted) met_.insert(word);
+    return accepted;
+  }
+
   // A name is right when it has an entry, and a head word as it is.
   void checkEnglish(const std::string& text) {
     if (measures_.english.empty()) return;
@@ -205,7 +236,7 @@ class Checker {
                          (lower(word) != word && hasEntry(word));
       if (known || word == "sb" || word == "sth" || word == "sb's") continue;
       for (const std::string& part : spokenWordsOf(word)) {
-        if (!measures_.english.contains(part) &&
+        if (!isAccepted(part) && !measures_.english.contains(part) &&
             !measures_.english.contains(part.substr(0, part.find('\''))))
           find(DictionaryRule::EnglishWordUnknown, said("\"{}\" is in no word list", part));
       }
@@ -218,7 +249,7 @@ class Checker {
     for (const std::string& syllable : syllablesOf(text)) {
       const std::string small = smallUtf8(syllable);
       const bool name = syllable != small;
-      if (name || measures_.vietnamese.contains(small) ||
+      if (name || isAccepted(small) || measures_.vietnamese.contains(small) ||
           measures_.vietnamese.contains(toneMovedBack(small)) || measures_.english.contains(small))
         continue;
       find(DictionaryRule::UnknownSyllable, said("\"{}\" is in no word list", syllable));
@@ -243,6 +274,8 @@ class Checker {
   const DictionaryMeasures& measures_;
   std::unordered_map<std::string, std::pair<std::string, std::string>> verbs_;
   const OwnEntry* entry_ = nullptr;
+  WordSet heads_; ///< in small letters
+  WordSet met_;   ///< accepted words that an entry has
   std::vector<Finding> findings_;
 };
 
@@ -276,11 +309,23 @@ WordSet wordSetOf(const std::filesystem::path& path) {
   return words;
 }
 
+AcceptedWords acceptedIn(const std::filesystem::path& path) {
+  AcceptedWords words;
+  const auto text = readWhole(path);
+  if (!text) return words;
+  for (const SourceLine& line : linesOf(*text)) {
+    if (!line.text.empty() && !line.text.starts_with("//"))
+      words.emplace(smallUtf8(line.text), Where{path.string(), line.number, 1});
+  }
+  return words;
+}
+
 std::vector<Finding> checkDictionary(const std::vector<OwnEntry>& entries,
                                      const DictionaryMeasures& measures) {
   Checker checker(measures);
   for (const OwnEntry& entry : entries)
     checker.check(entry);
+  checker.checkAccepted();
   return checker.takeFindings();
 }
 

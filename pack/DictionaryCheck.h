@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -25,7 +26,10 @@ enum class DictionaryRule : std::uint8_t {
   ExampleWordWithoutEntry,
   UnknownSyllable,
   EnglishWordUnknown,
-  TranslationDiffers
+  TranslationDiffers,
+  PatternIsPhrase,
+  UncountableCounted,
+  AcceptedUnused
 };
 
 struct DictionaryRuleName {
@@ -33,7 +37,7 @@ struct DictionaryRuleName {
   std::string_view name; ///< of what breaks it, in the plural
 };
 
-inline constexpr std::array<DictionaryRuleName, 9> DictionaryRules = {{
+inline constexpr std::array<DictionaryRuleName, 12> DictionaryRules = {{
     {DictionaryRule::EntryTooLong, toSay("entries of more than 450 letters")},
     {DictionaryRule::PhraseWithoutHead, toSay("phrases without their head word")},
     {DictionaryRule::GlossTooLong, toSay("first glosses of more than 24 letters")},
@@ -43,6 +47,9 @@ inline constexpr std::array<DictionaryRuleName, 9> DictionaryRules = {{
     {DictionaryRule::UnknownSyllable, toSay("Vietnamese syllables that no word list has")},
     {DictionaryRule::EnglishWordUnknown, toSay("English words that no word list has")},
     {DictionaryRule::TranslationDiffers, toSay("examples that their translations do not match")},
+    {DictionaryRule::PatternIsPhrase, toSay("patterns that stand among the phrases again")},
+    {DictionaryRule::UncountableCounted, toSay("uncountable senses that are counted")},
+    {DictionaryRule::AcceptedUnused, toSay("accepted words that no entry needs")},
 }};
 
 /// A place where a source breaks a rule.
@@ -57,11 +64,15 @@ using WordSet = std::unordered_set<std::string>;
 /// The source, in a content tree, of words that are right and stand in no list.
 inline constexpr std::string_view AcceptedFile = "accepted.txt";
 
+/// Such words in small letters, and where each stands.
+using AcceptedWords = std::map<std::string, Where>;
+
 /// What the entries are held against.
 struct DictionaryMeasures {
   WordSet entries;    ///< normal forms that have a line in the word list
   WordSet vietnamese; ///< syllables, in UTF-8
   WordSet english;
+  AcceptedWords accepted;
   std::vector<std::vector<std::string>> irregularVerbs; ///< base, past, participle
 };
 
@@ -70,6 +81,9 @@ struct DictionaryMeasures {
 
 /// The words of a list, one a line, in small letters; what follows a slash belongs to its tool.
 [[nodiscard]] WordSet wordSetOf(const std::filesystem::path& path);
+
+/// Reads the source of accepted words: one a line, comments behind "//".
+[[nodiscard]] AcceptedWords acceptedIn(const std::filesystem::path& path);
 
 [[nodiscard]] std::vector<Finding> checkDictionary(const std::vector<OwnEntry>& entries,
                                                    const DictionaryMeasures& measures);

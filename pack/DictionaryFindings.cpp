@@ -31,9 +31,7 @@ std::vector<Finding> findingsIn(const std::filesystem::path& source,
   measures.vietnamese = wordSetOf(lists.vietnamese);
   for (const auto& path : lists.english)
     measures.english.merge(wordSetOf(path));
-  const WordSet accepted = wordSetOf(source / AcceptedFile);
-  for (WordSet* const list : {&measures.vietnamese, &measures.english})
-    if (!list->empty()) list->insert(accepted.begin(), accepted.end());
+  measures.accepted = acceptedIn(source / AcceptedFile);
   measures.irregularVerbs = verbsOfLesson(irregularVerbsText(source));
   return checkDictionary(own, measures);
 }

@@ -2,6 +2,8 @@
 #include "pack/Phonetics.h"
 
 #include "pack/Message.h"
+#include "pack/PhoneticTables.h"
+#include "pack/VowelGroups.h"
 
 #include "text/Text.h"
 
@@ -13,85 +15,16 @@ namespace talvora::pack {
 
 namespace {
 
-struct PhoneName {
-  std::string_view phone;
-  std::string_view letters;
-};
-
-constexpr std::array<PhoneName, 24> consonants = {
-    {{"b", "b"},  {"ch", "tʃ"}, {"d", "d"}, {"dh", "ð"}, {"f", "f"},  {"g", "g"},
-     {"hh", "h"}, {"jh", "dʒ"}, {"k", "k"}, {"l", "l"},  {"m", "m"},  {"n", "n"},
-     {"ng", "ŋ"}, {"p", "p"},   {"r", "r"}, {"s", "s"},  {"sh", "ʃ"}, {"t", "t"},
-     {"th", "θ"}, {"v", "v"},   {"w", "w"}, {"y", "j"},  {"z", "z"},  {"zh", "ʒ"}}};
-
-/// The vowels as they are written when nothing around them matters.
-constexpr std::array<PhoneName, 16> vowels = {{{"aa", "a:"},
-                                               {"ae", "æ"},
-                                               {"ah", "ʌ"},
-                                               {"ao", "o:"},
-                                               {"aw", "au"},
-                                               {"ax", "ə"},
-                                               {"ay", "ai"},
-                                               {"eh", "e"},
-                                               {"er", "ə:"},
-                                               {"ey", "ei"},
-                                               {"ih", "i"},
-                                               {"iy", "i:"},
-                                               {"ow", "ou"},
-                                               {"oy", "oi"},
-                                               {"uh", "u"},
-                                               {"uw", "u:"}}};
-
-/// The consonants that may open a syllable together.
-constexpr std::array<std::string_view, 41> openings = {
-    "p l", "p r",  "p y",   "b l",   "b r",   "b y",   "t r",   "t w", "t y", "d r", "d w",
-    "d y", "k l",  "k r",   "k w",   "k y",   "g l",   "g r",   "g w", "f l", "f r", "f y",
-    "v y", "th r", "th w",  "sh r",  "s p",   "s t",   "s k",   "s m", "s n", "s l", "s w",
-    "m y", "hh y", "s p r", "s p l", "s t r", "s k r", "s k w", "n y"};
-
-/// Endings that take the stress themselves, and openings of verbs that leave it to the end.
-constexpr std::array<std::string_view, 15> stressedEndings = {
-    "ese",  "ee",   "eer",  "oon",  "ette", "ique",  "esque", "duce",
-    "mend", "tain", "pear", "zine", "gree", "lieve", "sent"};
-constexpr std::array<std::string_view, 3> verbOpenings = {"under", "over", "with"};
-/// Endings whose vowel is full and yet never has the main stress.
-constexpr std::array<std::string_view, 7> lightEndings = {"ary",  "ory",   "mony", "arily",
-                                                          "ator", "ative", "paper"};
-
-constexpr std::array<std::string_view, 2> weakEndings = {"ary", "ory"};
-
 template <typename Names>
 std::optional<std::string_view> lettersOf(std::string_view phone, const Names& names) {
-  const auto found = std::find_if(names.begin(), names.end(),
-                                  [phone](const PhoneName& each) { return each.phone == phone; });
+  const auto found =
+      std::find_if(names.begin(), names.end(),
+                   [phone](const phonetics::PhoneName& each) { return each.phone == phone; });
   return found != names.end() ? std::optional(found->letters) : std::nullopt;
 }
 
 bool endsInStress(std::string_view phone) {
   return phone.ends_with('0') || phone.ends_with('1') || phone.ends_with('2');
-}
-
-bool isVowelLetter(char letter) {
-  return std::string_view("aeiouy").find(letter) != std::string_view::npos;
-}
-
-/// The groups of vowel letters in a spelling, without an "e" that only ends it.
-std::vector<std::string> vowelGroupsOf(std::string_view spelling) {
-  std::string word = lower(spelling);
-  std::vector<std::string> groups;
-  bool open = false;
-  for (std::size_t at = 0; at < word.size(); ++at) {
-    const bool glide = word[at] == 'y' && at + 1 < word.size() && isVowelLetter(word[at + 1]);
-    const bool vowel = isVowelLetter(word[at]) && !glide;
-    if (vowel && !open) groups.emplace_back();
-    if (vowel) groups.back() += word[at];
-    open = vowel;
-  }
-  const bool mute = word.size() > 2 && word.back() == 'e' && !groups.empty() &&
-                    groups.back() == "e" && !isVowelLetter(word[word.size() - 2]) &&
-                    groups.size() > 1;
-  if (mute) groups.pop_back();
-  return groups;
 }
 
 /// Writes the phones of one word.
@@ -140,11 +73,11 @@ class PhoneticWriter {
       if (sounds_[place].stressed) stressed.push_back(place);
     if (stressed.size() < 2) return;
     const bool letters = spelling_.size() < stressed.size() + 2;
-    const bool endHasIt =
-        letters || spellingEndsIn(stressedEndings) || spellingOpensWith(verbOpenings);
+    const bool endHasIt = letters || spellingEndsIn(phonetics::stressedEndings) ||
+                          spellingOpensWith(phonetics::verbOpenings);
     const bool onLast = std::none_of(sounds_.begin() + static_cast<long>(stressed.back()) + 1,
                                      sounds_.end(), [](const Sound& each) { return each.vowel; });
-    const bool lesser = (onLast && !endHasIt) || spellingEndsIn(lightEndings);
+    const bool lesser = (onLast && !endHasIt) || spellingEndsIn(phonetics::lightEndings);
     const std::size_t main = lesser ? stressed[stressed.size() - 2] : stressed.back();
     for (const std::size_t place : stressed)
       sounds_[place].main = place == main;
@@ -185,7 +118,8 @@ class PhoneticWriter {
     std::string joined = sounds_[from].phone;
     for (std::size_t place = from + 1; place < end; ++place)
       joined += " " + sounds_[place].phone;
-    return std::find(openings.begin(), openings.end(), joined) != openings.end();
+    return std::find(phonetics::openings.begin(), phonetics::openings.end(), joined) !=
+           phonetics::openings.end();
   }
 
   [[nodiscard]] bool opensStressedSyllable() const {
@@ -199,7 +133,7 @@ class PhoneticWriter {
   void writeConsonant() {
     const Sound& sound = sounds_[at_];
     if (sound.phone == "r" && !isVowel(at_ + 1)) return;
-    text_ += lettersOf(sound.phone, consonants).value_or("");
+    text_ += lettersOf(sound.phone, phonetics::consonants).value_or("");
   }
 
   /// The letters that spell the vowel here; empty when spelling and phones do not match.
@@ -236,9 +170,13 @@ class PhoneticWriter {
       writeWeakVowel();
     } else if (sound.phone == "iy" && !sound.stressed) {
       text_ += "i";
+    } else if (sound.phone == "ih" && !sound.stressed && followsWeakI()) {
+      text_ += "ə";
+    } else if (sound.phone == "uw" && !sound.stressed && isVowel(at_ + 1)) {
+      text_ += takesJ() ? "ju" : "u";
     } else {
       if (sound.phone == "uw" && takesJ()) text_ += "j";
-      text_ += lettersOf(sound.phone, vowels).value_or("");
+      text_ += lettersOf(sound.phone, phonetics::vowels).value_or("");
     }
   }
 
@@ -258,8 +196,7 @@ class PhoneticWriter {
       ++at_;
       return;
     }
-    const bool lastButOne = at_ + 2 == sounds_.size();
-    if (is(at_ + 1, "l") && lastButOne && spelling_.ends_with("le") && at_ > 0) return;
+    if (lCarriesSyllable()) return;
     static constexpr std::array<std::string_view, 4> sonorants = {"l", "m", "n", "r"};
     const bool sonorant =
         at_ + 1 >= sounds_.size() ||
@@ -267,10 +204,35 @@ class PhoneticWriter {
     const bool speltI =
         group() == "i" && !spelling_.ends_with("ible") && !spelling_.ends_with("ibly");
     const bool speltE = group() == "e" && (first || !sonorant);
-    const bool ending = lastButOne && ((is(at_ + 1, "jh") && spelling_.ends_with("age")) ||
-                                       (is(at_ + 1, "d") && spelling_.ends_with("ed")) ||
-                                       (is(at_ + 1, "z") && spelling_.ends_with("es")));
-    text_ += speltI || speltE || ending ? "i" : "ə";
+    text_ += speltI || speltE || hasEndingWithI() ? "i" : "ə";
+  }
+
+  // Spelling and phones need not match for these: the "e" of "care" is mute in "careless" too.
+  [[nodiscard]] bool hasEndingWithI() const {
+    return std::ranges::any_of(phonetics::endingsWithI,
+                               [this](const phonetics::WeakEnding& each) { return endsIn(each); });
+  }
+
+  /// "table", "puzzled", "cycling", but not "counselling".
+  [[nodiscard]] bool lCarriesSyllable() const {
+    return std::ranges::any_of(phonetics::endingsWithL, [this](const phonetics::WeakEnding& each) {
+      if (!endsIn(each) || spelling_.size() == each.spelling.size()) return false;
+      const char ahead = spelling_[spelling_.size() - each.spelling.size() - 1];
+      return ahead != 'l' && !isVowelLetter(ahead);
+    });
+  }
+
+  /// Whether the word ends so from the weak vowel here on.
+  [[nodiscard]] bool endsIn(const phonetics::WeakEnding& ending) const {
+    std::string behind;
+    for (std::size_t place = at_ + 1; place < sounds_.size(); ++place)
+      behind += sounds_[place].phone;
+    return ending.behind == behind && spelling_.ends_with(ending.spelling);
+  }
+
+  /// "immediate": behind a weak "i" there is no second one, but in "worrying".
+  [[nodiscard]] bool followsWeakI() const {
+    return at_ > 0 && is(at_ - 1, "iy") && !sounds_[at_ - 1].stressed && !is(at_ + 1, "ng");
   }
 
   /// "unjust", "until": the beginning keeps the vowel of "cup".
@@ -312,7 +274,7 @@ class PhoneticWriter {
     const bool doubled = spelling_.find("rr") != std::string::npos;
     // "January", "history": nothing is left of the vowel in an ending without the main stress.
     const bool ending =
-        spellingEndsIn(weakEndings) && is(at_ + 2, "iy") && at_ + 3 == sounds_.size();
+        spellingEndsIn(phonetics::weakEndings) && is(at_ + 2, "iy") && at_ + 3 == sounds_.size();
     if (ending && !sound.main) {
       text_ += "ə";
       return true;
@@ -376,10 +338,11 @@ std::string joined(const Phones& phones) {
 std::string faultOf(const Phones& phones) {
   bool vowel = false;
   for (const std::string& phone : phones) {
-    const bool named = endsInStress(phone)
-                           ? lettersOf(phone.substr(0, phone.size() - 1), vowels).has_value() &&
-                                 !phone.ends_with('2')
-                           : lettersOf(phone, consonants).has_value();
+    const bool named =
+        endsInStress(phone)
+            ? lettersOf(phone.substr(0, phone.size() - 1), phonetics::vowels).has_value() &&
+                  !phone.ends_with('2')
+            : lettersOf(phone, phonetics::consonants).has_value();
     if (!named) return said("\"{}\" is no phone", phone);
     vowel = vowel || endsInStress(phone);
   }

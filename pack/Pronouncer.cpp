@@ -136,7 +136,9 @@ SpokenCorrection everywhere(const std::string& word, const Phones& phones) {
 Pronouncer::Pronouncer(std::vector<PronunciationRule> rules) : rules_(std::move(rules)) {
   for (const PronunciationRule& rule : rules_) {
     auto& kind = rule.phrase.empty() ? byWord_ : withinPhrases_;
-    kind[lower(rule.word)].push_back(&rule);
+    auto& ofWord = kind[lower(rule.word)];
+    // What a word is by itself in sentences gives way to every other phrase, wherever it stands.
+    ofWord.insert(isDefault(rule) ? ofWord.begin() : ofWord.end(), &rule);
   }
 }
 

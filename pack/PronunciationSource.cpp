@@ -8,6 +8,7 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace talvora::pack {
 
@@ -49,6 +50,14 @@ std::string ruleFault(const PronunciationRule& rule) {
   return {};
 }
 
+/// What a line is about: of two about the same one would never be heard or shown.
+std::string subjectOf(const PronunciationRule& rule) {
+  const std::string wordClass =
+      rule.wordClass ? std::to_string(static_cast<int>(*rule.wordClass)) : "";
+  return lower(rule.word) + "\t" + wordClass + "\t" + lower(rule.phrase) + "\t" +
+         (rule.shown.empty() ? "said" : "shown");
+}
+
 /// The phones of each part of a word with hyphens.
 std::vector<Phones> partsIn(std::string_view sounds) {
   std::vector<Phones> parts(1);
@@ -67,6 +76,7 @@ std::vector<Phones> partsIn(std::string_view sounds) {
 std::vector<PronunciationRule> parsePronunciations(std::string_view text, const std::string& file,
                                                    Problems& problems) {
   std::vector<PronunciationRule> rules;
+  std::unordered_map<std::string, int> subjects; // by what they are about, the line
   for (const SourceLine& line : linesOf(text)) {
     if (line.text.empty() || line.text.starts_with("//")) continue;
     const Where where{file, line.number, 1};
@@ -81,20 +91,25 @@ std::vector<PronunciationRule> parsePronunciations(std::string_view text, const 
     std::string_view word = trim(line.text.substr(0, middle));
     rule.wordClass = takeClass(word);
     rule.word = word;
-    std::string_view said = line.text.substr(middle + equals.size());
-    const std::size_t phrase = said.find(within);
-    if (phrase != std::string_view::npos) rule.phrase = trim(said.substr(phrase + within.size()));
-    said = trim(said.substr(0, phrase));
-    const bool notation = said.size() > 2 && said.starts_with('/') && said.ends_with('/');
+    std::string_view sounds = line.text.substr(middle + equals.size());
+    const std::size_t phrase = sounds.find(within);
+    if (phrase != std::string_view::npos) rule.phrase = trim(sounds.substr(phrase + within.size()));
+    sounds = trim(sounds.substr(0, phrase));
+    const bool notation = sounds.size() > 2 && sounds.starts_with('/') && sounds.ends_with('/');
     if (notation) {
-      rule.shown = said;
+      rule.shown = sounds;
     } else {
-      rule.parts = partsIn(said);
+      rule.parts = partsIn(sounds);
       for (const Phones& part : rule.parts)
         rule.phones.insert(rule.phones.end(), part.begin(), part.end());
     }
     if (std::string fault = ruleFault(rule); !fault.empty()) {
       problems.add(where, std::move(fault));
+      continue;
+    }
+    const auto [first, isNew] = subjects.emplace(subjectOf(rule), line.number);
+    if (!isNew) {
+      problems.add(where, said("line {} tells of this already", first->second));
       continue;
     }
     rules.push_back(std::move(rule));

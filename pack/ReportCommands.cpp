@@ -24,7 +24,8 @@ class ShowCommand final : public Command {
   explicit ShowCommand(CLI::App& application)
       : command_(*application.add_subcommand(
             "show", said("show what a source holds as the learner will see it: an item, a lesson, "
-                         "a text, a question to listen to, an analysed stretch"))) {
+                         "a text, a question to listen to, an analysed stretch, an entry of the "
+                         "dictionary"))) {
     command_.add_option("PLACE", place_, said("FILE, or FILE:LINE for the part at that line"))
         ->required();
   }

@@ -9,6 +9,7 @@
 #include "pack/ListeningSource.h"
 #include "pack/Message.h"
 #include "pack/ReadingSource.h"
+#include "pack/ShowEntry.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "pack/kinds/ItemKind.h"
@@ -16,7 +17,6 @@
 #include "text/Text.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace talvora::pack {
 
@@ -93,17 +93,6 @@ std::string hintsOf(const Item& item) {
   return text.empty() ? "" : said("hints: {}", text) + "\n";
 }
 
-/// True when a line of the part that begins at `first` is wanted; `next` is the line of the part
-/// behind it, 0 for the last one.
-bool isWanted(const ShownPlace& place, int first, int next) {
-  if (place.line == 0) return true;
-  return first <= place.line && (next == 0 || place.line < next);
-}
-
-std::string placeShown(const Where& where) {
-  return "-- " + where.file + ":" + std::to_string(where.line);
-}
-
 std::string itemShown(const Item& item, ItemPlace place) {
   std::string text = placeShown(item.where) + (item.id.empty() ? "" : " " + item.id) + "\n";
   const auto origin = place == ItemPlace::Bank ? ItemOrigin::Bank : ItemOrigin::OwnTest;
@@ -121,18 +110,6 @@ std::string itemShown(const Item& item, ItemPlace place) {
     const auto lines = item.explanations.find(number);
     text += "  " + item.kind->subjectOf(item, number, phrase) + "\n" +
             (lines == item.explanations.end() ? "" : explained(lines->second));
-  }
-  return text;
-}
-
-/// Those of a source's parts that stand in a wanted line, as `show` has each.
-template <class Parts, class Show>
-std::string partsShown(const ShownPlace& place, const Parts& parts, Show show) {
-  std::string text;
-  for (auto each = parts.begin(); each != parts.end(); ++each) {
-    const auto next = std::next(each);
-    if (isWanted(place, each->where.line, next == parts.end() ? 0 : next->where.line))
-      text += (text.empty() ? "" : "\n") + show(*each);
   }
   return text;
 }
@@ -230,21 +207,11 @@ bool beginsAsItems(std::string_view source) {
 
 } // namespace
 
-ShownPlace shownPlaceOf(const std::string& text) {
-  const std::size_t colon = text.rfind(':');
-  int line = 0;
-  if (colon != std::string::npos) {
-    const char* const end = text.data() + text.size();
-    const auto [behind, failure] = std::from_chars(text.data() + colon + 1, end, line);
-    if (failure == std::errc() && behind == end && line > 0) return {text.substr(0, colon), line};
-  }
-  return {text, 0};
-}
-
 std::string show(const ShownPlace& place, Problems& problems) {
   const std::string source = readText(place.file, problems);
   if (!problems.none()) return {};
   const std::string file = place.file.string();
+  if (holdsEntries(source)) return entriesShown(place, source, problems);
   if (beginsAsItems(source)) return itemsShown(place, source, problems);
   if (firstLineOf(source).starts_with("word: ")) return analysisShown(place, source, problems);
   if (opensQuestion(firstLineOf(source))) return unitShown(place, source, problems);

@@ -95,6 +95,47 @@ TEST(DictionaryCheck, WordsOfExamplesHaveEntriesAndSpellings) {
                    "go: \"đii\" is in no word list"}));
 }
 
+TEST(DictionaryCheck, APatternIsNoPhraseOfItsEntryToo) {
+  const std::string phrases = "  phrases: go ahead = cứ làm đi; ahead of = trước\n";
+  EXPECT_EQ(findingsOf("ahead\n  adv. phía trước: ahead of time, straight ahead\n" + phrases),
+            Lines{});
+  EXPECT_EQ(findingsOf("ahead\n  adv. phía trước: straight ahead, Go ahead\n" + phrases),
+            Lines{"ahead: \"Go ahead\" stands among the phrases again"});
+}
+
+TEST(DictionaryCheck, WhatCannotBeCountedIsNotCounted) {
+  const auto found = [](const std::string& head, const std::string& sense) {
+    return findingsOf(head + "\n  n. " + sense + "\n");
+  };
+  EXPECT_EQ(found("blood", "[u] máu: a blood test, a drop of blood, a little blood"), Lines{});
+  EXPECT_EQ(found("will", "[u c] ý chí: a strong will"), Lines{});
+  EXPECT_EQ(found("growth", "[u] sự lớn lên: a child's growth"), Lines{});
+  EXPECT_EQ(found("interest", "[u] sự quan tâm: An interest in sth"),
+            Lines{"interest: \"an interest\" counts what is said not to be countable"});
+  EXPECT_EQ(found("will", "[u] ý chí\n    > She has a strong will. = Cô ấy có ý chí."),
+            Lines{"will: \"a strong will\" counts what is said not to be countable"});
+  EXPECT_EQ(found("advice", "[u] lời khuyên: give advices"),
+            Lines{"advice: \"advices\" counts what is said not to be countable"});
+  EXPECT_EQ(
+      found("orange juice", "[u] nước cam: another orange juice"),
+      Lines{"orange juice: \"another orange juice\" counts what is said not to be countable"});
+}
+
+TEST(DictionaryCheck, AWordIsAcceptedForAnEntry) {
+  DictionaryMeasures measures;
+  measures.entries = {"go", "gos"};
+  measures.english = {"go"};
+  measures.vietnamese = {"đi"};
+  measures.accepted = {{"uýt", {"accepted.txt", 2, 1}},
+                       {"gq", {"accepted.txt", 3, 1}},
+                       {"gos", {"accepted.txt", 4, 1}},
+                       {"crô", {"accepted.txt", 5, 1}}};
+  EXPECT_EQ(findingsOf("go\n  v. đi uýt: go gq\n", measures),
+            Lines{"no entry needs \"crô\" to be accepted"});
+  measures.vietnamese.clear();
+  EXPECT_EQ(findingsOf("go\n  v. đi\n", measures), Lines{}) << "without the list nothing is known";
+}
+
 TEST(DictionaryCheck, EveryFindingIsAnErrorAndIsCounted) {
   Problems problems;
   const std::vector<Finding> findings = {{DictionaryRule::GlossTooLong, {{}, "long"}},

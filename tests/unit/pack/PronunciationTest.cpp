@@ -40,6 +40,16 @@ TEST(PronunciationSource, ReportsWhatIsWrong) {
   EXPECT_EQ(problemOf("the = /ð₫/\n"), "p.txt:1:1: the notation has a letter that cannot be shown");
 }
 
+TEST(PronunciationSource, AWordHasOneLineOfAKind) {
+  EXPECT_EQ(problemOf("Nghe = ng ey1\n\nnghe = ng eh1\n"),
+            "p.txt:3:1: line 1 tells of this already");
+  EXPECT_EQ(problemOf("use v. = y uw1 z\nuse v. = y uw1 s\n"),
+            "p.txt:2:1: line 1 tells of this already");
+  EXPECT_EQ(
+      rulesOf("use = y uw1 z\nuse = /ju:z/\nuse n. = y uw1 s\nuse = y uw1 s : no use\n").size(),
+      4U);
+}
+
 TEST(PronunciationSource, AWordWithHyphensHasThePhonesOfItsParts) {
   const auto rules = rulesOf("X-ray = eh1 k s - r ey0\n");
   ASSERT_EQ(rules.size(), 1U);
@@ -81,6 +91,15 @@ TEST(Heteronyms, APhraseSettlesThemAndElseTheLineForTheWord) {
       << "a comma parts no phrase for the voice either";
 }
 
+TEST(Heteronyms, ALineForTheWordGivesWayToAnEarlierPhrase) {
+  const Pronouncer pronouncer(rulesOf("use = y uw1 s : no use\nuse = y uw1 z : use\n"));
+  const auto told = heteronymsIn("There is no use.", pronouncer);
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_EQ(joined(told[0].phones), "y uw1 s");
+  EXPECT_EQ(pronouncer.correctionsFor({}).lexiconFor("There is no use.").at(0).phones, "y uw1 s")
+      << "the voice says it so too";
+}
+
 TEST(Phonetics, WritesWhatSchoolDictionariesWrite) {
   const auto shown = [](std::string_view phones, std::string_view word) {
     return phoneticOf(phonesOf(phones), word);
@@ -105,6 +124,37 @@ TEST(Phonetics, WritesWhatSchoolDictionariesWrite) {
   EXPECT_EQ(shown("ih0 r ey1 s", "erase"), "/i'reis/");
   EXPECT_EQ(shown("k ae1 zh ax0 w ax0 l t iy0", "casualty"), "/'kæʒuəlti/");
   EXPECT_EQ(shown("f aa1 r ax0 w ey1", "faraway"), "/'fa:rəwei/");
+}
+
+TEST(Phonetics, AnEndingIsWrittenInOneWay) {
+  const auto shown = [](std::string_view phones, std::string_view word) {
+    return phoneticOf(phonesOf(phones), word);
+  };
+  EXPECT_EQ(shown("eh1 n d l ax0 s", "endless"), "/'endlis/");
+  EXPECT_EQ(shown("k eh1 r l ax0 s", "careless"), "/'keəlis/");
+  EXPECT_EQ(shown("k eh1 r l ax0 s n ax0 s", "carelessness"), "/'keəlisnis/");
+  EXPECT_EQ(shown("l ey1 t n ax0 s", "lateness"), "/'leitnis/");
+  EXPECT_EQ(shown("b ay0 aa1 l ax0 jh ax0 s t", "biologist"), "/bai'olədʒist/");
+  EXPECT_EQ(shown("k r iy0 ey0 t ih1 v ax0 t iy0", "creativity"), "/kriei'tiviti/");
+  EXPECT_EQ(shown("ow0 ey1 s ax0 s", "oasis"), "/ou'eisis/");
+  EXPECT_EQ(shown("m ae1 n ax0 jh er0", "manager"), "/'mænidʒə/");
+  EXPECT_EQ(shown("aa1 r t ax0 k ax0 l", "article"), "/'a:tikl/");
+  EXPECT_EQ(shown("t ih1 p ax0 k l iy0", "typically"), "/'tipikli/");
+  EXPECT_EQ(shown("p ah1 z ax0 l d", "puzzled"), "/'pʌzld/");
+  EXPECT_EQ(shown("s ay1 k ax0 l ih0 ng", "cycling"), "/'saikliŋ/");
+  EXPECT_EQ(shown("t r ae1 v ax0 l ih0 ng", "travelling"), "/'trævəliŋ/");
+}
+
+TEST(Phonetics, AWeakVowelAheadOfAnotherIsShort) {
+  const auto shown = [](std::string_view phones, std::string_view word) {
+    return phoneticOf(phonesOf(phones), word);
+  };
+  EXPECT_EQ(shown("ae1 n y uw0 ax0 l", "annual"), "/'ænjuəl/");
+  EXPECT_EQ(shown("ih0 v ae1 l y uw0 ey1 t", "evaluate"), "/i'væljueit/");
+  EXPECT_EQ(shown("f l uw1 ax0 n t", "fluent"), "/'flu:ənt/");
+  EXPECT_EQ(shown("m eh1 n y uw0", "menu"), "/'menju:/");
+  EXPECT_EQ(shown("ih0 m iy1 d iy0 ih0 t l iy0", "immediately"), "/i'mi:diətli/");
+  EXPECT_EQ(shown("w er1 iy0 ih0 ng", "worrying"), "/'wʌriiŋ/");
 }
 
 TEST(Phonetics, OneSyllableHasTheMainStress) {

@@ -74,6 +74,52 @@ TEST(Show, AQuestionToListenToHasItsAnswers) {
       << "a unit is known by how it begins";
 }
 
+constexpr std::string_view entries = "// Words\n"
+                                     "see A1\n  v. 1 thấy: see sth\n  v. 2 gặp\n"
+                                     "    > See you! = Hẹn gặp lại!\n"
+                                     "  phrases: see to = lo liệu\n  forms: saw, seen\n\n"
+                                     "saw\n  n. [c] cái cưa\n  forms-first\n";
+
+/// A course of its own with these entries, so that no voice says how they are said.
+std::string entriesOf(const std::string& file, int line) {
+  const TestFolder folder;
+  folder.write("pronunciation.txt", "see = /si:/\nsaw = /so:/\n");
+  folder.write("dictionary/s.txt", entries);
+  folder.write("drafts/s.txt", "saw\n  n. [c] cái cưa\n");
+  Problems problems;
+  std::string shown = show({folder.path() + "/" + file, line}, problems);
+  EXPECT_TRUE(problems.none());
+  return shown.substr(shown.find(" ") + folder.path().size() + 2);
+}
+
+TEST(Show, AnEntryIsShownAsThePopupShowsIt) {
+  const std::string see =
+      "dictionary/s.txt:2\nsee /si:/ (saw, seen) A1\n - động từ 1 thấy: see sth\n"
+      " - 2 gặp\n - cụm: see to lo liệu\n - vd: See you! = Hẹn gặp lại!\n";
+  const std::string saw =
+      "dictionary/s.txt:9\nsaw /so:/\n - quá khứ của see\n - động từ 1 thấy\n - 2 gặp\n - saw\n"
+      " - danh từ, đếm được cái cưa\n";
+  EXPECT_EQ(entriesOf("dictionary/s.txt", 5), see);
+  EXPECT_EQ(entriesOf("dictionary/s.txt", 10), saw);
+  EXPECT_THAT(entriesOf("dictionary/s.txt", 0), HasSubstr("Hẹn gặp lại!\n\n-- "));
+  EXPECT_EQ(entriesOf("drafts/s.txt", 0),
+            "drafts/s.txt:1\nsaw /so:/\n - danh từ, đếm được cái cưa\n")
+      << "a file elsewhere is read by itself";
+}
+
+TEST(Show, AWordOfOneLetterStandsAtItsLetter) {
+  EXPECT_THAT(shownOf("mine.txt", "I A1\n  pron. tôi\n    > I go. = Tôi đi.\n"),
+              HasSubstr(" - đại từ tôi\n - vd: I go. = Tôi đi.\n"));
+}
+
+TEST(Show, TwoWordsOfOneSpellingShareAnEntry) {
+  const std::string lies = "lie\n  v. nằm\n  forms: lay, lain\n\nlie\n  v. nói dối\n";
+  const std::string shown = shownOf("dictionary/l.txt", lies);
+  EXPECT_THAT(shown, HasSubstr("nằm"));
+  EXPECT_EQ(shown.find("nói dối"), shown.rfind("nói dối"));
+  EXPECT_THAT(shownOf("dictionary/l.txt", lies, 6), testing::StartsWith("-- F:1\nlie"));
+}
+
 TEST(Show, AStretchHasTheLabelsOfThePanelAndItsLessons) {
   const std::string analysis =
       "word: My sister\nclass: cụm danh từ\nposition: đầu câu\nfunction: chủ ngữ\nidea: chị tôi\n"
