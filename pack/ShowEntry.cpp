@@ -79,8 +79,11 @@ std::string entriesShown(const ShownPlace& place, std::string_view source, Probl
   if (!problems.none()) return {};
   const WordList words = wordsAround(place.file, here, problems);
   // Two words of one spelling stand one behind the other and share an entry.
-  const auto shared = std::ranges::unique(here, {}, &OwnEntry::head);
-  here.erase(shared.begin(), shared.end());
+  const auto shared =
+      std::unique(here.begin(), here.end(), [](const OwnEntry& one, const OwnEntry& other) {
+        return one.head == other.head;
+      });
+  here.erase(shared, here.end());
   return partsShown(place, here, [&words](const OwnEntry& entry) {
     // A head word of one letter stands where the letter's section opens.
     const auto number =
