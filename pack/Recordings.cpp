@@ -11,8 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <future>
-#include <mutex>
 #include <sstream>
 #include <utility>
 
@@ -96,9 +94,6 @@ std::optional<Marks> keptMarks(const std::filesystem::path& pack, int number,
 
 using MarksByNumber = std::map<int, Marks>;
 
-/// Sentences of a script as far as they are spoken, by their places.
-using SpokenLines = std::map<std::size_t, Samples>;
-
 std::vector<std::size_t> placesOf(const Script& script, Speaker speaker) {
   std::vector<std::size_t> places;
   for (std::size_t place = 0; place < script.lines.size(); ++place) {
@@ -132,18 +127,16 @@ float stretchFor(const Script& script, const std::vector<std::size_t>& places,
   return std::clamp(static_cast<float>(wanted / seconds), fastest, slowest);
 }
 
-/// Speaks what one speaker has to say in a script.
-SpokenLines speakLines(const Script& script, Speaker speaker, const Reader& reader) {
-  const auto places = placesOf(script, speaker);
+/// Speaks what one speaker has to say in a script, to the places of a list of its sentences.
+void speakLines(const Script& script, const std::vector<std::size_t>& places, const Reader& reader,
+                std::vector<Samples>& sentences) {
   const float stretch = stretchFor(script, places, reader);
-  SpokenLines spoken;
   for (const std::size_t place : places) {
     Samples samples = reader.speak(script.lines[place].sentence, stretch).samples;
     highPass(samples, Voice::SamplesPerSecond);
     bringToLevel(samples, Voice::SamplesPerSecond, RecordedLevel);
-    spoken[place] = std::move(samples);
+    sentences.at(place) = std::move(samples);
   }
-  return spoken;
 }
 
 /// A recording with the script that it speaks.
@@ -152,40 +145,19 @@ struct Spoken {
   Recording recording;
 };
 
-/// Speaks scripts, a thread for each speaker: a voice serves one at a time.
 std::vector<Spoken> recordTogether(const std::vector<Script>& scripts,
                                    const Pronunciations& pronunciations, const Progress& progress) {
-  if (!scripts.empty()) Voice::learn(pronunciations);
-  std::mutex telling;
-  std::vector<std::future<std::vector<SpokenLines>>> work;
-  for (const Speaker speaker : speakers) {
-    if (scripts.empty()) break;
-    const Reader reader{Voice(speaker), pronunciations};
-    work.push_back(std::async(std::launch::async, [&scripts, &telling, &progress, reader, speaker] {
-      std::vector<SpokenLines> parts;
-      for (const Script& script : scripts) {
-        {
-          const std::lock_guard lock(telling);
-          progress(said("{}, {} sentences by {}", waveName(script.number),
-                        placesOf(script, speaker).size(),
-                        SpeakerNames.at(static_cast<std::size_t>(speaker))));
-        }
-        parts.push_back(speakLines(script, speaker, reader));
-      }
-      return parts;
-    }));
-  }
-  std::vector<std::vector<SpokenLines>> bySpeaker;
-  for (auto& each : work)
-    bySpeaker.push_back(each.get());
   std::vector<Spoken> all;
-  for (std::size_t at = 0; at < scripts.size(); ++at) {
-    std::vector<Samples> sentences(scripts[at].lines.size());
-    for (auto& parts : bySpeaker) {
-      for (auto& [place, samples] : parts[at])
-        sentences.at(place) = std::move(samples);
+  if (!scripts.empty()) Voice::learn(pronunciations);
+  for (const Script& script : scripts) {
+    std::vector<Samples> sentences(script.lines.size());
+    for (const Speaker speaker : speakers) {
+      const auto places = placesOf(script, speaker);
+      progress(said("{}, {} sentences by {}", waveName(script.number), places.size(),
+                    SpeakerNames.at(static_cast<std::size_t>(speaker))));
+      speakLines(script, places, {Voice(speaker), pronunciations}, sentences);
     }
-    all.push_back({scripts[at], joined(sentences)});
+    all.push_back({script, joined(sentences)});
   }
   return all;
 }

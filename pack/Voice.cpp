@@ -9,6 +9,7 @@
 #include <flite/flite.h>
 #include <flite/flite_version.h>
 
+#include <cstdlib>
 #include <memory>
 #include <stdexcept>
 
@@ -22,6 +23,8 @@ cst_lexicon* cmu_lex_init();
 namespace talvora::pack {
 
 namespace {
+
+constexpr unsigned breathSeed = 1;
 
 struct DeleteUtterance {
   void operator()(cst_utterance* utterance) const { delete_utterance(utterance); }
@@ -50,6 +53,8 @@ void Voice::learn(const Pronunciations& pronunciations) {
 
 SpokenSentence Voice::speak(std::string_view sentence, float stretch) const {
   flite_feat_set_float(voice_->features, "duration_stretch", stretch);
+  // The breath in the voice comes from the process's random numbers.
+  std::srand(breathSeed);
   const std::unique_ptr<cst_utterance, DeleteUtterance> spoken(
       flite_synth_text(plainAscii(sentence).c_str(), voice_));
   const cst_wave* wave = spoken ? utt_wave(spoken.get()) : nullptr;

@@ -22,16 +22,15 @@ class Voice {
  public:
   static constexpr int SamplesPerSecond = 16000;
 
-  /// The library keeps one voice of each speaker for the process: make it on one thread, and let
-  /// one thread at a time use it. Throws std::runtime_error when the library gives none.
+  /// The library keeps one voice of each speaker for the process: one thread at a time may make or
+  /// use any. Throws std::runtime_error when the library gives none.
   explicit Voice(Speaker speaker);
 
-  /// Tells all voices how to say what they do not know. None may be speaking meanwhile.
+  /// Tells all voices how to say what they do not know.
   static void learn(const Pronunciations& pronunciations);
 
-  /// A sentence in the text font's bytes, spoken in so many times its natural length. Its length
-  /// depends on the text and the stretch alone; the breath in the voice is random, so that its
-  /// samples differ a little every time.
+  /// A sentence in the text font's bytes, spoken in so many times its natural length. It sounds the
+  /// same to the last sample whenever it is spoken.
   [[nodiscard]] SpokenSentence speak(std::string_view sentence, float stretch) const;
 
  private:

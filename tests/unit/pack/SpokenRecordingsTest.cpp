@@ -41,6 +41,17 @@ TEST(Recordings, ACorrectedPronunciationSpeaksAgainWhatHasTheWord) {
   Voice::learn({});
 }
 
+TEST(Recordings, SoundTheSameInEveryBuild) {
+  RecordedPack one;
+  one.build(twoScripts());
+  ReadingSource only = twoScripts();
+  only.texts.erase(400);
+  RecordedPack other;
+  other.build(only);
+  EXPECT_EQ(one.bytes("sound/4.wav"), other.bytes("sound/4.wav"))
+      << "whatever was spoken ahead of it";
+}
+
 TEST(Speakers, HaveOneLevelAndTheRateOfTheirUnit) {
   EXPECT_DOUBLE_EQ(syllablesASecond(1), 3.0);
   EXPECT_DOUBLE_EQ(syllablesASecond(9), 4.8);
