@@ -12,6 +12,7 @@
 #include "desktop/Teller.h"
 #include "fronts/ButtonMeaning.h"
 #include "fronts/PageNames.h"
+#include "fronts/Units.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -136,7 +137,7 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
 
   using QAccessibleWidget::text;
   QString text(int startOffset, int endOffset) const override {
-    return lettersOf(surface(), startOffset, endOffset);
+    return shown(lettersOf(surface(), startOffset, endOffset));
   }
   int characterCount() const override { return surface().TextLength(); }
   /// Those of the run that holds an offset; a run ends with its paragraph.
@@ -152,7 +153,7 @@ class SurfaceAccessible final : public QAccessibleWidget, public QAccessibleText
     *startOffset = start + runs[run].from;
     *endOffset =
         last ? std::max(surface().paragraphStart(number + 1), offset) : start + runs[run + 1].from;
-    return attributesOf(*runs[run].style, lettersOf(surface(), *startOffset, *endOffset));
+    return attributesOf(*runs[run].style, shown(lettersOf(surface(), *startOffset, *endOffset)));
   }
 
   // -- Places.

@@ -1,6 +1,8 @@
 #include "desktop/DesktopDesk.h"
 
 #include "desktop/MessageCard.h"
+#include "desktop/Shown.h"
+#include "fronts/Notes.h"
 #include "text/GlyphMap.h"
 
 #include <QClipboard>
@@ -22,14 +24,13 @@ constexpr int Agreed = 1;
 constexpr int VirtualHeight = 768;
 constexpr int NarrowestScreen = 1024;
 constexpr int WidestScreen = 1366;
-constexpr int LongestShown = 20; // letters of a word that is too long
 // Sixty pictures a second, as most screens show.
 constexpr qint64 StepNs = 16'666'667;
 constexpr qint64 ShortestPictureNs = StepNs / 2;
 constexpr qint64 LongestMovementPauseNs = 200'000'000;
 
-QString shown(std::string_view bytes, Encoding encoding) {
-  return QString::fromStdU16String(toUnicode(bytes, encoding));
+QString lettersOf(std::string_view bytes, Encoding encoding) {
+  return shown(toUnicode(bytes, encoding));
 }
 
 } // namespace
@@ -83,7 +84,8 @@ void DesktopInstallation::run(const std::string& program) {
 
 BoxAnswer DesktopBoxes::ask(std::string_view text, std::string_view title, BoxAnswer byDefault) {
   opening();
-  MessageCard box(shown(title, Encoding::Windows1252), shown(text, Encoding::X1), {}, owner);
+  MessageCard box(lettersOf(title, Encoding::Windows1252), lettersOf(text, Encoding::X1), {},
+                  owner);
   const auto isDefault = [&](BoxAnswer answer) {
     return answer == byDefault ? MessageCard::IsDefault::Yes : MessageCard::IsDefault::No;
   };
@@ -94,34 +96,17 @@ BoxAnswer DesktopBoxes::ask(std::string_view text, std::string_view title, BoxAn
 
 void DesktopBoxes::tell(std::string_view text) {
   opening();
-  MessageCard box(QStringLiteral("Talvora"), shown(text, Encoding::X1), {}, owner);
+  MessageCard box(QStringLiteral("Talvora"), lettersOf(text, Encoding::X1), {}, owner);
   box.addButton(QStringLiteral("OK"), Agreed, MessageCard::IsDefault::Yes);
   box.exec();
 }
 
 void DesktopNarrator::wordTaken(const std::string& word, WordTaken outcome, int count) {
-  const QString letters = shown(word, Encoding::X1);
-  switch (outcome) {
-  case WordTaken::Stored:
-    sign(QStringLiteral("Đã lưu: %1 (%2)").arg(letters).arg(count));
-    break;
-  case WordTaken::WasThere:
-    sign(QStringLiteral("Đã có: %1 (%2)").arg(letters).arg(count));
-    break;
-  case WordTaken::TooLong:
-    sign(QStringLiteral("Dài quá, không lưu được: %1…").arg(letters.left(LongestShown)));
-    break;
-  }
+  sign(shown(noteOf(word, outcome, count)));
 }
 
 void DesktopNarrator::answerJudged(Verdict verdict) {
-  if (verdict.right == verdict.places) {
-    say(QStringLiteral("Đúng"));
-  } else if (verdict.places == 1) {
-    say(QStringLiteral("Chưa đúng"));
-  } else {
-    say(QStringLiteral("Đúng %1 trên %2 chỗ").arg(verdict.right).arg(verdict.places));
-  }
+  say(shown(noteOf(verdict)));
 }
 
 void showFailure(const std::string& message, QWidget* owner) {

@@ -34,8 +34,10 @@ ControlView* makeChild(Arguments&&... arguments) {
 FormView::FormView(Form& form, FormInput& input, EventBridge& bridge, QtLineLayout& layout,
                    QWidget* parent)
     : QWidget(parent), form_(form), input_(input), bridge_(bridge), layout_(layout),
-      mouse_(input, bridge), scrollMouse_(bridge), cameUp_(form) {
-  scrollMouse_.viewAt = [this](QPointF point) { return barAt(point); };
+      mouse_(input, bridge), scrollMouse_(bridge, form, layout), cameUp_(form) {
+  scrollMouse_.viewOf = [this](const Surface& surface) {
+    return dynamic_cast<SurfaceView*>(viewOf(surface));
+  };
   setFocusPolicy(Qt::NoFocus);
   setMouseTracking(true);
   setAutoFillBackground(true);
@@ -125,10 +127,10 @@ void FormView::settlePlace(Control& control) {
   view->place(scale_);
   if (view->isVisibleTo(this) == control.Visible()) return;
   view->setVisible(control.Visible());
-  if (auto* const surfaceView = dynamic_cast<SurfaceView*>(view)) {
-    if (!control.Visible()) scrollMouse_.forget(*surfaceView);
+  if (!control.Visible()) {
+    if (const auto* const surface = as<Surface>(&control)) scrollMouse_.forget(*surface);
+    return;
   }
-  if (!control.Visible()) return;
   // Qt itself would mark a widget that appears only when events run, and paint it a second time.
   QCoreApplication::removePostedEvents(view, QEvent::UpdateLater);
   view->update();
@@ -185,15 +187,15 @@ ControlView* FormView::nextInFront(const Control& control) const {
 // -- The mouse.
 
 Qt::CursorShape FormView::cursorShape() const {
-  const Control* const under = input_.hovered();
-  if (as<Button>(under) != nullptr) return Qt::PointingHandCursor;
-  const auto* const surface = as<Surface>(under);
-  if (surface == nullptr) return Qt::ArrowCursor;
-  const SurfacePoint at = input_.pointer();
-  if (isLink(*surface, {at.x - surface->Left(), at.y - surface->Top()})) {
+  switch (pointerShape(input_)) {
+  case PointerShape::Hand:
     return Qt::PointingHandCursor;
+  case PointerShape::Text:
+    return Qt::IBeamCursor;
+  case PointerShape::Arrow:
+    break;
   }
-  return surface->Locked() ? Qt::ArrowCursor : Qt::IBeamCursor;
+  return Qt::ArrowCursor;
 }
 
 void FormView::updateCursor() {
@@ -201,36 +203,35 @@ void FormView::updateCursor() {
   if (cursor().shape() != shape) setCursor(shape);
 }
 
-SurfaceView* FormView::barAt(QPointF point) const {
-  Control* const under = form_.controlAt(mouse_.pointOf(point));
-  if (under == nullptr) return nullptr;
-  auto* const view = dynamic_cast<SurfaceView*>(viewOf(*under));
-  return view != nullptr && view->barHolds(point - view->pos()) ? view : nullptr;
+bool FormView::pressesBar(const QMouseEvent& event) {
+  return scrollMouse_.press(mouse_.pointOf(event.position()), event.button() == Qt::LeftButton);
 }
 
 void FormView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) {
     onMiddleClick();
-  } else if (!scrollMouse_.press(*event)) {
+  } else if (!pressesBar(*event)) {
     mouse_.press(*event);
   }
 }
 
 void FormView::mouseReleaseEvent(QMouseEvent* event) {
-  if (input_.holdsPress() || !scrollMouse_.release(*event)) mouse_.release(*event);
+  const SurfacePoint at = mouse_.pointOf(event->position());
+  if (input_.holdsPress() || !scrollMouse_.release(at)) mouse_.release(*event);
 }
 
 void FormView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) {
     onMiddleClick();
-  } else if (!scrollMouse_.press(*event)) {
+  } else if (!pressesBar(*event)) {
     mouse_.doubleClick(*event);
   }
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* event) {
   // A press on a text goes on with that text, wherever the pointer comes.
-  if (!input_.holdsPress() && scrollMouse_.move(*event)) {
+  const SurfacePoint at = mouse_.pointOf(event->position());
+  if (!input_.holdsPress() && scrollMouse_.move(at, event->buttons().testFlag(Qt::LeftButton))) {
     setCursor(Qt::ArrowCursor);
     return;
   }

@@ -79,7 +79,7 @@ class FormView final : public QWidget, public FormObserver {
   void updateCursor();
   [[nodiscard]] Qt::CursorShape cursorShape() const;
   /// The view of the surface whose scroll bar lies under a point; null when none does.
-  [[nodiscard]] SurfaceView* barAt(QPointF point) const;
+  bool pressesBar(const QMouseEvent& event);
 
   Form& form_;
   FormInput& input_;

@@ -4,6 +4,7 @@
 
 #include "desktop/ControlView.h"
 #include "desktop/QtLineLayout.h"
+#include "fronts/HintCard.h"
 #include "surface/Surface.h"
 
 namespace talvora {
@@ -21,11 +22,8 @@ class HintBarView final : public ControlView {
   int overhang() const override;
 
  private:
-  /// Height of what is painted, in twips: a bar of two lines would reach over the first line of the
-  /// page below, so it ends where the page's card begins.
-  [[nodiscard]] int paintedHeight() const;
-  void paintCard(QPainter& painter) const;
-  void paintLines(QPainter& painter) const;
+  void paintCard(QPainter& painter, const HintCard& hints) const;
+  void paintLines(QPainter& painter, HintCard card) const;
 
   const Surface& surface_;
   QtLineLayout& layout_;

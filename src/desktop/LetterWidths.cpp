@@ -1,7 +1,9 @@
 #include "desktop/LetterWidths.h"
 
 #include "desktop/Fonts.h"
+#include "desktop/Shown.h"
 #include "desktop/TextShaper.h"
+#include "fronts/Units.h"
 #include "text/Bytes.h"
 
 #include <QFontMetricsF>
@@ -21,7 +23,7 @@ double measured(const FontSpec& font, bool italic, char letter) {
   style.font = font;
   style.italic = italic;
   const QFontMetricsF metrics(fontFor(style));
-  return metrics.horizontalAdvance(unitsOf(std::string_view(&letter, 1), font.name));
+  return metrics.horizontalAdvance(shown(unitsOf(std::string_view(&letter, 1), font.name)));
 }
 
 } // namespace

@@ -2,7 +2,8 @@
 
 #include "desktop/Fonts.h"
 #include "desktop/Palette.h"
-#include "text/GlyphMap.h"
+#include "desktop/Shown.h"
+#include "fronts/Units.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -25,10 +26,7 @@ constexpr double RingPart = 0.07;
 } // namespace
 
 QString MenuButtonView::caption() const {
-  const Encoding encoding = encodingOf(button_.Font().name);
-  QString caption = QString::fromStdU16String(toUnicode(button_.Caption(), encoding));
-  // In a caption "&&" stands for one "&".
-  return caption.replace(QLatin1String("&&"), QLatin1String("&"));
+  return shown(captionOf(button_));
 }
 
 void MenuButtonView::paintEvent(QPaintEvent*) {

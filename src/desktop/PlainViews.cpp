@@ -3,7 +3,8 @@
 #include "desktop/BackgroundArt.h"
 #include "desktop/Fonts.h"
 #include "desktop/Palette.h"
-#include "desktop/TextShaper.h"
+#include "desktop/Shown.h"
+#include "fronts/Units.h"
 
 #include <QFontMetricsF>
 #include <QPaintEvent>
@@ -40,7 +41,7 @@ void LabelView::paintEvent(QPaintEvent* event) {
   painter.fillRect(event->rect(), colourOf(label_.BackColor()));
   const QFont font = fontFor(label_.Font());
   const QFontMetricsF metrics(font);
-  const QString text = unitsOf(label_.Caption(), label_.Font().name);
+  const QString text = shown(unitsOf(label_.Caption(), label_.Font().name));
   const double textWidth = std::max(1.0, metrics.horizontalAdvance(text));
   const double scale =
       std::min({pixelsPerTwip(), width() / textWidth, height() / metrics.height()});

@@ -2,8 +2,6 @@
 
 #include "desktop/SurfaceView.h"
 
-#include <QMouseEvent>
-
 #include <utility>
 
 namespace talvora {
@@ -15,77 +13,60 @@ constexpr int PauseMs = 70;
 
 } // namespace
 
-ScrollMouse::ScrollMouse(EventBridge& bridge) : bridge_(bridge) {
+ScrollMouse::ScrollMouse(EventBridge& bridge, Form& form, const LineLayout& layout)
+    : bridge_(bridge), mouse_(form, layout) {
   QObject::connect(&paging_, &QTimer::timeout, this, [this] { goOnByPage(); });
 }
 
-void ScrollMouse::heat(SurfaceView* view) {
-  SurfaceView* const before = std::exchange(hot_, view);
-  if (before == view) return;
-  if (before != nullptr) before->setBarHot(false);
-  if (view != nullptr) view->setBarHot(true);
+void ScrollMouse::heat(const Surface* surface) {
+  const Surface* const before = std::exchange(hot_, surface);
+  if (before == surface) return;
+  for (const Surface* const each : {before, surface}) {
+    SurfaceView* const view = each == nullptr ? nullptr : viewOf(*each);
+    if (view != nullptr) view->setBarHot(each == surface);
+  }
 }
 
 void ScrollMouse::leave() {
-  held_ = nullptr;
+  mouse_.release();
   paging_.stop();
   heat(nullptr);
 }
 
-void ScrollMouse::forget(const SurfaceView& view) {
-  if (&view == held_ || &view == hot_) leave();
+void ScrollMouse::forget(const Surface& surface) {
+  if (&surface == mouse_.held() || &surface == hot_) leave();
 }
 
-bool ScrollMouse::press(const QMouseEvent& event) {
-  pointer_ = event.position();
-  SurfaceView* const view = viewAt(pointer_);
-  heat(view);
-  if (view == nullptr) return false;
-  if (event.button() != Qt::LeftButton) return true;
-  held_ = view;
-  const QRectF thumb = view->thumbRect().translated(view->pos());
-  dragged_ = pointer_.y() >= thumb.top() && pointer_.y() < thumb.bottom();
-  grip_ = pointer_.y() - thumb.top();
-  if (!dragged_) {
-    goOnByPage();
-    paging_.start(FirstPauseMs);
-  }
+bool ScrollMouse::press(SurfacePoint at, bool left) {
+  heat(mouse_.surfaceAt(at));
+  if (hot_ == nullptr || !left) return hot_ != nullptr;
+  bridge_.deliver([&] { mouse_.press(at); });
+  if (mouse_.holdsTrough()) paging_.start(FirstPauseMs);
   return true;
 }
 
-bool ScrollMouse::move(const QMouseEvent& event) {
-  pointer_ = event.position();
-  if (held_ != nullptr && !event.buttons().testFlag(Qt::LeftButton)) leave();
-  if (held_ == nullptr) {
-    heat(viewAt(pointer_));
+bool ScrollMouse::move(SurfacePoint at, bool leftHeld) {
+  if (!leftHeld) mouse_.release();
+  if (mouse_.held() == nullptr) {
+    paging_.stop();
+    heat(mouse_.surfaceAt(at));
     return hot_ != nullptr;
   }
-  if (dragged_) {
-    bridge_.deliver([this] { held_->bringThumbTo(pointer_.y() - held_->y() - grip_); });
-  }
+  bridge_.deliver([&] { mouse_.drag(at); });
   return true;
 }
 
-bool ScrollMouse::release(const QMouseEvent& event) {
-  pointer_ = event.position();
+bool ScrollMouse::release(SurfacePoint at) {
   paging_.stop();
-  if (held_ == nullptr) return viewAt(pointer_) != nullptr;
-  held_ = nullptr;
-  heat(viewAt(pointer_));
-  return true;
+  const bool was = mouse_.held() != nullptr;
+  mouse_.release();
+  heat(mouse_.surfaceAt(at));
+  return was || hot_ != nullptr;
 }
 
-// Up or down to the pointer, and no further.
 void ScrollMouse::goOnByPage() {
-  if (held_ == nullptr || !held_->isVisible()) {
-    leave();
-    return;
-  }
   paging_.setInterval(PauseMs);
-  const QRectF thumb = held_->thumbRect().translated(held_->pos());
-  const int direction = pointer_.y() < thumb.top() ? -1 : pointer_.y() >= thumb.bottom() ? 1 : 0;
-  if (direction == 0) return;
-  bridge_.deliver([this, direction] { held_->page(direction); });
+  bridge_.deliver([this] { mouse_.goOnByPage(); });
 }
 
 } // namespace talvora

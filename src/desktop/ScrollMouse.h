@@ -1,16 +1,13 @@
-// The mouse on scroll bars: the thumb is dragged, and the trough leads on by pages for as long as
-// it is held. What happens there never reaches the surface beneath.
+// Lights the scroll bar under the pointer, and goes on by pages while a trough is held.
 #pragma once
 
 #include "desktop/EventBridge.h"
+#include "fronts/BarMouse.h"
 
 #include <QObject>
-#include <QPointF>
 #include <QTimer>
 
 #include <functional>
-
-class QMouseEvent;
 
 namespace talvora {
 
@@ -18,30 +15,29 @@ class SurfaceView;
 
 class ScrollMouse final : public QObject {
  public:
-  explicit ScrollMouse(EventBridge& bridge);
+  ScrollMouse(EventBridge& bridge, Form& form, const LineLayout& layout);
 
-  /// Tells which surface's view lies under a point of the form, or null; set by the form's view.
-  std::function<SurfaceView*(QPointF)> viewAt = [](QPointF) -> SurfaceView* { return nullptr; };
+  /// Gives the view of a surface, or null; set by the form's view.
+  std::function<SurfaceView*(const Surface&)> viewOf = [](const Surface&) -> SurfaceView* {
+    return nullptr;
+  };
 
-  // Each is true when the event belonged to a bar.
-  bool press(const QMouseEvent& event);
-  bool move(const QMouseEvent& event);
-  bool release(const QMouseEvent& event);
+  // At a point of the form in twips; each is true when the event belonged to a bar.
+  bool press(SurfacePoint at, bool left);
+  bool move(SurfacePoint at, bool leftHeld);
+  bool release(SurfacePoint at);
   /// The pointer went elsewhere, or the press was lost.
   void leave();
-  /// The view is going.
-  void forget(const SurfaceView& view);
+  /// The surface is going.
+  void forget(const Surface& surface);
 
  private:
-  void heat(SurfaceView* view);
+  void heat(const Surface* surface);
   void goOnByPage();
 
   EventBridge& bridge_;
-  SurfaceView* hot_ = nullptr;  ///< under whose bar the pointer is
-  SurfaceView* held_ = nullptr; ///< whose bar the press was on
-  bool dragged_ = false;        ///< the thumb, not the trough
-  double grip_ = 0;             ///< from the thumb's upper edge to the pointer, in pixels
-  QPointF pointer_;
+  BarMouse mouse_;
+  const Surface* hot_ = nullptr; ///< under whose bar the pointer is
   QTimer paging_;
 };
 

@@ -57,20 +57,7 @@ void SurfaceView::eachInView(Use use) const {
 
 SurfaceView::Piece SurfaceView::pieceOf(int paragraph, const ShapedParagraph& shaped,
                                         int top) const {
-  Piece piece{shaped.serial(), top, shaped.shape().height};
-  const int start = surface_.paragraphStart(paragraph);
-  const int length = surface_.paragraphStart(paragraph + 1) - start;
-  const int from = surface_.SelStart();
-  const int to = from + surface_.SelLength();
-  piece.current = traits_.isList && surface_.paragraphOf(from) == paragraph;
-  // The whole line of a list says what is selected in it.
-  if (piece.current) return piece;
-  piece.selectedFrom = std::clamp(from - start, 0, length);
-  piece.selectedTo = std::clamp(to - start, 0, length);
-  if (surface_.paragraphOf(from) != paragraph) return piece;
-  const bool caretShows = surface_.SelLength() == 0 && surfaceHasFocus() && traits_.showsCaret;
-  if (caretShows) piece.caret = from - start;
-  return piece;
+  return {shaped.serial(), top, shaped.shape().height, marksOf(surface_, form_, paragraph)};
 }
 
 SurfaceView::Picture SurfaceView::picture() const {
@@ -79,20 +66,15 @@ SurfaceView::Picture SurfaceView::picture() const {
   eachInView([&](int number, const ShapedParagraph& paragraph, int top) {
     result.pieces.push_back(pieceOf(number, paragraph, top));
   });
-  result.thumb = thumbOf(result.pieces);
+  result.thumb = thumb();
   result.barHot = barHot_;
   return result;
 }
 
 // -- The scroll bar.
 
-ScrollBar::Extent SurfaceView::extentOf(const std::vector<Piece>& pieces) const {
-  if (pieces.empty()) return {};
-  return bar_.extent(static_cast<int>(pieces.size()), pieces.back().top + pieces.back().height);
-}
-
-QRect SurfaceView::thumbOf(const std::vector<Piece>& pieces) const {
-  const ScrollBar::Extent extent = extentOf(pieces);
+QRect SurfaceView::thumb() const {
+  const ScrollBar::Extent extent = bar_.extent();
   if (!extent.scrolls) return {};
   const ScrollBar::Thumb thumb = bar_.thumb(extent);
   const double scale = pixelsPerTwip();
@@ -107,23 +89,9 @@ QRect SurfaceView::barStrip() const {
   return {width() - wide, 0, wide, height()};
 }
 
-bool SurfaceView::barHolds(QPointF point) const {
-  return barStrip().contains(point.toPoint()) && !picture().thumb.isEmpty();
-}
-
-QRectF SurfaceView::thumbRect() const {
-  const QRect thumb = picture().thumb;
-  return {static_cast<double>(barStrip().left()), static_cast<double>(thumb.top()),
-          static_cast<double>(barStrip().width()), static_cast<double>(thumb.height())};
-}
-
 void SurfaceView::setBarHot(bool hot) {
   barHot_ = hot;
   refresh();
-}
-
-void SurfaceView::bringThumbTo(double top) {
-  bar_.bringThumbTo(top / pixelsPerTwip(), extentOf(picture().pieces));
 }
 
 // -- What is to be painted.
@@ -189,7 +157,7 @@ void SurfaceView::paintEvent(QPaintEvent* event) {
     if (top + piece.height < dirty.top() || top > dirty.bottom()) return;
     paintPiece(painter, paragraph, piece, dirty);
   });
-  now.thumb = thumbOf(now.pieces);
+  now.thumb = thumb();
   now.barHot = barHot_;
   paintFade(painter, now.pieces);
   paintBar(painter, now);
@@ -215,13 +183,13 @@ void SurfaceView::paintPiece(QPainter& painter, const ShapedParagraph& shaped, c
   painter.save();
   painter.scale(pixelsPerTwip(), pixelsPerTwip());
   painter.translate(0, piece.top);
-  if (piece.current) paintCurrentLine(painter, piece);
-  if (piece.selectedTo > piece.selectedFrom) paintSelection(painter, shaped, piece);
+  if (piece.marks.current) paintCurrentLine(painter, piece);
+  if (piece.marks.to > piece.marks.from) paintSelection(painter, shaped, piece);
   paintMarks(painter, shaped, traits_.blueSign);
   shaped.paint(painter, dirty.translated(0, -piece.top), colourOf(surface_.BackColor()),
                layout_.letters());
   painter.restore();
-  if (piece.caret >= 0) paintCaret(painter, shaped.placeOf(piece.caret), piece.top);
+  if (piece.marks.caret >= 0) paintCaret(painter, shaped.placeOf(piece.marks.caret), piece.top);
 }
 
 void SurfaceView::paintCurrentLine(QPainter& painter, const Piece& piece) const {
@@ -237,7 +205,7 @@ void SurfaceView::paintSelection(QPainter& painter, const ShapedParagraph& shape
   painter.setPen(QPen(QColor::fromRgba(dark ? palette::DarkSelection : palette::SelectionEdge),
                       SelectionBorder));
   painter.setBrush(QColor::fromRgba(dark ? palette::DarkSelection : palette::Selection));
-  for (const QRectF& rect : shaped.rectsOf(piece.selectedFrom, piece.selectedTo)) {
+  for (const QRectF& rect : shaped.rectsOf(piece.marks.from, piece.marks.to)) {
     painter.drawRoundedRect(rect, SelectionRadius, SelectionRadius);
   }
 }
@@ -248,15 +216,11 @@ void SurfaceView::paintFade(QPainter& painter, const std::vector<Piece>& pieces)
   const int bottom = surface_.Height();
   if (last.top + last.height <= bottom) return;
   const int paragraph = surface_.scroll().paragraph + static_cast<int>(pieces.size()) - 1;
-  double cut = bottom;
-  for (const LineShape& line : shaped(paragraph).shape().lines) {
-    const int top = last.top + line.top;
-    if (top < bottom && top + line.height > bottom) cut = top;
-  }
+  const int cut = cutOf(shaped(paragraph).shape(), last.top, bottom);
   if (cut >= bottom) return;
   const double scale = pixelsPerTwip();
-  QColor back = colourOf(last.current ? Colour{0xFFFFFF} : surface_.BackColor());
-  if (last.current) back = QColor(palette::CurrentLine);
+  const QColor back =
+      last.marks.current ? QColor(palette::CurrentLine) : colourOf(surface_.BackColor());
   QLinearGradient fade(0, cut * scale, 0, bottom * scale);
   QColor clear = back;
   clear.setAlpha(0);

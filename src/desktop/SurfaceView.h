@@ -10,7 +10,6 @@
 #include "surface/Form.h"
 #include "surface/Surface.h"
 
-#include <QPointF>
 #include <QRect>
 
 #include <cstdint>
@@ -29,16 +28,8 @@ class SurfaceView final : public ControlView {
   /// A caret's rectangle in pixels of the widget; empty when it is out of view.
   [[nodiscard]] QRect caretRect(int caret) const;
 
-  // -- The scroll bar, in pixels of the widget.
-
-  /// Whether a point lies on the strip of the scroll bar; never when all of the text is in view.
-  [[nodiscard]] bool barHolds(QPointF point) const;
-  /// The thumb with all of its strip.
-  [[nodiscard]] QRectF thumbRect() const;
   /// The bar is painted wider while the pointer is on it.
   void setBarHot(bool hot);
-  void bringThumbTo(double top);
-  void page(int direction) { bar_.page(direction); }
 
   /// Marks the paragraphs that look different from what was marked last.
   void refresh() override;
@@ -52,10 +43,7 @@ class SurfaceView final : public ControlView {
     std::uint64_t serial = 0;
     int top = 0;    ///< twips from the surface's top
     int height = 0; ///< twips
-    int selectedFrom = 0;
-    int selectedTo = 0;
-    int caret = -1;       ///< offset in the paragraph; -1 when the caret is not painted in it
-    bool current = false; ///< the line of a list on which the keys act
+    ParagraphMarks marks;
 
     friend bool operator==(const Piece&, const Piece&) = default;
   };
@@ -74,8 +62,7 @@ class SurfaceView final : public ControlView {
   [[nodiscard]] const ShapedParagraph& shaped(int paragraph) const;
   [[nodiscard]] Picture picture() const;
   [[nodiscard]] Piece pieceOf(int paragraph, const ShapedParagraph& shaped, int top) const;
-  [[nodiscard]] ScrollBar::Extent extentOf(const std::vector<Piece>& pieces) const;
-  [[nodiscard]] QRect thumbOf(const std::vector<Piece>& pieces) const;
+  [[nodiscard]] QRect thumb() const;
   [[nodiscard]] QRect barStrip() const;
   void updatePiece(const Piece& piece);
   [[nodiscard]] QRect rectOf(const Piece& piece) const;

@@ -1,12 +1,12 @@
 #include "desktop/Teller.h"
 
-#include "desktop/TextShaper.h"
+#include "desktop/Shown.h"
+#include "fronts/Units.h"
 
 #include <QAccessible>
 
 #include <algorithm>
 #include <iterator>
-#include <string>
 #include <utility>
 
 namespace talvora {
@@ -15,18 +15,8 @@ namespace {
 
 // Of a longer text changes are not told, since finding them would take too long.
 constexpr int LongestTold = 100000;
-constexpr int LongestAnnounced = 600;
 
 } // namespace
-
-QString lettersOf(const Surface& surface, int from, int to) {
-  const std::string bytes = surface.TextBetween(from, to);
-  QString letters = unitsOf(bytes, surface.Font().name);
-  for (std::size_t at = bytes.find('\r'); at < bytes.size(); at = bytes.find('\r', at + 1)) {
-    letters[static_cast<qsizetype>(at)] = QLatin1Char('\n');
-  }
-  return letters;
-}
 
 void tellFocus(QWidget& view) {
   if (!QAccessible::isActive()) return;
@@ -55,7 +45,7 @@ void TextTeller::tell() {
 
 void Announcer::tell(const QString& text) {
   if (text.trimmed().isEmpty()) return;
-  setAccessibleName(text.trimmed().left(LongestAnnounced));
+  setAccessibleName(text.trimmed());
   if (!QAccessible::isActive()) return;
   // A note that comes up anew is read out.
   for (const QAccessible::Event kind : {QAccessible::ObjectHide, QAccessible::ObjectShow}) {
@@ -64,13 +54,9 @@ void Announcer::tell(const QString& text) {
   }
 }
 
-QString announcementOf(const Surface& surface) {
-  return lettersOf(surface, 0, std::min(surface.TextLength(), LongestAnnounced));
-}
-
 void TextTeller::tellText() {
   if (surface_.TextLength() > LongestTold) return;
-  const QString before = std::exchange(text_, lettersOf(surface_, 0, surface_.TextLength()));
+  const QString before = std::exchange(text_, shown(lettersOf(surface_, 0, surface_.TextLength())));
   const auto fromStart = std::mismatch(before.begin(), before.end(), text_.begin(), text_.end());
   const auto same = std::distance(before.begin(), fromStart.first);
   const auto oldRest = before.mid(same);

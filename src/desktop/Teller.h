@@ -14,12 +14,6 @@ namespace talvora {
 /// Tells that a view has got the keyboard.
 void tellFocus(QWidget& view);
 
-/// The letters between two carets, one UTF-16 unit a caret; line ends are line ends.
-[[nodiscard]] QString lettersOf(const Surface& surface, int from, int to);
-
-/// What is told of a surface that came up; a long text is told in part.
-[[nodiscard]] QString announcementOf(const Surface& surface);
-
 /// What is said aloud when it comes up, though it never gets the keyboard: an entry, an
 /// explanation, a message, a score. It shows nothing.
 class Announcer final : public QWidget {

@@ -2,8 +2,9 @@
 
 #include "desktop/Fonts.h"
 #include "desktop/Palette.h"
+#include "desktop/Shown.h"
 #include "fronts/TextMeasures.h"
-#include "text/GlyphMap.h"
+#include "fronts/Units.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -14,32 +15,6 @@
 namespace talvora {
 
 namespace {
-
-/// A mark of a sentence stands beside the blank that is to be seen, ahead of a title or behind a
-/// tab: it takes no room there. Between two letters it is the only gap.
-void hideSentenceMarks(QString& text) {
-  constexpr QChar Mark = u'\u00A0';
-  const auto isGap = [&](qsizetype at) {
-    return at < 0 || at >= text.size() || text[at] == u' ' || text[at] == u'\t' ||
-           text[at] == NoWidth || text[at] == NothingToSee;
-  };
-  for (qsizetype at = text.indexOf(Mark); at >= 0; at = text.indexOf(Mark, at + 1)) {
-    if (isGap(at - 1) || isGap(at + 1)) text[at] = NothingToSee;
-  }
-}
-
-/// In the VNI rule two bytes may show one letter.
-std::u16string vniUnits(std::string_view bytes) {
-  std::u16string units;
-  for (std::size_t at = 0; at < bytes.size();) {
-    std::u16string letter = toUnicode(bytes.substr(at, 2), Encoding::Vni);
-    const bool pair = letter.size() == 1 && at + 1 < bytes.size();
-    units += letter[0];
-    if (pair) units += JoinsWords;
-    at += pair ? 2 : 1;
-  }
-  return units;
-}
 
 QTextLayout::FormatRange formatOf(int from, int to, const CharStyle& style) {
   QTextLayout::FormatRange range;
@@ -69,15 +44,6 @@ double leftOf(const ParagraphView& paragraph) {
 
 } // namespace
 
-QString unitsOf(std::string_view bytes, std::string_view fontName) {
-  const Encoding encoding = encodingOf(fontName);
-  std::u16string units = encoding == Encoding::Vni ? vniUnits(bytes) : toUnicode(bytes, encoding);
-  for (char16_t& unit : units) {
-    if (unit < u' ' && unit != u'\t') unit = NoWidth;
-  }
-  return QString::fromStdU16String(units);
-}
-
 // -- A paragraph.
 
 double ShapedParagraph::tabDistance(const FontSpec& font) {
@@ -98,7 +64,7 @@ ShapedParagraph::ShapedParagraph(const ParagraphView& paragraph, std::uint64_t s
 }
 
 void ShapedParagraph::setText(const ParagraphView& paragraph) {
-  QString text;
+  std::u16string text;
   QList<QTextLayout::FormatRange> formats;
   for (std::size_t run = 0; run < paragraph.runs.size(); ++run) {
     const int from = paragraph.runs[run].from;
@@ -111,7 +77,7 @@ void ShapedParagraph::setText(const ParagraphView& paragraph) {
     largest_ = std::max(largest_, formats.back().format.font().pixelSize());
   }
   hideSentenceMarks(text);
-  layout_.setText(text);
+  layout_.setText(shown(text));
   layout_.setFont(fontFor(*paragraph.runs.front().style));
   layout_.setFormats(formats);
   layout_.setCacheEnabled(true);
@@ -201,6 +167,13 @@ int ShapedParagraph::offsetAt(int x, int y) const {
   const int from = shape_.lines[number].from;
   const int last = lastLine ? length_ : std::max(from, shape_.lines[number + 1].from - 1);
   return std::clamp(layout_.lineAt(static_cast<int>(number)).xToCursor(x), from, last);
+}
+
+double ShapedParagraph::width() const {
+  double width = 0;
+  for (const QRectF& line : rectsOf(0, length_))
+    width = std::max(width, line.width());
+  return width;
 }
 
 std::vector<QRectF> ShapedParagraph::rectsOf(int from, int to) const {
@@ -307,7 +280,8 @@ void ShapedParagraph::paintBullet(QPainter& painter, const QColor& back) const {
 // -- Metrics.
 
 int QtTextMetrics::TextWidth(std::string_view text, const FontSpec& font) const {
-  const double width = QFontMetricsF(fontFor(font)).horizontalAdvance(unitsOf(text, font.name));
+  const double width =
+      QFontMetricsF(fontFor(font)).horizontalAdvance(shown(unitsOf(text, font.name)));
   return static_cast<int>(std::ceil(width));
 }
 

@@ -20,10 +20,6 @@ class QPainter;
 
 namespace talvora {
 
-/// The letters that bytes show in a font, exactly one UTF-16 unit a byte: what a byte adds to the
-/// letter of another one, or does not show at all, becomes a unit without width.
-[[nodiscard]] QString unitsOf(std::string_view bytes, std::string_view fontName);
-
 /// One paragraph broken into lines. Offsets are bytes of the paragraph; places are twips from the
 /// surface's left edge and the paragraph's top edge.
 class ShapedParagraph {
@@ -40,6 +36,8 @@ class ShapedParagraph {
   [[nodiscard]] const ParagraphShape& shape() const noexcept { return shape_; }
   [[nodiscard]] CaretPlace placeOf(int offset) const;
   [[nodiscard]] int offsetAt(int x, int y) const;
+  /// What the letters of its widest line take, in twips.
+  [[nodiscard]] double width() const;
   /// What the characters between two offsets cover, a rectangle a line.
   [[nodiscard]] std::vector<QRectF> rectsOf(int from, int to) const;
   /// The stretches in one colour, each from its first offset to behind its last that is no blank.

@@ -6,6 +6,7 @@
 #include "desktop/KeyCodes.h"
 #include "desktop/Shown.h"
 #include "fronts/KeyHelp.h"
+#include "fronts/Units.h"
 #include "surface/Button.h"
 #include "surface/Surface.h"
 #include "text/GlyphMap.h"
@@ -112,7 +113,7 @@ void Window::connectView() {
   };
   view_->onSettled = [this] { strip_->setHelp(shown(keyHelp(program_.form()))); };
   view_->onCameUp = [this](const Surface& surface) {
-    if (QAccessible::isActive()) announcer_->tell(announcementOf(surface));
+    if (QAccessible::isActive()) announcer_->tell(shown(announcementOf(surface)));
   };
 }
 
@@ -264,11 +265,7 @@ void Window::focusOutEvent(QFocusEvent*) {
 }
 
 int Window::shiftDown() const {
-  const auto bit = [this](int keyCode, int own) {
-    return machine_.keys.isDown(keyCode) ? own : shift::None;
-  };
-  const int plainShift = mouseKeys_.shiftClicks() ? shift::None : bit(key::Shift, shift::Shift);
-  return plainShift | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
+  return mouseKeys_.shiftDown(machine_.keys);
 }
 
 void Window::closeEvent(QCloseEvent* event) {

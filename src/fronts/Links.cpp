@@ -1,5 +1,6 @@
 #include "fronts/Links.h"
 
+#include "surface/Button.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -82,6 +83,16 @@ bool isLink(const Surface& surface, SurfacePoint at) {
   // The explanation names its lessons in italics.
   if (name == "RHDBT") return isItalic(surface, caret);
   return false;
+}
+
+PointerShape pointerShape(const FormInput& input) {
+  const Control* const under = input.hovered();
+  if (as<Button>(under) != nullptr) return PointerShape::Hand;
+  const auto* const surface = as<Surface>(under);
+  if (surface == nullptr) return PointerShape::Arrow;
+  const SurfacePoint at = input.pointer();
+  if (isLink(*surface, {at.x - surface->Left(), at.y - surface->Top()})) return PointerShape::Hand;
+  return surface->Locked() ? PointerShape::Arrow : PointerShape::Text;
 }
 
 } // namespace talvora

@@ -1,6 +1,7 @@
 // Which words of a page answer to a click by leading somewhere, so that the pointer becomes a hand.
 #pragma once
 
+#include "surface/FormInput.h"
 #include "surface/Surface.h"
 
 namespace talvora {
@@ -12,5 +13,10 @@ namespace talvora {
 /// The caret behind which the next lesson that an explanation names begins, past `caret`, and from
 /// the top again; -1 when it names none. A caret of -1 starts at the top.
 [[nodiscard]] int nextLessonLink(const Surface& explanation, int caret);
+
+enum class PointerShape { Arrow, Hand, Text };
+
+/// What the pointer looks like where it is.
+[[nodiscard]] PointerShape pointerShape(const FormInput& input);
 
 } // namespace talvora

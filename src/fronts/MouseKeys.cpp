@@ -45,6 +45,14 @@ bool MouseKeys::release(int keyCode) {
   return list != nullptr && marksLines(*list);
 }
 
+int MouseKeys::shiftDown(const KeyTable& keys) const {
+  int down = shift::None;
+  if (keys.isDown(key::Shift) && !shiftClicks_) down |= shift::Shift;
+  if (keys.isDown(key::Ctrl)) down |= shift::Ctrl;
+  if (keys.isDown(key::Alt)) down |= shift::Alt;
+  return down;
+}
+
 // A left click at the caret with F10, a right one with Shift+F10 or the Menu key: what the mouse
 // does in a section, the keys do too.
 bool MouseKeys::click(int keyCode, int shift, bool repeats) {

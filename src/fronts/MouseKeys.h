@@ -2,6 +2,7 @@
 // marked and deleted, the lessons that an explanation names.
 #pragma once
 
+#include "fronts/KeyTable.h"
 #include "surface/FormInput.h"
 #include "surface/Surface.h"
 
@@ -33,8 +34,9 @@ class MouseKeys {
   /// True when the program must not hear that a key was let go: a page takes that as the end of
   /// what is shown and of what is marked.
   bool release(int keyCode);
-  /// Shift is down as part of a click by key: what the program clicks in answer is without it.
-  [[nodiscard]] bool shiftClicks() const noexcept { return shiftClicks_; }
+  /// The modifiers that are down. Shift as part of a click by key does not count: what the program
+  /// clicks in answer is without it.
+  [[nodiscard]] int shiftDown(const KeyTable& keys) const;
 
  private:
   bool click(int keyCode, int shift, bool repeats);

@@ -23,13 +23,15 @@ int ScrollBar::heightOf(int paragraph) const {
   return layout_.heightOf(surface_.paragraph(paragraph).view());
 }
 
-ScrollBar::Extent ScrollBar::extent(int paragraphsInView, int bottom) const {
+ScrollBar::Extent ScrollBar::extent() const {
   const ScrollPlace scroll = surface_.scroll();
   const int count = surface_.paragraphCount();
-  const bool endInView =
-      scroll.paragraph + paragraphsInView == count && bottom <= surface_.Height();
-  if (endInView && scroll == ScrollPlace{}) return {};
-  Extent extent{static_cast<double>(scroll.paragraph), static_cast<double>(paragraphsInView),
+  int bottom = -scroll.offset;
+  int end = scroll.paragraph; // of what is in view
+  while (end < count && bottom < surface_.Height())
+    bottom += heightOf(end++);
+  if (end == count && bottom <= surface_.Height() && scroll == ScrollPlace{}) return {};
+  Extent extent{static_cast<double>(scroll.paragraph), static_cast<double>(end - scroll.paragraph),
                 static_cast<double>(count), true};
   if (!isMeasured()) return extent;
   extent.above = scroll.offset;

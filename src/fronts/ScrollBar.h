@@ -22,8 +22,7 @@ class ScrollBar {
     double all = 0;
     bool scrolls = false; ///< false when all of the text is in view
   };
-  /// `paragraphsInView` of them are in view, and the last of those ends at `bottom` in twips.
-  [[nodiscard]] Extent extent(int paragraphsInView, int bottom) const;
+  [[nodiscard]] Extent extent() const;
 
   /// The thumb from the surface's upper edge, in twips.
   struct Thumb {

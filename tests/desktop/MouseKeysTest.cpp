@@ -88,12 +88,15 @@ TEST_F(MouseKeysTest, WithoutMarkedLinesARightClickIsOne) {
 }
 
 TEST_F(MouseKeysTest, TheShiftOfARightClickIsNoneForTheAnswer) {
+  KeyTable down;
+  down.press(key::Shift);
+  down.press(key::Ctrl);
   press(key::Shift, shift::Shift);
-  EXPECT_FALSE(keys.shiftClicks());
+  EXPECT_EQ(keys.shiftDown(down), shift::Shift | shift::Ctrl);
   strike(key::F10, shift::Shift);
-  EXPECT_TRUE(keys.shiftClicks());
+  EXPECT_EQ(keys.shiftDown(down), shift::Ctrl);
   release(key::Shift);
-  EXPECT_FALSE(keys.shiftClicks());
+  EXPECT_EQ(keys.shiftDown(down), shift::Shift | shift::Ctrl);
 }
 
 TEST_F(MouseKeysTest, BehindTheLastLineThereIsNothingToDelete) {

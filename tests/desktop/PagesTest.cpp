@@ -1,7 +1,7 @@
 // What a page looks like beyond its text: faces, sentence marks, the scroll bar.
 #include "desktop/Fonts.h"
 #include "desktop/QtLineLayout.h"
-#include "fronts/ScrollBar.h"
+#include "fronts/BarMouse.h"
 #include "surface/Form.h"
 #include "text/GlyphMap.h"
 
@@ -34,17 +34,6 @@ class Page : public ::testing::Test {
     surface.SelStart(0);
   }
 
-  /// The extent as a view would tell it.
-  [[nodiscard]] ScrollBar::Extent extent() {
-    int bottom = -surface.scroll().offset;
-    int count = 0;
-    for (int each = surface.scroll().paragraph;
-         each < surface.paragraphCount() && bottom < surface.Height(); ++each, ++count) {
-      bottom += layout.heightOf(surface.paragraph(each).view());
-    }
-    return bar.extent(count, bottom);
-  }
-
   NoScreen screen;
   QtTextMetrics metrics;
   QtLineLayout layout;
@@ -55,21 +44,21 @@ class Page : public ::testing::Test {
 
 TEST_F(Page, AShortTextHasNoBar) {
   writeLines(3);
-  EXPECT_FALSE(extent().scrolls);
+  EXPECT_FALSE(bar.extent().scrolls);
 }
 
 TEST_F(Page, TheThumbGoesFromEndToEnd) {
   for (const int lines : {40, 5000}) {
     writeLines(lines);
-    ASSERT_TRUE(extent().scrolls);
-    EXPECT_DOUBLE_EQ(bar.thumb(extent()).top, 0);
-    bar.bringThumbTo(surface.Height(), extent());
-    const ScrollBar::Thumb atEnd = bar.thumb(extent());
+    ASSERT_TRUE(bar.extent().scrolls);
+    EXPECT_DOUBLE_EQ(bar.thumb(bar.extent()).top, 0);
+    bar.bringThumbTo(surface.Height(), bar.extent());
+    const ScrollBar::Thumb atEnd = bar.thumb(bar.extent());
     EXPECT_NEAR(atEnd.top + atEnd.length, surface.Height(), 60) << lines;
     const int last = surface.pointOf(surface.TextLength()).y;
     EXPECT_GT(last, surface.Height() * 3 / 4);
     EXPECT_LT(last, surface.Height());
-    bar.bringThumbTo(-10, extent());
+    bar.bringThumbTo(-10, bar.extent());
     EXPECT_EQ(surface.scroll(), ScrollPlace{});
   }
 }
@@ -77,9 +66,9 @@ TEST_F(Page, TheThumbGoesFromEndToEnd) {
 TEST_F(Page, AThumbThatIsPutDownInTheMiddleStaysThere) {
   for (const int lines : {40, 5000}) {
     writeLines(lines);
-    const double middle = (surface.Height() - bar.thumb(extent()).length) / 2;
-    bar.bringThumbTo(middle, extent());
-    EXPECT_NEAR(bar.thumb(extent()).top, middle, 60) << lines;
+    const double middle = (surface.Height() - bar.thumb(bar.extent()).length) / 2;
+    bar.bringThumbTo(middle, bar.extent());
+    EXPECT_NEAR(bar.thumb(bar.extent()).top, middle, 60) << lines;
   }
 }
 
@@ -89,6 +78,31 @@ TEST_F(Page, ThePageKeysOfTheTroughMoveByNearlyAPage) {
   EXPECT_GT(surface.scroll().paragraph, 5);
   bar.page(-1);
   EXPECT_EQ(surface.scroll(), ScrollPlace{});
+}
+
+TEST_F(Page, AThumbIsDraggedAndATroughGoesOnToThePointer) {
+  form.add(surface);
+  BarMouse mouse{form, layout};
+  writeLines(40);
+  const int strip = surface.Width() - 1;
+  EXPECT_FALSE(mouse.press({strip - ScrollBar::StripWidth, 10}));
+  ASSERT_TRUE(mouse.press({strip, 10}));
+  EXPECT_FALSE(mouse.holdsTrough());
+  mouse.drag({strip, 1010});
+  EXPECT_NEAR(bar.thumb(bar.extent()).top, 1000, 60);
+  mouse.goOnByPage();
+  EXPECT_NEAR(bar.thumb(bar.extent()).top, 1000, 60) << "a thumb that is held does not page";
+  mouse.release();
+  ASSERT_TRUE(mouse.press({strip, 10}));
+  EXPECT_TRUE(mouse.holdsTrough());
+  mouse.goOnByPage();
+  const double top = bar.thumb(bar.extent()).top;
+  EXPECT_LE(top, 10);
+  mouse.goOnByPage();
+  EXPECT_DOUBLE_EQ(bar.thumb(bar.extent()).top, top) << "up to the pointer and no further";
+  mouse.release();
+  writeLines(3);
+  EXPECT_FALSE(mouse.press({strip, 10})) << "all of the text is in view";
 }
 
 TEST_F(Page, ASentenceMarkBesideABlankTakesNoRoom) {

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
 extern "C" {
 /// Milliseconds since some fixed moment.
@@ -13,6 +12,7 @@ double talvoraNow();
 /// Returns when the page has told something or the time is over; less than 0 waits for ever.
 void talvoraWait(double ms);
 int talvoraTake(int* into);
+/// Sends the page a message, which is JSON in UTF-8.
 void talvoraTell(const char* text, std::size_t length);
 unsigned talvoraSeed();
 /// Year, month, day, hour, minute and second of local time.
@@ -53,11 +53,6 @@ struct Event {
   std::array<int, 6> told{};
   if (talvoraTake(told.data()) == 0) return std::nullopt;
   return Event{static_cast<EventKind>(told[0]), told[1], told[2], told[3], told[4], told[5]};
-}
-
-/// Sends a message, which is JSON in UTF-8, to the page.
-inline void tellPage(std::string_view json) {
-  talvoraTell(json.data(), json.size());
 }
 
 } // namespace talvora::web

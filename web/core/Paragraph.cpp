@@ -1,6 +1,6 @@
 #include "core/Paragraph.h"
 
-#include "text/GlyphMap.h"
+#include "fronts/Units.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,32 +11,6 @@ namespace {
 
 /// A trace of room that keeps letters apart which a face would draw as one.
 constexpr Fine Apart = 3;
-
-bool isGap(const std::u16string& text, std::size_t at) {
-  return at >= text.size() || text[at] == u' ' || text[at] == u'\t' || text[at] == NoWidth ||
-         text[at] == NothingToSee;
-}
-
-/// A mark of a sentence beside a gap takes no room; between two letters it is the only gap.
-void hideSentenceMarks(std::u16string& text) {
-  constexpr char16_t Mark = u'\u00A0';
-  for (std::size_t at = text.find(Mark); at != std::u16string::npos; at = text.find(Mark, at + 1)) {
-    if (at == 0 || isGap(text, at - 1) || isGap(text, at + 1)) text[at] = NothingToSee;
-  }
-}
-
-/// In the VNI rule two bytes may show one letter.
-std::u16string vniUnits(std::string_view bytes) {
-  std::u16string units;
-  for (std::size_t at = 0; at < bytes.size();) {
-    const std::u16string letter = toUnicode(bytes.substr(at, 2), Encoding::Vni);
-    const bool pair = letter.size() == 1 && at + 1 < bytes.size();
-    units += letter[0];
-    if (pair) units += JoinsWords;
-    at += pair ? 2 : 1;
-  }
-  return units;
-}
 
 double twips(Fine fine) {
   return static_cast<double>(fine) / FinePerTwip;
@@ -51,15 +25,6 @@ bool isBlank(char16_t unit) {
 }
 
 } // namespace
-
-std::u16string unitsOf(std::string_view bytes, std::string_view fontName) {
-  const Encoding encoding = encodingOf(fontName);
-  std::u16string units = encoding == Encoding::Vni ? vniUnits(bytes) : toUnicode(bytes, encoding);
-  for (char16_t& unit : units) {
-    if (unit < u' ' && unit != u'\t') unit = NoWidth;
-  }
-  return units;
-}
 
 Paragraph::Paragraph(const Faces& faces, const ParagraphView& view, std::uint64_t serial)
     : faces_(faces), serial_(serial), bullet_(view.style.bullet) {
@@ -273,6 +238,13 @@ int Paragraph::offsetAt(int x, int y) const {
     pen = next;
   }
   return static_cast<int>(last);
+}
+
+double Paragraph::width() const {
+  double width = 0;
+  for (const Placed& line : placed_)
+    width = std::max(width, penAt(line, line.to) - line.left);
+  return width;
 }
 
 std::vector<Box> Paragraph::rectsOf(int from, int to) const {

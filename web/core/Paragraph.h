@@ -13,10 +13,6 @@
 
 namespace talvora::web {
 
-/// The letters that bytes show in a font, exactly one UTF-16 unit a byte: what a byte adds to the
-/// letter of another one, or does not show at all, becomes a unit without width.
-[[nodiscard]] std::u16string unitsOf(std::string_view bytes, std::string_view fontName);
-
 /// A rectangle in twips from the surface's left edge and the paragraph's top edge.
 struct Box {
   double left = 0;
@@ -45,6 +41,8 @@ class Paragraph {
   [[nodiscard]] const ParagraphShape& shape() const noexcept { return shape_; }
   [[nodiscard]] CaretPlace placeOf(int offset) const;
   [[nodiscard]] int offsetAt(int x, int y) const;
+  /// What the letters of its widest line take, in twips.
+  [[nodiscard]] double width() const;
   /// What the characters between two offsets cover, a rectangle a line.
   [[nodiscard]] std::vector<Box> rectsOf(int from, int to) const;
   /// The stretches in one colour, each from its first offset to behind its last that is no blank.

@@ -1,16 +1,16 @@
 #include "core/Picture.h"
 
-#include "core/Host.h"
 #include "fronts/ButtonMeaning.h"
 #include "fronts/Lights.h"
 #include "fronts/PageNames.h"
 #include "fronts/PageTraits.h"
 #include "fronts/ScrollBar.h"
-#include "surface/Button.h"
+#include "fronts/Units.h"
 #include "text/GlyphMap.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -24,13 +24,6 @@ constexpr Light Black = 0;
 constexpr int CaretWidth = 20; // twips
 constexpr std::size_t MostLines = 1000;
 
-// Of the hint bar, as on the desktop.
-constexpr double CardTop = 0.1; ///< where cards begin, of the form's height
-constexpr double Padding = 30;  // twips
-constexpr double SidePadding = 150;
-constexpr double Narrowest = 0.77; ///< of the letters' own width
-constexpr double InkPart = 0.92;   ///< of a line's height that letters with their marks fill
-
 /// "#rrggbb".
 std::string hexOf(Light light) {
   constexpr char Digits[] = "0123456789abcdef";
@@ -40,38 +33,34 @@ std::string hexOf(Light light) {
   return text;
 }
 
-void writeLight(JsonWriter& json, const char* name, Light light) {
-  json.field(name, std::string_view(hexOf(light)));
+/// Twips to a hundredth are as exact as any screen.
+double shortened(double twips) {
+  return std::round(twips * 100) / 100;
 }
 
-void writeBox(JsonWriter& json, const char* name, const Box& box) {
-  json.key(name).open('[').value(box.left).value(box.top).value(box.width).value(box.height);
-  json.close(']');
+Json boxOf(const Box& box, double top = 0) {
+  return {shortened(box.left), shortened(top + box.top), shortened(box.width),
+          shortened(box.height)};
 }
 
-void writeMark(JsonWriter& json, const char* kind, Box box, int top) {
-  box.top += top;
-  json.open('{').field("mark", kind);
-  writeBox(json, "box", box);
-  json.close('}');
+Json markOf(const char* kind, const Box& box, double top) {
+  return {{"mark", kind}, {"box", boxOf(box, top)}};
 }
 
-std::u16string captionOf(const std::string& bytes, const FontSpec& font) {
-  std::u16string text = toUnicode(bytes, encodingOf(font.name));
-  // In a caption "&&" stands for one "&".
-  if (const auto at = text.find(u"&&"); at != std::u16string::npos) text.erase(at, 1);
-  return text;
+Json runOf(const PaintedRun& run, Light back) {
+  Json json = {{"text", utf8Of(run.text)},
+               {"face", static_cast<int>(run.face)},
+               {"size", run.size},
+               {"color", hexOf(readableOn(lightOf(run.style->color), back))}};
+  if (run.style->underline) json["under"] = true;
+  if (run.tab > 0) json["tab"] = shortened(run.tab);
+  return json;
 }
 
-/// What a line needs at its natural size, in twips.
-double widthOf(const Paragraph& paragraph, int length) {
-  double left = 0;
-  double right = 0;
-  for (const Box& box : paragraph.rectsOf(0, length)) {
-    left = left == 0 ? box.left : std::min(left, box.left);
-    right = std::max(right, box.left + box.width);
-  }
-  return right - left;
+void addText(Json& json, std::u16string_view text, const FontSpec& font) {
+  json["text"] = utf8Of(text);
+  json["size"] = sizeOf(font);
+  json["face"] = static_cast<int>(faceOf(font, false));
 }
 
 } // namespace
@@ -99,210 +88,144 @@ void Picture::send() {
   if (!form_.Visible() || (changed_.empty() && !captionChanged_ && !all_)) return;
   const auto changed = std::exchange(changed_, {});
   const bool all = std::exchange(all_, false);
-  JsonWriter json;
-  json.open('{').field("do", "paint");
-  json.field("focus", focus_ == nullptr ? std::string_view() : std::string_view(focus_->Name()));
-  json.field("menu", as<Button>(focus_) != nullptr);
-  if (std::exchange(captionChanged_, false)) {
-    json.field("caption", toUnicode(form_.Caption(), Encoding::Windows1252));
-  }
-  json.key("controls").open('[');
+  Json message = {{"do", "paint"},
+                  {"focus", focus_ == nullptr ? std::string() : focus_->Name()},
+                  {"menu", as<Button>(focus_) != nullptr},
+                  {"controls", Json::array()}};
+  if (std::exchange(captionChanged_, false))
+    message["caption"] = utf8Of(toUnicode(form_.Caption(), Encoding::Windows1252));
   int depth = 0;
   for (Control* const control : form_.controls()) {
     ++depth;
     if (!all && !changed.contains(control)) continue;
-    json.open('{').field("name", std::string_view(control->Name())).field("depth", depth);
-    write(json, *control);
-    json.close('}');
+    Json look = control->Visible() ? lookOf(*control) : Json::object();
+    look.update({{"name", control->Name()}, {"depth", depth}, {"shown", control->Visible()}});
+    message["controls"].push_back(std::move(look));
   }
-  json.close(']').close('}');
-  tellPage(json.text());
+  tellPage(message);
 }
 
 // -- Controls.
 
-void Picture::writeText(JsonWriter& json, std::u16string_view text, const FontSpec& font) const {
-  json.field("text", text).field("size", sizeOf(font));
-  json.field("face", static_cast<int>(faceOf(font, false)));
-}
-
-void Picture::write(JsonWriter& json, Control& control) const {
-  json.field("shown", control.Visible());
-  if (!control.Visible()) return;
-  const bool isHintBar = control.Name() == "RDOS";
+Json Picture::lookOf(Control& control) const {
   auto* const surface = as<Surface>(&control);
-  const int height = isHintBar && surface != nullptr ? hintBarHeight(*surface) : control.Height();
-  writeBox(json, "box",
-           {static_cast<double>(control.Left()), static_cast<double>(control.Top()),
-            static_cast<double>(control.Width()), static_cast<double>(height)});
+  std::optional<HintCard> card;
+  if (control.Name() == "RDOS") card.emplace(*surface, form_.Height(), layout_);
+  const int height = card ? card->height() : control.Height();
   const Light back = lightOf(control.BackColor());
-  writeLight(json, "back", back);
-  json.field("dark", contrastOf(back, White) > contrastOf(back, Black));
+  Json json = {{"box", {control.Left(), control.Top(), control.Width(), height}},
+               {"back", hexOf(back)},
+               {"dark", contrastOf(back, White) > contrastOf(back, Black)}};
   if (surface != nullptr) {
-    json.field("kind", "surface").field("label", pageName(surface->Name()));
-    isHintBar ? writeHintBar(json, *surface) : writeSurface(json, *surface);
+    json.update(card ? hintsOf(*surface, *card) : textOf(*surface));
+    json["kind"] = "surface";
+    json["label"] = utf8Of(pageName(surface->Name()));
+    json["locked"] = surface->Locked();
+    json["list"] = traitsOf(*surface).isList;
   } else if (const auto* button = as<Button>(&control)) {
-    json.field("kind", "button").field("picture", button->Picture());
-    writeText(json, captionOf(button->Caption(), button->Font()), button->Font());
-    json.field("meaning", meaningOf(*button)).field("english", hasEnglishCaption(*button));
+    json["kind"] = "button";
+    json["picture"] = button->Picture();
+    json["meaning"] = utf8Of(meaningOf(*button));
+    json["english"] = hasEnglishCaption(*button);
+    addText(json, captionOf(*button), button->Font());
   } else if (const auto* label = as<Label>(&control)) {
-    json.field("kind", "label");
-    writeText(json, unitsOf(label->Caption(), label->Font().name), label->Font());
-    writeLight(json, "color", lightOf(label->ForeColor()));
-    json.field("wide", WebTextMetrics(faces_).widthOf(label->Caption(), label->Font()));
+    json["kind"] = "label";
+    json["color"] = hexOf(lightOf(label->ForeColor()));
+    json["wide"] = WebTextMetrics(faces_).widthOf(label->Caption(), label->Font());
+    addText(json, unitsOf(label->Caption(), label->Font().name), label->Font());
   } else if (const auto* panel = as<Panel>(&control)) {
-    json.field("kind", "panel").field("alpha", std::clamp(panel->Alpha(), 0, 255) / 255.0);
+    json["kind"] = "panel";
+    json["alpha"] = std::clamp(panel->Alpha(), 0, 255) / 255.0;
   } else {
-    json.field("kind", as<Frame>(&control) != nullptr   ? "frame"
-                       : as<Image>(&control) != nullptr ? "image"
-                                                        : "none");
+    const bool isFrame = as<Frame>(&control) != nullptr;
+    json["kind"] = isFrame ? "frame" : as<Image>(&control) != nullptr ? "image" : "none";
   }
+  return json;
 }
 
 // -- Surfaces.
 
-void Picture::writeSurface(JsonWriter& json, Surface& surface) const {
-  json.field("locked", surface.Locked()).field("list", traitsOf(surface).isList);
+Json Picture::textOf(Surface& surface) const {
   const ScrollPlace scroll = surface.scroll();
-  json.key("lines").open('[');
+  const int bottom = surface.Height();
+  int cut = bottom;
   int top = -scroll.offset;
-  int number = scroll.paragraph;
-  double cut = surface.Height();
-  for (; number < surface.paragraphCount() && top < surface.Height(); ++number) {
+  Json json = {{"lines", Json::array()}};
+  for (int number = scroll.paragraph; number < surface.paragraphCount() && top < bottom; ++number) {
     const Paragraph& paragraph = layout_.shaped(surface.paragraph(number).view());
-    Setting setting;
-    setting.top = top;
-    writeParagraph(json, surface, paragraph, setting);
-    writeMarks(json, surface, number, paragraph, top);
-    for (const LineShape& line : paragraph.shape().lines) {
-      const int upper = top + line.top;
-      if (upper < surface.Height() && upper + line.height > surface.Height()) cut = upper;
-    }
+    addLines(json["lines"], surface, paragraph, {0, static_cast<double>(top)});
+    addMarks(json["lines"], surface, number, paragraph, top);
+    cut = std::min(cut, cutOf(paragraph.shape(), top, bottom));
     top += paragraph.shape().height;
   }
-  json.close(']');
-  if (cut < surface.Height()) json.field("cut", cut);
-  writeThumb(json, surface, number - scroll.paragraph, top);
-}
-
-void Picture::writeThumb(JsonWriter& json, Surface& surface, int inView, int bottom) const {
+  if (cut < bottom) json["cut"] = cut;
   const ScrollBar bar(surface, layout_);
-  const ScrollBar::Extent extent = bar.extent(inView, bottom);
-  if (!extent.scrolls) return;
+  const ScrollBar::Extent extent = bar.extent();
   const ScrollBar::Thumb thumb = bar.thumb(extent);
-  json.key("thumb").open('[').value(thumb.top).value(thumb.length).close(']');
+  if (extent.scrolls) json["thumb"] = {shortened(thumb.top), shortened(thumb.length)};
+  return json;
 }
 
-void Picture::writeParagraph(JsonWriter& json, const Surface& surface, const Paragraph& paragraph,
-                             const Setting& setting) const {
+Json Picture::hintsOf(const Surface& surface, HintCard card) const {
+  Json json = {{"lines", Json::array()}};
+  for (int each = 0; each < surface.paragraphCount(); ++each) {
+    const Paragraph& line = layout_.shaped(surface.paragraph(each, card.room()).view());
+    const double height = line.shape().height;
+    const double top = card.nextMiddle(height) - height / 2;
+    addLines(json["lines"], surface, line, {(surface.Width() - card.room()) / 2.0, top, &card});
+  }
+  return json;
+}
+
+void Picture::addLines(Json& lines, const Surface& surface, const Paragraph& paragraph,
+                       const Setting& setting) const {
   const Light back = lightOf(surface.BackColor());
   for (std::size_t line = 0; line < paragraph.shape().lines.size(); ++line) {
     const LineShape& shape = paragraph.shape().lines[line];
     const double top = setting.top + shape.top;
     if (top + shape.height <= 0 || top >= surface.Height()) continue;
-    json.open('{');
-    json.field("id", static_cast<double>(paragraph.serial() * MostLines + line));
-    json.field("top", top).field("high", shape.height);
-    json.field("left", setting.left + paragraph.leftOf(line));
-    if (setting.width > 0) {
-      json.key("scale").open('[').value(setting.narrower).value(setting.lower);
-      json.value(setting.width / 2 - paragraph.leftOf(line));
-      json.value(paragraph.shape().height / 2.0 - shape.top).close(']');
+    Json json = {{"id", paragraph.serial() * MostLines + line},
+                 {"top", shortened(top)},
+                 {"high", shape.height},
+                 {"left", shortened(setting.left + paragraph.leftOf(line))},
+                 {"runs", Json::array()}};
+    if (setting.card != nullptr) {
+      json["scale"] = {setting.card->narrower(), setting.card->lower(),
+                       setting.card->room() / 2.0 - paragraph.leftOf(line),
+                       paragraph.shape().height / 2.0 - shape.top};
     }
-    if (line == 0 && paragraph.hasBullet()) {
-      Box dot = paragraph.bulletBox();
-      dot.top += setting.top;
-      writeBox(json, "dot", dot);
-    }
-    json.key("runs").open('[');
-    for (const PaintedRun& run : paragraph.runsOf(line)) {
-      json.open('{').field("text", run.text).field("face", static_cast<int>(run.face));
-      json.field("size", run.size);
-      writeLight(json, "color", readableOn(lightOf(run.style->color), back));
-      if (run.style->underline) json.field("under", true);
-      if (run.tab > 0) json.field("tab", run.tab);
-      json.close('}');
-    }
-    json.close(']').close('}');
+    if (line == 0 && paragraph.hasBullet()) json["dot"] = boxOf(paragraph.bulletBox(), setting.top);
+    for (const PaintedRun& run : paragraph.runsOf(line))
+      json["runs"].push_back(runOf(run, back));
+    lines.push_back(std::move(json));
   }
 }
 
 /// Under the text: what is selected, the line of a list on which the keys act, signs that say what
 /// a colour says. Over it: the caret.
-void Picture::writeMarks(JsonWriter& json, const Surface& surface, int number,
-                         const Paragraph& paragraph, int top) const {
+void Picture::addMarks(Json& lines, const Surface& surface, int number, const Paragraph& paragraph,
+                       int top) const {
   const PageTraits traits = traitsOf(surface);
-  const int start = surface.paragraphStart(number);
-  const int length = surface.paragraphStart(number + 1) - start;
-  const int from = std::clamp(surface.SelStart() - start, 0, length);
-  const int to = std::clamp(surface.SelStart() + surface.SelLength() - start, 0, length);
-  const bool holdsCaret = surface.paragraphOf(surface.SelStart()) == number;
-  if (traits.isList && holdsCaret) {
-    writeMark(
-        json, "current",
-        {0, 0, static_cast<double>(surface.Width()), static_cast<double>(paragraph.shape().height)},
-        top);
-  } else if (to > from) {
-    for (const Box& box : paragraph.rectsOf(from, to))
-      writeMark(json, "selected", box, top);
-  }
+  const ParagraphMarks marks = marksOf(surface, form_, number);
+  const auto add = [&](const char* kind, const Box& box) {
+    lines.push_back(markOf(kind, box, top));
+  };
+  const double width = surface.Width();
+  const double height = paragraph.shape().height;
+  if (marks.current) add("current", {0, 0, width, height});
+  for (const Box& box : paragraph.rectsOf(marks.from, marks.to))
+    add("selected", box);
   if (traits.blueSign != PageTraits::BlueSign::None) {
     const bool ticks = traits.blueSign == PageTraits::BlueSign::Tick;
     for (const auto& [first, last] : paragraph.rangesIn(PureBlue)) {
       for (const Box& box : paragraph.rectsOf(first, last))
-        writeMark(json, ticks ? "tick" : "under", box, top);
+        add(ticks ? "tick" : "under", box);
     }
   }
-  const bool caret =
-      traits.showsCaret && holdsCaret && surface.SelLength() == 0 && form_.hasFocus(surface);
-  if (!caret) return;
-  const CaretPlace place = paragraph.placeOf(from);
-  writeMark(json, "caret",
-            {static_cast<double>(place.x), static_cast<double>(place.top), CaretWidth,
-             static_cast<double>(place.height)},
-            top);
-}
-
-// -- The hint bar: a card over the page, whose lines come closer and smaller where there is no
-// room.
-
-int Picture::hintBarHeight(const Surface& surface) const {
-  const int cardTop = static_cast<int>(std::lround(form_.Height() * CardTop)) - surface.Top();
-  return std::clamp(cardTop, surface.Height() / 2, surface.Height());
-}
-
-void Picture::writeHintBar(JsonWriter& json, const Surface& surface) const {
-  json.field("locked", true).field("list", false);
-  // Laid out as wide as the narrowest letters allow, so that a line breaks only beyond that.
-  const int room = static_cast<int>(std::lround(surface.Width() / Narrowest));
-  double natural = 0;
-  double widest = 0;
-  for (int each = 0; each < surface.paragraphCount(); ++each) {
-    const ParagraphRef content = surface.paragraph(each, room);
-    const Paragraph& line = layout_.shaped(content.view());
-    natural += line.shape().height;
-    widest = std::max(widest, widthOf(line, static_cast<int>(content.view().text.size())));
-  }
-  const int whole = hintBarHeight(surface);
-  const double closer = std::min(1.0, (whole - 2 * Padding) / std::max(1.0, natural));
-  Setting setting;
-  // Letters become lower only where their marks would meet.
-  setting.lower = std::min(1.0, closer / InkPart);
-  setting.narrower =
-      std::min(setting.lower,
-               std::max(Narrowest, (surface.Width() - 2 * SidePadding) / std::max(1.0, widest)));
-  setting.width = room;
-  setting.left = (surface.Width() - room) / 2.0;
-  double middle = (whole - natural * closer) / 2;
-  json.key("lines").open('[');
-  for (int each = 0; each < surface.paragraphCount(); ++each) {
-    const Paragraph& line = layout_.shaped(surface.paragraph(each, room).view());
-    const double height = line.shape().height;
-    setting.top = middle + height * (closer - 1) / 2;
-    writeParagraph(json, surface, line, setting);
-    middle += height * closer;
-  }
-  json.close(']');
+  if (marks.caret < 0) return;
+  const CaretPlace place = paragraph.placeOf(marks.caret);
+  add("caret", {static_cast<double>(place.x), static_cast<double>(place.top), CaretWidth,
+                static_cast<double>(place.height)});
 }
 
 } // namespace talvora::web

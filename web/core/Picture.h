@@ -2,8 +2,9 @@
 // look, of a surface the lines in view.
 #pragma once
 
-#include "core/Json.h"
+#include "core/Message.h"
 #include "core/WebLayout.h"
+#include "fronts/HintCard.h"
 #include "surface/Form.h"
 
 #include <unordered_set>
@@ -25,25 +26,21 @@ class Picture final : public FormObserver {
   void captionChanged() override { captionChanged_ = true; }
 
  private:
-  /// Where a paragraph is painted: its upper edge, and for letters that are made smaller how much.
+  /// Where a paragraph is painted, and on which card, which makes its letters smaller, if any.
   struct Setting {
     double left = 0;
     double top = 0;
-    double narrower = 1;
-    double lower = 1;
-    double width = 0; ///< of the page that the paragraph is laid out on; 0 where it is not scaled
+    const HintCard* card = nullptr;
   };
 
-  void write(JsonWriter& json, Control& control) const;
-  void writeText(JsonWriter& json, std::u16string_view text, const FontSpec& font) const;
-  void writeSurface(JsonWriter& json, Surface& surface) const;
-  void writeHintBar(JsonWriter& json, const Surface& surface) const;
-  void writeParagraph(JsonWriter& json, const Surface& surface, const Paragraph& paragraph,
-                      const Setting& setting) const;
-  void writeMarks(JsonWriter& json, const Surface& surface, int number, const Paragraph& paragraph,
-                  int top) const;
-  void writeThumb(JsonWriter& json, Surface& surface, int inView, int bottom) const;
-  [[nodiscard]] int hintBarHeight(const Surface& surface) const;
+  [[nodiscard]] Json lookOf(Control& control) const;
+  /// What is in view of a surface, and its thumb.
+  [[nodiscard]] Json textOf(Surface& surface) const;
+  [[nodiscard]] Json hintsOf(const Surface& surface, HintCard card) const;
+  void addLines(Json& lines, const Surface& surface, const Paragraph& paragraph,
+                const Setting& setting) const;
+  void addMarks(Json& lines, const Surface& surface, int number, const Paragraph& paragraph,
+                int top) const;
 
   Form& form_;
   WebLineLayout& layout_;

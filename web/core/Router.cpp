@@ -1,7 +1,8 @@
 #include "core/Router.h"
 
+#include "core/Message.h"
+
 #include <functional>
-#include <utility>
 
 namespace talvora::web {
 
@@ -22,9 +23,10 @@ MouseHeld heldOf(int buttons) {
 } // namespace
 
 Router::Router(Program& program, WebInput& input, Inbox& inbox, const LineLayout& layout)
-    : program_(program), input_(input), inbox_(inbox), layout_(layout),
+    : program_(program), input_(input), inbox_(inbox),
       mouseKeys_(program.form(), program.input(),
-                 [](const std::function<void()>& deed) { deed(); }) {
+                 [](const std::function<void()>& deed) { deed(); }),
+      barMouse_(program.form(), layout) {
   mouseKeys_.movePointer = [this](PixelPoint at) { input_.pointerCame(at); };
 }
 
@@ -39,9 +41,9 @@ void Router::deliver(const Event& event) {
   FormInput& form = program_.input();
   switch (event.kind) {
   case EventKind::Move:
-    if (event.which == 0) held_.reset();
-    if (held_) {
-      drag(pointerOf(event));
+    if (event.which == 0) barMouse_.release();
+    if (barMouse_.held() != nullptr) {
+      barMouse_.drag(pointerOf(event));
     } else {
       form.move(pointerOf(event), event.shift, heldOf(event.which));
     }
@@ -50,8 +52,8 @@ void Router::deliver(const Event& event) {
     press(event);
     break;
   case EventKind::Release:
-    if (!std::exchange(held_, std::nullopt))
-      form.release(buttonOf(event), event.shift, pointerOf(event));
+    if (barMouse_.held() == nullptr) form.release(buttonOf(event), event.shift, pointerOf(event));
+    barMouse_.release();
     break;
   case EventKind::Wheel:
     form.turnWheel(event.which, pointerOf(event));
@@ -74,7 +76,7 @@ void Router::deliver(const Event& event) {
     break;
   case EventKind::Carry:
     program_.keep();
-    tellPage(R"({"do":"kept"})");
+    tellPage({{"do", "kept"}});
     break;
   case EventKind::Answer:
     break;
@@ -90,7 +92,7 @@ void Router::pressKey(const Event& event) {
 
 void Router::press(const Event& event) {
   const SurfacePoint at = pointerOf(event);
-  if (pressBar(at)) return;
+  if (barMouse_.press(at)) return;
   if (event.extra != 0 && event.which != RightButton) {
     program_.input().doubleClick(event.shift, at);
   } else {
@@ -98,54 +100,14 @@ void Router::press(const Event& event) {
   }
 }
 
-// -- The scroll bar of a surface keeps its presses to itself.
-
-ScrollBar::Extent Router::extentOf(const Surface& surface, ScrollBar& bar) const {
-  const ScrollPlace scroll = surface.scroll();
-  int bottom = -scroll.offset;
-  int number = scroll.paragraph;
-  for (; number < surface.paragraphCount() && bottom < surface.Height(); ++number)
-    bottom += layout_.heightOf(surface.paragraph(number).view());
-  return bar.extent(number - scroll.paragraph, bottom);
-}
-
-bool Router::pressBar(SurfacePoint at) {
-  auto* const surface = as<Surface>(program_.form().controlAt(at));
-  if (surface == nullptr || at.x < surface->Left() + surface->Width() - ScrollBar::StripWidth)
-    return false;
-  ScrollBar bar(*surface, layout_);
-  const ScrollBar::Extent extent = extentOf(*surface, bar);
-  if (!extent.scrolls) return false;
-  const ScrollBar::Thumb thumb = bar.thumb(extent);
-  const double grip = at.y - surface->Top() - thumb.top;
-  if (grip < 0 || grip >= thumb.length) {
-    bar.page(grip < 0 ? -1 : 1);
-  } else {
-    held_ = Held{surface, grip};
-  }
-  return true;
-}
-
-void Router::drag(SurfacePoint at) {
-  ScrollBar bar(*held_->surface, layout_);
-  bar.bringThumbTo(at.y - held_->surface->Top() - held_->grip, extentOf(*held_->surface, bar));
-}
-
-int Router::shiftDown() const {
-  const auto bit = [this](int keyCode, int own) {
-    return inbox_.keys.isDown(keyCode) ? own : shift::None;
-  };
-  const int plainShift = mouseKeys_.shiftClicks() ? shift::None : bit(key::Shift, shift::Shift);
-  return plainShift | bit(key::Ctrl, shift::Ctrl) | bit(key::Alt, shift::Alt);
-}
-
 void Router::deliver(const WebInput::Sent& sent) {
   if (const auto* event = std::get_if<SyntheticEvent>(&sent)) {
     if (const auto* stroke = std::get_if<SyntheticKey>(event)) inbox_.keys.take(*stroke);
-    program_.input().deliver(*event, shiftDown());
+    program_.input().deliver(*event, mouseKeys_.shiftDown(inbox_.keys));
   } else {
     const PixelPoint at = std::get<WebInput::Move>(sent).at;
-    program_.input().deliverMove(program_.form().virtualScreen().toForm(at), shiftDown());
+    program_.input().deliverMove(program_.form().virtualScreen().toForm(at),
+                                 mouseKeys_.shiftDown(inbox_.keys));
   }
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "fronts/CameUp.h"
-#include "surface/FormInput.h"
+#include "fronts/Links.h"
 
 #include <string>
 
@@ -22,7 +22,7 @@ class Signs {
 
   Form& form_;
   FormInput& input_;
-  std::string pointer_;
+  PointerShape pointer_ = PointerShape::Arrow;
   std::u16string help_;
   CameUp cameUp_;
 };

@@ -1,6 +1,9 @@
 #include "core/WebFiles.h"
 
+#include "platform/Files.h"
+
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -10,18 +13,10 @@ extern "C" {
 int talvoraPackFind(const char* name, std::size_t length);
 int talvoraPackSize(int file);
 void talvoraPackRead(int file, std::size_t offset, unsigned char* into, std::size_t size);
-// The learner's files: by name; less than 0 is a failure.
-int talvoraOwnSize(const char* name, std::size_t length);
-int talvoraOwnCreate(const char* name, std::size_t length);
-int talvoraOwnRead(const char* name, std::size_t length, std::size_t offset, unsigned char* into,
-                   std::size_t size);
-int talvoraOwnWrite(const char* name, std::size_t length, std::size_t offset,
-                    const unsigned char* from, std::size_t size);
-int talvoraOwnTruncate(const char* name, std::size_t length, std::size_t size);
-int talvoraOwnSync(const char* name, std::size_t length);
-int talvoraOwnRename(const char* from, std::size_t fromLength, const char* to,
-                     std::size_t toLength);
-int talvoraOwnRemove(const char* name, std::size_t length);
+// Does a deed of `OwnFiles` (own.js) to one of the learner's files; less than 0 is a failure. What
+// is read is written into the bytes.
+int talvoraOwn(const char* deed, const char* name, std::size_t length, std::size_t number,
+               const unsigned char* bytes, std::size_t size);
 int talvoraOwnList(char* into, std::size_t room);
 }
 
@@ -36,6 +31,11 @@ std::error_code errorOf(std::errc code) {
 /// What a call gave, as an error where it failed.
 std::error_code outcome(int result) {
   return result < 0 ? errorOf(std::errc::io_error) : std::error_code();
+}
+
+int own(const char* deed, const std::string& name, std::size_t number = 0,
+        std::span<const unsigned char> bytes = {}) {
+  return talvoraOwn(deed, name.data(), name.size(), number, bytes.data(), bytes.size());
 }
 
 /// The part of a path below a folder; nothing when it lies elsewhere.
@@ -66,31 +66,25 @@ bool isFolder(const std::string& path) {
                      [&](const std::string& each) { return below(path, each).has_value(); });
 }
 
-class HeldBytes final : public FileMapping {
- public:
-  explicit HeldBytes(std::vector<unsigned char> bytes) : bytes_(std::move(bytes)) {}
-  [[nodiscard]] std::span<const unsigned char> bytes() const noexcept override { return bytes_; }
-
- private:
-  std::vector<unsigned char> bytes_;
-};
-
-/// The bytes of a file of the pack, which may still be on its way: whoever looks at them first
-/// waits.
+/// The bytes of a file, which may still be on its way: whoever looks at them first waits.
 class ComingBytes final : public FileMapping {
  public:
-  ComingBytes(int file, std::size_t size) : file_(file), size_(size) {}
+  using Take = std::function<void(std::span<unsigned char> into)>;
+
+  ComingBytes(std::size_t size, Take take) : size_(size), take_(std::move(take)) {}
+  explicit ComingBytes(std::vector<unsigned char> there)
+      : size_(there.size()), bytes_(std::move(there)) {}
   [[nodiscard]] std::span<const unsigned char> bytes() const noexcept override {
     if (bytes_.size() != size_) {
       bytes_.resize(size_);
-      talvoraPackRead(file_, 0, bytes_.data(), size_);
+      take_(bytes_);
     }
     return bytes_;
   }
 
  private:
-  int file_;
   std::size_t size_;
+  Take take_;
   mutable std::vector<unsigned char> bytes_;
 };
 
@@ -119,9 +113,9 @@ class SizedFile : public OpenFile {
   [[nodiscard]] std::error_code dressAs(const FileStatus&) override { return {}; }
   [[nodiscard]] std::unique_ptr<FileMapping> map(std::size_t size,
                                                  std::error_code& error) override {
-    std::vector<unsigned char> bytes(size);
-    if (read(0, bytes, error) < size) return nullptr;
-    return std::make_unique<HeldBytes>(std::move(bytes));
+    std::vector<unsigned char> held(size);
+    if (read(0, held, error) < size) return nullptr;
+    return std::make_unique<ComingBytes>(std::move(held));
   }
   /// The browser's own lock keeps a second page away before a program starts.
   [[nodiscard]] std::error_code lock() override { return {}; }
@@ -143,7 +137,9 @@ class PackFile final : public SizedFile {
   }
   [[nodiscard]] std::error_code sync() override { return {}; }
   [[nodiscard]] std::unique_ptr<FileMapping> map(std::size_t size, std::error_code&) override {
-    return std::make_unique<ComingBytes>(number_, size);
+    return std::make_unique<ComingBytes>(size, [number = number_](std::span<unsigned char> into) {
+      talvoraPackRead(number, 0, into.data(), into.size());
+    });
   }
 
  private:
@@ -161,19 +157,17 @@ class OwnFile final : public SizedFile {
   explicit OwnFile(std::string name) : name_(std::move(name)) {}
   [[nodiscard]] std::error_code write(std::size_t offset,
                                       std::span<const unsigned char> bytes) override {
-    return outcome(talvoraOwnWrite(name_.data(), name_.size(), offset, bytes.data(), bytes.size()));
+    return outcome(own("write", name_, offset, bytes));
   }
   [[nodiscard]] std::error_code truncate(std::size_t size) override {
-    return outcome(talvoraOwnTruncate(name_.data(), name_.size(), size));
+    return outcome(own("truncate", name_, size));
   }
-  [[nodiscard]] std::error_code sync() override {
-    return outcome(talvoraOwnSync(name_.data(), name_.size()));
-  }
+  [[nodiscard]] std::error_code sync() override { return outcome(own("sync", name_)); }
 
  private:
-  [[nodiscard]] int size() const override { return talvoraOwnSize(name_.data(), name_.size()); }
+  [[nodiscard]] int size() const override { return own("size", name_); }
   [[nodiscard]] int take(std::size_t offset, std::span<unsigned char> into) const override {
-    return talvoraOwnRead(name_.data(), name_.size(), offset, into.data(), into.size());
+    return own("read", name_, offset, into);
   }
 
   std::string name_;
@@ -192,13 +186,13 @@ std::unique_ptr<OpenFile> WebFiles::open(const std::string& path, OpenFor purpos
     return nullptr;
   }
   const auto name = below(LearnerFolder, path);
-  const bool there = name && talvoraOwnSize(name->data(), name->size()) >= 0;
+  const bool there = name && own("size", *name) >= 0;
   if (!name || (!there && purpose == OpenFor::Reading)) {
     error = errorOf(std::errc::no_such_file_or_directory);
   } else if (there && purpose == OpenFor::CreatingNew) {
     error = errorOf(std::errc::file_exists);
   } else if (!there) {
-    error = outcome(talvoraOwnCreate(name->data(), name->size()));
+    error = outcome(own("create", *name));
   }
   return error ? nullptr : std::make_unique<OwnFile>(*name);
 }
@@ -215,7 +209,7 @@ FileStatus WebFiles::status(const std::string& path, std::error_code& error) {
     return number < 0 ? FileStatus() : fileOfSize(talvoraPackSize(number));
   }
   const auto name = below(LearnerFolder, path);
-  const int size = name ? talvoraOwnSize(name->data(), name->size()) : -1;
+  const int size = name ? own("size", *name) : -1;
   return size < 0 ? FileStatus() : fileOfSize(size);
 }
 
@@ -228,14 +222,14 @@ std::error_code WebFiles::rename(const std::string& from, const std::string& to)
   const auto one = below(LearnerFolder, from);
   const auto other = below(LearnerFolder, to);
   if (!one || !other) return errorOf(std::errc::read_only_file_system);
-  return outcome(talvoraOwnRename(one->data(), one->size(), other->data(), other->size()));
+  return outcome(own("rename", *one, 0, bytesOfText(*other)));
 }
 
 std::error_code WebFiles::remove(const std::string& path) {
   const auto name = below(LearnerFolder, path);
   if (!name) return errorOf(std::errc::read_only_file_system);
   if (isFolder(path)) return errorOf(std::errc::directory_not_empty);
-  return outcome(talvoraOwnRemove(name->data(), name->size()));
+  return outcome(own("remove", *name));
 }
 
 std::vector<std::string> WebFiles::list(const std::string& folder, std::error_code& error) {

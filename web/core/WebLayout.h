@@ -2,15 +2,12 @@
 #pragma once
 
 #include "core/Paragraph.h"
-#include "platform/LineLayout.h"
+#include "fronts/KeptLayout.h"
 #include "platform/TextMetrics.h"
 
 #include <cstdint>
-#include <list>
-#include <string>
+#include <memory>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 
 namespace talvora::web {
 
@@ -28,31 +25,18 @@ class WebTextMetrics final : public TextMetrics {
   const Faces& faces_;
 };
 
-/// Keeps the paragraphs that were asked for last.
-class WebLineLayout final : public LineLayout {
+class WebLineLayout final : public KeptLayout<Paragraph> {
  public:
   explicit WebLineLayout(const Faces& faces) : faces_(faces) {}
 
-  [[nodiscard]] ParagraphShape layOut(const ParagraphView& paragraph) const override;
-  [[nodiscard]] CaretPlace placeOf(const ParagraphView& paragraph, int offset) const override;
-  [[nodiscard]] int offsetAt(const ParagraphView& paragraph, int x, int y) const override;
-
-  /// The paragraph as it is painted; valid until the next call.
-  [[nodiscard]] const Paragraph& shaped(const ParagraphView& paragraph) const;
+ protected:
+  [[nodiscard]] std::unique_ptr<Paragraph> make(const ParagraphView& view,
+                                                std::uint64_t serial) const override {
+    return std::make_unique<Paragraph>(faces_, view, serial);
+  }
 
  private:
-  struct Entry {
-    Entry(std::string itsKey, const Faces& faces, const ParagraphView& view, std::uint64_t serial)
-        : key(std::move(itsKey)), paragraph(faces, view, serial) {}
-
-    std::string key;
-    Paragraph paragraph;
-  };
-
   const Faces& faces_;
-  mutable std::list<Entry> entries_; ///< the one asked for last is in front
-  mutable std::unordered_map<std::string_view, std::list<Entry>::iterator> places_;
-  mutable std::uint64_t lastSerial_ = 0;
 };
 
 } // namespace talvora::web

@@ -1,6 +1,7 @@
 #include "core/WebMachine.h"
 
-#include "core/Json.h"
+#include "core/Message.h"
+#include "fronts/Notes.h"
 #include "text/GlyphMap.h"
 #include "text/Text.h"
 
@@ -99,7 +100,7 @@ std::optional<bool> Inbox::takeAnswer() {
 
 Flow WebClock::Sleep(int ms) {
   if (ms > 0 && !inbox_.closeWanted()) {
-    paint();
+    inbox_.paint();
     const double end = talvoraNow() + ms;
     for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - talvoraNow())
       inbox_.sleep(left);
@@ -119,7 +120,7 @@ Flow WebEventLoop::letEventsRun() {
 }
 
 Flow WebEventLoop::letEventsRunUntilNextFrame() {
-  paint();
+  inbox_.paint();
   inbox_.gather();
   if (!inbox_.hasNext()) {
     const bool rests = inbox_.quietMs() > RestAfterMs;
@@ -139,7 +140,7 @@ void WebScreen::RefreshStep() {
   if (now > due + FrameMs) return;
   for (double left = due - now; left > 0; left = due - talvoraNow())
     inbox_.sleep(left);
-  paint();
+  inbox_.paint();
 }
 
 // -- Keys and pointer.
@@ -166,14 +167,11 @@ std::optional<WebInput::Sent> WebInput::takeSent() {
 void WebSpeech::Speak(std::string_view text) {
   const std::string words = plainAscii(text);
   if (words.find_first_not_of(' ') == std::string::npos) return;
-  JsonWriter json;
-  json.open('{').field("do", "speak").field("text", std::string_view(words));
-  json.field("speed", wordsPerMinute_).field("voice", voice_).close('}');
-  tellPage(json.text());
+  tellPage({{"do", "speak"}, {"text", words}, {"speed", wordsPerMinute_}, {"voice", voice_}});
 }
 
 void WebSpeech::StopSpeaking() {
-  tellPage(R"({"do":"hush"})");
+  tellPage({{"do", "hush"}});
 }
 
 bool WebSpeech::Select(int voice) {
@@ -183,23 +181,19 @@ bool WebSpeech::Select(int voice) {
 }
 
 void WebWave::Open(const std::string& path) {
-  JsonWriter json;
-  json.open('{').field("do", "openWave").field("file", std::string_view(path)).close('}');
-  tellPage(json.text());
+  tellPage({{"do", "openWave"}, {"file", path}});
 }
 
 void WebWave::Close() {
-  tellPage(R"({"do":"closeWave"})");
+  tellPage({{"do", "closeWave"}});
 }
 
 void WebWave::Play(int from, int to) {
-  JsonWriter json;
-  json.open('{').field("do", "playWave").field("from", from).field("to", to).close('}');
-  tellPage(json.text());
+  tellPage({{"do", "playWave"}, {"from", from}, {"to", to}});
 }
 
 void WebWave::Stop() {
-  tellPage(R"({"do":"stopWave"})");
+  tellPage({{"do", "stopWave"}});
 }
 
 // -- What the page shows by itself.
@@ -211,36 +205,25 @@ bool WebBoxes::waitForAnswer() {
   }
 }
 
-BoxAnswer WebBoxes::ask(std::string_view text, std::string_view title, BoxAnswer byDefault) {
+BoxAnswer WebBoxes::ask(std::string_view text, std::string_view, BoxAnswer byDefault) {
   opening();
-  JsonWriter json;
-  json.open('{').field("do", "ask").field("text", toUnicode(text, Encoding::X1));
-  json.field("title", toUnicode(title, Encoding::Windows1252));
-  json.field("yes", byDefault == BoxAnswer::Yes).close('}');
-  tellPage(json.text());
+  const bool yes = byDefault == BoxAnswer::Yes;
+  tellPage({{"do", "ask"}, {"text", utf8Of(toUnicode(text, Encoding::X1))}, {"yes", yes}});
   return waitForAnswer() ? BoxAnswer::Yes : BoxAnswer::No;
 }
 
 void WebBoxes::tell(std::string_view text) {
   opening();
-  JsonWriter json;
-  json.open('{').field("do", "tell").field("text", toUnicode(text, Encoding::X1)).close('}');
-  tellPage(json.text());
+  tellText("tell", toUnicode(text, Encoding::X1));
   static_cast<void>(waitForAnswer());
 }
 
 void WebNarrator::wordTaken(const std::string& word, WordTaken outcome, int count) {
-  JsonWriter json;
-  json.open('{').field("do", "wordTaken").field("word", toUnicode(word, Encoding::X1));
-  json.field("outcome", static_cast<int>(outcome)).field("count", count).close('}');
-  tellPage(json.text());
+  tellText("notice", noteOf(word, outcome, count));
 }
 
 void WebNarrator::answerJudged(Verdict verdict) {
-  JsonWriter json;
-  json.open('{').field("do", "judged").field("right", verdict.right);
-  json.field("places", verdict.places).close('}');
-  tellPage(json.text());
+  tellText("say", noteOf(verdict));
 }
 
 Moment WebCalendar::now() const {

@@ -41,6 +41,8 @@ class Inbox {
   /// Takes the answer to a box out of what has come.
   [[nodiscard]] std::optional<bool> takeAnswer();
 
+  /// Brings to the page what has changed; set by whoever paints.
+  std::function<void()> paint = [] {};
   KeyTable keys;
 
  private:
@@ -66,9 +68,6 @@ class WebClock final : public Clock {
   }
   [[nodiscard]] Flow Sleep(int ms) override;
 
-  /// Brings to the page what has changed; set by whoever paints.
-  std::function<void()> paint = [] {};
-
  private:
   Inbox& inbox_;
 };
@@ -82,7 +81,6 @@ class WebEventLoop final : public EventLoop {
 
   /// Delivers what has come; set by the program's owner.
   std::function<void()> deliver = [] {};
-  std::function<void()> paint = [] {};
   std::function<bool()> programRuns = [] { return true; };
 
  private:
@@ -167,11 +165,9 @@ class WebScreen final : public Screen {
 
   [[nodiscard]] int pixelWidth() const override { return width_; }
   [[nodiscard]] int pixelHeight() const override { return height_; }
-  void Refresh() override { paint(); }
+  void Refresh() override { inbox_.paint(); }
   /// Steps follow each other sixty times a second.
   void RefreshStep() override;
-
-  std::function<void()> paint = [] {};
 
  private:
   Inbox& inbox_;

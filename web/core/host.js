@@ -45,37 +45,12 @@ mergeInto(LibraryManager.library, {
   talvoraPackRead: function (file, offset, into, size) {
     return Module.host.pack.read(file, offset, HEAPU8.subarray(into, into + size));
   },
-  talvoraOwnSize: function (name, length) {
-    return Module.host.own.size(UTF8ToString(name, length));
-  },
-  talvoraOwnCreate: function (name, length) {
-    return Module.host.own.create(UTF8ToString(name, length));
-  },
-  talvoraOwnRead: function (name, length, offset, into, size) {
-    return Module.host.own.read(
+  talvoraOwn: function (deed, name, length, number, bytes, size) {
+    return Module.host.own[UTF8ToString(deed)](
       UTF8ToString(name, length),
-      offset,
-      HEAPU8.subarray(into, into + size),
+      number,
+      HEAPU8.subarray(bytes, bytes + size),
     );
-  },
-  talvoraOwnWrite: function (name, length, offset, from, size) {
-    return Module.host.own.write(
-      UTF8ToString(name, length),
-      offset,
-      HEAPU8.subarray(from, from + size),
-    );
-  },
-  talvoraOwnTruncate: function (name, length, size) {
-    return Module.host.own.truncate(UTF8ToString(name, length), size);
-  },
-  talvoraOwnSync: function (name, length) {
-    return Module.host.own.sync(UTF8ToString(name, length));
-  },
-  talvoraOwnRename: function (from, fromLength, to, toLength) {
-    return Module.host.own.rename(UTF8ToString(from, fromLength), UTF8ToString(to, toLength));
-  },
-  talvoraOwnRemove: function (name, length) {
-    return Module.host.own.remove(UTF8ToString(name, length));
   },
   talvoraOwnList: function (into, room) {
     const text = new TextEncoder().encode(Module.host.own.list().join('\n'));

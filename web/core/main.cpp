@@ -1,5 +1,6 @@
 // The program in a worker: starts when the worker says so, and takes what the page tells.
 
+#include "core/Message.h"
 #include "core/Picture.h"
 #include "core/Router.h"
 #include "core/Signs.h"
@@ -23,13 +24,10 @@ class Run {
  public:
   Run(int width, int height, std::span<const unsigned char> measures)
       : faces_(measures), layout_(faces_), metrics_(faces_), screen_(inbox_, width, height) {
-    const auto paint = [this] {
+    inbox_.paint = [this] {
       picture_.send();
       signs_.send();
     };
-    clock_.paint = paint;
-    events_.paint = paint;
-    screen_.paint = paint;
     boxes_.opening = [this] {
       program_.input().endPress();
       picture_.send();
@@ -70,9 +68,7 @@ class Run {
   void fail(const std::string& message) {
     failed_ = true;
     program_.fail();
-    JsonWriter json;
-    json.open('{').field("do", "failed").field("text", std::string_view(message)).close('}');
-    tellPage(json.text());
+    tellPage({{"do", "failed"}, {"text", message}});
   }
 
   void deliverAll() {
@@ -104,10 +100,9 @@ class Run {
   }
 
   void afterwards() {
-    picture_.send();
-    signs_.send();
+    inbox_.paint();
     const bool over = !program_.running() && !failed_ && program_.ending() == Ending::Quit;
-    if (over && !std::exchange(endTold_, true)) tellPage(R"({"do":"ended"})");
+    if (over && !std::exchange(endTold_, true)) tellPage({{"do", "ended"}});
   }
 
   Faces faces_;

@@ -1,9 +1,6 @@
 // In the place of memory that page and workers share, where a browser has none: messages go to and
 // fro, and the program is suspended while it waits for one.
-import { indexOf } from './pack.js';
 import { Fields } from './ring.js';
-
-/** @typedef {import('./pack.js').Entry} Entry */
 
 /** What the page has told and the core has not taken yet. @type {number[][]} */
 const events = [];
@@ -32,12 +29,11 @@ export function take(into, at) {
 }
 
 /**
- * The pack as the core reads it, whose files come through a port.
- * @param {Entry[]} entries
+ * Reads files of the pack that come through a port.
  * @param {MessagePort} port
  * @param {(waiting: boolean) => void} waits
  */
-export function readerOf(entries, port, waits) {
+export function comingFrom(port, waits) {
   /** @type {Map<number, Uint8Array>} */
   const contents = new Map();
   let came = () => {};
@@ -45,17 +41,14 @@ export function readerOf(entries, port, waits) {
     contents.set(data.file, data.bytes);
     came();
   };
-  return {
-    ...indexOf(entries),
-    /** @param {number} file @param {number} offset @param {Uint8Array} into */
-    read: async (file, offset, into) => {
-      if (!contents.has(file)) waits(true);
-      while (!contents.has(file)) await new Promise((resolve) => (came = () => resolve(undefined)));
-      waits(false);
-      into.set(
-        /** @type {Uint8Array} */ (contents.get(file)).subarray(offset).subarray(0, into.length),
-      );
-    },
+  /** @param {number} file @param {number} offset @param {Uint8Array} into */
+  return async (file, offset, into) => {
+    if (!contents.has(file)) waits(true);
+    while (!contents.has(file)) await new Promise((resolve) => (came = () => resolve(undefined)));
+    waits(false);
+    into.set(
+      /** @type {Uint8Array} */ (contents.get(file)).subarray(offset).subarray(0, into.length),
+    );
   };
 }
 

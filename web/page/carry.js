@@ -1,4 +1,5 @@
 // What the learner owns as one file: carried to another machine and back.
+import { byId, onClick } from './elements.js';
 import { filesOf, zipOf } from './zip.js';
 import { keepIncoming } from './own.js';
 
@@ -52,18 +53,16 @@ export class Carry {
   /** @param {() => Promise<Files>} own gives what the learner owns, written down to the last word */
   constructor(own) {
     this.own = own;
-    const byId = (/** @type {string} */ id) =>
-      /** @type {HTMLElement} */ (document.getElementById(id));
     this.dialog = /** @type {HTMLDialogElement} */ (byId('carry'));
     this.text = byId('carryText');
     this.take = byId('carryTake');
     const file = /** @type {HTMLInputElement} */ (byId('carryFile'));
     /** @type {Files | undefined} */
     this.came = undefined;
-    byId('carryOpen').addEventListener('click', () => this.open());
-    byId('carryClose').addEventListener('click', () => this.dialog.close());
-    byId('carryOut').addEventListener('click', () => void this.save());
-    byId('carryIn').addEventListener('click', () => file.click());
+    onClick('carryOpen', () => this.open());
+    onClick('carryClose', () => this.dialog.close());
+    onClick('carryOut', () => void this.save());
+    onClick('carryIn', () => file.click());
     file.addEventListener('change', () => void this.look(file.files?.[0]));
     this.take.addEventListener('click', () => void this.replace());
   }

@@ -1,17 +1,30 @@
 // The worker that fetches the pack and keeps it for the next visit: first what the menu needs, then
 // the rest, and last what only sounds, so that it is there without a network.
-import { Stage } from './pack.js';
-import { dropOthers, replyOf } from './store.js';
+import { Read, Stage, keep } from './pack.js';
+import { dropOtherReplies, keepReply, replyFor } from './store.js';
 
 const RetryMs = 2000;
 
+/** Does what may fail without a network, until there is one. @param {() => Promise<unknown>} deed */
+async function insist(deed) {
+  for (;;) {
+    try {
+      return await deed();
+    } catch (fault) {
+      postMessage({ do: 'stalled', text: String(fault) });
+      await new Promise((resolve) => setTimeout(resolve, RetryMs));
+    }
+  }
+}
+
 /**
+ * Unpacks a file into its room as it comes.
  * @param {import('./pack.js').Entry} entry
- * @param {ArrayBufferLike} content
- * @param {(bytes: number) => void} came
+ * @param {Uint8Array} bytes
+ * @param {(count: number) => void} came
  */
-async function fetchOne(entry, content, came) {
-  const { body } = await replyOf(entry.file);
+async function fetchInto(entry, bytes, came) {
+  const { body } = await replyFor(entry.file);
   const counted = new TransformStream({
     transform(chunk, out) {
       came(chunk.length);
@@ -19,13 +32,8 @@ async function fetchOne(entry, content, came) {
     },
   });
   const coming = /** @type {ReadableStream} */ (body).pipeThrough(counted);
-  if (entry.stage === Stage.Kept) {
-    await coming.pipeTo(new WritableStream());
-    return;
-  }
-  const bytes = new Uint8Array(content);
-  let at = 0;
   const reader = coming.pipeThrough(new DecompressionStream('gzip')).getReader();
+  let at = 0;
   for (let part = await reader.read(); !part.done; part = await reader.read()) {
     if (at + part.value.length > bytes.length) throw new Error(`${entry.file}: too long`);
     bytes.set(part.value, at);
@@ -34,46 +42,52 @@ async function fetchOne(entry, content, came) {
   if (at !== entry.size) throw new Error(`${entry.file}: cut short`);
 }
 
-/** @typedef {import('./pack.js').Pack & {port?: MessagePort}} Order */
-
-/** @param {Order} order @param {number} stage */
-async function fetchStage({ entries, contents, arrived, port }, stage) {
+/** @param {import('./pack.js').Order} order @param {MessagePort} port @param {number} stage */
+async function fetchStage({ entries, wanted, contents, arrived }, port, stage) {
+  const files = wanted.filter((file) => entries[file].stage === stage);
+  if (files.length === 0) return;
   const signs = new Int32Array(arrived);
-  const wanted = entries.map((_, file) => file).filter((file) => entries[file].stage === stage);
-  const all = wanted.reduce((sum, file) => sum + entries[file].packed, 0);
+  const all = files.reduce((sum, file) => sum + entries[file].packed, 0);
   let came = 0;
+  /** @type {Map<number, Uint8Array>} */
+  const fetched = new Map();
   /** @param {number} file */
   const fetchFile = async (file) => {
-    // What is not shared is sent.
-    const content = contents[file] ?? new ArrayBuffer(entries[file].size);
-    for (let there = false; !there;) {
+    const bytes = new Uint8Array(contents[file] ?? entries[file].size);
+    await insist(async () => {
       let its = 0;
       try {
-        await fetchOne(entries[file], content, (bytes) => {
-          its += bytes;
-          came += bytes;
+        await fetchInto(entries[file], bytes, (count) => {
+          its += count;
+          came += count;
           postMessage({ do: 'progress', stage, part: Math.min(1, came / all) });
         });
-        there = true;
       } catch (fault) {
-        // Without a network for a while: it goes on when there is one.
-        postMessage({ do: 'stalled', text: String(fault) });
         came -= its;
-        await new Promise((resolve) => setTimeout(resolve, RetryMs));
+        throw fault;
       }
-    }
+    });
+    fetched.set(file, bytes);
     Atomics.store(signs, file, 1);
     Atomics.notify(signs, file);
-    port?.postMessage({ file, bytes: new Uint8Array(content) });
+    // What is not shared is sent.
+    if (contents[file] === undefined) port.postMessage({ file, bytes });
   };
-  await Promise.all(wanted.map(fetchFile));
+  await Promise.all(files.map(fetchFile));
+  // A store without room keeps nothing, and the next visit fetches again.
+  await keep(entries, stage, fetched).catch(() => undefined);
 }
 
-/** @param {Order} pack */
-async function fetchAll(pack) {
-  for (const stage of [Stage.First, Stage.Late, Stage.Kept]) await fetchStage(pack, stage);
-  await dropOthers(pack.entries.map(({ file }) => file));
+/** @param {import('./pack.js').Order} order @param {MessagePort} port */
+async function fetchAll(order, port) {
+  for (const stage of Read) await fetchStage(order, port, stage);
+  const sounding = order.entries.filter(({ stage }) => !Read.includes(stage));
+  for (const { file, stage } of sounding)
+    if (stage === Stage.Kept) await insist(() => keepReply(file));
+  await dropOtherReplies(sounding.map(({ file }) => file));
   postMessage({ do: 'all' });
 }
 
-self.onmessage = ({ data }) => void fetchAll(data);
+self.onmessage = ({ data: port }) => {
+  port.onmessage = (/** @type {MessageEvent} */ { data }) => void fetchAll(data, port);
+};

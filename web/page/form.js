@@ -3,7 +3,7 @@
 /** @typedef {{text: string, face: number, size: number, color: string, under?: boolean, tab?: number}} Run */
 /**
  * @typedef {object} Line
- * @property {number} [id]
+ * @property {number} id
  * @property {number} top
  * @property {number} high
  * @property {number} left
@@ -25,6 +25,8 @@ const RestFaces = {
 };
 const StillFrame = 18;
 const LinePitch = 1.32; // in sizes of the letters
+const ThumbPlace = 130; // from the right edge
+const ThumbWidth = 100;
 
 /** @param {HTMLElement} element @param {number[]} box */
 function place(element, [left, top, width, height]) {
@@ -39,13 +41,25 @@ function place(element, [left, top, width, height]) {
 /** @param {string} text A letter that English does not have makes it Vietnamese. */
 const languageOf = (text) => (/[\u00c0-\u024f\u1ea0-\u1ef9]/.test(text) ? 'vi' : 'en');
 
-/** An element that only shows what is said elsewhere. @param {string} name @param {number[]} box */
-function makeSign(name, box) {
+/** An element that only shows what is said elsewhere. @param {string} name @param {number[]} box @param {string} colour */
+function makeSign(name, box, colour) {
   const sign = document.createElement('div');
   sign.className = name;
+  sign.style.color = colour;
   sign.setAttribute('aria-hidden', 'true');
   place(sign, box);
   return sign;
+}
+
+/** Makes these an element's children; what stands where it did is left alone. @param {HTMLElement} element @param {Element[]} children */
+function setChildren(element, children) {
+  const wanted = new Set(children);
+  for (const child of [...element.children]) if (!wanted.has(child)) child.remove();
+  let next = element.firstElementChild;
+  for (const child of children) {
+    if (child === next) next = next.nextElementSibling;
+    else element.insertBefore(child, next);
+  }
 }
 
 /** @param {Line} line */
@@ -91,19 +105,20 @@ export class FormView {
     this.root = root;
     /** @type {Map<string, HTMLElement>} */
     this.elements = new Map();
-    /** @type {WeakMap<HTMLElement, Map<number, HTMLElement>>} */
-    this.lines = new WeakMap();
+    /** Of the surfaces, lines by their numbers and signs by their looks. @type {WeakMap<HTMLElement, Map<string, HTMLElement>>} */
+    this.parts = new WeakMap();
   }
 
   /** @param {any} message */
   paint(message) {
     for (const control of message.controls) this.paintControl(control);
+    // Whoever reads the page reads what has the keyboard; the page's own dialogs keep theirs.
+    const free = document.activeElement === null || !document.activeElement.closest('dialog');
     for (const [name, element] of this.elements) {
       const focused = name === message.focus;
       element.classList.toggle('focused', focused);
-      // Whoever reads the page reads what has the keyboard; the page's own dialogs keep theirs.
-      const free = document.activeElement === null || !document.activeElement.closest('dialog');
-      if (focused && free && !element.hidden) element.focus({ preventScroll: true });
+      const moves = focused && free && !element.hidden && document.activeElement !== element;
+      if (moves) element.focus({ preventScroll: true });
       if (element.classList.contains('menu'))
         element.setAttribute('aria-hidden', String(!message.menu));
     }
@@ -146,33 +161,48 @@ export class FormView {
     element.classList.toggle('hintbar', control.name === 'RDOS');
     element.classList.toggle('dark', control.dark);
     describe(element, control);
-    const before = this.lines.get(element) ?? new Map();
-    /** @type {Map<number, HTMLElement>} */
+    const before = this.parts.get(element) ?? new Map();
+    /** @type {Map<string, HTMLElement>} */
     const now = new Map();
+    /** What was painted like this stays; two may look alike. @param {string} look @param {() => HTMLElement} make */
+    const part = (look, make) => {
+      const key = now.has(look) ? `${look} ${now.size}` : look;
+      const its = before.get(key) ?? make();
+      now.set(key, its);
+      return its;
+    };
+    const sign = (/** @type {string} */ name, /** @type {number[]} */ box, colour = '') =>
+      part(`${name} ${box} ${colour}`, () => makeSign(name, box, colour));
     /** @type {HTMLElement[]} */
     const under = [];
+    /** @type {HTMLElement[]} */
+    const rows = [];
     /** @type {HTMLElement[]} */
     const over = [];
     /** @type {number[] | undefined} */
     let current;
     for (const line of /** @type {Line[]} */ (control.lines)) {
-      if (line.mark === 'caret') over.push(makeSign('mark caret', line.box));
-      else if (line.mark !== undefined) under.push(makeSign(`mark ${line.mark}`, line.box));
-      if (line.mark === 'current') current = line.box;
-      if (line.mark !== undefined) continue;
-      if (line.dot !== undefined) over.push(this.dot(line));
-      const id = line.id ?? 0;
-      const row = before.get(id) ?? makeLine(line);
+      if (line.mark !== undefined) {
+        (line.mark === 'caret' ? over : under).push(sign(`mark ${line.mark}`, line.box));
+        if (line.mark === 'current') current = line.box;
+        continue;
+      }
+      if (line.dot !== undefined) over.push(sign('dot', line.dot, line.runs[0]?.color));
+      const row = part(`${line.id}`, () => makeLine(line));
       this.placeLine(row, line);
-      row.id = `${element.id}-${id}`;
-      now.set(id, row);
-      over.push(row);
+      row.id = `${element.id}-${rows.length}`;
+      rows.push(row);
     }
-    if (control.cut !== undefined) over.push(this.fade(control));
-    if (control.thumb !== undefined) over.push(this.thumb(control));
-    if (control.list) this.describeRows(element, [...now.values()], current);
-    this.lines.set(element, now);
-    element.replaceChildren(...under, ...over);
+    const [, , width, height] = control.box;
+    if (control.cut !== undefined)
+      over.push(sign('fade', [0, control.cut, width, height - control.cut], control.back));
+    if (control.thumb !== undefined)
+      over.push(
+        sign('thumb', [width - ThumbPlace, control.thumb[0], ThumbWidth, control.thumb[1]]),
+      );
+    if (control.list) this.describeRows(element, rows, current);
+    this.parts.set(element, now);
+    setChildren(element, [...under, ...rows, ...over]);
   }
 
   /** @param {HTMLElement} row @param {Line} line */
@@ -201,30 +231,6 @@ export class FormView {
       row.setAttribute('aria-selected', String(acted));
       if (acted) element.setAttribute('aria-activedescendant', row.id);
     }
-  }
-
-  /** @param {Line} line */
-  dot(line) {
-    const dot = makeSign('dot', line.dot ?? []);
-    dot.style.color = line.runs[0]?.color ?? '#000';
-    return dot;
-  }
-
-  /** A line that the lower edge cuts fades away. @param {any} control */
-  fade(control) {
-    const [, , width, height] = control.box;
-    const fade = makeSign('fade', [0, control.cut, width, height - control.cut]);
-    fade.style.background = `linear-gradient(transparent, ${control.back})`;
-    return fade;
-  }
-
-  /** @param {any} control */
-  thumb(control) {
-    const [top, length] = control.thumb;
-    const thumb = makeSign('thumb', []);
-    thumb.style.top = `${top}px`;
-    thumb.style.height = `${length}px`;
-    return thumb;
   }
 
   /** @param {HTMLElement} element @param {any} control */

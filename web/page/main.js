@@ -1,21 +1,20 @@
 // The page: starts the worker, paints what it tells, and tells it what the learner does.
 import { canSuspend } from './alone.js';
 import { Carry } from './carry.js';
+import { byId, onClick } from './elements.js';
 import { FormView } from './form.js';
 import { Input } from './input.js';
-import { Stage, openPack } from './pack.js';
-import { Kind, Sounds, makeRing, put } from './ring.js';
+import { Stage } from './pack.js';
+import { Kind, Sounds, leave, makeRing, put } from './ring.js';
 import { Sound } from './sound.js';
 import { Strip } from './strip.js';
+import { Voices } from './voices.js';
 
 const TwipsPerPixel = 15;
 const VirtualHeight = 768;
 const CaptionPart = 0.03;
 const LockTries = 10;
 const LockPauseMs = 200;
-
-/** @param {string} id */
-const byId = (id) => /** @type {HTMLElement} */ (document.getElementById(id));
 
 /** The virtual screen: 768 pixels high, as wide as the window's shape says within its bounds. */
 function virtualScreen() {
@@ -57,12 +56,6 @@ function announce(text) {
   byId('told').textContent = text;
 }
 
-/** @param {{right: number, places: number}} verdict */
-function verdictText({ right, places }) {
-  if (right === places) return 'Đúng';
-  return places === 1 ? 'Chưa đúng' : `Đúng ${right} trên ${places} chỗ`;
-}
-
 /** Shows what stands in the way of starting, over everything. @param {string} text */
 function showEnd(text) {
   byId('loading').hidden = false;
@@ -75,21 +68,36 @@ function showEnd(text) {
   again.focus();
 }
 
-/** @param {import('./pack.js').Pack} pack */
-function start(pack) {
+/** The program's worker and the one that fetches, which get ready while the page does. */
+function makeWorkers() {
+  const worker = new Worker(new URL('worker.js', import.meta.url), { type: 'module' });
+  const fetcher = new Worker(new URL('fetcher.js', import.meta.url), { type: 'module' });
+  const { port1, port2 } = new MessageChannel();
+  fetcher.postMessage(port2, [port2]);
+  return { worker, fetcher, port: port1 };
+}
+
+/** What the pack has. @returns {Promise<import('./pack.js').Entry[]>} */
+async function listPack() {
+  const reply = await fetch('pack/pack.json');
+  if (!reply.ok) throw new Error(`pack/pack.json: ${reply.status}`);
+  return reply.json();
+}
+
+/** @param {ReturnType<typeof makeWorkers>} workers @param {import('./pack.js').Entry[]} entries */
+function start({ worker, fetcher, port }, entries) {
   const sharing = globalThis.crossOriginIsolated;
   const ring = sharing ? makeRing() : undefined;
   const events = ring && new Int32Array(ring);
   const soundsSize = Sounds.All * Int32Array.BYTES_PER_ELEMENT;
   const sounds = sharing ? new SharedArrayBuffer(soundsSize) : new ArrayBuffer(soundsSize);
-  const worker = new Worker(new URL('worker.js', import.meta.url), { type: 'module' });
-  const fetcher = new Worker(new URL('fetcher.js', import.meta.url), { type: 'module' });
   const waiting = byId('waiting');
   fetcher.onmessage = ({ data }) => {
     if (data.do === 'progress') {
       const bar = data.stage === Stage.First ? 'progress' : 'waited';
       /** @type {HTMLProgressElement} */ (byId(bar)).value = data.part;
     }
+    if (data.do === 'all') stage.dataset.kept = 'all';
     if (data.do === 'stalled')
       byId('loadingText').textContent = 'Chưa có mạng, đang chờ để tải tiếp…';
   };
@@ -100,9 +108,11 @@ function start(pack) {
   };
   const view = new FormView(byId('form'));
   const input = new Input(stage, tell, () => place);
+  const voices = new Voices();
   const sound = new Sound(
     sounds,
-    pack.entries,
+    entries,
+    voices,
     sharing ? undefined : (place, turn) => worker.postMessage({ do: 'sounded', place, turn }),
   );
   const strip = new Strip(announce);
@@ -113,28 +123,31 @@ function start(pack) {
     tell([Kind.Carry]);
     return new Promise((resolve) => (kept = resolve));
   });
-  input.open = () => !box.open && !carry.dialog.open;
+  input.open = () => !box.open && !carry.dialog.open && !voices.dialog.open;
   /** @param {number} answer */
   const answer = (answer) => {
     box.close();
     tell([Kind.Answer, answer]);
   };
-  byId('yes').addEventListener('click', () => answer(1));
-  byId('no').addEventListener('click', () => answer(0));
+  onClick('yes', () => answer(1));
+  onClick('no', () => answer(0));
   box.addEventListener('cancel', (event) => {
     event.preventDefault();
     answer(0);
   });
-  byId('back').addEventListener('click', () => input.stroke('Escape'));
-  byId('hint').addEventListener('click', () => input.stroke('F2'));
-  byId('close').addEventListener('click', () => tell([Kind.Close]));
+  onClick('back', () => input.stroke('Escape'));
+  onClick('hint', () => input.stroke('F2'));
+  onClick('close', () => tell([Kind.Close]));
   document.addEventListener('visibilitychange', () => {
     if (document.hidden) tell([Kind.Hidden]);
   });
+  addEventListener('pagehide', () => events && leave(events));
+  // One that comes back as it was has lost its program.
+  addEventListener('pageshow', ({ persisted }) => persisted && location.reload());
   const ctrl = byId('ctrl');
   const showCtrl = () => ctrl.setAttribute('aria-pressed', String(input.heldShift !== 0));
   input.onLetGo = showCtrl;
-  ctrl.addEventListener('click', () => {
+  onClick('ctrl', () => {
     input.toggleCtrl();
     showCtrl();
   });
@@ -160,6 +173,7 @@ function start(pack) {
         }
         if (data.caption !== undefined) strip.setCaption(data.caption);
         strip.setPlace(data.menu);
+        byId('voicesOpen').hidden = data.focus !== 'RAmthanh' || voices.list().length === 0;
         view.paint(data);
         break;
       case 'waiting':
@@ -178,20 +192,17 @@ function start(pack) {
       case 'tell':
         showBox(data, false);
         break;
-      case 'wordTaken':
-        strip.wordTaken(data);
+      case 'notice':
+        strip.notice(data.text);
         break;
       case 'pointer':
-        byId('form').style.cursor = data.shape;
+        byId('form').style.cursor = data.text;
         break;
       case 'help':
         strip.setHelp(data.text);
         break;
       case 'say':
         announce(data.text);
-        break;
-      case 'judged':
-        announce(verdictText(data));
         break;
       case 'ended':
         showEnd('Talvora đã đóng.');
@@ -204,35 +215,33 @@ function start(pack) {
     }
   };
   worker.onerror = (fault) => showEnd(`Chương trình gặp lỗi nên phải dừng lại. ${fault.message}`);
-  const { port1, port2 } = new MessageChannel();
-  worker.postMessage({ do: 'begin', ring, port: port1, sounds, pack, ...screen }, [port1]);
-  fetcher.postMessage({ ...pack, port: sharing ? undefined : port2 }, sharing ? [] : [port2]);
+  worker.postMessage({ do: 'begin', ring, port, sounds, entries, ...screen }, [port]);
 }
 
 /**
  * One page at a time writes the learner's files; a second one says so. A page that is loaded anew may
  * come before the one that it replaces is gone.
  */
-async function startAlone(tries = LockTries) {
-  const started = await navigator.locks.request(
-    'talvora-learner',
-    { ifAvailable: true },
-    async (lock) => {
-      if (lock === null) return false;
+async function startAlone() {
+  const workers = makeWorkers();
+  const listing = listPack();
+  // Told when the page has its turn.
+  listing.catch(() => undefined);
+  const tryOnce = () =>
+    navigator.locks.request('talvora-learner', { ifAvailable: true }, async (lock) => {
+      if (lock === null) return undefined;
       try {
-        start(await openPack());
+        start(workers, await listing);
       } catch (fault) {
         showEnd(`Không tải được bộ bài học. ${fault}`);
       }
       return new Promise(() => {});
-    },
-  );
-  if (started) return;
-  if (tries === 0) {
-    showEnd('Talvora đang chạy rồi trong một thẻ khác.');
-    return;
+    });
+  for (let left = LockTries; left >= 0; --left) {
+    await tryOnce();
+    await new Promise((resolve) => setTimeout(resolve, LockPauseMs));
   }
-  setTimeout(() => void startAlone(tries - 1), LockPauseMs);
+  showEnd('Talvora đang chạy rồi trong một thẻ khác.');
 }
 
 /** Asks the browser to keep the page and what the learner owns. */

@@ -25,21 +25,36 @@ const Deed = Object.freeze({ Create: 1, Write: 2, Truncate: 3, Rename: 4, Remove
  * @property {(size: number) => void} truncate
  * @property {() => number} getSize
  * @property {() => void} flush
+ * @property {() => void} [close]
  */
 
 const Nothing = new Uint8Array(0);
 
-/** Bytes that grow. */
-class Content {
-  constructor() {
+/** Bytes that grow; also a place in memory, for browsers that keep nothing. */
+export class MemoryPlace {
+  /** @param {Uint8Array} [bytes] */
+  constructor(bytes = Nothing) {
     this.room = new Uint8Array(0);
     this.size = 0;
+    this.write(bytes, { at: 0 });
   }
   get bytes() {
     return this.room.subarray(0, this.size);
   }
+  /** @param {Uint8Array} into @param {{at: number}} options */
+  read(into, { at }) {
+    const part = this.bytes.subarray(at, at + into.length);
+    into.set(part);
+    return part.length;
+  }
+  /** @param {Uint8Array} from @param {{at: number}} options */
+  write(from, { at }) {
+    if (at + from.length > this.size) this.truncate(at + from.length);
+    this.room.set(from, at);
+    return from.length;
+  }
   /** @param {number} size */
-  resize(size) {
+  truncate(size) {
     if (size > this.room.length) {
       const room = new Uint8Array(Math.max(size, 2 * this.room.length));
       room.set(this.bytes);
@@ -48,36 +63,8 @@ class Content {
     this.room.fill(0, Math.min(size, this.size), Math.max(size, this.size));
     this.size = size;
   }
-  /** @param {number} offset @param {Uint8Array} from */
-  write(offset, from) {
-    if (offset + from.length > this.size) this.resize(offset + from.length);
-    this.room.set(from, offset);
-  }
-}
-
-/** A place in memory, for browsers that keep nothing: what is in it goes with the page. */
-export class MemoryPlace {
-  constructor(bytes = Nothing) {
-    this.content = new Content();
-    this.content.write(0, bytes);
-  }
-  /** @param {Uint8Array} into @param {{at: number}} options */
-  read(into, { at }) {
-    const part = this.content.bytes.subarray(at, at + into.length);
-    into.set(part);
-    return part.length;
-  }
-  /** @param {Uint8Array} from @param {{at: number}} options */
-  write(from, { at }) {
-    this.content.write(at, from);
-    return from.length;
-  }
-  /** @param {number} size */
-  truncate(size) {
-    this.content.resize(size);
-  }
   getSize() {
-    return this.content.size;
+    return this.size;
   }
   flush() {}
 }
@@ -132,7 +119,7 @@ export class OwnFiles {
   /** @param {Place[]} logs two of them */
   constructor(logs) {
     this.logs = logs;
-    /** @type {Map<string, Content>} */
+    /** @type {Map<string, MemoryPlace>} */
     this.files = new Map();
     const contents = logs.map(allOf);
     const generations = contents.map(generationOf);
@@ -168,11 +155,11 @@ export class OwnFiles {
   /** @param {number} kind @param {string} name @param {number} number @param {Uint8Array} data */
   perform(kind, name, number, data) {
     const file = this.files.get(name);
-    if (kind === Deed.Create) this.files.set(name, new Content());
+    if (kind === Deed.Create) this.files.set(name, new MemoryPlace());
     if (kind === Deed.Remove) this.files.delete(name);
     if (file === undefined || number + data.length > LargestFile) return;
-    if (kind === Deed.Write) file.write(number, data);
-    if (kind === Deed.Truncate) file.resize(number);
+    if (kind === Deed.Write) file.write(data, { at: number });
+    if (kind === Deed.Truncate) file.truncate(number);
     if (kind === Deed.Rename) {
       this.files.delete(name);
       this.files.set(new TextDecoder().decode(data), file);
@@ -225,7 +212,7 @@ export class OwnFiles {
   rewrite(files) {
     const other = 1 - this.current;
     const log = this.logs[other];
-    /** @type {Map<string, Content>} */
+    /** @type {Map<string, MemoryPlace>} */
     const fresh = new Map();
     const done = OwnFiles.tried(() => {
       log.truncate(0);
@@ -238,9 +225,7 @@ export class OwnFiles {
           if (log.write(each, { at: end }) !== each.length) return -1;
           end += each.length;
         }
-        const content = new Content();
-        content.write(0, bytes);
-        fresh.set(name, content);
+        fresh.set(name, new MemoryPlace(bytes));
       }
       log.flush();
       if (log.write(header(this.generation + 1), { at: 0 }) !== HeaderSize) return -1;
@@ -256,7 +241,7 @@ export class OwnFiles {
     return 0;
   }
 
-  // -- What the core calls; less than 0 is a failure.
+  // -- What the core calls, each with a name, a number and bytes; less than 0 is a failure.
 
   /** @param {string} name */
   size(name) {
@@ -272,22 +257,27 @@ export class OwnFiles {
   /** @param {string} name @param {number} offset @param {Uint8Array} into */
   read(name, offset, into) {
     const file = this.files.get(name);
-    if (file === undefined) return -1;
-    const part = file.bytes.subarray(offset, offset + into.length);
-    into.set(part);
-    return part.length;
+    return file === undefined ? -1 : file.read(into, { at: offset });
   }
 
   /** @param {string} name @param {number} offset @param {Uint8Array} from */
   write(name, offset, from) {
-    if (!this.files.has(name) || offset + from.length > LargestFile) return -1;
-    return this.note(Deed.Write, name, offset, from);
+    return this.change(Deed.Write, name, offset, from);
   }
 
   /** @param {string} name @param {number} size */
   truncate(name, size) {
-    if (!this.files.has(name) || size > LargestFile) return -1;
-    return this.note(Deed.Truncate, name, size);
+    return this.change(Deed.Truncate, name, size);
+  }
+
+  /** @param {string} from @param {number} _ @param {Uint8Array} to */
+  rename(from, _, to) {
+    return this.change(Deed.Rename, from, 0, to);
+  }
+
+  /** @param {string} name */
+  remove(name) {
+    return this.files.has(name) ? this.note(Deed.Remove, name) : 0;
   }
 
   /** @param {string} name */
@@ -296,15 +286,10 @@ export class OwnFiles {
     return OwnFiles.tried(() => (this.logs[this.current].flush(), 0));
   }
 
-  /** @param {string} from @param {string} to */
-  rename(from, to) {
-    if (!this.files.has(from)) return -1;
-    return this.note(Deed.Rename, from, 0, new TextEncoder().encode(to));
-  }
-
-  /** @param {string} name */
-  remove(name) {
-    return this.files.has(name) ? this.note(Deed.Remove, name) : 0;
+  /** Does what only a file that is there can have done to it. @param {number} deed @param {string} name @param {number} number @param {Uint8Array} [data] */
+  change(deed, name, number, data = Nothing) {
+    const fits = this.files.has(name) && number + data.length <= LargestFile;
+    return fits ? this.note(deed, name, number, data) : -1;
   }
 
   list() {
@@ -318,11 +303,11 @@ export class OwnFiles {
 }
 
 /**
- * Opens a log; the worker of a page that is just going may still have it.
+ * Opens a file of the private store; the worker of a page that is just going may still have it.
  * @param {any} file
  * @returns {Promise<Place>}
  */
-async function openLog(file) {
+export async function openPlace(file) {
   for (let left = OpenTries; ; --left) {
     try {
       return await file.createSyncAccessHandle();
@@ -346,7 +331,7 @@ export async function keepIncoming(files) {
   own.rewrite(new Map([...files].map(([name, bytes]) => [name, { bytes }])));
   const file = await (await folderOfLearner()).getFileHandle(Incoming, { create: true });
   const writable = await file.createWritable();
-  await writable.write(logs[own.current].content.bytes);
+  await writable.write(logs[own.current].bytes);
   await writable.close();
 }
 
@@ -355,7 +340,7 @@ async function takeIncoming(own, folder) {
   const file = await folder.getFileHandle(Incoming).catch(() => undefined);
   if (file === undefined) return;
   const log = new MemoryPlace(new Uint8Array(await (await file.getFile()).arrayBuffer()));
-  const came = generationOf(log.content.bytes) > 0;
+  const came = generationOf(log.bytes) > 0;
   if (came && own.rewrite(new OwnFiles([log, new MemoryPlace()]).files) < 0) return;
   await folder.removeEntry(Incoming);
 }
@@ -368,7 +353,7 @@ export async function openOwnFiles() {
   try {
     const folder = await folderOfLearner();
     const logs = await Promise.all(
-      LogNames.map(async (name) => openLog(await folder.getFileHandle(name, { create: true }))),
+      LogNames.map(async (name) => openPlace(await folder.getFileHandle(name, { create: true }))),
     );
     const files = new OwnFiles(logs);
     await takeIncoming(files, folder);

@@ -5,6 +5,7 @@ export const Fields = 6;
 export const Room = 1024; // events
 const Written = 0;
 const Taken = 1;
+const IsGone = 2;
 export const Head = 4;
 
 export const Kind = Object.freeze({
@@ -65,15 +66,26 @@ export function take(ring, into, at) {
   return 1;
 }
 
+/** What ends the core's wait for a page that has gone. */
+export const Gone = new Error('The page has gone');
+
+/** Ends the core: a worker that waits is not ended otherwise, and keeps the learner's files for seconds. @param {Int32Array} ring */
+export function leave(ring) {
+  Atomics.store(ring, IsGone, 1);
+  Atomics.notify(ring, Written);
+}
+
 /**
- * Returns when something is in the ring or the time is over; less than 0 waits for ever.
+ * Returns when something is in the ring or the time is over; less than 0 waits for ever. Throws `Gone` when
+ * nothing will come any more.
  * @param {Int32Array} ring
  * @param {number} ms
  */
 export function wait(ring, ms) {
   const taken = Atomics.load(ring, Taken);
   if (taken !== Atomics.load(ring, Written)) return;
-  Atomics.wait(ring, Written, taken, ms < 0 ? Infinity : ms);
+  if (Atomics.load(ring, IsGone) === 0) Atomics.wait(ring, Written, taken, ms < 0 ? Infinity : ms);
+  if (Atomics.load(ring, IsGone) !== 0 && taken === Atomics.load(ring, Written)) throw Gone;
 }
 
 /**

@@ -9,11 +9,23 @@ const PackList = 'pack/pack.json';
 
 const worker = /** @type {any} */ (self);
 
+/** @param {Response} reply */
+function isolated(reply) {
+  const headers = new Headers(reply.headers);
+  headers.set('Cross-Origin-Opener-Policy', 'same-origin');
+  headers.set('Cross-Origin-Embedder-Policy', 'require-corp');
+  return new Response(reply.body, { status: reply.status, statusText: reply.statusText, headers });
+}
+
+/** @param {string} file */
+async function keepOne(file) {
+  const reply = await fetch(file, { cache: 'no-cache' });
+  if (!reply.ok) throw new Error(`${file}: ${reply.status}`);
+  await (await caches.open(Store)).put(file, isolated(reply));
+}
+
 async function keep() {
-  const store = await caches.open(Store);
-  await store.addAll(
-    ['./', PackList, ...Files].map((file) => new Request(file, { cache: 'no-cache' })),
-  );
+  await Promise.all(['./', PackList, ...Files].map(keepOne));
   await worker.skipWaiting();
 }
 
@@ -23,21 +35,17 @@ async function takeOver() {
   await worker.clients.claim();
 }
 
-/** @param {Response} reply */
-function isolated(reply) {
-  const headers = new Headers(reply.headers);
-  headers.set('Cross-Origin-Opener-Policy', 'same-origin');
-  headers.set('Cross-Origin-Embedder-Policy', 'require-corp');
-  return new Response(reply.body, { status: reply.status, statusText: reply.statusText, headers });
-}
-
 /** @param {Request} request */
 async function answer(request) {
-  const kept = await (await caches.open(Store)).match(request, { ignoreSearch: true });
-  return isolated(kept ?? (await fetch(request)));
+  const kept = await caches.match(request, { ignoreSearch: true, cacheName: Store });
+  return kept ?? isolated(await fetch(request));
 }
 
-worker.addEventListener('install', (/** @type {any} */ event) => event.waitUntil(keep()));
+worker.addEventListener('install', (/** @type {any} */ event) => {
+  // Where the browser can, it answers with what is kept and need not start this worker for it.
+  void event.addRoutes?.({ condition: { requestMethod: 'get' }, source: { cacheName: Store } });
+  event.waitUntil(keep());
+});
 worker.addEventListener('activate', (/** @type {any} */ event) => event.waitUntil(takeOver()));
 worker.addEventListener('fetch', (/** @type {any} */ event) => {
   if (event.request.method === 'GET') event.respondWith(answer(event.request));

@@ -5,15 +5,18 @@ import { Sounds, endSound, noteSound } from './ring.js';
 import { replyOf } from './store.js';
 
 const RecordingRate = 16_000;
+const AheadMs = 20; // that a picture has, of the sound that comes with it
 
 export class Sound {
   /**
    * @param {ArrayBufferLike} sounds how much is being spoken, and whether a recording plays
    * @param {import('./pack.js').Entry[]} entries of the pack
+   * @param {import('./voices.js').Voices} voices of the browser
    * @param {((place: number, turn: number) => void) | undefined} onEnd called where that is not seen by
    *   all, when something has ended
    */
-  constructor(sounds, entries, onEnd) {
+  constructor(sounds, entries, voices, onEnd) {
+    this.voices = voices;
     this.sounds = sounds;
     this.onEnd = onEnd;
     this.state = new Int32Array(sounds);
@@ -56,10 +59,7 @@ export class Sound {
   /** @param {any} message */
   take(message) {
     if (this.onEnd !== undefined) noteSound(this.state, message);
-    if (message.do === 'speak') {
-      this.prepare();
-      this.speaker?.postMessage(message);
-    }
+    if (message.do === 'speak') this.speak(message);
     if (message.do === 'hush') this.hush();
     if (message.do === 'openWave') this.recording = this.open(message.file);
     if (message.do === 'playWave') void this.play(message);
@@ -73,6 +73,18 @@ export class Sound {
   }
 
   // -- Speech.
+
+  /** @param {{text: string, speed: number, turn: number}} message */
+  speak(message) {
+    if (this.voices.chosen() !== undefined) {
+      const over = () => this.end(Sounds.Speaking, message.turn);
+      void this.voices.say(message.text, message.speed).then(over);
+    } else {
+      this.prepare();
+      // What has come up with it is to be painted first: making the voice takes a processor.
+      setTimeout(() => this.speaker?.postMessage(message), AheadMs);
+    }
+  }
 
   /** @param {number} turn of a text that is spoken */
   speaks(turn) {
@@ -105,6 +117,7 @@ export class Sound {
   }
 
   hush() {
+    this.voices.hush();
     for (const source of this.speech) source.stop();
     this.speech.clear();
     this.deviceUntil = 0;

@@ -1,11 +1,8 @@
 // The caption strip: the typed word, the title with the score, notices.
+import { byId } from './elements.js';
 
 const NewsMs = 2000;
 const Padding = ' '.repeat(20);
-const LongestShown = 20;
-
-/** @param {string} id */
-const byId = (id) => /** @type {HTMLElement} */ (document.getElementById(id));
 
 export class Strip {
   /** @param {(text: string) => void} announce */
@@ -83,16 +80,6 @@ export class Strip {
   setHelp(text) {
     this.help = text;
     this.showLeft();
-  }
-
-  /** @param {{word: string, outcome: number, count: number}} taken */
-  wordTaken({ word, outcome, count }) {
-    const texts = [
-      `Đã lưu: ${word} (${count})`,
-      `Đã có: ${word} (${count})`,
-      `Dài quá, không lưu được: ${word.slice(0, LongestShown)}…`,
-    ];
-    this.notice(texts[outcome]);
   }
 
   /** @param {boolean} menu */

@@ -2,8 +2,17 @@
 import createTalvora from './talvora.js';
 import * as alone from './alone.js';
 import { openOwnFiles } from './own.js';
-import { readerOf } from './pack.js';
-import { Sounds, endSound, noteSound, take, wait } from './ring.js';
+import { comingFrom, openKept, orderOf, readerOf } from './pack.js';
+import { Gone, Sounds, endSound, noteSound, take, wait } from './ring.js';
+
+/** What the core asks for is put in when the program begins. @type {any} */
+const host = {};
+// Both are on their way while the page gets ready.
+const making = createTalvora({
+  host,
+  ...(globalThis.crossOriginIsolated ? {} : { instantiateWasm: alone.instantiate }),
+});
+const measuring = fetch('faces.bin').then((reply) => reply.arrayBuffer());
 
 /** @type {any} */
 let program = null;
@@ -11,16 +20,19 @@ let runs = false;
 /** @type {Int32Array} */
 let sounds = new Int32Array(Sounds.All);
 
-/** @typedef {{ring?: SharedArrayBuffer, port?: MessagePort, sounds: ArrayBufferLike, pack: import('./pack.js').Pack, width: number, height: number}} Start */
+/** @typedef {{ring?: SharedArrayBuffer, port: MessagePort, sounds: ArrayBufferLike, entries: import('./pack.js').Entry[], width: number, height: number}} Start */
 
 /** How the core waits, and reads what may have to be waited for. @param {Start} start */
-function waysOf({ ring, port, pack }) {
+async function waysOf({ ring, port, entries }) {
   const waits = (/** @type {boolean} */ waiting) => postMessage({ do: 'waiting', waiting });
+  const kept = await openKept(entries);
+  const order = orderOf(entries, kept);
+  port.postMessage(order);
   if (ring === undefined)
     return {
       wait: alone.wait,
       take: alone.take,
-      pack: alone.readerOf(pack.entries, /** @type {MessagePort} */ (port), waits),
+      pack: readerOf(entries, kept, alone.comingFrom(port, waits)),
     };
   const events = new Int32Array(ring);
   return {
@@ -28,52 +40,54 @@ function waysOf({ ring, port, pack }) {
     wait: (ms) => wait(events, ms),
     /** @param {Int32Array} into @param {number} at */
     take: (into, at) => take(events, into, at),
-    pack: readerOf(pack, waits),
+    pack: readerOf(entries, kept, comingFrom(order, waits)),
   };
 }
 
 /** @param {Start} start */
 async function begin(start) {
   sounds = new Int32Array(start.sounds);
-  const host = {
-    ...waysOf(start),
+  const [ways, own, measures, made] = await Promise.all([
+    waysOf(start),
+    openOwnFiles(),
+    measuring,
+    making,
+  ]);
+  Object.assign(host, ways, {
     /** @param {string} json */
     tell: (json) => {
       const message = JSON.parse(json);
       noteSound(sounds, message);
-      if (message.do === 'kept') message.files = host.own?.copy();
+      if (message.do === 'kept') message.files = own.files.copy();
       postMessage(message);
     },
     speaks: () => Atomics.load(sounds, Sounds.Speaking),
     plays: () => Atomics.load(sounds, Sounds.Playing),
-    /** @type {import('./own.js').OwnFiles | undefined} */
-    own: undefined,
-  };
-  const suspended = start.ring === undefined ? { instantiateWasm: alone.instantiate } : {};
-  const [own, measures, made] = await Promise.all([
-    openOwnFiles(),
-    fetch('faces.bin').then((reply) => reply.arrayBuffer()),
-    createTalvora({ host, ...suspended }),
-  ]);
+    own: own.files,
+  });
   if (!own.kept) postMessage({ do: 'notKept' });
-  host.own = own.files;
   program = made;
   const bytes = new Uint8Array(measures);
   const place = program._malloc(bytes.length);
   program.HEAPU8.set(bytes, place);
-  postMessage({ do: 'ready' });
-  runs = true;
-  await program._talvoraStart(start.width, start.height, place, bytes.length);
+  await run(() => program._talvoraStart(start.width, start.height, place, bytes.length));
   program._free(place);
+}
+
+/** Runs the core until it has nothing to do, or nobody to do it for. @param {() => unknown} deed */
+async function run(deed) {
+  runs = true;
+  try {
+    await deed();
+  } catch (fault) {
+    if (fault !== Gone) throw fault;
+  }
   runs = false;
 }
 
 /** Delivers what has come; a program that is suspended takes it itself. */
 async function pump() {
-  if (program === null || runs) return;
-  runs = true;
-  await program._talvoraPump();
-  runs = false;
+  if (program !== null && !runs) await run(() => program._talvoraPump());
 }
 
 self.onmessage = ({ data }) => {

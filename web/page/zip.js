@@ -22,14 +22,13 @@ function crcOf(bytes) {
   return ~crc >>> 0;
 }
 
-/** Numbers of two bytes, or of four where it says so, one behind the other. @param {[number, number][]} fields */
-function numbers(...fields) {
-  return Uint8Array.from(
-    fields.flatMap(([size, value]) =>
-      Array.from({ length: size }, (_, byte) => (value >>> (8 * byte)) & 0xff),
+/** Numbers of two bytes where the shape has an H, and of four elsewhere. @param {string} shape @param {number[]} values */
+const numbers = (shape, ...values) =>
+  Uint8Array.from(
+    values.flatMap((value, at) =>
+      (shape[at] === 'H' ? [0, 8] : [0, 8, 16, 24]).map((bits) => (value >>> bits) & 0xff),
     ),
   );
-}
 
 /** The files as an archive, as they are. @param {Map<string, Uint8Array>} files */
 export function zipOf(files) {
@@ -40,25 +39,15 @@ export function zipOf(files) {
   let at = 0;
   for (const [name, bytes] of files) {
     const letters = new TextEncoder().encode(name);
-    /** @type {[number, number][]} */
-    const its = [
-      ...[20, Utf8Names, 0, 0, Earliest].map((each) => /** @type {[number, number]} */ ([2, each])),
-      ...[crcOf(bytes), bytes.length, bytes.length].map(
-        (each) => /** @type {[number, number]} */ ([4, each]),
-      ),
-      [2, letters.length],
-      [2, 0],
-    ];
-    contents.push(numbers([4, LocalMagic], ...its), letters, bytes);
-    entries.push(
-      numbers([4, EntryMagic], [2, 20], ...its, [4, 0], [2, 0], [4, 0], [4, at]),
-      letters,
-    );
-    at += LocalSize + letters.length + bytes.length;
+    const { length } = bytes;
+    const its = [Utf8Names, 0, 0, Earliest, crcOf(bytes), length, length, letters.length, 0];
+    const local = numbers('IHHHHHIIIHH', LocalMagic, 20, ...its);
+    contents.push(local, letters, bytes);
+    entries.push(numbers('IHHHHHHIIIHHHHHII', EntryMagic, 20, 20, ...its, 0, 0, 0, 0, at), letters);
+    at += local.length + letters.length + length;
   }
   const size = entries.reduce((sum, each) => sum + each.length, 0);
-  const count = files.size;
-  const end = numbers([4, EndMagic], [4, 0], [2, count], [2, count], [4, size], [4, at], [2, 0]);
+  const end = numbers('IHHHHIIH', EndMagic, 0, 0, files.size, files.size, size, at, 0);
   return new Blob(/** @type {BlobPart[]} */ ([...contents, ...entries, end]));
 }
 

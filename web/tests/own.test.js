@@ -13,11 +13,11 @@ class FullPlace extends MemoryPlace {
   /** @param {number} room */
   constructor(room) {
     super();
-    this.room = room;
+    this.most = room;
   }
   /** @param {Uint8Array} from @param {{at: number}} options */
   write(from, { at }) {
-    if (at + from.length > this.room) throw new Error('QuotaExceededError');
+    if (at + from.length > this.most) throw new Error('QuotaExceededError');
     return super.write(from, { at });
   }
 }
@@ -26,7 +26,7 @@ class FullPlace extends MemoryPlace {
 const copyOf = (logs) =>
   logs.map((log) => {
     const copy = new MemoryPlace();
-    copy.write(log.content.bytes, { at: 0 });
+    copy.write(log.bytes, { at: 0 });
     return copy;
   });
 
@@ -43,7 +43,7 @@ test('what was written is there when the store is opened again', () => {
   const again = new OwnFiles(logs);
   assert.deepEqual(again.list().sort(), ['data.c', 'data.c.new']);
   assert.equal(textOf(again, 'data.c'), 'one two');
-  again.rename('data.c.new', 'data.c');
+  again.rename('data.c.new', 0, bytes('data.c'));
   again.truncate('data.c', 2);
   const third = new OwnFiles(logs);
   assert.deepEqual(third.list(), ['data.c']);
@@ -64,13 +64,13 @@ test('a log that is cut at any byte gives a state that once was', () => {
     () => files.write('words', 0, bytes('abc')),
     () => files.create('new'),
     () => files.write('new', 0, bytes('abcdef')),
-    () => files.rename('new', 'words'),
+    () => files.rename('new', 0, bytes('words')),
     () => files.remove('words'),
   ]) {
     deed();
     note();
   }
-  const whole = logs[files.current].content.bytes.slice();
+  const whole = logs[files.current].bytes.slice();
   for (let length = 12; length <= whole.length; ++length) {
     const cut = new MemoryPlace();
     cut.write(whole.subarray(0, length), { at: 0 });
@@ -90,7 +90,7 @@ test('a byte that was spoilt ends the log there', () => {
   files.create('a');
   const good = files.end;
   files.create('b');
-  logs[files.current].content.room[good + 2] ^= 0xff;
+  logs[files.current].room[good + 2] ^= 0xff;
   assert.deepEqual(new OwnFiles(copyOf(logs)).list(), ['a']);
 });
 

@@ -79,3 +79,30 @@ test('the close box asks, and the page can be opened again', async () => {
   await learner.onMenu();
   await learner.close();
 });
+
+test('lines that look alike all stay, however often they are painted', async () => {
+  const learner = await place.learner();
+  const counts = await learner.page.evaluate(async () => {
+    const { FormView } = await import(new URL('form.js', location.href).href);
+    const root = document.createElement('div');
+    const view = new FormView(root);
+    const line = { high: 300, left: 100, runs: [{ text: 'a', face: 0, size: 200, color: '#000' }] };
+    const lines = [0, 300, 600].map((top) => ({ ...line, top, id: top === 300 ? 2 : 1 }));
+    const surface = {
+      name: 'R1',
+      shown: true,
+      kind: 'surface',
+      depth: 1,
+      label: '',
+      box: [0, 0, 9, 9],
+    };
+    return [lines, lines, [...lines, { ...line, top: 900, id: 1 }], lines.slice(0, 1)].map(
+      (its) => {
+        view.paint({ controls: [{ ...surface, lines: its }], focus: '', menu: false });
+        return root.querySelectorAll('.line').length;
+      },
+    );
+  });
+  assert.deepEqual(counts, [3, 3, 4, 1]);
+  await learner.close();
+});

@@ -1,19 +1,33 @@
 // Measures the browser front on a site beside the limits that it has, and prints a table.
-//
-// usage: node bench.js SITE [ROUNDS]
 import { execFileSync, spawn } from 'node:child_process';
-import { readdirSync, statSync } from 'node:fs';
+import { existsSync, readdirSync, statSync } from 'node:fs';
 import { connect, createServer } from 'node:net';
 import { dirname, join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { chromium } from 'playwright-core';
 
-const [site, rounds = '15'] = process.argv.slice(2);
-if (site === undefined) {
-  console.error('usage: node bench.js SITE [ROUNDS]');
+const Usage = `usage: node bench.js SITE [ROUNDS]
+Measures the browser front beside its limits, in Chromium without a window, and prints a table.
+  SITE    the folder that site.py has put together; ./run --web makes build/site
+  ROUNDS  visits that are measured, and a quarter of the clicks and keys; 15 unless told
+CHROMIUM in the environment is another browser than /usr/bin/chromium.`;
+
+/** @param {string} fault */
+function refuse(fault) {
+  console.error(`${fault}\n${Usage}`);
   process.exit(2);
 }
+
+const [site = '', rounds = '15', ...rest] = process.argv.slice(2);
 const Rounds = Number(rounds);
+if (['-h', '--help'].includes(site)) {
+  console.log(Usage);
+  process.exit(0);
+}
+if (site === '' || rest.length > 0) refuse('One folder is to be named.');
+if (!Number.isInteger(Rounds) || Rounds < 1) refuse(`${rounds}: not a number of rounds`);
+for (const file of ['index.html', 'talvora.wasm', 'pack/pack.json'])
+  if (!existsSync(join(site, file))) refuse(`${site}: no site, it has no ${file}`);
 /** A line of 10 Mbit/s: bytes a millisecond, and how long one is on its way. */
 const Rate = 1250;
 const LatencyMs = 20;
@@ -99,12 +113,7 @@ async function visits() {
   await page.locator('#yes').click();
   await page.evaluate(() => navigator.serviceWorker.ready);
   isSlow = false;
-  await page.waitForFunction(async () => {
-    const store = await caches.open('talvora-pack');
-    const list = await (await fetch('pack/pack.json')).json();
-    const fetched = list.filter((/** @type {any} */ { stage }) => stage < 3);
-    return (await store.keys()).length >= fetched.length;
-  });
+  await page.locator('[data-kept]').waitFor({ timeout: Patience });
   await page.close();
   /** @type {number[]} */
   const again = [];
@@ -181,7 +190,12 @@ async function reactions() {
   const clicks = [];
   for (let round = 0; round < 4 * Rounds; ++round) {
     const { x, y } = points[round % points.length];
-    await page.mouse.click(x, y);
+    // A learner's pointer stands on a word before it is pressed.
+    await page.mouse.move(x, y);
+    await page.waitForTimeout(SettleMs);
+    await taken();
+    await page.mouse.down();
+    await page.mouse.up();
     // An entry may close by itself before it is seen here.
     const entry = page.locator('#c-RHD .line').first();
     await entry.waitFor({ timeout: LongMs }).catch(() => undefined);
