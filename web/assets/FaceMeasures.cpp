@@ -117,7 +117,7 @@ class FaceWriter {
   void write() {
     const QFontMetricsF metrics(font_);
     out_ << unitsPerEm_ << rounded(metrics.ascent()) << rounded(metrics.descent())
-         << rounded(metrics.averageCharWidth()) << rounded(metrics.capHeight());
+         << rounded(metrics.averageCharWidth());
     for (const char16_t letter : letters_) {
       const bool shows = letter != NoWidth && letter != JoinsWords && letter != NothingToSee;
       out_ << (shows ? advanceOf(QString(QChar(letter))) : std::int16_t{0})

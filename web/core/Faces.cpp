@@ -94,7 +94,6 @@ Faces::Faces(std::span<const unsigned char> bytes) : numbers_(Letters) {
     each.ascent = reader.signedNumber();
     each.descent = reader.signedNumber();
     each.averageWidth = reader.signedNumber();
-    each.capHeight = reader.signedNumber();
     for (std::size_t at = 0; at < letters; ++at) {
       each.advances.push_back(reader.signedNumber());
       each.rightBearings.push_back(reader.signedNumber());
@@ -132,10 +131,6 @@ double Faces::descent(Face face, int size) const noexcept {
 
 double Faces::lineHeight(Face face, int size) const noexcept {
   return std::max(ascent(face, size) + descent(face, size), size * LinePitch);
-}
-
-double Faces::capHeight(Face face, int size) const noexcept {
-  return scaled(of(face).capHeight, size, of(face).unitsPerEm);
 }
 
 double Faces::averageWidth(Face face, int size) const noexcept {

@@ -61,7 +61,6 @@ class Faces {
   /// From a line's letters to the pen's level.
   [[nodiscard]] double ascent(Face face, int size) const noexcept;
   [[nodiscard]] double descent(Face face, int size) const noexcept;
-  [[nodiscard]] double capHeight(Face face, int size) const noexcept;
   [[nodiscard]] double averageWidth(Face face, int size) const noexcept;
 
   /// Whether a line may break between two letters that stand together, or between which there are
@@ -76,7 +75,6 @@ class Faces {
     int ascent = 0;
     int descent = 0;
     int averageWidth = 0;
-    int capHeight = 0;
     std::vector<std::int16_t> advances;
     std::vector<std::int16_t> rightBearings;
     PairTable kerning;

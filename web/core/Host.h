@@ -7,16 +7,11 @@
 #include <optional>
 
 extern "C" {
-/// Milliseconds since some fixed moment.
-double talvoraNow();
 /// Returns when the page has told something or the time is over; less than 0 waits for ever.
 void talvoraWait(double ms);
 int talvoraTake(int* into);
 /// Sends the page a message, which is JSON in UTF-8.
 void talvoraTell(const char* text, std::size_t length);
-unsigned talvoraSeed();
-/// Year, month, day, hour, minute and second of local time.
-void talvoraMoment(int* into);
 /// Whether the page still speaks what it was given, or plays a recording.
 int talvoraSpeaks();
 int talvoraPlays();

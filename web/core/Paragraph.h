@@ -54,7 +54,6 @@ class Paragraph {
   /// The middle of the bullet and its radius; nothing where there is none.
   [[nodiscard]] bool hasBullet() const noexcept { return bullet_ && !units_.empty(); }
   [[nodiscard]] Box bulletBox() const;
-  [[nodiscard]] const CharStyle& firstStyle() const noexcept { return styles_.front(); }
 
  private:
   /// A run of the paragraph, with what its letters measure.

@@ -88,19 +88,16 @@ class ComingBytes final : public FileMapping {
   mutable std::vector<unsigned char> bytes_;
 };
 
-FileStatus fileOfSize(int size) {
-  FileStatus status;
-  status.kind = FileStatus::Kind::File;
-  status.size = static_cast<std::size_t>(size);
-  return status;
-}
-
 /// Reads what there is of a stretch of a file.
 class SizedFile : public OpenFile {
  public:
   [[nodiscard]] FileStatus status(std::error_code& error) override {
+    FileStatus status;
     error = outcome(size());
-    return error ? FileStatus() : fileOfSize(size());
+    if (error) return status;
+    status.kind = FileStatus::Kind::File;
+    status.size = static_cast<std::size_t>(size());
+    return status;
   }
   [[nodiscard]] std::size_t read(std::size_t offset, std::span<unsigned char> into,
                                  std::error_code& error) override {
@@ -199,18 +196,14 @@ std::unique_ptr<OpenFile> WebFiles::open(const std::string& path, OpenFor purpos
 
 FileStatus WebFiles::status(const std::string& path, std::error_code& error) {
   error = {};
+  FileStatus status;
+  std::error_code missing;
   if (isFolder(path)) {
-    FileStatus folder;
-    folder.kind = FileStatus::Kind::Folder;
-    return folder;
+    status.kind = FileStatus::Kind::Folder;
+  } else if (const auto file = open(path, OpenFor::Reading, missing)) {
+    status = file->status(error);
   }
-  if (const auto name = below(PackFolder, path)) {
-    const int number = talvoraPackFind(name->data(), name->size());
-    return number < 0 ? FileStatus() : fileOfSize(talvoraPackSize(number));
-  }
-  const auto name = below(LearnerFolder, path);
-  const int size = name ? own("size", *name) : -1;
-  return size < 0 ? FileStatus() : fileOfSize(size);
+  return status;
 }
 
 std::string WebFiles::followLinks(const std::string& path, std::error_code& error) {

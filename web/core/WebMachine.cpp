@@ -6,6 +6,7 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <ctime>
 #include <utility>
 
 namespace talvora::web {
@@ -28,7 +29,7 @@ bool isInput(EventKind kind) {
 // -- What the page tells.
 
 void Inbox::note(const Event& event) {
-  if (isInput(event.kind)) lastInput_ = talvoraNow();
+  if (isInput(event.kind)) lastInput_ = emscripten_get_now();
   const bool repeats = event.kind == EventKind::KeyDown && event.extra != 0;
   // A key that is held down while the program sleeps counts once.
   if (repeats && asleep_) return;
@@ -101,8 +102,8 @@ std::optional<bool> Inbox::takeAnswer() {
 Flow WebClock::Sleep(int ms) {
   if (ms > 0 && !inbox_.closeWanted()) {
     inbox_.paint();
-    const double end = talvoraNow() + ms;
-    for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - talvoraNow())
+    const double end = emscripten_get_now() + ms;
+    for (double left = ms; left > 0 && !inbox_.closeWanted(); left = end - emscripten_get_now())
       inbox_.sleep(left);
   }
   return inbox_.closeWanted() ? Flow::Interrupt : Flow::Continue;
@@ -124,21 +125,21 @@ Flow WebEventLoop::letEventsRunUntilNextFrame() {
   inbox_.gather();
   if (!inbox_.hasNext()) {
     const bool rests = inbox_.quietMs() > RestAfterMs;
-    const double wait = std::clamp(nextFrame_ - talvoraNow(), 0.0, FrameMs);
+    const double wait = std::clamp(nextFrame_ - emscripten_get_now(), 0.0, FrameMs);
     inbox_.wait(rests ? ForEver : wait);
-    nextFrame_ = talvoraNow() + FrameMs;
+    nextFrame_ = emscripten_get_now() + FrameMs;
   }
   pump();
   return flow();
 }
 
 void WebScreen::RefreshStep() {
-  const double now = talvoraNow();
+  const double now = emscripten_get_now();
   // A step that comes much later than the one before begins a movement of its own.
   if (now > nextStep_ + LongestMovementPauseMs) nextStep_ = now;
   const double due = std::exchange(nextStep_, nextStep_ + FrameMs);
   if (now > due + FrameMs) return;
-  for (double left = due - now; left > 0; left = due - talvoraNow())
+  for (double left = due - now; left > 0; left = due - emscripten_get_now())
     inbox_.sleep(left);
   inbox_.paint();
 }
@@ -227,9 +228,9 @@ void WebNarrator::answerJudged(Verdict verdict) {
 }
 
 Moment WebCalendar::now() const {
-  std::array<int, 6> parts{};
-  talvoraMoment(parts.data());
-  return {parts[0], parts[1], parts[2], parts[3], parts[4], parts[5]};
+  const std::time_t seconds = std::time(nullptr);
+  const std::tm& now = *std::localtime(&seconds);
+  return {now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec};
 }
 
 } // namespace talvora::web

@@ -5,6 +5,8 @@
 #include "fronts/KeyTable.h"
 #include "platform/Platform.h"
 
+#include <emscripten.h>
+
 #include <deque>
 #include <functional>
 #include <string>
@@ -37,7 +39,7 @@ class Inbox {
   [[nodiscard]] bool closeWanted() const noexcept { return closeWanted_; }
   void closeDelivered() noexcept { closeWanted_ = false; }
   /// Milliseconds since the learner last touched anything.
-  [[nodiscard]] double quietMs() const { return talvoraNow() - lastInput_; }
+  [[nodiscard]] double quietMs() const { return emscripten_get_now() - lastInput_; }
   /// Takes the answer to a box out of what has come.
   [[nodiscard]] std::optional<bool> takeAnswer();
 
@@ -64,7 +66,7 @@ class WebClock final : public Clock {
   explicit WebClock(Inbox& inbox) : inbox_(inbox) {}
 
   [[nodiscard]] std::int64_t nowMs() const override {
-    return static_cast<std::int64_t>(talvoraNow());
+    return static_cast<std::int64_t>(emscripten_get_now());
   }
   [[nodiscard]] Flow Sleep(int ms) override;
 

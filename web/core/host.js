@@ -1,9 +1,6 @@
 // What the core asks of its worker: each call goes to `Module.host`, which the worker gives along. Plain
 // functions, since that is what the linker of this WebAssembly can copy.
 mergeInto(LibraryManager.library, {
-  talvoraNow: function () {
-    return performance.now();
-  },
   talvoraWait: function (ms) {
     return Module.host.wait(ms);
   },
@@ -12,23 +9,6 @@ mergeInto(LibraryManager.library, {
   },
   talvoraTell: function (text, length) {
     return Module.host.tell(UTF8ToString(text, length));
-  },
-  talvoraSeed: function () {
-    return crypto.getRandomValues(new Uint32Array(1))[0];
-  },
-  talvoraMoment: function (into) {
-    const now = new Date();
-    HEAP32.set(
-      [
-        now.getFullYear(),
-        now.getMonth() + 1,
-        now.getDate(),
-        now.getHours(),
-        now.getMinutes(),
-        now.getSeconds(),
-      ],
-      into >> 2,
-    );
   },
   talvoraSpeaks: function () {
     return Module.host.speaks();

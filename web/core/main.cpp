@@ -13,6 +13,7 @@
 
 #include <exception>
 #include <memory>
+#include <random>
 #include <utility>
 
 namespace talvora::web {
@@ -119,7 +120,7 @@ class Run {
   WebClipboard clipboard_;
   WebInstallation installation_;
   WebNarrator narrator_;
-  Random random_{talvoraSeed()};
+  Random random_{std::random_device{}()};
   WebFiles files_;
   WebCalendar calendar_;
   Platform platform_{clock_,        events_,   input_,  speech_, wave_,

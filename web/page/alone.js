@@ -34,8 +34,7 @@ export function take(into, at) {
  * @param {(waiting: boolean) => void} waits
  */
 export function comingFrom(port, waits) {
-  /** @type {Map<number, Uint8Array>} */
-  const contents = new Map();
+  const contents = /** @type {Map<number, Uint8Array>} */ (new Map());
   let came = () => {};
   port.onmessage = ({ data }) => {
     contents.set(data.file, data.bytes);

@@ -57,8 +57,7 @@ export class Carry {
     this.text = byId('carryText');
     this.take = byId('carryTake');
     const file = /** @type {HTMLInputElement} */ (byId('carryFile'));
-    /** @type {Files | undefined} */
-    this.came = undefined;
+    this.came = /** @type {Files | undefined} */ (undefined);
     onClick('carryOpen', () => this.open());
     onClick('carryClose', () => this.dialog.close());
     onClick('carryOut', () => void this.save());

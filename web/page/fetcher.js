@@ -49,24 +49,16 @@ async function fetchStage({ entries, wanted, contents, arrived }, port, stage) {
   const signs = new Int32Array(arrived);
   const all = files.reduce((sum, file) => sum + entries[file].packed, 0);
   let came = 0;
-  /** @type {Map<number, Uint8Array>} */
-  const fetched = new Map();
+  const fetched = /** @type {Map<number, Uint8Array>} */ (new Map());
   /** @param {number} file */
   const fetchFile = async (file) => {
     const bytes = new Uint8Array(contents[file] ?? entries[file].size);
-    await insist(async () => {
-      let its = 0;
-      try {
-        await fetchInto(entries[file], bytes, (count) => {
-          its += count;
-          came += count;
-          postMessage({ do: 'progress', stage, part: Math.min(1, came / all) });
-        });
-      } catch (fault) {
-        came -= its;
-        throw fault;
-      }
-    });
+    await insist(() =>
+      fetchInto(entries[file], bytes, (count) => {
+        came += count;
+        postMessage({ do: 'progress', stage, part: Math.min(1, came / all) });
+      }),
+    );
     fetched.set(file, bytes);
     Atomics.store(signs, file, 1);
     Atomics.notify(signs, file);

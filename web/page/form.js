@@ -103,8 +103,7 @@ export class FormView {
   /** @param {HTMLElement} root */
   constructor(root) {
     this.root = root;
-    /** @type {Map<string, HTMLElement>} */
-    this.elements = new Map();
+    this.elements = /** @type {Map<string, HTMLElement>} */ (new Map());
     /** Of the surfaces, lines by their numbers and signs by their looks. @type {WeakMap<HTMLElement, Map<string, HTMLElement>>} */
     this.parts = new WeakMap();
   }
@@ -162,8 +161,7 @@ export class FormView {
     element.classList.toggle('dark', control.dark);
     describe(element, control);
     const before = this.parts.get(element) ?? new Map();
-    /** @type {Map<string, HTMLElement>} */
-    const now = new Map();
+    const now = /** @type {Map<string, HTMLElement>} */ (new Map());
     /** What was painted like this stays; two may look alike. @param {string} look @param {() => HTMLElement} make */
     const part = (look, make) => {
       const key = now.has(look) ? `${look} ${now.size}` : look;
@@ -173,12 +171,9 @@ export class FormView {
     };
     const sign = (/** @type {string} */ name, /** @type {number[]} */ box, colour = '') =>
       part(`${name} ${box} ${colour}`, () => makeSign(name, box, colour));
-    /** @type {HTMLElement[]} */
-    const under = [];
-    /** @type {HTMLElement[]} */
-    const rows = [];
-    /** @type {HTMLElement[]} */
-    const over = [];
+    const under = /** @type {HTMLElement[]} */ ([]);
+    const rows = /** @type {HTMLElement[]} */ ([]);
+    const over = /** @type {HTMLElement[]} */ ([]);
     /** @type {number[] | undefined} */
     let current;
     for (const line of /** @type {Line[]} */ (control.lines)) {

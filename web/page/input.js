@@ -88,10 +88,8 @@ export class Input {
     this.onLetGo = () => {};
     /** The press that a second one may follow. @type {{at: number, x: number, y: number} | null} */
     this.lastPress = null;
-    /** @type {Map<number, Finger>} */
-    this.fingers = new Map();
-    /** @type {ReturnType<typeof setTimeout> | undefined} */
-    this.longPress = undefined;
+    this.fingers = /** @type {Map<number, Finger>} */ (new Map());
+    this.longPress = /** @type {ReturnType<typeof setTimeout> | undefined} */ (undefined);
     this.tapIsOver = false;
     this.twoFingersAt = -1;
     this.heldShift = 0;

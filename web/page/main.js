@@ -15,6 +15,7 @@ const VirtualHeight = 768;
 const CaptionPart = 0.03;
 const LockTries = 10;
 const LockPauseMs = 200;
+const Failed = 'Chương trình gặp lỗi nên phải dừng lại.';
 
 /** The virtual screen: 768 pixels high, as wide as the window's shape says within its bounds. */
 function virtualScreen() {
@@ -91,7 +92,6 @@ function start({ worker, fetcher, port }, entries) {
   const events = ring && new Int32Array(ring);
   const soundsSize = Sounds.All * Int32Array.BYTES_PER_ELEMENT;
   const sounds = sharing ? new SharedArrayBuffer(soundsSize) : new ArrayBuffer(soundsSize);
-  const waiting = byId('waiting');
   fetcher.onmessage = ({ data }) => {
     if (data.do === 'progress') {
       const bar = data.stage === Stage.First ? 'progress' : 'waited';
@@ -163,58 +163,38 @@ function start({ worker, fetcher, port }, entries) {
     box.showModal();
     byId(!question || message.yes ? 'yes' : 'no').focus();
   };
-  worker.onmessage = ({ data }) => {
-    switch (data.do) {
-      case 'paint':
-        if (!byId('loading').hidden) {
-          byId('loading').hidden = true;
-          keepForNextTime();
-          sound.prepare();
-        }
-        if (data.caption !== undefined) strip.setCaption(data.caption);
-        strip.setPlace(data.menu);
-        byId('voicesOpen').hidden = data.focus !== 'RAmthanh' || voices.list().length === 0;
-        view.paint(data);
-        break;
-      case 'waiting':
-        waiting.hidden = !data.waiting;
-        if (data.waiting) announce('Đang tải từ điển…');
-        break;
-      case 'notKept':
-        strip.warn('Trình duyệt không cho lưu: từ vựng sẽ mất khi đóng trang.');
-        break;
-      case 'kept':
-        kept(data.files);
-        break;
-      case 'ask':
-        showBox(data, true);
-        break;
-      case 'tell':
-        showBox(data, false);
-        break;
-      case 'notice':
-        strip.notice(data.text);
-        break;
-      case 'pointer':
-        byId('form').style.cursor = data.text;
-        break;
-      case 'help':
-        strip.setHelp(data.text);
-        break;
-      case 'say':
-        announce(data.text);
-        break;
-      case 'ended':
-        showEnd('Talvora đã đóng.');
-        break;
-      case 'failed':
-        showEnd(`Chương trình gặp lỗi nên phải dừng lại. Từ vựng bạn đã lưu vẫn còn. ${data.text}`);
-        break;
-      default:
-        sound.take(data);
+  /** @param {any} picture */
+  const paint = (picture) => {
+    if (!byId('loading').hidden) {
+      byId('loading').hidden = true;
+      keepForNextTime();
+      sound.prepare();
     }
+    if (picture.caption !== undefined) strip.setCaption(picture.caption);
+    strip.setPlace(picture.menu);
+    byId('voicesOpen').hidden = picture.focus !== 'RAmthanh' || voices.list().length === 0;
+    view.paint(picture);
   };
-  worker.onerror = (fault) => showEnd(`Chương trình gặp lỗi nên phải dừng lại. ${fault.message}`);
+  /** What the program tells; all else sounds. @type {Record<string, (message: any) => void>} */
+  const deeds = {
+    paint,
+    waiting: ({ waiting }) => {
+      byId('waiting').hidden = !waiting;
+      if (waiting) announce('Đang tải từ điển…');
+    },
+    notKept: () => strip.warn('Trình duyệt không cho lưu: từ vựng sẽ mất khi đóng trang.'),
+    kept: ({ files }) => kept(files),
+    ask: (message) => showBox(message, true),
+    tell: (message) => showBox(message, false),
+    notice: ({ text }) => strip.notice(text),
+    pointer: ({ text }) => (byId('form').style.cursor = text),
+    help: ({ text }) => strip.setHelp(text),
+    say: ({ text }) => announce(text),
+    ended: () => showEnd('Talvora đã đóng.'),
+    failed: ({ text }) => showEnd(`${Failed} Từ vựng bạn đã lưu vẫn còn. ${text}`),
+  };
+  worker.onmessage = ({ data }) => (deeds[data.do] ?? ((message) => sound.take(message)))(data);
+  worker.onerror = (fault) => showEnd(`${Failed} ${fault.message}`);
   worker.postMessage({ do: 'begin', ring, port, sounds, entries, ...screen }, [port]);
 }
 

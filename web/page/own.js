@@ -119,8 +119,7 @@ export class OwnFiles {
   /** @param {Place[]} logs two of them */
   constructor(logs) {
     this.logs = logs;
-    /** @type {Map<string, MemoryPlace>} */
-    this.files = new Map();
+    this.files = /** @type {Map<string, MemoryPlace>} */ (new Map());
     const contents = logs.map(allOf);
     const generations = contents.map(generationOf);
     this.current = generations[1] > generations[0] ? 1 : 0;
@@ -212,8 +211,7 @@ export class OwnFiles {
   rewrite(files) {
     const other = 1 - this.current;
     const log = this.logs[other];
-    /** @type {Map<string, MemoryPlace>} */
-    const fresh = new Map();
+    const fresh = /** @type {Map<string, MemoryPlace>} */ (new Map());
     const done = OwnFiles.tried(() => {
       log.truncate(0);
       let end = HeaderSize;

@@ -38,8 +38,7 @@ async function openShelf(stage) {
 
 /** Opens what is kept. @param {Entry[]} entries */
 export async function openKept(entries) {
-  /** @type {Kept} */
-  const kept = new Map();
+  const kept = /** @type {Kept} */ (new Map());
   const openStage = async (/** @type {number} */ stage) => {
     const { names, starts, size } = shelfOf(entries, stage);
     const place = await openShelf(stage);
@@ -77,8 +76,7 @@ export function orderOf(entries, kept) {
   const wanted = [...entries.keys()].filter(
     (file) => Read.includes(entries[file].stage) && !kept.has(file),
   );
-  /** @type {SharedArrayBuffer[]} */
-  const contents = [];
+  const contents = /** @type {SharedArrayBuffer[]} */ ([]);
   if (sharing)
     for (const file of wanted) contents[file] = new SharedArrayBuffer(entries[file].size);
   const arrived = sharing ? new SharedArrayBuffer(numbers) : new ArrayBuffer(numbers);

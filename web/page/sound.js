@@ -21,20 +21,16 @@ export class Sound {
     this.onEnd = onEnd;
     this.state = new Int32Array(sounds);
     this.entries = entries;
-    /** @type {AudioContext | undefined} */
-    this.device = undefined;
+    this.device = /** @type {AudioContext | undefined} */ (undefined);
     /** When what was given to the device is over, on its clock in seconds. */
     this.deviceUntil = 0;
     /** The same on the page's clock, in milliseconds. */
     this.until = 0;
-    /** @type {Set<AudioBufferSourceNode>} */
-    this.speech = new Set();
-    /** @type {AudioBufferSourceNode | undefined} */
-    this.recordingSource = undefined;
+    this.speech = /** @type {Set<AudioBufferSourceNode>} */ (new Set());
+    this.recordingSource = /** @type {AudioBufferSourceNode | undefined} */ (undefined);
     /** @type {Promise<AudioBuffer | undefined>} */
     this.recording = Promise.resolve(undefined);
-    /** @type {Worker | undefined} */
-    this.speaker = undefined;
+    this.speaker = /** @type {Worker | undefined} */ (undefined);
     for (const kind of ['pointerup', 'keydown'])
       addEventListener(kind, () => this.openDevice(), { capture: true });
   }

@@ -13,10 +13,8 @@ export class Strip {
     this.news = '';
     this.help = '';
     this.warning = '';
-    /** @type {ReturnType<typeof setTimeout> | undefined} */
-    this.emphasis = undefined;
-    /** @type {ReturnType<typeof setTimeout> | undefined} */
-    this.noticeEnd = undefined;
+    this.emphasis = /** @type {ReturnType<typeof setTimeout> | undefined} */ (undefined);
+    this.noticeEnd = /** @type {ReturnType<typeof setTimeout> | undefined} */ (undefined);
   }
 
   /** What is ahead of the caption's padding is the typed word. @param {string} caption */

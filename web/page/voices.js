@@ -5,18 +5,22 @@ const Kept = 'talvora-voice';
 const NaturalSpeed = 175; // words a minute
 const Sample = 'This is my voice.';
 
+/** Nothing in a browser that keeps nothing. */
+function storage() {
+  try {
+    return localStorage;
+  } catch {
+    return undefined;
+  }
+}
+
 export class Voices {
   constructor() {
     this.synthesis = globalThis.speechSynthesis;
     this.dialog = /** @type {HTMLDialogElement} */ (byId('voices'));
     this.choice = /** @type {HTMLSelectElement} */ (byId('voice'));
     /** What the learner has chosen: the address of a voice; empty is the program's own. */
-    this.wanted = '';
-    try {
-      this.wanted = localStorage.getItem(Kept) ?? '';
-    } catch {
-      // A browser that keeps nothing asks anew each time.
-    }
+    this.wanted = storage()?.getItem(Kept) ?? '';
     onClick('voicesOpen', () => this.open());
     onClick('voicesClose', () => this.dialog.close());
     this.choice.addEventListener('change', () => this.choose(this.choice.value));
@@ -38,13 +42,9 @@ export class Voices {
   /** @param {string} address */
   choose(address) {
     this.wanted = address;
-    try {
-      localStorage.setItem(Kept, address);
-    } catch {
-      // It holds for as long as the page is open.
-    }
     this.synthesis.cancel();
     void this.say(Sample, NaturalSpeed);
+    storage()?.setItem(Kept, address);
   }
 
   /** The voice of the browser that speaks; none where the program's own does. */

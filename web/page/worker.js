@@ -14,8 +14,7 @@ const making = createTalvora({
 });
 const measuring = fetch('faces.bin').then((reply) => reply.arrayBuffer());
 
-/** @type {any} */
-let program = null;
+let program = /** @type {any} */ (null);
 let runs = false;
 /** @type {Int32Array} */
 let sounds = new Int32Array(Sounds.All);
@@ -28,19 +27,13 @@ async function waysOf({ ring, port, entries }) {
   const kept = await openKept(entries);
   const order = orderOf(entries, kept);
   port.postMessage(order);
-  if (ring === undefined)
-    return {
-      wait: alone.wait,
-      take: alone.take,
-      pack: readerOf(entries, kept, alone.comingFrom(port, waits)),
-    };
-  const events = new Int32Array(ring);
+  const events = ring && new Int32Array(ring);
+  const coming = events ? comingFrom(order, waits) : alone.comingFrom(port, waits);
   return {
-    /** @param {number} ms */
-    wait: (ms) => wait(events, ms),
+    wait: events ? (/** @type {number} */ ms) => wait(events, ms) : alone.wait,
     /** @param {Int32Array} into @param {number} at */
-    take: (into, at) => take(events, into, at),
-    pack: readerOf(entries, kept, comingFrom(order, waits)),
+    take: (into, at) => (events ? take(events, into, at) : alone.take(into, at)),
+    pack: readerOf(entries, kept, coming),
   };
 }
 

@@ -32,10 +32,8 @@ const numbers = (shape, ...values) =>
 
 /** The files as an archive, as they are. @param {Map<string, Uint8Array>} files */
 export function zipOf(files) {
-  /** @type {Uint8Array[]} */
-  const contents = [];
-  /** @type {Uint8Array[]} */
-  const entries = [];
+  const contents = /** @type {Uint8Array[]} */ ([]);
+  const entries = /** @type {Uint8Array[]} */ ([]);
   let at = 0;
   for (const [name, bytes] of files) {
     const letters = new TextEncoder().encode(name);
@@ -76,8 +74,7 @@ export async function filesOf(archive, isWanted, most) {
   const view = new DataView(archive.buffer, archive.byteOffset, archive.length);
   let end = archive.length - EndSize;
   while (end >= 0 && view.getUint32(end, true) !== EndMagic) --end;
-  /** @type {Map<string, Uint8Array>} */
-  const files = new Map();
+  const files = /** @type {Map<string, Uint8Array>} */ (new Map());
   let at = view.getUint32(end + 16, true);
   for (let left = view.getUint16(end + 10, true); left > 0; --left) {
     if (view.getUint32(at, true) !== EntryMagic) throw new RangeError();
