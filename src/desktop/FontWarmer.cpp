@@ -42,24 +42,35 @@ std::vector<CharStyle> stylesOf(const ReadingControls& controls) {
     style.italic = italic;
     if (std::find(styles.begin(), styles.end(), style) == styles.end()) styles.push_back(style);
   };
-  for (const Surface* page : {&controls.RHD, &controls.R2, &controls.R1, &controls.RDOS}) {
-    FontSpec font = page->Font();
+  const auto addBoth = [&](FontSpec font) {
     add(font, false);
     font.bold = !font.bold;
     add(font, false);
-  }
+  };
+  addBoth(controls.RHD.Font());
   add(controls.RHD.Font(), true);
+  // What a section has not given its size is not about to be seen.
+  if (controls.R2.Font().size != FontSpec().size) addBoth(controls.R2.Font());
+  add(controls.RDOS.Font(), false);
   return styles;
 }
 
+FontWarmer::FontWarmer(LetterAtlas& letters) : atlas_(letters) {
+  pace_.setSingleShot(true);
+  QObject::connect(&pace_, &QTimer::timeout, this, [this] { step(); });
+}
+
 void FontWarmer::warm(std::vector<CharStyle> styles, double pixelsPerTwip) {
+  // A face that came later would take away what is ready by then.
+  loadFonts();
+  if (std::exchange(scale_, pixelsPerTwip) != pixelsPerTwip) ready_.clear();
+  std::erase_if(styles, [this](const CharStyle& style) {
+    return std::find(ready_.begin(), ready_.end(), style) != ready_.end();
+  });
   styles_ = std::move(styles);
-  scale_ = pixelsPerTwip;
   letters_ = everyLetter();
   style_ = 0;
   letter_ = 0;
-  pace_.setSingleShot(true);
-  QObject::connect(&pace_, &QTimer::timeout, this, [this] { step(); });
   pace_.start(StepMs);
 }
 
@@ -69,7 +80,9 @@ void FontWarmer::step() {
   letter_ += LettersAtOnce;
   if (letter_ >= letters_.size()) {
     letter_ = 0;
-    ++style_;
+    ready_.push_back(styles_[style_++]);
+    // Letters that have their pictures are not read again.
+    if (style_ == styles_.size()) letFaceMemoryGo();
   }
   pace_.start(StepMs);
 }

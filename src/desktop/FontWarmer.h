@@ -13,7 +13,8 @@
 
 namespace talvora {
 
-/// The styles that pages are mostly written in: first those of the popup, which a click waits for.
+/// The styles that the next pages are mostly written in: those of the popup, which a click waits
+/// for, of the text as soon as its list is open, and of the hint bar.
 [[nodiscard]] std::vector<CharStyle> stylesOf(const ReadingControls& controls);
 
 /// Loads faces, shapes the Vietnamese letters and has Qt draw their pictures in the scale of the
@@ -21,9 +22,9 @@ namespace talvora {
 class FontWarmer final : public QObject {
  public:
   /// Large letters become pictures of the atlas, which lives as long as this does.
-  explicit FontWarmer(LetterAtlas& letters) : atlas_(letters) {}
+  explicit FontWarmer(LetterAtlas& letters);
 
-  /// Goes from style to style in the order given.
+  /// Goes from style to style in the order given; those that are ready already cost nothing.
   void warm(std::vector<CharStyle> styles, double pixelsPerTwip);
   /// All that is left, at once.
   void finish();
@@ -34,9 +35,10 @@ class FontWarmer final : public QObject {
   void draw(const QString& letters);
 
   LetterAtlas& atlas_;
-  std::vector<CharStyle> styles_;
+  std::vector<CharStyle> styles_; ///< to be made ready
+  std::vector<CharStyle> ready_;  ///< in this scale
   QString letters_;
-  double scale_ = 1;
+  double scale_ = 0;
   std::size_t style_ = 0;
   qsizetype letter_ = 0;
   QTimer pace_;

@@ -9,6 +9,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <span>
+#include <sys/mman.h>
+#include <unistd.h>
+#include <vector>
 
 // The resource's initialiser stands outside every namespace.
 static void initFontResource() {
@@ -23,13 +28,31 @@ constexpr double TwipsPerPoint = 20;
 constexpr double LinePitch = 1.32;     ///< in sizes of the letters
 constexpr double SmallestTitle = 22.5; // points
 
+using Bytes = std::span<const uchar>;
+
+/// The faces that are loaded, where they lie in the program's file.
+std::vector<Bytes>& loadedFaces() {
+  static std::vector<Bytes> faces;
+  return faces;
+}
+
+/// Has the toolkit look through the faces of the machine: of two of one name it takes the one that
+/// it came to know later, which is to be ours.
+void meetFacesOfMachine() {
+  static const bool met = !QFontDatabase::families().isEmpty();
+  static_cast<void>(met);
+}
+
 /// Loads an embedded face and returns its family. The face is read where it lies in the program:
 /// loaded as a file it would be copied twice.
 QString load(const char* file) {
   initFontResource();
+  meetFacesOfMachine();
   const QResource face(QStringLiteral(":/fonts/") + QLatin1String(file));
+  const Bytes bytes(face.data(), static_cast<std::size_t>(face.size()));
+  loadedFaces().push_back(bytes);
   const int id = QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(
-      reinterpret_cast<const char*>(face.data()), static_cast<qsizetype>(face.size())));
+      reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())));
   return id < 0 ? QString() : QFontDatabase::applicationFontFamilies(id).value(0);
 }
 
@@ -102,9 +125,28 @@ QFont makeFont(const FontSpec& font, bool italic) {
 
 } // namespace
 
-void loadFonts() {
+void loadMenuFonts() {
   schola();
+  scholaBold();
   sans();
+  sansSemibold();
+}
+
+void loadFonts() {
+  loadMenuFonts();
+  sansBold();
+  sansItalic();
+  sansSemiboldItalic();
+}
+
+void letFaceMemoryGo() {
+  const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  for (const Bytes face : loadedFaces()) {
+    const auto begin = reinterpret_cast<std::uintptr_t>(face.data());
+    const std::uintptr_t from = (begin + page - 1) / page * page;
+    const std::uintptr_t to = (begin + face.size()) / page * page;
+    if (from < to) ::madvise(reinterpret_cast<void*>(from), to - from, MADV_DONTNEED); // NOLINT
+  }
 }
 
 QFont fontFor(const FontSpec& font) {

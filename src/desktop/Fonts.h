@@ -8,8 +8,15 @@
 
 namespace talvora {
 
-/// Loads the faces of the menu. To be called once there is an application.
+/// Loads the faces of the menu at once: with each face that is loaded, the toolkit forgets what it
+/// has made ready of the others. To be called once there is an application.
+void loadMenuFonts();
+/// Loads every face.
 void loadFonts();
+
+/// Gives back the memory that reading the faces has taken up; what is read again comes from the
+/// program's file again.
+void letFaceMemoryGo();
 
 /// The face of a font name: a Century Schoolbook for "Vni-centur", a plain sans for any other. Its
 /// pixel is a twip, so that what is laid out in it is measured in twips.

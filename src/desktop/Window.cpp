@@ -35,7 +35,7 @@ const QColor LetterboxColour(0x12, 0x22, 0x2E);
 constexpr int ExposeMs = 200;
 // A log-out that has not come by then was called off.
 constexpr qint64 SessionEndMs = 60'000;
-// Letters are made ready when the menu stands.
+// Letters are made ready when the menu, or a page, has stood for a while.
 constexpr int WarmAfterMs = 700;
 
 /// Ends a wait when the window system shows the window.
@@ -62,6 +62,9 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
       mouseKeys_(program.form(), program.input(),
                  [&bridge](const std::function<void()>& deed) { bridge.deliver(deed); }),
       warmer_(machine.layout.letters()) {
+  warmSoon_.setSingleShot(true);
+  warmSoon_.setInterval(WarmAfterMs);
+  QObject::connect(&warmSoon_, &QTimer::timeout, this, [this] { warmFonts(); });
   setWindowTitle(QStringLiteral("Talvora"));
   QIcon icon;
   for (const int size : {16, 32, 48, 128})
@@ -106,6 +109,7 @@ void Window::connectView() {
     const bool onMenu = as<Button>(program_.form().ActiveControl()) != nullptr;
     strip_->setPlace(onMenu ? StripPlace::Menu : StripPlace::Page);
     machine_.gate.holdMovesWhileArrowDown(onMenu);
+    if (isVisible()) warmSoon_.start();
     if (onMenu) {
       QMetaObject::invokeMethod(
           this, [this] { settleHover(); }, Qt::QueuedConnection);
@@ -183,7 +187,7 @@ void Window::showOnScreen() {
     QTimer::singleShot(ExposeMs, &wait, &QEventLoop::quit);
     wait.exec();
   }
-  QTimer::singleShot(WarmAfterMs, this, [this] { warmFonts(); });
+  warmSoon_.start();
 }
 
 void Window::warmFonts() {

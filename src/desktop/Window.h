@@ -12,6 +12,7 @@
 #include "program/Program.h"
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <QWidget>
 
 namespace talvora {
@@ -78,6 +79,7 @@ class Window final : public QWidget {
   Announcer* announcer_ = nullptr; ///< owned by this widget
   MouseKeys mouseKeys_;
   FontWarmer warmer_;
+  QTimer warmSoon_;          ///< runs out when the letters of what is open are to be made ready
   double scale_ = 1;         ///< real pixels to a virtual one
   QPointF origin_;           ///< of the virtual screen in the window
   bool closeWanted_ = false; ///< the window was closed while the program slept

@@ -143,7 +143,7 @@ int exitCodeOf(talvora::Ending ending) {
 }
 
 talvora::Ending runProgram(const talvora::Folders& folders, const std::string& traceFile) {
-  talvora::loadFonts();
+  talvora::loadMenuFonts();
   talvora::DesktopMachine machine(talvora::virtualScreenFor(realScreenSize()),
                                   std::random_device{}(), folders.pack);
   talvora::Program program(machine.platform, folders);
