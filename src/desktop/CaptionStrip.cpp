@@ -17,7 +17,7 @@ namespace {
 constexpr int FewestPadding = 20;
 constexpr int NewsMs = 2000;
 constexpr double TextPart = 0.72; ///< of the strip's height
-const QString TypingMark = QStringLiteral("\u258F");
+constexpr int MarkParts = 8; ///< the mark behind a typed word is such a part of its letters wide
 
 /// A caption in the two pieces that its padding parts; without padding all is the title.
 struct CaptionPieces {
@@ -83,7 +83,7 @@ void CaptionStrip::setPlace(StripPlace place) {
 
 void CaptionStrip::setCaption(const QString& caption) {
   const CaptionPieces pieces = piecesOf(caption);
-  typed_->setText(pieces.typed.isEmpty() ? QString() : pieces.typed + TypingMark);
+  typed_->setText(pieces.typed);
   typed_->setAccessibleName(pieces.typed);
   setTitle(pieces.title);
   arrange();
@@ -172,7 +172,19 @@ void CaptionStrip::arrange() {
 }
 
 void CaptionStrip::paintEvent(QPaintEvent* event) {
-  QPainter(this).fillRect(event->rect(), QColor(palette::Strip));
+  QPainter painter(this);
+  painter.fillRect(event->rect(), QColor(palette::Strip));
+  if (typed_->isVisible()) painter.fillRect(typingMark(), QColor(palette::StripAmber));
+}
+
+// A rectangle and no letter: our faces have none for it, and to look through every font of the
+// machine takes long.
+QRect CaptionStrip::typingMark() const {
+  const QFontMetrics letters = typed_->fontMetrics();
+  QRect mark(0, 0, qMax(typed_->font().pixelSize() / MarkParts, 1), letters.height());
+  mark.moveCenter(typed_->geometry().center());
+  mark.moveLeft(typed_->x() + letters.horizontalAdvance(typed_->text()));
+  return mark;
 }
 
 } // namespace talvora

@@ -57,6 +57,8 @@ class CaptionStrip final : public QWidget {
   /// Gives every part its font and its place.
   void arrange();
   [[nodiscard]] QFont textFont(bool bold) const;
+  /// Where the mark behind the typed word stands.
+  [[nodiscard]] QRect typingMark() const;
 
   // Owned by this widget.
   QLabel* typed_;

@@ -1,5 +1,6 @@
 // The caption strip: what it shows of a caption, for how long, and what its buttons send.
 #include "desktop/CaptionStrip.h"
+#include "desktop/Palette.h"
 #include "desktop/StripButton.h"
 
 #include <QApplication>
@@ -76,6 +77,22 @@ TEST(CaptionStrip, TheLongestHelpFitsOnEveryScreen) {
           << label->text().toStdString() << " at " << screen.width();
     }
   }
+}
+
+TEST(CaptionStrip, AMarkStandsRightBehindTheTypedWord) {
+  CaptionStrip strip(nullptr);
+  strip.resize(1366, 23);
+  strip.setCaption(QStringLiteral("street") + Padding + QStringLiteral("TALVORA 2.4"));
+  strip.show();
+  const QLabel* typed = nullptr;
+  for (const QLabel* const label : strip.findChildren<QLabel*>())
+    if (label->text() == QStringLiteral("street")) typed = label;
+  ASSERT_NE(typed, nullptr);
+  const QImage picture = strip.grab().toImage();
+  const int behind = typed->x() + typed->fontMetrics().horizontalAdvance(typed->text());
+  const QColor amber(palette::StripAmber);
+  EXPECT_EQ(picture.pixelColor(behind, strip.height() / 2), amber);
+  EXPECT_NE(picture.pixelColor(behind + strip.height() / 4, strip.height() / 2), amber);
 }
 
 TEST(CaptionStrip, TheProgramsNameIsNoNews) {
