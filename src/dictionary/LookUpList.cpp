@@ -76,7 +76,7 @@ void LookUpList::MoDanhSachTu(char character) {
 void LookUpList::load() {
   shell_.messages.ThongBao("Loading Data...", 0);
   state_.places.waitkd = true;
-  controls_.RTD.LoadFile(words_.file());
+  controls_.RTD.LoadFile(words_.file(), words_.paragraphStarts());
   words_.examineCarets();
   state_.places.waitkd = false;
   shell_.messages.TatThongBao();

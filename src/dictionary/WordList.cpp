@@ -117,6 +117,12 @@ std::string_view WordList::Chu(int i) const noexcept {
   return withoutLineEnd({text_.data() + from, to - from}).substr(0, LongestWord);
 }
 
+std::vector<int> WordList::paragraphStarts() const {
+  std::vector<int> starts = starts_;
+  if (!text_.empty() && !endsLine(text_.back(), '\0')) starts.pop_back();
+  return starts;
+}
+
 void WordList::examineCarets() {
   // All of them are gone through while the list opens: each is read once, where it lies.
   constexpr std::size_t Record = IntegerSize * PartsOfRecord;

@@ -56,6 +56,8 @@ class WordList {
 
   /// The file of the lines.
   [[nodiscard]] const std::shared_ptr<const MappedFile>& file() const noexcept { return file_; }
+  /// Where the paragraphs of its text start: its lines, and the empty one behind the last line end.
+  [[nodiscard]] std::vector<int> paragraphStarts() const;
 
   void declare(Variables& variables) const;
 

@@ -7,8 +7,7 @@
 namespace talvora {
 
 Document::Document() {
-  text_.assign({});
-  resetAll({});
+  assign({});
 }
 
 // -- Text.
@@ -19,20 +18,26 @@ int Document::clamped(long long caret) const noexcept {
 
 void Document::assign(std::string_view text) {
   text_.assign(text);
-  resetAll(text);
+  resetAll(paragraphStartsIn(text));
 }
 
-void Document::adopt(const std::shared_ptr<const MappedFile>& file) {
+void Document::adopt(const std::shared_ptr<const MappedFile>& file, std::vector<int> starts) {
   text_.adopt(file);
-  resetAll(file->text());
+  const std::string_view text = file->text();
+  const bool known = !starts.empty() && text.size() == static_cast<std::size_t>(text_.length());
+  resetAll(known ? std::move(starts) : paragraphStartsIn(text));
 }
 
-void Document::resetAll(std::string_view text) {
+// Of a text that is too long only what the buffer took counts.
+std::vector<int> Document::paragraphStartsIn(std::string_view text) const {
+  return ParagraphTable::startsIn(text.substr(0, static_cast<std::size_t>(text_.length())));
+}
+
+void Document::resetAll(std::vector<int> paragraphStarts) {
   styles_.clear();
   paragraphStyles_.clear();
   runs_.assign(text_.length(), styles_.idOf(defaultStyle_));
-  paragraphs_.assign(text.substr(0, static_cast<std::size_t>(text_.length())),
-                     paragraphStyles_.idOf({}));
+  paragraphs_.assign(std::move(paragraphStarts), text_.length(), paragraphStyles_.idOf({}));
   ++revision_;
 }
 

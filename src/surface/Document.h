@@ -50,8 +50,9 @@ class Document {
 
   /// Makes the document new: one style, no paragraph attributes.
   void assign(std::string_view text);
-  /// The same with a file's memory, which is kept until the first change.
-  void adopt(const std::shared_ptr<const MappedFile>& file);
+  /// The same with a file's memory, which is kept until the first change, and with where its
+  /// paragraphs start; none when that is still to be found out.
+  void adopt(const std::shared_ptr<const MappedFile>& file, std::vector<int> starts);
   /// Gives a document that was just assigned the formatting of `text`.
   void format(const StyledText& text);
   DocumentEdit replace(int from, int to, std::string_view text, StyleId style);
@@ -98,7 +99,8 @@ class Document {
  private:
   friend class ParagraphRef;
 
-  void resetAll(std::string_view text);
+  [[nodiscard]] std::vector<int> paragraphStartsIn(std::string_view text) const;
+  void resetAll(std::vector<int> paragraphStarts);
 
   TextBuffer text_;
   RunTable runs_;

@@ -31,14 +31,18 @@ std::vector<int> startsAround(const TextBuffer& text, int from, std::string_view
 
 } // namespace
 
-void ParagraphTable::assign(std::string_view text, StyleId style) {
+std::vector<int> ParagraphTable::startsIn(std::string_view text) {
   std::vector<int> starts;
   starts.reserve(text.size() / UsualLine + 1);
   starts.push_back(0);
   appendLineStarts(text, 0, starts);
   if (!text.empty() && endsLine(text.back(), '\0')) starts.push_back(static_cast<int>(text.size()));
+  return starts;
+}
+
+void ParagraphTable::assign(std::vector<int> starts, int length, StyleId style) {
   styles_.assign(static_cast<int>(starts.size()), style);
-  starts_.assign(std::move(starts), static_cast<int>(text.size()));
+  starts_.assign(std::move(starts), length);
 }
 
 void ParagraphTable::replaced(int from, int to, std::string_view added, const TextBuffer& text) {

@@ -42,11 +42,12 @@ void Surface::TextRTF(const StyledText& text) {
   });
 }
 
-void Surface::LoadFile(const std::shared_ptr<const MappedFile>& file) {
+void Surface::LoadFile(const std::shared_ptr<const MappedFile>& file,
+                       std::vector<int> paragraphStarts) {
   if (looksLikeRichText(file->text())) {
     TextRTF(readRichText(file->text(), Font()));
   } else {
-    replaceAll(file->text(), [&] { document_.adopt(file); });
+    replaceAll(file->text(), [&] { document_.adopt(file, std::move(paragraphStarts)); });
     // Of a long text only what is in view is read from now on.
     file->letMemoryGo();
   }

@@ -56,7 +56,9 @@ class Surface final : public Control {
   void TextRTF(const StyledText& text);
   /// Loads a rich-text or a plain-text file whole; the caret goes to 0. A plain text is kept as it
   /// stands, line ends included, and shares the file's memory until it is first changed.
-  void LoadFile(const std::shared_ptr<const MappedFile>& file);
+  void LoadFile(const std::shared_ptr<const MappedFile>& file) { LoadFile(file, {}); }
+  /// The same for a file of which it is known where the paragraphs of its plain text start.
+  void LoadFile(const std::shared_ptr<const MappedFile>& file, std::vector<int> paragraphStarts);
 
   // -- Defaults for new text.
 

@@ -67,6 +67,15 @@ TEST_F(WordListTest, CountsNoLineBehindTheLastLineEnd) {
   EXPECT_EQ(words.count(), 2);
 }
 
+TEST_F(WordListTest, TellsWhereTheParagraphsOfItsTextStart) {
+  load("one\r\ntwo\n\rfour");
+  EXPECT_THAT(words.paragraphStarts(), testing::ElementsAre(0, 5, 9, 10));
+  load("one\r\ntwo\r\n");
+  EXPECT_THAT(words.paragraphStarts(), testing::ElementsAre(0, 5, 10));
+  load("");
+  EXPECT_THAT(words.paragraphStarts(), testing::ElementsAre(0));
+}
+
 TEST_F(WordListTest, CountsEmptyLines) {
   load("one\r\r\n\n\ntwo");
   EXPECT_EQ(words.count(), 5);

@@ -228,6 +228,24 @@ TEST_F(SurfaceTest, APlainFileIsKeptAsItStands) {
   surface.Check();
 }
 
+TEST_F(SurfaceTest, AFileOfWhichTheParagraphsAreKnownIsNotSearchedForThem) {
+  test::TestFolder folder;
+  folder.write("list.txt", "one\r\ntwo\n");
+  surface.LoadFile(MappedFile::open(folder.pathOf("list.txt")), {0, 5, 9});
+  EXPECT_EQ(surface.Text(), "one\r\ntwo\n");
+  EXPECT_EQ(surface.paragraphCount(), 3);
+  EXPECT_EQ(surface.paragraph(1).view().text, "two");
+  surface.Check();
+}
+
+TEST_F(SurfaceTest, ARichTextHasItsOwnParagraphs) {
+  test::TestFolder folder;
+  folder.write("page.rtf", R"({\rtf1 one\par two})");
+  surface.LoadFile(MappedFile::open(folder.pathOf("page.rtf")), {0, 5});
+  EXPECT_EQ(surface.Text(), "one\rtwo");
+  surface.Check();
+}
+
 TEST_F(SurfaceTest, AMissingFileIsNamed) {
   EXPECT_THROW(surface.LoadFile(MappedFile::open("/nowhere/readme.rtf")), FatalFailure);
 }
