@@ -19,11 +19,11 @@ constexpr std::string_view NotFound = "?";
 constexpr std::size_t LinesBetweenEvents = 1024;
 
 // Lines end in CR LF, LF or CR.
-std::vector<std::string> linesOf(std::string_view text, std::size_t most) {
-  std::vector<std::string> lines;
+std::vector<std::string_view> linesOf(std::string_view text, std::size_t most) {
+  std::vector<std::string_view> lines;
   while (!text.empty() && lines.size() < most) {
     const auto end = text.find_first_of("\r\n");
-    lines.emplace_back(text.substr(0, std::min(end, WordList::LongestWord)));
+    lines.push_back(text.substr(0, std::min(end, WordList::LongestWord)));
     if (end == std::string_view::npos) break;
     const bool pair = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
     text.remove_prefix(end + (pair ? 2 : 1));
@@ -44,9 +44,9 @@ std::string withCapitalI(std::string entry, std::string_view word) {
 void VietnameseSide::NapTuD(EventLoop& events) {
   // The list is an extra: without it the program does everything else.
   try {
-    const auto words = stores_.hold(packfile::SideWords);
-    for (std::string& line : linesOf(words->text(), EntryCount)) {
-      Chu_.push_back(std::move(line));
+    file_ = stores_.hold(packfile::SideWords);
+    for (const std::string_view line : linesOf(file_->text(), EntryCount)) {
+      Chu_.push_back(line);
       if (Chu_.size() % LinesBetweenEvents == 0) events.letEventsRun();
     }
     ViTriNghia_.resize(Chu_.size());
@@ -62,7 +62,7 @@ void VietnameseSide::NapTuD(EventLoop& events) {
 
 std::string_view VietnameseSide::wordAt(int index) const {
   const auto place = static_cast<std::size_t>(index);
-  return place < Chu_.size() ? std::string_view(Chu_[place]) : std::string_view();
+  return place < Chu_.size() ? Chu_[place] : std::string_view();
 }
 
 VietnameseSide::Place VietnameseSide::find(const std::string& key) const {

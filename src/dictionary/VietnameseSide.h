@@ -14,6 +14,7 @@
 #include "surface/Variables.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -77,8 +78,9 @@ class VietnameseSide {
   Shell& shell_;
   Speech& speech_;
   LookUp& lookUp_;
-  std::vector<std::string> Chu_{std::string()}; ///< the words, from 1
-  std::vector<std::int32_t> ViTriNghia_{0};     ///< record of each entry's first byte in file 8
+  std::shared_ptr<const MappedFile> file_;                ///< of the list
+  std::vector<std::string_view> Chu_{std::string_view()}; ///< its words, from 1
+  std::vector<std::int32_t> ViTriNghia_{0}; ///< record of each entry's first byte in file 8
 };
 
 } // namespace talvora
