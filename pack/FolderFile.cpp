@@ -33,18 +33,21 @@ bool fits(std::string_view name, std::string_view pattern) {
   });
 }
 
-/// Whether a name is that of a file in a dated copy; a second copy of one second has a number.
+/// Whether a name is that of a file in a dated copy.
 bool isOfCopy(std::string_view name) {
+  const std::string copies = std::string(learnerfile::Copies) + "/";
   const std::size_t end = name.rfind('/');
-  if (end == std::string_view::npos) return false;
-  const std::string_view folder = name.substr(0, end);
-  const bool isCopy =
-      fits(folder, "backups/####-##-##_##-##-##") || fits(folder, "backups/####-##-##_##-##-##-##");
-  return isCopy && std::ranges::find(copiedFiles, name.substr(end + 1)) != copiedFiles.end();
+  if (!name.starts_with(copies) || end < copies.size()) return false;
+  return isCopyName(name.substr(copies.size(), end - copies.size())) &&
+         std::ranges::find(copiedFiles, name.substr(end + 1)) != copiedFiles.end();
 }
 
 std::string pathOf(const LearnersList& list, std::string_view name) {
   return list.folder + "/" + std::string(name);
+}
+
+bool isTextSource(std::string_view name) {
+  return name.starts_with(std::string(learnerfile::Texts) + "/");
 }
 
 /// The names of all files of the folder that travel.
@@ -82,15 +85,30 @@ std::optional<std::string> put(const LearnersList& list, const std::string& name
   return replaceFile(list.files, path, bytesOfText(content));
 }
 
+/// Moves the sources of texts out of the way, into the newest copy of the words. Gives what went
+/// wrong, or nothing.
+std::optional<std::string> moveTextsIntoCopy(const LearnersList& list, const DatedCopies& copies) {
+  const auto all = copies.all();
+  const std::string copy = all.empty() ? "" : "/" + all.back().name;
+  const std::string to =
+      std::string(learnerfile::Copies) + copy + "/" + std::string(learnerfile::Texts);
+  for (const std::string& name : namesIn(list)) {
+    if (!isTextSource(name)) continue;
+    std::error_code error = list.files.makeFolder(pathOf(list, to));
+    const std::string moved = pathOf(list, to) + name.substr(name.rfind('/'));
+    if (!error) error = list.files.rename(pathOf(list, name), moved);
+    if (error) return fileProblem(moved, said("cannot be written"), error);
+  }
+  return std::nullopt;
+}
+
 /// Puts these files in place of those that are there; the list of words last. Gives what went
 /// wrong, or nothing.
 std::optional<std::string> replaceAll(const LearnersList& list,
                                       const std::map<std::string, std::string>& files) {
-  // A text that is not among them belongs to what was there; copies stay beside each other.
-  for (const std::string& name : namesIn(list)) {
-    const bool isText = name == OwnTextsFile || name.starts_with(learnerfile::Texts);
-    if (isText && !files.contains(name)) static_cast<void>(list.files.remove(pathOf(list, name)));
-  }
+  // Made of texts that are in the copy by now.
+  if (!files.contains(std::string(OwnTextsFile)))
+    static_cast<void>(list.files.remove(pathOf(list, OwnTextsFile)));
   for (const auto& [name, bytes] : files) {
     if (name == learnerfile::Words) continue;
     if (auto problem = put(list, name, bytes)) return problem;
@@ -144,6 +162,8 @@ ListResult importFolder(const LearnersList& list, const std::string& file, std::
   LearnerWords words(list.folder, list.files, list.calendar);
   words.open();
   if (const auto problem = words.copies().keep()) return tellUnwritten(*problem, out);
+  if (const auto problem = moveTextsIntoCopy(list, words.copies()))
+    return tellUnwritten(*problem, out);
   if (const auto problem = replaceAll(list, *content.files)) return tellUnwritten(*problem, out);
   const std::string& now = content.files->at(std::string(learnerfile::Words));
   out << saidOf(now.size() / VocabularyWord::RecordSize,

@@ -71,6 +71,14 @@ std::string newestWithMissing(const DatedCopies& copies, const Words& there) {
   return {};
 }
 
+std::optional<VocabularyContent> contentOf(const LearnersList& list) {
+  std::error_code error;
+  const auto bytes =
+      readWhole(list.files, list.folder + "/" + std::string(learnerfile::Words), error);
+  if (!bytes) return std::nullopt;
+  return vocabularyFrom(*bytes);
+}
+
 /// What is odd in a list.
 struct Oddities {
   std::size_t oddBytes = 0;
@@ -203,16 +211,15 @@ ListResult checkWords(const LearnersList& list, const std::optional<std::string>
                       std::ostream& out) {
   const LearnerLock lock(list.files, list.folder);
   if (doing == Doing::Do && lock.state() == LearnerLock::State::Taken) return tellRunning(out);
-  std::error_code error;
-  const auto bytes =
-      readWhole(list.files, list.folder + "/" + std::string(learnerfile::Words), error);
-  if (!bytes) return tellUnreadable(list.folder, out);
+  const auto content = contentOf(list);
+  if (!content) return tellUnreadable(list.folder, out);
   std::optional<TextCatalogue> catalogue;
   if (pack) catalogue.emplace(*pack, list.folder, list.files);
-  const VocabularyContent content = vocabularyFrom(*bytes);
-  const Oddities found = odditiesOf(content, catalogue ? &*catalogue : nullptr);
-  if (!tell(found, content, out)) {
-    out << saidOf(content.words.size(), "{} word, nothing odd.", "{} words, nothing odd.") << "\n";
+  const auto oddities = [&](const VocabularyContent& of) {
+    return odditiesOf(of, catalogue ? &*catalogue : nullptr);
+  };
+  if (!tell(oddities(*content), *content, out)) {
+    out << saidOf(content->words.size(), "{} word, nothing odd.", "{} words, nothing odd.") << "\n";
     return ListResult::Fine;
   }
   if (doing == Doing::Show) {
@@ -223,7 +230,10 @@ ListResult checkWords(const LearnersList& list, const std::optional<std::string>
   words.open();
   static_cast<void>(words.copies().keep());
   words.dropOddBytes();
-  auto problem = words.write(mended(content, found, words));
+  // What stood in the journal is in the list by now.
+  const auto merged = contentOf(list);
+  if (!merged) return tellUnreadable(list.folder, out);
+  auto problem = words.write(mended(*merged, oddities(*merged), words));
   if (!problem && catalogue) static_cast<void>(words.carry(*catalogue));
   if (problem) return tellUnwritten(*problem, out);
   out << said("Mended.") << "\n";

@@ -3,6 +3,7 @@
 #include "formats/LearnerFiles.h"
 #include "learner/VocabularyFile.h"
 #include "platform/Files.h"
+#include "text/CharClass.h"
 
 #include <algorithm>
 #include <array>
@@ -21,6 +22,8 @@ constexpr std::size_t MonthsKept = 12;
 constexpr int DaysOfWeek = 7;
 // A moment of which there are more copies than this is no moment.
 constexpr int MostOfAMoment = 100;
+/// So many of a run's own copies stay whatever their dates say: a clock may be set back.
+constexpr std::size_t LastMadeKept = 5;
 
 // The list comes last: a copy that has it is whole.
 constexpr std::array copiedFiles = {learnerfile::Settings, learnerfile::Lists, learnerfile::Rows,
@@ -75,6 +78,17 @@ std::vector<DatedCopy> takeBest(std::vector<DatedCopy>& copies, std::size_t peri
 }
 
 } // namespace
+
+bool isCopyName(std::string_view name) {
+  static constexpr CharClass digits("[0-9]");
+  constexpr std::string_view pattern = "####-##-##_##-##-##-##";
+  constexpr std::size_t withoutNumber = pattern.size() - 3;
+  const auto fits = [](char letter, char asked) {
+    return asked == '#' ? digits.has(letter) : letter == asked;
+  };
+  return std::ranges::equal(name, pattern, fits) ||
+         std::ranges::equal(name, pattern.substr(0, withoutNumber), fits);
+}
 
 std::vector<DatedCopy> thinned(const std::vector<DatedCopy>& copies) {
   std::vector<DatedCopy> rest = copies;
@@ -160,14 +174,21 @@ std::optional<std::string> DatedCopies::keep() {
     remove(name);
     return fileProblem(folderOfCopies() + "/" + name, "cannot be written", error);
   }
+  lastMade_.push_back(name);
+  if (lastMade_.size() > LastMadeKept) lastMade_.pop_front();
+  thinOut();
+  return std::nullopt;
+}
+
+// What somebody has put beside the copies under a name of their own is not the program's to remove.
+void DatedCopies::thinOut() {
   const auto copies = all();
-  std::set<std::string> staying;
+  std::set<std::string> staying(lastMade_.begin(), lastMade_.end());
   for (const DatedCopy& each : thinned(copies))
     staying.insert(each.name);
   for (const DatedCopy& each : copies) {
-    if (!staying.contains(each.name)) remove(each.name);
+    if (isCopyName(each.name) && !staying.contains(each.name)) remove(each.name);
   }
-  return std::nullopt;
 }
 
 std::error_code DatedCopies::make(const std::string& name) {
@@ -184,7 +205,8 @@ std::error_code DatedCopies::make(const std::string& name) {
     if (!error) error = file->sync();
     if (error) return error;
   }
-  return files_.syncFolder(folder);
+  if (const auto error = files_.syncFolder(folder)) return error;
+  return files_.syncFolder(folderOfCopies());
 }
 
 // The list goes first, so that half a copy is none. What cannot be removed stays.

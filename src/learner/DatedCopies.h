@@ -4,6 +4,7 @@
 #include "platform/Calendar.h"
 #include "platform/FileSystem.h"
 
+#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ struct DatedCopy {
   std::string name;
   std::size_t words = 0; ///< in its list
 };
+
+/// Whether a name is one that the program gives a copy; a second copy of one second has a number.
+[[nodiscard]] bool isCopyName(std::string_view name);
 
 /// The copies that stay, of copies from the oldest to the newest: all of the newest day, then one
 /// of each of seven days, four weeks and twelve months on which there are any. Of several the one
@@ -30,7 +34,8 @@ class DatedCopies {
   /// All copies, the oldest first.
   [[nodiscard]] std::vector<DatedCopy> all() const;
   /// Makes a copy of what is there now, unless the newest copy is the same or there is no word, and
-  /// thins the copies out. Returns what went wrong, or nothing.
+  /// thins the copies out; what has a name of somebody's own stays. Returns what went wrong, or
+  /// nothing.
   std::optional<std::string> keep();
   /// A file of a copy.
   [[nodiscard]] std::optional<std::string> read(std::string_view copy, std::string_view file) const;
@@ -42,11 +47,13 @@ class DatedCopies {
   [[nodiscard]] bool newestIsTheSame() const;
   [[nodiscard]] std::string freshName() const;
   std::error_code make(const std::string& name);
+  void thinOut();
   void remove(const std::string& name);
 
   std::string learner_;
   FileSystem& files_;
   const Calendar& calendar_;
+  std::deque<std::string> lastMade_; ///< names of this run's last copies
 };
 
 } // namespace talvora

@@ -20,13 +20,17 @@ constexpr std::string_view ProbeName = "talvora-probe.new";
 /// What earlier versions wrote beside data.c.
 constexpr std::string_view OldNewName = "data.c.new";
 
+/// What two records of one word have alike.
+std::string nameOf(const VocabularyWord& word) {
+  return lower(word.word());
+}
+
 Words::iterator findWord(Words& words, const VocabularyWord& wanted) {
   const auto exact = std::find(words.begin(), words.end(), wanted);
   if (exact != words.end()) return exact;
   // The place may have changed with the pack since.
-  return std::find_if(words.begin(), words.end(), [&](const VocabularyWord& each) {
-    return lower(each.word()) == lower(wanted.word());
-  });
+  return std::find_if(words.begin(), words.end(),
+                      [&](const VocabularyWord& each) { return nameOf(each) == nameOf(wanted); });
 }
 
 /// Does to a list what a journal says; true when that changed it.
@@ -95,6 +99,8 @@ LearnerWords::Key LearnerWords::keyOf(const VocabularyWord& word) {
 void LearnerWords::open() {
   storing_ = mayStore();
   readRows();
+  // What cannot be merged into the list on the disk is merged whenever that is read.
+  unmerged_ = true;
   if (!storing_) return;
   clearLeftOvers();
   std::error_code error;
@@ -130,11 +136,13 @@ void LearnerWords::clearLeftOvers() {
 }
 
 void LearnerWords::readRows() {
-  rows_.clear();
   std::error_code error;
   const auto content = readWhole(files_, pathOf(learnerfile::Rows), error);
+  missedRows_ = !content && error != std::errc::no_such_file_or_directory;
   rowsOnDisk_ = content ? textOfBytes(*content) : std::string();
-  adopt(rowsFrom(rowsOnDisk_));
+  // What has been learned of a word since is newer.
+  for (const WordRow& row : rowsFrom(rowsOnDisk_))
+    rows_.try_emplace(keyOf(row.record()), row);
 }
 
 void LearnerWords::adopt(const std::vector<WordRow>& rows) {
@@ -144,21 +152,25 @@ void LearnerWords::adopt(const std::vector<WordRow>& rows) {
 
 void LearnerWords::mergeJournal() {
   const auto deeds = journal_.read();
-  if (deeds.empty()) return;
-  auto words = read();
-  // A list that cannot be read now may be read next time; so long the journal stays.
+  unmerged_ = !deeds || !deeds->empty();
+  // What cannot be read now may be read next time; so long the journal stays.
+  if (!deeds || deeds->empty()) return;
+  std::error_code error;
+  auto words = list_.read(error);
+  missedList_ = !words && error != std::errc::no_such_file_or_directory;
   if (!words) return;
-  for (const WordDeed& deed : deeds)
+  for (const WordDeed& deed : *deeds)
     adopt({deed.row});
-  if (replay(deeds, *words)) static_cast<void>(copies_.keep());
-  static_cast<void>(write(std::move(*words)));
+  if (replay(*deeds, *words)) static_cast<void>(copies_.keep());
+  static_cast<void>(store(*words));
 }
 
 std::optional<Words> LearnerWords::peek() {
+  rows_.clear();
   readRows();
   auto words = read();
   if (!words) return words;
-  const auto deeds = journal_.read();
+  const auto deeds = journal_.read().value_or(std::vector<WordDeed>());
   for (const WordDeed& deed : deeds)
     adopt({deed.row});
   replay(deeds, *words);
@@ -170,7 +182,8 @@ Carried LearnerWords::carry(TextCatalogue catalogue) {
   catalogue_ = std::move(catalogue);
   pack_ = catalogue_->fingerprint();
   auto words = read();
-  if (!words) return carried;
+  // Without their rows nobody knows which pack the words belong to.
+  if (!words || missedRows_) return carried;
   const Words before = *words;
   std::optional<SentenceFinder> finder;
   for (VocabularyWord& word : *words) {
@@ -185,11 +198,11 @@ Carried LearnerWords::carry(TextCatalogue catalogue) {
     }
     rows_[keyOf(word)] = std::move(row);
   }
-  if (*words == before) {
+  if (*words == before && !missedList_ && !unmerged_) {
     writeRows(*words);
   } else {
     static_cast<void>(copies_.keep());
-    static_cast<void>(write(std::move(*words)));
+    static_cast<void>(store(*words));
   }
   static_cast<void>(copies_.keep());
   return carried;
@@ -228,21 +241,27 @@ std::optional<std::vector<VocabularyWord>> LearnerWords::read() {
   std::error_code error;
   auto words = list_.read(error);
   if (!words && error != std::errc::no_such_file_or_directory) missedList_ = true;
-  if (words && missedList_) catchUp(*words);
+  if (!words) return words;
+  onDisk_ = *words;
+  if (missedList_ || unmerged_) catchUp(*words);
   return words;
 }
 
-/// Does to a list that could not be read for a while what was done since it was written; true when
-/// that changed it.
+/// Does to a list that was read what the journal and the memory have and it lacks; true when that
+/// changed it.
 bool LearnerWords::catchUp(Words& words) {
   auto deeds = journal_.read();
-  deeds.insert(deeds.end(), pending_.begin(), pending_.end());
-  for (const WordDeed& deed : deeds)
+  unmerged_ = unmerged_ && (!deeds || !deeds->empty());
+  missedJournal_ = !deeds;
+  auto all = std::move(deeds).value_or(std::vector<WordDeed>());
+  all.insert(all.end(), pending_.begin(), pending_.end());
+  for (const WordDeed& deed : all)
     rows_.try_emplace(keyOf(deed.row.record()), deed.row);
-  return replay(deeds, words);
+  return replay(all, words);
 }
 
 void LearnerWords::noteAdded(const VocabularyWord& word) {
+  removed_.erase(nameOf(word));
   WordRow row = rowOf(word);
   rows_[keyOf(word)] = row;
   journal({{WordDeed::Kind::Added, std::move(row)}});
@@ -252,8 +271,10 @@ void LearnerWords::noteRemoved(const std::vector<VocabularyWord>& words) {
   static_cast<void>(copies_.keep());
   std::vector<WordDeed> deeds;
   deeds.reserve(words.size());
-  for (const VocabularyWord& word : words)
+  for (const VocabularyWord& word : words) {
+    removed_.insert(nameOf(word));
     deeds.push_back({WordDeed::Kind::Removed, rowOf(word)});
+  }
   journal(std::move(deeds));
 }
 
@@ -264,30 +285,54 @@ void LearnerWords::journal(std::vector<WordDeed> deeds) {
 }
 
 std::optional<std::string> LearnerWords::write(std::vector<VocabularyWord> words) {
+  std::error_code error;
+  auto unseen = list_.read(error);
   if (missedList_) {
-    std::error_code error;
-    auto unseen = list_.read(error);
     if (!unseen && error != std::errc::no_such_file_or_directory)
       return pathOf(learnerfile::Words) + ": cannot be read";
     Words before = std::move(unseen).value_or(Words());
     if (catchUp(before)) static_cast<void>(copies_.keep());
     words = joined(std::move(before), std::move(words));
+  } else {
+    if (unseen && onDisk_ && *unseen != *onDisk_) takeFromOthers(*unseen, words);
+    if (unmerged_ && catchUp(words)) static_cast<void>(copies_.keep());
   }
+  return store(words);
+}
+
+/// Takes over the words that somebody else, as one who copies folders between two machines, has put
+/// into the list on the disk since it was read, and keeps that list as a copy.
+void LearnerWords::takeFromOthers(const Words& theirs, Words& words) {
+  static_cast<void>(copies_.keep());
+  readRows();
+  for (const VocabularyWord& word : theirs) {
+    const bool known = findWord(*onDisk_, word) != onDisk_->end() ||
+                       findWord(words, word) != words.end() || removed_.contains(nameOf(word));
+    if (!known) words.push_back(word);
+  }
+}
+
+/// Writes a list that has all that the one on the disk has, and the journal.
+std::optional<std::string> LearnerWords::store(const Words& words) {
   if (auto problem = list_.write(words)) return problem;
+  onDisk_ = words;
   missedList_ = false;
+  unmerged_ = unmerged_ && missedJournal_;
   pending_.clear();
   writeRows(words);
   return std::nullopt;
 }
 
 // The journal is emptied last: as long as the sentences are not beside the words, it has them.
-void LearnerWords::writeRows(const std::vector<VocabularyWord>& words) {
+void LearnerWords::writeRows(const Words& words) {
+  if (missedRows_) readRows();
+  if (missedRows_) return;
   const std::string content = talvora::fileOf(rowsOf(words));
   if (content != rowsOnDisk_) {
     if (replaceFile(files_, pathOf(learnerfile::Rows), bytesOfText(content))) return;
     rowsOnDisk_ = content;
   }
-  static_cast<void>(journal_.clear());
+  if (!unmerged_) static_cast<void>(journal_.clear());
 }
 
 } // namespace talvora

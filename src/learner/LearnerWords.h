@@ -13,6 +13,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -83,6 +84,9 @@ class LearnerWords {
   void readRows();
   void mergeJournal();
   bool catchUp(std::vector<VocabularyWord>& words);
+  void takeFromOthers(const std::vector<VocabularyWord>& theirs,
+                      std::vector<VocabularyWord>& words);
+  std::optional<std::string> store(const std::vector<VocabularyWord>& words);
   void journal(std::vector<WordDeed> deeds);
   [[nodiscard]] WordRow rowOf(const VocabularyWord& word) const;
   void writeRows(const std::vector<VocabularyWord>& words);
@@ -98,8 +102,14 @@ class LearnerWords {
   std::string pack_;                       ///< its fingerprint
   std::vector<WordDeed> pending_;          ///< deeds that are on no disk
   bool storing_ = true;
+  std::set<std::string> removed_; ///< in this run, and not taken again
+  /// The list as it was last read or written.
+  std::optional<std::vector<VocabularyWord>> onDisk_;
   /// Since it was last written, there was a list on the disk that could not be read.
   bool missedList_ = false;
+  bool missedRows_ = false;    ///< there is a file of rows that could not be read
+  bool unmerged_ = false;      ///< the list on the disk may lack what the journal has
+  bool missedJournal_ = false; ///< the journal could not be read when the list was last caught up
 };
 
 } // namespace talvora

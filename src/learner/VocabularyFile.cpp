@@ -59,7 +59,7 @@ std::optional<std::string> VocabularyFile::write(const std::vector<VocabularyWor
   content.reserve(words.size() * RecordSize + oddBytes_.size());
   for (const VocabularyWord& word : words)
     append(content, word);
-  content.insert(content.end(), oddBytes_.begin(), oddBytes_.end());
+  if (keepsOddBytes_) content.insert(content.end(), oddBytes_.begin(), oddBytes_.end());
   return replaceFile(files_, path_, content);
 }
 

@@ -52,13 +52,14 @@ class VocabularyFile {
   /// wrong, or nothing; then the old list stands.
   [[nodiscard]] std::optional<std::string> write(const std::vector<VocabularyWord>& words);
 
-  /// The odd bytes that were read are not written again.
-  void dropOddBytes() { oddBytes_.clear(); }
+  /// Odd bytes are not written again from now on.
+  void dropOddBytes() { keepsOddBytes_ = false; }
 
  private:
   FileSystem& files_;
   std::string path_;
   std::vector<unsigned char> oddBytes_;
+  bool keepsOddBytes_ = true;
 };
 
 } // namespace talvora

@@ -60,10 +60,11 @@ std::optional<Entry> entryFrom(std::string_view line) {
 
 } // namespace
 
-std::vector<WordDeed> WordJournal::read() const {
+std::optional<std::vector<WordDeed>> WordJournal::read() const {
   std::vector<WordDeed> deeds;
   std::error_code error;
   const auto content = readWhole(files_, path_, error);
+  if (!content && error != std::errc::no_such_file_or_directory) return std::nullopt;
   if (!content) return deeds;
   std::vector<WordDeed> deletion; // as far as it is known
   for (const std::string& line : split(textOfBytes(*content), '\n')) {

@@ -26,10 +26,10 @@ class WordJournal {
  public:
   WordJournal(std::string path, FileSystem& files) : files_(files), path_(std::move(path)) {}
 
-  /// All deeds in their order. A line that is not whole, as a kill leaves the last one, counts for
-  /// nothing; so does a deletion of several words that is not whole, and a journal that cannot be
-  /// read.
-  [[nodiscard]] std::vector<WordDeed> read() const;
+  /// All deeds in their order; none when there is no journal, and nothing when there is one that
+  /// cannot be read just now. A line that is not whole, as a kill leaves the last one, counts for
+  /// nothing; so does a deletion of several words that is not whole.
+  [[nodiscard]] std::optional<std::vector<WordDeed>> read() const;
   /// Returns when the deeds are on the disk. After a failure the journal is what it was.
   [[nodiscard]] std::error_code append(const std::vector<WordDeed>& deeds);
   /// Empties the journal; one that is not there is empty.

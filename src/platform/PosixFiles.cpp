@@ -1,5 +1,5 @@
 // The file system of a POSIX machine. Calls that a signal breaks off are made again.
-#include "platform/FileSystem.h"
+#include "platform/Files.h"
 #include "platform/MappingGuard.h"
 
 #include <algorithm>
@@ -38,6 +38,12 @@ auto retried(Call call) {
 
 std::error_code done(int result) {
   return result < 0 ? lastError() : std::error_code();
+}
+
+/// What a file system says of owners and permissions that it does not know, as that of a stick, of
+/// a network or of a phone.
+bool isNotKnown(int error) {
+  return error == EPERM || error == ENOSYS || error == EOPNOTSUPP;
 }
 
 FileStatus statusFrom(const struct stat& found) {
@@ -87,10 +93,9 @@ class PosixFile final : public OpenFile {
   std::error_code dressAs(const FileStatus& other) override {
     // Only the owner of a machine may give files away; a guest's copy stays the guest's.
     const int given = retried([&] { return ::fchown(handle_, other.owner, other.group); });
-    if (given != 0 && errno != EPERM) return lastError();
+    if (given != 0 && !isNotKnown(errno)) return lastError();
     const int changed = retried([&] { return ::fchmod(handle_, other.mode); });
-    // A stick's file system may know no permissions.
-    return changed != 0 && errno == EPERM ? std::error_code() : done(changed);
+    return changed != 0 && isNotKnown(errno) ? std::error_code() : done(changed);
   }
   std::unique_ptr<FileMapping> map(std::size_t size, std::error_code& error) override {
     void* const data = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, handle_, 0);
@@ -219,7 +224,12 @@ std::error_code PosixFileSystem::syncFolder(const std::string& folder) {
 std::error_code PosixFileSystem::makeFolder(const std::string& folder) {
   for (std::size_t slash = folder.find('/', 1);; slash = folder.find('/', slash + 1)) {
     const std::string part = folder.substr(0, slash);
-    if (::mkdir(part.c_str(), NewFolderMode) != 0 && errno != EEXIST) {
+    const bool made = ::mkdir(part.c_str(), NewFolderMode) == 0;
+    if (made) {
+      // What comes to lie in it outlives a power cut only where its name does. A folder that cannot
+      // be synced is a folder all the same.
+      static_cast<void>(syncFolder(folderOf(part)));
+    } else if (errno != EEXIST) {
       // A folder that is there already may lie in one that nobody may write.
       const auto problem = lastError();
       std::error_code unknown;

@@ -40,9 +40,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (replaceFile(systemFiles(), journalPath(), {data, size})) return 0;
   WordJournal journal(journalPath(), systemFiles());
   auto deeds = journal.read();
+  require(deeds.has_value());
   if (rows.empty()) return 0;
-  deeds.push_back({WordDeed::Kind::Added, rows.front()});
-  require(!journal.append({deeds.back()}));
+  deeds->push_back({WordDeed::Kind::Added, rows.front()});
+  require(!journal.append({deeds->back()}));
   require(journal.read() == deeds);
   return 0;
 }

@@ -167,6 +167,53 @@ TEST_F(DatedCopiesTest, OldCopiesMakeRoomForNewOnes) {
   EXPECT_EQ(names.back(), "2026-02-28_12-00-00");
 }
 
+TEST_F(DatedCopiesTest, AClockThatIsSetBackTakesNoCopyAwayThatWasJustMade) {
+  for (int month = 1; month <= 12; ++month) {
+    for (const int day : {1, 9, 17, 25}) {
+      calendar.moment = {2025, month, day, 12, 0, 0};
+      writeWords(month * 30 + day);
+      EXPECT_EQ(copies.keep(), std::nullopt);
+    }
+  }
+  for (int words = 1; words <= 8; ++words) {
+    calendar.moment = {2000, 1, 1, 0, words, 0};
+    writeWords(words);
+    EXPECT_EQ(copies.keep(), std::nullopt);
+    EXPECT_TRUE(copies.read("2000-01-01_00-0" + std::to_string(words) + "-00", "data.c")) << words;
+  }
+  EXPECT_TRUE(copies.read("2000-01-01_00-04-00", "data.c")) << "the last ones";
+  EXPECT_FALSE(copies.read("2000-01-01_00-01-00", "data.c")) << "and no more";
+}
+
+TEST_F(DatedCopiesTest, ADateOfADayFarAheadIsADay) {
+  calendar.moment = {2038, 1, 19, 3, 14, 8};
+  writeWords(3);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  calendar.moment = {2026, 3, 31, 18, 5, 9};
+  writeWords(2);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  EXPECT_EQ(namesOf(copies.all()), (Names{"2026-03-31_18-05-09", "2038-01-19_03-14-08"}));
+}
+
+TEST_F(DatedCopiesTest, WhatSomebodyNamedThemselvesIsNotThinnedOut) {
+  const std::string theirs = "2026-02-01_12-00-00 before the examination";
+  folder.write("backups/" + theirs + "/data.c", std::string(24, 'm'));
+  for (int day = 1; day <= 28; ++day) {
+    writeWords(day + 1);
+    calendar.moment = {2026, 2, day, 13, 0, 0};
+    EXPECT_EQ(copies.keep(), std::nullopt);
+  }
+  EXPECT_TRUE(copies.read(theirs, "data.c"));
+}
+
+TEST(Thinning, KnowsACopyByAMomentAndPerhapsANumber) {
+  EXPECT_TRUE(isCopyName("2026-03-31_18-05-09"));
+  EXPECT_TRUE(isCopyName("2026-03-31_18-05-09-02"));
+  for (const char* name : {"", "2026-03-31", "2026-03-31_18-05-09-", "2026-03-31_18-05-0x",
+                           "2026-03-31 18-05-09", "2026-03-31_18-05-09-022"})
+    EXPECT_FALSE(isCopyName(name)) << name;
+}
+
 /// A copy a day over so many days, the newest last.
 std::vector<DatedCopy> daily(int days) {
   std::vector<DatedCopy> copies;

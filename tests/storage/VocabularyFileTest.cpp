@@ -48,6 +48,15 @@ TEST(VocabularyFileTest, OddBytesAreKeptBehindTheRecords) {
   EXPECT_EQ(wordsOf(file), words);
 }
 
+TEST(VocabularyFileTest, OddBytesThatWereDroppedStayAway) {
+  TestFolder folder;
+  folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4) + "odd");
+  VocabularyFile file(folder.pathOf("data.c"));
+  file.dropOddBytes();
+  EXPECT_EQ(file.write(wordsOf(file)), std::nullopt);
+  EXPECT_EQ(folder.read("data.c").size(), 24U);
+}
+
 TEST(VocabularyFileTest, AListThatCannotBeWrittenIsReportedAndTheOldOneStands) {
   TestFolder folder;
   folder.write("data.c", paddedWord("one") + std::string("\x01\0\0\0", 4));

@@ -125,12 +125,12 @@ TEST_F(Journal, CutOffAnywhereKeepsEveryDeedThatIsWhole) {
   const std::string content = folder.read("words.journal");
   for (std::size_t length = 0; length < content.size() - 1; ++length) {
     folder.write("words.journal", content.substr(0, length));
-    const Deeds left = journal.read();
+    const auto left = journal.read();
     EXPECT_EQ(left, length < whole - 1 ? Deeds{} : Deeds{added("bank")}) << length;
     // What comes behind half a line is whole.
     EXPECT_FALSE(journal.append({added("river")}));
-    ASSERT_FALSE(journal.read().empty());
-    EXPECT_EQ(journal.read().back(), added("river")) << length;
+    ASSERT_FALSE(journal.read()->empty());
+    EXPECT_EQ(journal.read()->back(), added("river")) << length;
   }
 }
 
@@ -139,10 +139,10 @@ TEST_F(Journal, WordsThatWereDeletedTogetherAreGoneTogetherOrStay) {
   const std::string before = folder.read("words.journal");
   EXPECT_FALSE(journal.append({removed("bank"), removed("go"), removed("river")}));
   const std::string content = folder.read("words.journal");
-  EXPECT_EQ(journal.read().size(), 6U);
+  EXPECT_EQ(journal.read()->size(), 6U);
   for (std::size_t length = before.size(); length < content.size() - 1; ++length) {
     folder.write("words.journal", content.substr(0, length));
-    EXPECT_EQ(journal.read().size(), 3U) << length;
+    EXPECT_EQ(journal.read()->size(), 3U) << length;
     // Nor does a later deletion take the half one along.
     EXPECT_FALSE(journal.append({removed("river")}));
     EXPECT_EQ(journal.read(), (Deeds{added("bank"), added("go"), added("river"), removed("river")}))
@@ -173,6 +173,16 @@ TEST_F(Journal, ALookThatFailsAddsNothing) {
 TEST_F(Journal, OneThatCannotBeMadeIsTold) {
   files.looksCount = true;
   EXPECT_GE(failAtEachCall({}, added("bank")), 3);
+}
+
+TEST_F(Journal, OneThatCannotBeReadIsNoEmptyOne) {
+  EXPECT_EQ(journal.read(), Deeds{}) << "there is none";
+  EXPECT_FALSE(journal.append({added("bank")}));
+  files.looksCount = true;
+  files.failAlways(std::errc::io_error);
+  EXPECT_EQ(journal.read(), std::nullopt);
+  files.failNever();
+  EXPECT_EQ(journal.read(), Deeds{added("bank")});
 }
 
 TEST_F(Journal, IsNotKeptInAFolder) {
@@ -223,7 +233,7 @@ TEST_F(Journal, ALineThatSaysNothingKnownCountsForNothing) {
     EXPECT_EQ(journal.read(), Deeds{}) << text;
   }
   folder.write("words.journal", checked("+\t" + row));
-  EXPECT_EQ(journal.read().size(), 1U) << "the test's own check is right";
+  EXPECT_EQ(journal.read()->size(), 1U) << "the test's own check is right";
   folder.write("words.journal", "12345678 no tab behind the check");
   EXPECT_EQ(journal.read(), Deeds{});
 }

@@ -2,8 +2,8 @@
 // it is given next. Each test goes through the program as a learner does.
 #include "learner/LearnerWords.h"
 
+#include "Learning.h"
 #include "platform/Files.h"
-#include "support/ProgramRun.h"
 #include "text/Bytes.h"
 
 #include <gmock/gmock.h>
@@ -18,120 +18,12 @@ namespace talvora {
 namespace {
 
 using namespace literals;
-using test::ProgramRun;
-using test::StoredText;
-using test::TestFolder;
-using Texts = std::vector<std::string>;
+using test::bankText;
+using test::Learning;
+using test::record;
+using test::Texts;
 
-StoredText bankText(int slot) {
-  return {slot, "Our town\r_\tThe old bank stands. _A river runs here.\r", "_Mot._Hai."};
-}
-
-std::string record(const std::string& word, std::int32_t place) {
-  std::string bytes = paddedWord(word);
-  for (int shift = 0; shift < 32; shift += 8)
-    bytes += static_cast<char>(static_cast<std::uint32_t>(place) >> shift & 0xFFU);
-  return bytes;
-}
-
-/// A program on a pack and a learner's folder that outlive it.
-class Learning {
- public:
-  Learning(const TestFolder& pack, const TestFolder& own) : run({pack.path(), own.path()}) {}
-
-  void openText() {
-    run.clickButton(1);
-    run.controls().RDOS.Visible(false);
-    Surface& R1 = run.controls().R1;
-    R1.SelStart(static_cast<int>(R1.Text().find("Our town")));
-    R1.releaseMouse(MouseButton::Left, shift::None, {});
-  }
-  void add(const std::string& word) {
-    Surface& R2 = run.controls().R2;
-    run.click(R2, static_cast<int>(R2.Text().find(word)) + 1);
-    run.key(key::Enter);
-  }
-  void leaveText() {
-    while (run.controls().R1.Visible() || run.controls().R2.Visible())
-      run.key(key::Esc);
-  }
-  /// Takes a word of the text and goes back to the menu.
-  void take(const std::string& word) {
-    openText();
-    add(word);
-    leaveText();
-  }
-  /// Deletes the first word of the list.
-  void removeFirst() {
-    run.clickButton(2);
-    Surface& Rchon = run.controls().Rchon;
-    run.machine.boxes.answer(BoxAnswer::Yes);
-    Rchon.SelStart(0);
-    Rchon.SelLength(static_cast<int>(Rchon.Text().find('\r')));
-    Rchon.releaseMouse(MouseButton::Left, shift::None, {});
-    while (Rchon.Visible())
-      run.key(key::Esc);
-  }
-  [[nodiscard]] Texts words() {
-    run.clickButton(2);
-    Texts words;
-    std::string word;
-    for (const char each : run.controls().Rchon.Text()) {
-      if (each == '\r') words.push_back(std::exchange(word, {}));
-      if (each == '\t') word.clear();
-      if (each != '\r' && each != '\t') word += each;
-    }
-    while (run.controls().Rchon.Visible())
-      run.key(key::Esc);
-    return words;
-  }
-  [[nodiscard]] Texts boxes() const {
-    Texts texts;
-    for (const LogEntry& entry : run.machine.log.entries()) {
-      if (entry.what == "box") texts.push_back(std::get<std::string>(*entry.find("text")));
-    }
-    return texts;
-  }
-
-  ProgramRun run;
-};
-
-class LearnerWordsTest : public testing::Test {
- protected:
-  LearnerWordsTest() {
-    ProgramRun writer;
-    writer.writeTexts({bankText(4)});
-    std::filesystem::copy(writer.folder.path(), pack.path(),
-                          std::filesystem::copy_options::recursive |
-                              std::filesystem::copy_options::overwrite_existing);
-    own.write("Yes1", "");
-  }
-  /// Writes the pack anew.
-  void writeTexts(const std::vector<StoredText>& texts) {
-    ProgramRun writer;
-    writer.writeTexts(texts);
-    for (const char* name : {"data.vt", "data.av"})
-      pack.write(name, writer.folder.read(name));
-  }
-  /// Puts something in the list's place that cannot be read.
-  void hideList() {
-    std::filesystem::remove(own.pathOf("data.c"));
-    std::filesystem::create_directory(own.pathOf("data.c"));
-  }
-  void bringListBack(const std::string& records) {
-    std::filesystem::remove(own.pathOf("data.c"));
-    own.write("data.c", records);
-  }
-  /// The words at the next start.
-  Texts wordsNextTime() {
-    Learning next(pack, own);
-    next.run.start();
-    return next.words();
-  }
-
-  TestFolder pack;
-  TestFolder own;
-};
+class LearnerWordsTest : public test::WithLearnersFolder {};
 
 // -- Two folders.
 

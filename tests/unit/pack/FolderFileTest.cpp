@@ -1,6 +1,7 @@
 // What a learner owns as one file: it comes back as it went, and nothing else comes with it.
 #include "pack/FolderFile.h"
 
+#include "learner/DatedCopies.h"
 #include "learner/LearnerLock.h"
 #include "support/TestFolder.h"
 
@@ -64,8 +65,19 @@ TEST_F(FolderFileTest, WhatWasThereIsKeptAsACopy) {
   EXPECT_EQ(imported(), ListResult::Fine);
   EXPECT_EQ(theirs.read("learner/data.c"), record("bank"));
   EXPECT_FALSE(theirs.has("learner/texts/002.txt"));
+  const DatedCopies copies(list.folder, systemFiles(), systemCalendar());
+  ASSERT_FALSE(copies.all().empty());
+  EXPECT_EQ(copies.read(copies.all().back().name, "texts/002.txt"), "Theirs");
   EXPECT_EQ(restoreWords(list, "", Doing::Do, out), ListResult::Fine);
   EXPECT_EQ(theirs.read("learner/data.c"), record("bank") + record("field"));
+}
+
+TEST_F(FolderFileTest, TextsOfAFolderWithoutWordsAreKeptToo) {
+  theirs.write("learner/texts/002.txt", "Theirs");
+  putArchive({{"data.c", record("bank")}, {"texts/002.txt", "Mine"}});
+  EXPECT_EQ(imported(), ListResult::Fine);
+  EXPECT_EQ(theirs.read("learner/texts/002.txt"), "Mine");
+  EXPECT_EQ(theirs.read("learner/backups/texts/002.txt"), "Theirs");
 }
 
 TEST_F(FolderFileTest, NamesThatAreNoLearnersArePassedOver) {

@@ -38,6 +38,16 @@ class LearnersListTest : public testing::Test {
     once.start();
     once.program.closeAtOnce();
   }
+  /// Takes a word and leaves the program as a kill does.
+  void takeRiverIntoTheJournal() {
+    run.start();
+    run.clickButton(1);
+    run.key(key::Home);
+    run.key(key::Enter);
+    Surface& R2 = run.controls().R2;
+    run.click(R2, static_cast<int>(R2.Text().find("river")) + 1);
+    run.key(key::Enter);
+  }
   std::string told() { return std::exchange(out, std::ostringstream()).str(); }
 
   static constexpr std::int32_t Bank = 7;
@@ -67,13 +77,7 @@ TEST_F(LearnersListTest, AWordWhoseSentenceIsGoneIsMarked) {
 }
 
 TEST_F(LearnersListTest, WordsThatAreInTheJournalOnlyAreToldToo) {
-  run.start();
-  run.clickButton(1);
-  run.key(key::Home);
-  run.key(key::Enter);
-  Surface& R2 = run.controls().R2;
-  run.click(R2, static_cast<int>(R2.Text().find("river")) + 1);
-  run.key(key::Enter);
+  takeRiverIntoTheJournal();
   ASSERT_EQ(run.folder.read("data.c"), "");
   EXPECT_EQ(listWords(list, out), ListResult::Fine);
   EXPECT_THAT(told(), HasSubstr("river\tTown\tA river here."));
@@ -136,6 +140,13 @@ TEST_F(LearnersListTest, WhatIsOddIsToldAndMended) {
   EXPECT_EQ(run.folder.read("data.c"), record("bank", Bank) + record("river", 0));
   EXPECT_EQ(checkWords(list, run.folder.path(), Doing::Show, out), ListResult::Fine);
   EXPECT_TRUE(run.folder.has("backups")) << "the list as it was is kept";
+}
+
+TEST_F(LearnersListTest, MendingKeepsTheWordsThatAreInTheJournalOnly) {
+  takeRiverIntoTheJournal();
+  run.folder.write("data.c", record("bank", Bank) + "odd");
+  EXPECT_EQ(checkWords(list, std::nullopt, Doing::Do, out), ListResult::Fine);
+  EXPECT_EQ(run.folder.read("data.c"), record("bank", Bank) + record("river", River));
 }
 
 TEST_F(LearnersListTest, NothingIsWrittenWhileTheProgramRuns) {
