@@ -37,8 +37,9 @@ const NounUseName* useAt(std::string_view text) {
   return found != NounUseNames.end() ? &*found : nullptr;
 }
 
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
+/// Whether a text opens with the number of a sense: "1 ".
+bool startsWithNumber(std::string_view text) {
+  return text.size() > 1 && text[0] >= '0' && text[0] <= '9' && text[1] == ' ';
 }
 
 /// The level behind a head word: "go A1"; empty without one.
@@ -69,7 +70,7 @@ class DictionaryParser {
     } else if (line.text.starts_with(phrasesOpener)) {
       readPhrases(line.text);
     } else if (line.text == formsFirstLine) {
-      entries_.back().formsFirst = true;
+      readFormsFirst();
     } else if (line.text.starts_with(exampleOpener)) {
       readExample(line.text);
     } else {
@@ -99,7 +100,15 @@ class DictionaryParser {
     if (inBlock_ && block().senses.empty()) {
       problems_.add(entries_.back().where, said("the head word has no sense"));
     }
+    expectSecond(nullptr);
     inBlock_ = false;
+  }
+
+  /// A number 1 that no 2 follows would not be shown.
+  void expectSecond(const Sense* next) {
+    if (firstAt_.line != 0 && (next == nullptr || next->number != 2))
+      problems_.add(firstAt_, said("a sense that is not followed by a second one has no number"));
+    firstAt_ = {};
   }
 
   void readHead(std::string_view text) {
@@ -120,10 +129,17 @@ class DictionaryParser {
       return;
     }
     Sense sense{name->wordClass, Language::Vietnamese, {}};
-    std::size_t at = 2 + name->source.size() + 1;
+    const std::size_t numberAt = 2 + name->source.size() + 1;
+    std::size_t at = numberAt;
     readNumber(text, at, sense);
     readUse(text, at, sense);
+    expectSecond(&sense);
+    if (sense.number == 1) firstAt_ = {file_, line_, static_cast<int>(numberAt) + 1};
     const std::string_view rest = text.substr(at);
+    if (rest.starts_with('/') || startsWithNumber(rest)) {
+      report(at + 1, said("a gloss that begins with \"/\" or a number would be taken for a "
+                          "pronunciation or for the number of a sense"));
+    }
     const std::size_t pattern = patternIn(rest);
     sense.text = stretch(rest.substr(0, pattern), at);
     if (pattern < rest.size()) sense.pattern = stretch(rest.substr(pattern + 2), at + pattern + 2);
@@ -131,7 +147,7 @@ class DictionaryParser {
   }
 
   void readNumber(std::string_view text, std::size_t& at, Sense& sense) {
-    if (at + 1 >= text.size() || !isDigit(text[at]) || text[at + 1] != ' ') return;
+    if (!startsWithNumber(text.substr(at))) return;
     sense.number = text[at] - '0';
     const auto& senses = block().senses;
     const bool follows = !senses.empty() && senses.back().wordClass == sense.wordClass;
@@ -180,6 +196,13 @@ class DictionaryParser {
     }
   }
 
+  void readFormsFirst() {
+    const std::size_t count = entries_.size();
+    if (count > 1 && entries_[count - 2].head == entries_.back().head)
+      report(1, said("\"forms-first\" stands with the first of two words of one spelling"));
+    entries_.back().formsFirst = true;
+  }
+
   void readPhrases(std::string_view text) {
     if (!block().phrases.empty()) report(1, said("the phrases of a head word stand on one line"));
     std::size_t at = phrasesOpener.size();
@@ -209,6 +232,7 @@ class DictionaryParser {
   Problems& problems_;
   std::vector<OwnEntry> entries_;
   int line_ = 0;
+  Where firstAt_; ///< of the last number 1 while no other sense stands below it; else line 0
   bool inBlock_ = false;
 };
 

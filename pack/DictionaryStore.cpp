@@ -65,8 +65,10 @@ std::vector<OwnEntry> decodeOwnEntries(std::string_view words, std::string_view 
       continue;
     }
     OwnNotation notation = readOwnNotation(*entry, line.text);
-    for (EntryBlock& block : notation.blocks)
-      own.push_back({std::string(line.text), std::move(block), {}, notation.formsFirst});
+    for (EntryBlock& block : notation.blocks) {
+      const bool first = &block == &notation.blocks.front();
+      own.push_back({std::string(line.text), std::move(block), {}, notation.formsFirst && first});
+    }
   }
   return own;
 }

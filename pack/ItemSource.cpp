@@ -253,6 +253,7 @@ class ItemParser {
     }
     if (translation) {
       if (!waits) report(line, said("this translation has no sentence"));
+      if (text.empty()) problems_.add(where, said("a text is missing here"));
       item_.translations.push_back(text);
       return;
     }

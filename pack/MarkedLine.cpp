@@ -135,6 +135,7 @@ class LineParser {
   }
 
   void checkText() {
+    if (line_.blueFrom && line_.text.empty()) problems_.add(where_, said("a text is missing here"));
     checkBlanks(line_.text, where_, problems_);
     if (kind_ == LineKind::Lesson && line_.text.starts_with('&') && line_.blueFrom != 0U) {
       problems_.add(where_, said("a line cannot begin with \"&\"; \"> \" makes it blue"));

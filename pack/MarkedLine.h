@@ -20,6 +20,8 @@ struct MarkedLine {
   std::string text;
   std::vector<bool> red;               ///< an element for each character
   std::optional<std::size_t> blueFrom; ///< the rest of the line is blue from here on
+
+  bool operator==(const MarkedLine&) const = default;
 };
 
 /// Parses a line as it is written; what is wrong is reported.

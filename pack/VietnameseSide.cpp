@@ -124,7 +124,7 @@ class SideFiller {
   void addOwnWord(const Word& word) {
     const bool own = word.kind == WordKind::Own || word.kind == WordKind::Letter;
     if (!own || !word.hasSenses()) return;
-    if (word.order == Order::OriginsFirst && !word.origins.empty()) {
+    if (word.opensWithOrigins()) {
       addForm(word);
     } else {
       add(word.head, meaningOf(word, {}), {}, word.kind);

@@ -19,11 +19,11 @@ std::string ownLines(const Word& word) {
   std::string lines;
   for (EntryBlock block : word.blocks) {
     const bool first = lines.empty();
-    if (!first || word.order == Order::OriginsFirst) {
+    if (!first || word.opensWithOrigins()) {
       if (block.pronunciation == word.blocks.front().pronunciation) block.pronunciation.clear();
     }
     const std::string details = headDetails(block);
-    const bool namedAgain = word.order == Order::OriginsFirst && word.kind == WordKind::Own;
+    const bool namedAgain = word.opensWithOrigins() && word.kind == WordKind::Own;
     if (!first || namedAgain) lines += "_" + word.head + (details.empty() ? "" : " ");
     lines += details + blockLines(block);
   }
@@ -105,7 +105,7 @@ std::string WordList::entryOf(const Word& word) const {
     borrowed += entryLines(borrowedSenses(origin), Examples::Without);
   }
   const std::string note = word.note.empty() ? "" : "_" + word.note;
-  if (word.order == Order::OwnFirst) return own + borrowed + note;
+  if (!word.opensWithOrigins()) return own + borrowed + note;
   return (word.hasSenses() ? word.blocks.front().pronunciation : "") + borrowed + own + note;
 }
 

@@ -73,9 +73,14 @@ struct Word {
   std::string form = {}; ///< the normal form; the list fills it in
 
   [[nodiscard]] bool hasSenses() const noexcept { return !blocks.empty(); }
+  /// True for a word whose entry opens with the words that it comes from; one without any opens
+  /// with its own senses in either order.
+  [[nodiscard]] bool opensWithOrigins() const noexcept {
+    return order == Order::OriginsFirst && !origins.empty();
+  }
   /// True for a word whose entry opens with how it is built.
   [[nodiscard]] bool isBuilt() const noexcept {
-    return order == Order::OriginsFirst && !origins.empty() && !origins.front().affix.empty();
+    return opensWithOrigins() && !origins.front().affix.empty();
   }
 };
 

@@ -3,8 +3,6 @@
 #include "exercises/Exercises.h"
 #include "exercises/ItemMask.h"
 #include "exercises/ItemRecord.h"
-#include "pack/ExerciseStore.h"
-#include "pack/ItemSource.h"
 #include "platform/scripted/ScriptedMachine.h"
 #include "program/ProgramControls.h"
 #include "sound/AmthanhThuc.h"
@@ -114,41 +112,10 @@ void draw(Desk& desk, std::string question, std::string_view answer) {
   use(desk, page.surface());
 }
 
-/// What is stored must be read again; references to lessons, of which there are none, come back
-/// empty.
-void checkStore(const std::vector<pack::Item>& items) {
-  using namespace talvora::pack;
-  ExerciseSource source;
-  source.banks[1] = items;
-  source.lessons[2] = items;
-  const LessonSource none;
-  const auto files = compileExercises(source, none);
-  Problems problems;
-  const ExerciseSource back =
-      decodeExercises({files.at(0).bytes, files.at(1).bytes, files.at(2).bytes}, none, problems);
-  if (!problems.none() || back.banks[1].size() != items.size()) std::abort();
-  for (std::size_t at = 0; at < items.size(); ++at) {
-    if (back.banks[1][at].kind != items[at].kind) std::abort();
-  }
-}
-
-/// What is accepted as a source of items must survive being written and read again.
-void checkSource(std::string_view text) {
-  using namespace talvora::pack;
-  Problems problems;
-  const auto items = parseItems(text, "items", ItemPlace::Bank, BlankHelp::Own, problems);
-  if (!problems.none()) return;
-  const std::string written = writeItems(items, ItemPlace::Bank);
-  const auto again = parseItems(written, "items", ItemPlace::Bank, BlankHelp::Own, problems);
-  if (!problems.none() || writeItems(again, ItemPlace::Bank) != written) std::abort();
-  checkStore(items);
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  checkSource(text);
   static Desk desk;
   const std::string_view records = text.substr(0, LongestRecord);
   const std::size_t cut = std::min(records.find('\n'), records.size());

@@ -173,6 +173,8 @@ TEST(ItemSource, ProblemsOfMistakesAndSentences) {
               Contains(HasSubstr("needs a translation")));
   EXPECT_THAT(problemsOf("item: order\n\n= Anh.\n", ItemPlace::Lesson),
               Contains(HasSubstr("has no sentence")));
+  EXPECT_THAT(problemsOf("item: order\n\nHe is very good.\n= \n", ItemPlace::Lesson),
+              Contains(HasSubstr("f:4:3: a text is missing here")));
 }
 
 TEST(ItemSource, ProblemsOfExplanations) {
@@ -186,6 +188,8 @@ TEST(ItemSource, ProblemsOfExplanations) {
   EXPECT_THAT(problems("explain 1:\nx\n\nexplain:\ny\n"), Contains(HasSubstr("rising order")));
   EXPECT_THAT(problems("explain x:\nx\n"), Contains(HasSubstr("must read")));
   EXPECT_THAT(problems("explain 1:\n"), Contains(HasSubstr("explanation 1 is empty")));
+  EXPECT_THAT(problems("explain 1:\nx\n> \n"),
+              Contains(HasSubstr("f:7:1: a text is missing here")));
   EXPECT_THAT(problems("explain:\nsee: Here\n"), Contains(HasSubstr("cannot lead to lessons")));
   EXPECT_THAT(problems("explain:\n*red* x\n"), Contains(HasSubstr("no colours")));
   EXPECT_THAT(problems("explain 1:\nx\n", BlankHelp::VerbLessons),

@@ -130,7 +130,7 @@ TEST(DictionarySource, ReportsWhatIsWrongInTheFinerParts) {
   EXPECT_EQ(problemsOf("go\n  v. 2 đi\n"),
             std::vector<std::string>{
                 "d.txt:2:6: the senses of a class count 1, 2, 3 and stand together"});
-  EXPECT_EQ(problemsOf("go\n  v. 1 đi\n  n. 1 lượt\n  v. 2 trở nên\n").front(),
+  EXPECT_EQ(problemsOf("go\n  v. 1 đi\n  n. 1 lượt\n  v. 2 trở nên\n").back(),
             "d.txt:4:6: the senses of a class count 1, 2, 3 and stand together");
   const std::string use =
       "in square brackets may stand u, c, u c, sg or pl, ahead of a noun's gloss";
@@ -145,6 +145,23 @@ TEST(DictionarySource, ReportsWhatIsWrongInTheFinerParts) {
             std::vector<std::string>{"d.txt:3:1: a head word has at most 4 phrases"});
   EXPECT_EQ(problemsOf("go\n  v. đi\n  forms: went\n  forms: gone\n"),
             std::vector<std::string>{"d.txt:4:1: the forms of a head word stand on one line"});
+}
+
+TEST(DictionarySource, RefusesWhatAnEntryWouldNotGiveBack) {
+  const std::vector<std::string> alone = {
+      "d.txt:2:6: a sense that is not followed by a second one has no number"};
+  EXPECT_EQ(problemsOf("go\n  v. 1 đi\n"), alone);
+  EXPECT_EQ(problemsOf("go\n  v. 1 đi\n  v. trở nên\n"), alone);
+  EXPECT_EQ(problemsOf("go\n  v. 1 đi\n\nsee\n  v. thấy\n"), alone);
+  EXPECT_EQ(problemsOf("go\n  v. 1 đi\n    > I go. = Tôi đi.\n  v. 2 trở nên\n  n. lượt\n"),
+            std::vector<std::string>{});
+  const std::string taken = "a gloss that begins with \"/\" or a number would be taken for a "
+                            "pronunciation or for the number of a sense";
+  EXPECT_EQ(problemsOf("go\n  v. /gou/ đi\n"), std::vector<std::string>{"d.txt:2:6: " + taken});
+  EXPECT_EQ(problemsOf("go\n  n. [u] 1 lượt\n"), std::vector<std::string>{"d.txt:2:10: " + taken});
+  EXPECT_EQ(problemsOf("saw\n  n. cái cưa\n\nsaw\n  v. cưa\n  forms-first\n"),
+            std::vector<std::string>{
+                "d.txt:6:1: \"forms-first\" stands with the first of two words of one spelling"});
 }
 
 TEST(DictionarySource, ReportsWhatIsWrongAndWhere) {

@@ -81,6 +81,11 @@ TEST(FilledList, AHeadWordThatIsAlsoAFormShowsBoth) {
       "_#tính từ #đang làm việc_dạng -ing của work_#động từ #làm việc");
 }
 
+TEST(FilledList, AHeadWordThatIsNoFormOpensWithItsOwnSensesWhateverItSays) {
+  EXPECT_EQ(ownEntry("saw B1\n  n. cái cưa\n  forms: saws\n  forms-first\n", "saw"),
+            "(saws) B1_#danh từ #cái cưa");
+}
+
 TEST(FilledList, TwoVerbsOfOneSpellingKeepTheirForms) {
   const std::string lie = "lie A2\n  v. nằm\n  forms: lay, lain\n\n"
                           "lie B1\n  v. nói dối\n  n. lời nói dối\n  forms: lied, lied\n";
@@ -97,6 +102,7 @@ TEST(FilledList, APackGivesBackAllKindsOfOwnEntries) {
   const std::string source = "lie A2\n  v. nằm\n  forms: lay, lain\n\n"
                              "lie B1\n  v. nói dối\n  forms: lied, lied\n\n"
                              "saw\n  n. cái cưa\n  forms-first\n\n"
+                             "saw\n  v. cưa\n  forms: sawed, sawn\n\n"
                              "see A1\n  v. thấy\n  forms: saw, seen\n";
   Problems problems;
   WordSources sources;
