@@ -17,9 +17,11 @@ namespace talvora::pack {
 
 namespace {
 
-/// The list comes last: with it the folder is the other one.
+/// The list comes last: with it the folder is the other one. The journal travels for the words that
+/// could not be put into the list.
 constexpr std::array topFiles = {learnerfile::FirstRun, learnerfile::Settings, OwnTextsFile,
-                                 learnerfile::Lists,    learnerfile::Rows,     learnerfile::Words};
+                                 learnerfile::Lists,    learnerfile::Journal,  learnerfile::Rows,
+                                 learnerfile::Words};
 
 /// What a dated copy keeps.
 constexpr std::array copiedFiles = {learnerfile::Words, learnerfile::Settings, learnerfile::Rows,
@@ -140,15 +142,20 @@ ListResult exportFolder(const LearnersList& list, const std::string& file, std::
   // What the journal holds belongs to the list.
   LearnerWords(list.folder, list.files, list.calendar).open();
   std::vector<ZipEntry> entries;
+  bool whole = true;
   for (const std::string& name : namesIn(list)) {
     std::error_code error;
-    if (const auto content = readWhole(list.files, pathOf(list, name), error))
-      entries.push_back({name, textOfBytes(*content)});
+    const auto content = readWhole(list.files, pathOf(list, name), error);
+    if (content) entries.push_back({name, textOfBytes(*content)});
+    if (content || error == std::errc::no_such_file_or_directory) continue;
+    // What can be read is worth carrying away, from a disk that breaks more than from any other.
+    out << fileProblem(pathOf(list, name), said("cannot be read"), error) << "\n";
+    whole = false;
   }
   if (const auto problem = replaceFile(list.files, file, bytesOfText(zipOf(entries))))
     return tellUnwritten(*problem, out);
   out << said("{} files written into {}.", entries.size(), file) << "\n";
-  return ListResult::Fine;
+  return whole ? ListResult::Fine : ListResult::Found;
 }
 
 ListResult importFolder(const LearnersList& list, const std::string& file, std::ostream& out) {

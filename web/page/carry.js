@@ -9,7 +9,7 @@ const FirstRun = 'Yes1';
 const Copied = [Words, 'data.Kcu', 'words.txt', 'lists.txt'];
 const LargestFile = 64 * 1024 * 1024;
 const Travels =
-  /^(Yes1|owntexts\.av|texts\/\d{3}\.txt|(backups\/\d{4}(-\d\d){2}_\d\d(-\d\d){2,3}\/)?(data\.c|data\.Kcu|words\.txt|lists\.txt))$/;
+  /^(Yes1|owntexts\.av|words\.journal|texts\/\d{3}\.txt|(backups\/\d{4}(-\d\d){2}_\d\d(-\d\d){2,3}\/)?(data\.c|data\.Kcu|words\.txt|lists\.txt))$/;
 
 /** @typedef {Map<string, Uint8Array>} Files */
 

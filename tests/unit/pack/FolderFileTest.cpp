@@ -3,7 +3,10 @@
 
 #include "learner/DatedCopies.h"
 #include "learner/LearnerLock.h"
+#include "learner/LearnerWords.h"
+#include "learner/WordJournal.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -78,6 +81,38 @@ TEST_F(FolderFileTest, TextsOfAFolderWithoutWordsAreKeptToo) {
   EXPECT_EQ(imported(), ListResult::Fine);
   EXPECT_EQ(theirs.read("learner/texts/002.txt"), "Mine");
   EXPECT_EQ(theirs.read("learner/backups/texts/002.txt"), "Theirs");
+}
+
+TEST_F(FolderFileTest, WordsThatAreInTheJournalOnlyTravelFromAFullDiskToo) {
+  mine.write("data.c", record("bank"));
+  WordRow row;
+  row.word = "river";
+  WordJournal journal(mine.pathOf("words.journal"), systemFiles());
+  ASSERT_FALSE(journal.append({{WordDeed::Kind::Added, row}}));
+  test::FaultyFiles full;
+  full.counts = [&](const std::string& call, const std::string& path) {
+    return call == "write" && path.starts_with(mine.path());
+  };
+  full.failAlways();
+  EXPECT_EQ(exportFolder({mine.path(), full}, file, out), ListResult::Fine);
+  EXPECT_EQ(imported(), ListResult::Fine);
+  LearnerWords(list.folder, systemFiles(), systemCalendar()).open();
+  EXPECT_EQ(theirs.read("learner/data.c"), record("bank") + record("river"));
+}
+
+TEST_F(FolderFileTest, AFileThatCannotBeReadIsToldAndTheOthersTravel) {
+  mine.write("data.c", record("bank"));
+  mine.write("data.Kcu", std::string(76, '\1'));
+  test::FaultyFiles broken;
+  broken.looksCount = true;
+  broken.counts = [](const std::string& call, const std::string& path) {
+    return call == "read" && path.ends_with("data.Kcu");
+  };
+  broken.failAlways(std::errc::io_error);
+  EXPECT_EQ(exportFolder({mine.path(), broken}, file, out), ListResult::Found);
+  EXPECT_THAT(out.str(), HasSubstr("data.Kcu: cannot be read"));
+  EXPECT_EQ(imported(), ListResult::Fine);
+  EXPECT_EQ(theirs.read("learner/data.c"), record("bank"));
 }
 
 TEST_F(FolderFileTest, NamesThatAreNoLearnersArePassedOver) {
