@@ -172,6 +172,18 @@ def read_by_line():
     passed("a page is read line by line")
 
 
+def be_told():
+    """The program hears from the bus, in its own time, what somebody listens to; before that it tells
+    no move of a caret."""
+    page("Danh sách bài")
+
+    def move():
+        press("Down")
+        return carets
+
+    until(move, "no move of the caret is told")
+
+
 def hear_the_caret():
     titles = page("Danh sách bài")
     press("ctrl+Home")
@@ -223,13 +235,15 @@ def hear_a_verdict():
 
 
 Atspi.init()
+tutor = until(program, "the program is not on the accessibility bus")
+# Whoever comes to the bus later may miss who listened before.
 listeners = [
     listen(hear_caret, "object:text-caret-moved"),
     listen(hear_showing, "object:state-changed:showing"),
 ]
-tutor = until(program, "the program is not on the accessibility bus")
 press_a_menu_button()
 read_by_line()
+be_told()
 hear_the_caret()
 hear_an_entry()
 hear_a_verdict()
