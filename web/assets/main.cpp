@@ -16,8 +16,8 @@ namespace {
 
 constexpr int Failed = 1;
 constexpr int BadUse = 2;
-/// Twice the virtual screen, which serves screens up to 4K.
-constexpr QSize LandscapeSize(2732, 1536);
+/// Twice the form of the virtual screen, which serves screens up to 4K.
+constexpr QSize LandscapeSize(2732, 1490);
 constexpr int LandscapeQuality = 88;
 
 bool writeAll(const QString& folder) {

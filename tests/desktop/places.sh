@@ -1,0 +1,52 @@
+#!/bin/bash
+# Goes to a place of each kind in the real program and keeps its picture and its trace, for another
+# front to be held against them: NAME.png and NAME.trace.
+#
+#   places.sh PROGRAM PACK_FOLDER PICTURE_FOLDER [WIDTHxHEIGHT]
+#
+# The pack is the small one of the scenarios; it is copied first, since the program writes into it.
+# Needs Xvfb, xdotool and ImageMagick.
+set -u
+
+here=$(dirname "$(realpath "$0")")
+for part in frame start; do
+  # shellcheck source=/dev/null
+  . "$here/walk/$part.sh"
+done
+
+keep() { # NAME
+  settle "$1"
+  cp "$work/trace" "$pictures/$1.trace"
+}
+
+start_display
+cp -r "$pack" "$work/pack"
+: >"$work/pack/Yes1"
+start_program
+# The pointer stands where nothing answers to it.
+xdotool mousemove $((screen_width / 2)) $((screen_height - 2))
+keep menu
+click_button 1
+expect_note "focus=R1 "
+keep list
+press Down
+press Return
+expect_note "focus=R2 "
+sleep 2
+keep text
+click_word R2 word
+expect_visible RHD
+keep entry
+leave_to_menu
+click_button 3
+expect_note "focus=RVP1 "
+press Down
+press Return
+expect_note "focus=RVP2 "
+sleep 2
+keep lesson
+leave_to_menu
+# An item is another one each time; the settings stay.
+click_button 8
+expect_note "focus=RAmthanh "
+keep settings
