@@ -58,6 +58,7 @@ let freeAt = 0;
 const line = createServer((client) => {
   const server = connect(Number(new URL(address).port), '127.0.0.1');
   let waiting = 0;
+  let order = Promise.resolve();
   client.on('data', (part) => server.write(part));
   server.on('data', (part) => {
     const now = performance.now();
@@ -69,7 +70,11 @@ const line = createServer((client) => {
       waiting -= part.length;
       if (waiting <= Ahead) server.resume();
     };
-    setTimeout(pass, isSlow ? freeAt - now + LatencyMs : 0);
+    // What comes when the line is fast again stays behind what is still on its way.
+    const due = isSlow ? freeAt + LatencyMs : now;
+    order = order
+      .then(() => new Promise((resolve) => setTimeout(resolve, due - performance.now())))
+      .then(pass);
   });
   for (const [one, other] of [
     [client, server],
