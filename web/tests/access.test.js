@@ -52,7 +52,7 @@ test('the pages have roles and names, and no fault that axe-core knows', async (
   await learner.control('but10').click();
   await learner.at('RN1');
   await learner.key('Enter');
-  await learner.at('RDT');
+  await learner.atItem();
   await expectNoFault(learner, 'item');
   await learner.close();
 });

@@ -7,6 +7,8 @@ import { chromium } from 'playwright-core';
 
 const Patience = 30_000;
 const Unseen = 4000;
+/** An item of any kind, with the keyboard. */
+export const AnyItem = ['RDT', 'RABCD', 'Rsai'].map((name) => `#c-${name}.focused`).join();
 const Desktop = { width: 1366, height: 768 };
 const server = fileURLToPath(new URL('../tools/serve.js', import.meta.url));
 
@@ -96,6 +98,11 @@ export class Learner {
   /** Waits until a control has the keyboard. @param {string} name */
   async at(name) {
     await this.page.locator(`#c-${name}.focused`).waitFor();
+  }
+
+  /** Waits until an item has the keyboard, which is drawn among several kinds. */
+  async atItem() {
+    await this.page.locator(AnyItem).waitFor();
   }
 
   async onMenu() {

@@ -34,7 +34,7 @@ test('without shared memory the program is suspended while it waits', async () =
   await learner.control('but10').click();
   await learner.at('RN1');
   await learner.key('Enter');
-  await learner.at('RDT');
+  await learner.atItem();
   await learner.reload();
   await learner.findInVocabulary(word);
   await learner.close();

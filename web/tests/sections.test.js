@@ -75,7 +75,7 @@ test('keys alone lead from the menu through a text, a lesson and an item', async
   await learner.key('Enter');
   await learner.at('RN1');
   await learner.key('Enter');
-  await learner.at('RDT');
+  await learner.atItem();
   await learner.page.locator('#title', { hasText: 'Cau' }).waitFor();
   await learner.close();
 });
