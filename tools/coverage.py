@@ -18,7 +18,8 @@ def main():
     floors = {"lines": float(sys.argv[3]), "branches": float((sys.argv[4:] or ["0"])[0])}
     files = {}
     for each in json.loads(Path(summary).read_text(encoding="utf-8"))["data"][0]["files"]:
-        files[each["filename"]] = each["summary"]
+        # With a compiler cache the paths may be told from the build's folder: "build/fuzz/../../src".
+        files[str(Path(each["filename"]).resolve())] = each["summary"]
     root = str(Path(__file__).resolve().parents[1]) + "/"
     low = []
     for line in Path(sources).read_text(encoding="utf-8").splitlines():
