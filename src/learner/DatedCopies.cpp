@@ -86,8 +86,10 @@ bool isCopyName(std::string_view name) {
   const auto fits = [](char letter, char asked) {
     return asked == '#' ? digits.has(letter) : letter == asked;
   };
-  return std::ranges::equal(name, pattern, fits) ||
-         std::ranges::equal(name, pattern.substr(0, withoutNumber), fits);
+  const auto isOf = [&](std::string_view asked) {
+    return std::equal(name.begin(), name.end(), asked.begin(), asked.end(), fits);
+  };
+  return isOf(pattern) || isOf(pattern.substr(0, withoutNumber));
 }
 
 std::vector<DatedCopy> thinned(const std::vector<DatedCopy>& copies) {
