@@ -93,14 +93,17 @@ void takeOneOf(CLI::Option& option, const std::vector<std::pair<std::string, int
 }
 
 void takeNumberUpTo(CLI::Option& option, int most) {
-  option.check(CLI::Validator(
-      [most](const std::string& given) -> std::string {
+  // For the library a number that begins with 0 is an octal one.
+  option.transform(CLI::Validator(
+      [most](std::string& given) -> std::string {
         int number = 0;
         const auto [end, failure] =
             std::from_chars(given.data(), given.data() + given.size(), number);
         const bool whole = failure == std::errc() && end == given.data() + given.size();
-        if (whole && number >= 1 && number <= most) return {};
-        return said("\"{}\" is no number from 1 to {}", given, most);
+        if (!whole || number < 1 || number > most)
+          return said("\"{}\" is no number from 1 to {}", given, most);
+        given = std::to_string(number);
+        return {};
       },
       ""));
 }

@@ -65,6 +65,17 @@ std::optional<std::size_t> secondSentence(std::string_view line) {
   return std::nullopt;
 }
 
+/// Where a quotation opens with the mark that closes one, or the other way round.
+std::optional<std::size_t> wrongQuotationMark(std::string_view line) {
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    const std::string_view rest = line.substr(at);
+    const bool behindBlank = at == 0 || line[at - 1] == ' ';
+    if (rest.starts_with(closing) && behindBlank) return at;
+    if (rest == opening || rest.starts_with(std::string(opening) + " ")) return at;
+  }
+  return std::nullopt;
+}
+
 /// Checks one text.
 class TextChecker {
  public:
@@ -105,12 +116,19 @@ class TextChecker {
     }
     if (const auto second = secondSentence(line))
       report(*second, said("a second sentence begins here; each has a line of its own"));
+    checkQuotationMarks(line);
+  }
+
+  void checkQuotationMarks(std::string_view line) {
+    if (const auto wrong = wrongQuotationMark(line))
+      report(*wrong, said("a quotation opens with “ and closes with ”"));
   }
 
   void checkTranslation(const SourceLine& line) {
     line_ = line.number;
     if (!endsClosed(line.text))
       report(line.text.size(), said("the translation has no closing point"));
+    checkQuotationMarks(line.text);
     for (std::string& fault : translationFaults(sentence_, line.text))
       report(0, std::move(fault));
   }

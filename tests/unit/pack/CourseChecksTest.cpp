@@ -46,6 +46,13 @@ TEST(TextChecks, FindASentenceWithoutItsPoint) {
               ElementsAre(HasSubstr("t:2:4: the translation has no closing point")));
 }
 
+TEST(TextChecks, FindAQuotationMarkThatStandsForTheOther) {
+  EXPECT_THAT(problemsOf("”Come in,” she said.\n= “Mời vào,“ cô nói.\n"),
+              ElementsAre("t:1:1: a quotation opens with “ and closes with ”", HasSubstr("t:2:")));
+  EXPECT_THAT(problemsOf("She said, ”Come in.”\n= Cô bảo: “Mời vào.”\n"),
+              ElementsAre(HasSubstr("t:1:11: a quotation opens")));
+}
+
 TEST(TextChecks, HoldATranslationToItsSentence) {
   EXPECT_THAT(problemsOf("Is it Monday?\n= Hôm nay thứ Ba.\n"),
               ElementsAre(HasSubstr("t:2:1: the sentence asks"),
