@@ -145,7 +145,7 @@ class TextChecker {
   }
 
   // A click looks up the word with its hyphen, and the list has its lines without.
-  void checkHyphen(std::string word, std::size_t at) {
+  void checkHyphen(const std::string& word, std::size_t at) {
     if (word.find('-') == std::string::npos || isNumber(word)) return;
     std::string parted = word;
     std::replace(parted.begin(), parted.end(), '-', ' ');
