@@ -29,9 +29,35 @@ std::string layOut(const Lesson& lesson) {
   return plain + textEnd;
 }
 
+MarkedLine plainLine(const std::string& line) {
+  return {line, std::vector<bool>(line.size()), std::nullopt};
+}
+
 Lesson openLesson() {
-  const std::string line = ownText("Bài này đang được soạn, mời bạn học một bài khác nhé.");
-  return {openSlotTitle(), {{line, std::vector<bool>(line.size()), std::nullopt}}};
+  return {openSlotTitle(),
+          {plainLine(ownText("Bài này đang được soạn, mời bạn học một bài khác nhé."))}};
+}
+
+/// The titles of the lessons between a heading and the next one.
+std::vector<MarkedLine> titlesBelow(const LessonSource& source, int slot) {
+  const auto next = source.headings.upper_bound(slot);
+  const auto end = next == source.headings.end() ? source.lessons.end()
+                                                 : source.lessons.lower_bound(next->first);
+  std::vector<MarkedLine> titles;
+  for (auto lesson = source.lessons.upper_bound(slot); lesson != end; ++lesson)
+    titles.push_back(plainLine(lesson->second.title));
+  return titles;
+}
+
+/// A heading can be opened like a lesson: its page tells what it stands over.
+Lesson headingPage(const LessonSource& source, int slot, const std::string& heading) {
+  Lesson page{headingMark + heading, titlesBelow(source, slot)};
+  const bool none = page.lines.empty();
+  const std::string opening =
+      none ? ownText("Các bài của phần này đang được soạn.")
+           : ownText("Phần này có những bài sau, mời bạn bấm Esc rồi chọn một bài:");
+  page.lines.insert(page.lines.begin(), plainLine(opening));
+  return page;
 }
 
 std::string textOfSlot(const LessonSource& source, const std::set<int>& withItems, int slot) {
@@ -40,7 +66,7 @@ std::string textOfSlot(const LessonSource& source, const std::set<int>& withItem
     return (withItems.count(slot) > 0 ? std::string(1, itemsMark) : "") + layOut(lesson->second);
   }
   const auto heading = source.headings.find(slot);
-  if (heading != source.headings.end()) return layOut({headingMark + heading->second, {}});
+  if (heading != source.headings.end()) return layOut(headingPage(source, slot, heading->second));
   return layOut(openLesson());
 }
 

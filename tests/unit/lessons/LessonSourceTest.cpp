@@ -140,12 +140,27 @@ TEST(LessonStore, FillsEverySlotAndMarksLessonsWithItems) {
             ownText("(đang soạn)") + "\r" +
                 ownText("Bài này đang được soạn, mời bạn học một bài khác nhé."));
   EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 2), '@'), ".A\r&b\r\rc");
-  EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 3), '@'), "*Group\r");
+  EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 3), '@'),
+            "*Group\r" + ownText("Các bài của phần này đang được soạn."));
   const LessonSource back = decodeLessons(store.positions, store.stream, problems);
   EXPECT_TRUE(problems.none());
   EXPECT_EQ(back.lessons.size(), 1U);
   EXPECT_EQ(writeLesson(back.lessons.at(2)), writeLesson(source.lessons.at(2)));
   EXPECT_EQ(back.headings, source.headings);
+}
+
+TEST(LessonStore, AHeadingsPageNamesTheLessonsBelowIt) {
+  Problems problems;
+  LessonSource source;
+  for (const int slot : {1, 3, 5, 7})
+    source.lessons[slot] =
+        parseLesson("title: T" + std::to_string(slot) + "\n\na\n", "f", problems);
+  source.headings = {{2, "Group"}, {6, "Next"}};
+  const TextStore store = compileLessons(source, {});
+  EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 2), '@'),
+            "*Group\r" + ownText("Phần này có những bài sau, mời bạn bấm Esc rồi chọn một bài:") +
+                "\rT3\rT5");
+  EXPECT_EQ(decodeLessons(store.positions, store.stream, problems).headings, source.headings);
 }
 
 TEST(LessonStore, ADamagedStoreIsReportedByLesson) {
