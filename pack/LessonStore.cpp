@@ -51,12 +51,15 @@ std::vector<MarkedLine> titlesBelow(const LessonSource& source, int slot) {
 
 /// A heading can be opened like a lesson: its page tells what it stands over.
 Lesson headingPage(const LessonSource& source, int slot, const std::string& heading) {
-  Lesson page{headingMark + heading, titlesBelow(source, slot)};
-  const bool none = page.lines.empty();
-  const std::string opening =
-      none ? ownText("Các bài của phần này đang được soạn.")
-           : ownText("Phần này có những bài sau, mời bạn bấm Esc rồi chọn một bài:");
-  page.lines.insert(page.lines.begin(), plainLine(opening));
+  const std::vector<MarkedLine> titles = titlesBelow(source, slot);
+  Lesson page{headingMark + heading, {}};
+  if (titles.empty()) {
+    page.lines.push_back(plainLine(ownText("Các bài của phần này đang được soạn.")));
+    return page;
+  }
+  page.lines = {plainLine(ownText("Phần này có những bài sau, mời bạn bấm Esc rồi chọn một bài:")),
+                plainLine("")};
+  page.lines.insert(page.lines.end(), titles.begin(), titles.end());
   return page;
 }
 

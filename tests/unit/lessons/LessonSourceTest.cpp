@@ -159,7 +159,7 @@ TEST(LessonStore, AHeadingsPageNamesTheLessonsBelowIt) {
   const TextStore store = compileLessons(source, {});
   EXPECT_EQ(storedUntil(store.stream, integerAt(store.positions, 2), '@'),
             "*Group\r" + ownText("Phần này có những bài sau, mời bạn bấm Esc rồi chọn một bài:") +
-                "\rT3\rT5");
+                "\r\rT3\rT5");
   EXPECT_EQ(decodeLessons(store.positions, store.stream, problems).headings, source.headings);
 }
 
