@@ -49,17 +49,9 @@ void BT_Chonsai::show() {
 }
 
 void BT_Chonsai::VeChonSai(const std::string& body) {
-  page_.begin();
-  const std::string head = item_.DeMuc + "\r\r";
-  item_.MatNa = head + body + "\r<Next>";
-  item_.CauHienThi = head + hideAnswers(body) + "\r";
-  TaoMatNa(item_.MatNa);
-  Rsai_.SelText(item_.CauHienThi);
-  page_.writeFoot();
-  item_.CauHienThi += "<Back>    <Next>";
+  page_.writeHidden(body);
   drawPhrases();
-  const auto firstMark = item_.CauHienThi.find('_');
-  page_.goTo(firstMark == std::string::npos ? 0 : static_cast<int>(firstMark) + 1);
+  page_.goToFirstMark();
   LapOTrong(item_, services_.state.list.TenBaiHoc);
   DanhDauSai();
 }

@@ -83,17 +83,9 @@ void BT_DienTu::entered() {
 }
 
 void BT_DienTu::VeDienTu(const std::string& body) {
-  page_.begin();
-  const std::string head = item_.DeMuc + "\r\r";
-  item_.MatNa = head + body + "\r<Next>";
-  item_.CauHienThi = head + hideAnswers(body) + "\r";
-  TaoMatNa(item_.MatNa);
-  RDT_.SelText(item_.CauHienThi);
-  page_.writeFoot();
-  item_.CauHienThi += "<Back>    <Next>";
+  page_.writeHidden(body);
   drawCells();
-  const auto firstCell = item_.CauHienThi.find('_');
-  page_.goTo(firstCell == std::string::npos ? 0 : static_cast<int>(firstCell) + 1);
+  page_.goToFirstMark();
   LapOTrong(item_, services_.state.list.TenBaiHoc);
 }
 

@@ -45,11 +45,28 @@ void ItemPage::writeFoot() {
   services_.item.links = writeLinks(surface_, look::Red);
 }
 
+void ItemPage::writeHidden(const std::string& text) {
+  begin();
+  ItemState& item = services_.item;
+  const std::string head = item.DeMuc + "\r\r";
+  item.MatNa = head + text + "\r<Next>";
+  item.CauHienThi = head + hideAnswers(text) + "\r";
+  TaoMatNa(item.MatNa);
+  surface_.SelText(item.CauHienThi);
+  writeFoot();
+  item.CauHienThi += "<Back>    <Next>";
+}
+
 void ItemPage::goTo(int caret) {
   // The way leads over the top, so that the page is scrolled no further than the caret asks for.
   surface_.SelStart(0);
   surface_.SelStart(caret);
   services_.state.atHand.keepCaret(surface_.SelStart());
+}
+
+void ItemPage::goToFirstMark() {
+  const auto mark = services_.item.CauHienThi.find('_');
+  goTo(mark == std::string::npos ? 0 : static_cast<int>(mark) + 1);
 }
 
 // -- Keys.

@@ -11,6 +11,7 @@
 #include "surface/State.h"
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -67,8 +68,13 @@ class ItemPage {
   void begin();
   /// Writes the foot at the caret and remembers where its links are.
   void writeFoot();
+  /// Writes a whole page: the heading, a text whose answers are hidden, and the foot. The item gets
+  /// its mask and what is shown.
+  void writeHidden(const std::string& text);
   /// Goes to a caret when the page is written; as much of the page's top as goes with it is seen.
   void goTo(int caret);
+  /// The same to the first place that the text marks with "_", to the top without one.
+  void goToFirstMark();
   /// Position, from 1, of the character behind the caret.
   [[nodiscard]] int position() const { return surface_.SelStart() + 1; }
 

@@ -7,7 +7,7 @@
 namespace talvora {
 namespace {
 
-using test::copies;
+using test::bankOf;
 using test::ItemRun;
 using test::ItemStores;
 using test::lookAt;
@@ -68,10 +68,8 @@ class Explanation : public testing::Test {
   }
 
   static ItemStores contents() {
-    ItemStores stores;
-    stores.counts = {{1, 25}};
+    ItemStores stores = bankOf({"400She *went___ home.", "General^\rRead this\r?12\r?300\r?999\r"});
     stores.lessons = {{12, ".Present simple\rThe lesson."}, {357, "Last\r"}};
-    stores.items = copies(25, {"400She *went___ home.", "General^\rRead this\r?12\r?300\r?999\r"});
     return stores;
   }
 

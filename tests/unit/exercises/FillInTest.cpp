@@ -7,7 +7,7 @@
 namespace talvora {
 namespace {
 
-using test::copies;
+using test::bankOf;
 using test::ItemRun;
 using test::ItemStores;
 using test::lookAt;
@@ -16,17 +16,15 @@ using test::StoredItem;
 constexpr Colour Red = 255;
 constexpr Colour Blue = 0xFF0000;
 
-ItemStores bankOf(const StoredItem& item) {
-  ItemStores stores;
-  stores.counts = {{1, 25}};
-  stores.items = copies(25, item);
+ItemStores withALesson(const StoredItem& item) {
+  ItemStores stores = bankOf(item);
   stores.lessons = {{12, "Lesson twelve\rbody"}};
   return stores;
 }
 
 class FillIn : public testing::Test {
  protected:
-  explicit FillIn(const StoredItem& item = {"400She *went___ home.", ""}) : run(bankOf(item)) {
+  explicit FillIn(const StoredItem& item = {"400She *went___ home.", ""}) : run(withALesson(item)) {
     run.startUnit();
   }
 

@@ -104,6 +104,14 @@ void ItemRun::startUnit(int bank) {
   key(key::Enter);
 }
 
+void ItemRun::clickEverywhere(Surface& surface) {
+  constexpr int foot = 17; // "<Back>    <Next>" and the line end ahead of it
+  for (int caret = 0; caret <= surface.TextLength() - foot; ++caret) {
+    click(surface, caret);
+    rightClick(surface, caret);
+  }
+}
+
 void ItemRun::key(int keyCode, int shift) {
   hand.strike(keyOfCode(keyCode), shift, Stroke::Whole);
 }
@@ -141,6 +149,14 @@ Look lookAt(const Surface& surface, int caret) {
     }
   }
   return {};
+}
+
+ItemStores bankOf(const StoredItem& item) {
+  constexpr int unit = 25;
+  ItemStores stores;
+  stores.counts = {{1, unit}};
+  stores.items = copies(unit, item);
+  return stores;
 }
 
 std::vector<StoredItem> copies(int count, const StoredItem& item) {

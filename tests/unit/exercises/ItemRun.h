@@ -62,6 +62,8 @@ class ItemRun {
   /// A whole click at a caret of a surface, and the click that the program then sends itself.
   void click(Surface& surface, int caret, MouseButton button = MouseButton::Left);
   void rightClick(Surface& surface, int caret) { click(surface, caret, MouseButton::Right); }
+  /// Both buttons at every caret of an item ahead of its foot.
+  void clickEverywhere(Surface& surface);
   /// The caret at the start of a text on a surface; the test fails when it is not there.
   [[nodiscard]] static int caretOf(const Surface& surface, std::string_view text);
   [[nodiscard]] std::string focus() const;
@@ -98,6 +100,8 @@ struct Look {
 };
 [[nodiscard]] Look lookAt(const Surface& surface, int caret);
 
+/// A first bank of one unit, which is full of copies of an item.
+[[nodiscard]] ItemStores bankOf(const StoredItem& item);
 /// So many copies of an item.
 [[nodiscard]] std::vector<StoredItem> copies(int count, const StoredItem& item);
 

@@ -7,7 +7,7 @@
 namespace talvora {
 namespace {
 
-using test::copies;
+using test::bankOf;
 using test::ItemRun;
 using test::ItemStores;
 using test::lookAt;
@@ -17,11 +17,7 @@ class FindTheMistake : public testing::Test {
   FindTheMistake() : run(contents()) { run.startUnit(); }
 
   static ItemStores contents() {
-    ItemStores stores;
-    stores.counts = {{1, 25}};
-    stores.items =
-        copies(25, {"212She*go_to *school_ *every day_ home.\r+\rA\r", "General^\rgoes^\rfine"});
-    return stores;
+    return bankOf({"212She*go_to *school_ *every day_ home.\r+\rA\r", "General^\rgoes^\rfine"});
   }
 
   [[nodiscard]] int at(std::string_view text) const { return ItemRun::caretOf(Rsai, text); }
@@ -120,17 +116,10 @@ TEST_F(FindTheMistake, AFarPointerEndsTheDisplay) {
 TEST(MistakeBounds, DamagedRecordsDoNoHarm) {
   for (const char* question :
        {"212", "212*", "212a*b\r+\rA\r", "212*a_ b\r+\rZ\r", "212x\r+\r!\r"}) {
-    ItemStores stores;
-    stores.counts = {{1, 25}};
-    stores.items = copies(25, {question, ""});
-    ItemRun run(stores);
+    ItemRun run(bankOf({question, ""}));
     run.startUnit();
-    Surface& Rsai = run.controls.Rsai;
-    for (int caret = 0; caret <= Rsai.TextLength() - 17; ++caret) {
-      run.click(Rsai, caret);
-      run.rightClick(Rsai, caret);
-    }
-    EXPECT_TRUE(Rsai.Visible()) << question;
+    run.clickEverywhere(run.controls.Rsai);
+    EXPECT_TRUE(run.controls.Rsai.Visible()) << question;
   }
 }
 

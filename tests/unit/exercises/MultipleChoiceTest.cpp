@@ -7,7 +7,7 @@
 namespace talvora {
 namespace {
 
-using test::copies;
+using test::bankOf;
 using test::ItemRun;
 using test::ItemStores;
 using test::lookAt;
@@ -20,11 +20,8 @@ class MultipleChoice : public testing::Test {
   MultipleChoice() : run(contents()) { run.startUnit(); }
 
   static ItemStores contents() {
-    ItemStores stores;
-    stores.counts = {{1, 25}};
-    stores.items = copies(25, {"111She *has gone_ home _____ now\r+goes\r+go\r+went\r+gone\rc\r",
-                               "General^\rabout goes^^\rabout went"});
-    return stores;
+    return bankOf({"111She *has gone_ home _____ now\r+goes\r+go\r+went\r+gone\rc\r",
+                   "General^\rabout goes^^\rabout went"});
   }
 
   void clickLabel(char letter) {
@@ -162,17 +159,10 @@ TEST_F(MultipleChoice, TheLinksStep) {
 TEST(MultipleChoiceBounds, DamagedTailsDoNoHarm) {
   for (const char* question :
        {"111", "111\r+", "111x\r+a", "111*", "111*1_\r+a\r+b\r+c\r+d\rZ\r"}) {
-    ItemStores stores;
-    stores.counts = {{1, 25}};
-    stores.items = copies(25, {question, ""});
-    ItemRun run(stores);
+    ItemRun run(bankOf({question, ""}));
     run.startUnit();
-    Surface& RABCD = run.controls.RABCD;
-    for (int caret = 0; caret <= RABCD.TextLength() - 17; ++caret) {
-      run.click(RABCD, caret);
-      run.rightClick(RABCD, caret);
-    }
-    EXPECT_TRUE(RABCD.Visible()) << question;
+    run.clickEverywhere(run.controls.RABCD);
+    EXPECT_TRUE(run.controls.RABCD.Visible()) << question;
   }
 }
 

@@ -10,6 +10,7 @@
 namespace talvora {
 namespace {
 
+using test::bankOf;
 using test::copies;
 using test::ItemRun;
 using test::ItemStores;
@@ -324,10 +325,7 @@ TEST(Items, TheVerbBanksListTheirLessonsInABankOnly) {
 }
 
 TEST(Items, AnUnknownKindLeavesAnEmptyPageThatEscLeaves) {
-  ItemStores stores;
-  stores.counts = {{1, 25}};
-  stores.items = copies(25, {"900nothing", ""});
-  ItemRun run(stores);
+  ItemRun run(bankOf({"900nothing", ""}));
   run.startUnit();
   EXPECT_EQ(run.controls.RDT.Text(), "");
   run.key(key::Esc);
@@ -335,10 +333,7 @@ TEST(Items, AnUnknownKindLeavesAnEmptyPageThatEscLeaves) {
 }
 
 TEST(Items, AnOrderingItemIsHandedOnWithItsTranslations) {
-  ItemStores stores;
-  stores.counts = {{1, 25}};
-  stores.items = copies(25, {"300_He is very good.", "_Anh.\r?12\r"});
-  ItemRun run(stores);
+  ItemRun run(bankOf({"300_He is very good.", "_Anh.\r?12\r"}));
   run.startUnit();
   // The record's own mark, and the one that the drill puts ahead.
   EXPECT_EQ(run.state.text.CauHoi, "\xA0\xA0He is very good.\xA0"

@@ -8,7 +8,7 @@
 namespace talvora {
 namespace {
 
-using test::copies;
+using test::bankOf;
 using test::ItemRun;
 using test::ItemStores;
 
@@ -47,10 +47,8 @@ ItemStores longItem() {
   for (int line = 1; line <= 60; ++line)
     body += "line " + std::to_string(line) + "\r";
   body += "Then she *slept___ well.";
-  ItemStores stores;
-  stores.counts = {{1, 25}};
+  ItemStores stores = bankOf({"402" + body, "General^\rOne\r?12\r^\rTwo\r?12\r"});
   stores.lessons = {{12, ".Past simple\rThe lesson."}};
-  stores.items = copies(25, {"402" + body, "General^\rOne\r?12\r^\rTwo\r?12\r"});
   return stores;
 }
 
@@ -149,10 +147,7 @@ TEST_F(StillPage, SteppingNeverPaintsAPageWithoutItsItem) {
 }
 
 TEST(StillChoice, JudgingAndExplainingMoveNothing) {
-  ItemStores stores;
-  stores.counts = {{1, 25}};
-  stores.items = copies(25, {"111She *has gone_ home\r+goes\r+go\r+went\r+gone\rc\r", "General"});
-  ItemRun run(stores);
+  ItemRun run(bankOf({"111She *has gone_ home\r+goes\r+go\r+went\r+gone\rc\r", "General"}));
   run.startUnit();
   Surface& RABCD = run.controls.RABCD;
   EXPECT_EQ(RABCD.scroll(), ScrollPlace{});
@@ -168,10 +163,7 @@ TEST(StillChoice, JudgingAndExplainingMoveNothing) {
 }
 
 TEST(StillMistake, ChoosingAndExplainingMoveNothing) {
-  ItemStores stores;
-  stores.counts = {{1, 25}};
-  stores.items = copies(25, {"212She *go_to *school_ home.\r+\rA\r", "General^\rgoes"});
-  ItemRun run(stores);
+  ItemRun run(bankOf({"212She *go_to *school_ home.\r+\rA\r", "General^\rgoes"}));
   run.startUnit();
   Surface& Rsai = run.controls.Rsai;
   Watch watch(Rsai);

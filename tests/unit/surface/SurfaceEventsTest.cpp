@@ -1,6 +1,7 @@
 // What a surface tells, what its keys do at the edges, and how it scrolls.
 #include "surface/Surface.h"
 
+#include "NotingHost.h"
 #include "platform/scripted/FixedLayout.h"
 #include "text/Bytes.h"
 
@@ -13,16 +14,6 @@ namespace talvora {
 namespace {
 
 using testing::ElementsAre;
-
-class CountingHost final : public ControlHost {
- public:
-  void giveFocus(Control&) override {}
-  [[nodiscard]] bool hasFocus(const Control&) const noexcept override { return true; }
-  void focusNeighbour(Control&, int) override {}
-  void controlChanged(Control&, ControlChange change) override { changes.push_back(change); }
-
-  std::vector<ControlChange> changes;
-};
 
 /// Lines of 300 twips; ten of them are in view.
 class SurfaceEventsTest : public testing::Test {
@@ -45,7 +36,7 @@ class SurfaceEventsTest : public testing::Test {
   void press(int keyCode, int shift = 0) { surface.pressKey(keyCode, shift, 0); }
   void backspace() { surface.pressKey(key::Backspace, 0, chr(key::Backspace)); }
 
-  CountingHost host;
+  NotingHost host;
   FixedLayout layout;
   Surface surface{"R", host, layout};
   Surface other{"O", host, layout};

@@ -1,5 +1,6 @@
 #include "surface/Surface.h"
 
+#include "NotingHost.h"
 #include "platform/FatalFailure.h"
 #include "platform/scripted/FixedLayout.h"
 #include "support/TestFolder.h"
@@ -12,17 +13,6 @@
 
 namespace talvora {
 namespace {
-
-/// A form that takes note of what its controls tell it.
-class NotingHost final : public ControlHost {
- public:
-  void giveFocus(Control&) override {}
-  [[nodiscard]] bool hasFocus(const Control&) const noexcept override { return true; }
-  void focusNeighbour(Control&, int) override {}
-  void controlChanged(Control&, ControlChange change) override { changes.push_back(change); }
-
-  std::vector<ControlChange> changes;
-};
 
 class SurfaceTest : public testing::Test {
  protected:

@@ -2,6 +2,7 @@
 // random operations.
 #include "surface/Surface.h"
 
+#include "NotingHost.h"
 #include "platform/scripted/FixedLayout.h"
 #include "text/Bytes.h"
 
@@ -12,14 +13,6 @@
 
 namespace talvora {
 namespace {
-
-class QuietHost final : public ControlHost {
- public:
-  void giveFocus(Control&) override {}
-  [[nodiscard]] bool hasFocus(const Control&) const noexcept override { return true; }
-  void focusNeighbour(Control&, int) override {}
-  void controlChanged(Control&, ControlChange) override {}
-};
 
 /// What a surface is to do, written down without regard to cost.
 class Twin {
@@ -214,7 +207,7 @@ class TwinTest : public testing::TestWithParam<unsigned> {
     ASSERT_LT(scroll.paragraph, surface.paragraphCount());
   }
 
-  QuietHost host;
+  NotingHost host;
   FixedLayout layout;
   Surface surface{"R", host, layout};
   Twin twin;
