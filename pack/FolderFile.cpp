@@ -7,7 +7,7 @@
 #include "pack/Telling.h"
 #include "platform/Files.h"
 #include "stores/OwnTexts.h"
-#include "text/CharClass.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -26,14 +26,6 @@ constexpr std::array topFiles = {learnerfile::FirstRun, learnerfile::Settings, O
 /// What a dated copy keeps.
 constexpr std::array copiedFiles = {learnerfile::Words, learnerfile::Settings, learnerfile::Rows,
                                     learnerfile::Lists};
-
-/// Whether a name is as a pattern says, in which "#" stands for a digit.
-bool fits(std::string_view name, std::string_view pattern) {
-  static constexpr CharClass digits("[0-9]");
-  return std::ranges::equal(name, pattern, [](char letter, char asked) {
-    return asked == '#' ? digits.has(letter) : letter == asked;
-  });
-}
 
 /// Whether a name is that of a file in a dated copy.
 bool isOfCopy(std::string_view name) {
@@ -72,8 +64,8 @@ std::vector<std::string> namesIn(const LearnersList& list) {
 FolderContent contentOfFile(const LearnersList& list, const std::string& file) {
   std::error_code error;
   const FileStatus status = list.files.status(file, error);
-  const bool fits = status.kind == FileStatus::Kind::File && status.size <= folderLimits.bytes;
-  const auto archive = fits ? readWhole(list.files, file, error) : std::nullopt;
+  const bool isOne = status.kind == FileStatus::Kind::File && status.size <= folderLimits.bytes;
+  const auto archive = isOne ? readWhole(list.files, file, error) : std::nullopt;
   if (!archive) return {std::nullopt, said("cannot be read")};
   return folderContentOf(textOfBytes(*archive));
 }

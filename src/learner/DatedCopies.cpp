@@ -3,7 +3,7 @@
 #include "formats/LearnerFiles.h"
 #include "learner/VocabularyFile.h"
 #include "platform/Files.h"
-#include "text/CharClass.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -80,16 +80,7 @@ std::vector<DatedCopy> takeBest(std::vector<DatedCopy>& copies, std::size_t peri
 } // namespace
 
 bool isCopyName(std::string_view name) {
-  static constexpr CharClass digits("[0-9]");
-  constexpr std::string_view pattern = "####-##-##_##-##-##-##";
-  constexpr std::size_t withoutNumber = pattern.size() - 3;
-  const auto fits = [](char letter, char asked) {
-    return asked == '#' ? digits.has(letter) : letter == asked;
-  };
-  const auto isOf = [&](std::string_view asked) {
-    return std::equal(name.begin(), name.end(), asked.begin(), asked.end(), fits);
-  };
-  return isOf(pattern) || isOf(pattern.substr(0, withoutNumber));
+  return fits(name, "####-##-##_##-##-##") || fits(name, "####-##-##_##-##-##-##");
 }
 
 std::vector<DatedCopy> thinned(const std::vector<DatedCopy>& copies) {

@@ -1,6 +1,7 @@
 #include "text/Text.h"
 
 #include "text/Bytes.h"
+#include "text/CharClass.h"
 
 #include <algorithm>
 
@@ -17,6 +18,13 @@ std::string_view trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+bool fits(std::string_view text, std::string_view pattern) {
+  static constexpr CharClass digits("[0-9]");
+  return std::equal(
+      text.begin(), text.end(), pattern.begin(), pattern.end(),
+      [](char letter, char asked) { return asked == '#' ? digits.has(letter) : letter == asked; });
 }
 
 std::vector<std::string> split(std::string_view text, char separator) {

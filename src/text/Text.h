@@ -18,6 +18,9 @@ namespace talvora {
 /// The text without the blanks at both ends.
 [[nodiscard]] std::string_view trim(std::string_view text);
 
+/// Whether a text is as a pattern says, in which "#" stands for a digit and all else for itself.
+[[nodiscard]] bool fits(std::string_view text, std::string_view pattern);
+
 /// The pieces of a text between separators: one more than there are separators.
 [[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
 

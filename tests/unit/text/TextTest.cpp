@@ -32,6 +32,13 @@ TEST(Text, TrimsBlanksOnly) {
   EXPECT_EQ(trim(""), "");
 }
 
+TEST(Text, FitsAPatternLetterForLetter) {
+  EXPECT_TRUE(fits("texts/007.txt", "texts/###.txt"));
+  for (const char* text : {"", "texts/07.txt", "texts/0007.txt", "texts/00x.txt", "texts/###.txt",
+                           "texts/007_txt", "texts/007.txt "})
+    EXPECT_FALSE(fits(text, "texts/###.txt")) << text;
+}
+
 TEST(Text, NumbersHaveALeadingBlankInPlaceOfAPlusSign) {
   EXPECT_EQ(Str(7), " 7");
   EXPECT_EQ(Str(0), " 0");
