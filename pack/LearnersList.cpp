@@ -147,7 +147,7 @@ Words mended(const VocabularyContent& content, const Oddities& found, LearnerWor
 
 ListResult listWords(const LearnersList& list, std::ostream& out) {
   LearnerWords words = wordsOf(list);
-  const auto there = words.peek();
+  const auto there = words.read();
   if (!there) return tellUnreadable(list.folder, out);
   std::size_t gone = 0;
   for (const WordRow& row : words.rowsOf(*there)) {
@@ -174,7 +174,7 @@ ListResult restoreWords(const LearnersList& list, const std::string& copy, Doing
   const LearnerLock lock(list.files, list.folder);
   if (doing == Doing::Do && lock.state() == LearnerLock::State::Taken) return tellRunning(out);
   LearnerWords words = wordsOf(list);
-  auto there = words.peek();
+  auto there = words.read();
   if (!there) there.emplace();
   const DatedCopies copies(list.folder, list.files, list.calendar);
   const std::string from = copy.empty() ? newestWithMissing(copies, *there) : copy;
@@ -231,9 +231,10 @@ ListResult checkWords(const LearnersList& list, const std::optional<std::string>
   static_cast<void>(words.copies().keep());
   words.dropOddBytes();
   // What stood in the journal is in the list by now.
-  const auto merged = contentOf(list);
+  const auto merged = words.read();
   if (!merged) return tellUnreadable(list.folder, out);
-  auto problem = words.write(mended(*merged, oddities(*merged), words));
+  const VocabularyContent whole{*merged, {}};
+  auto problem = words.write(mended(whole, oddities(whole), words));
   if (!problem && catalogue) static_cast<void>(words.carry(*catalogue));
   if (problem) return tellUnwritten(*problem, out);
   out << said("Mended.") << "\n";

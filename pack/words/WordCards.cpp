@@ -82,7 +82,7 @@ MarkedSentence markedSentence(const std::string& sentence, const std::string& wo
 
 std::optional<std::vector<WordCard>> cardsOf(const LearnersList& list, const std::string& pack) {
   LearnerWords words(list.folder, list.files, list.calendar);
-  const auto there = words.peek();
+  const auto there = words.read();
   if (!there) return std::nullopt;
   std::optional<KnowingPack> known;
   if (!pack.empty()) known.emplace(pack, list);

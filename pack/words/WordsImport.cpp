@@ -140,7 +140,7 @@ ListResult importWords(const LearnersList& list, const std::filesystem::path& fi
 
   LearnerWords words(list.folder, list.files, list.calendar);
   words.open();
-  const auto there = words.peek();
+  const auto there = words.read();
   if (!there) return tellUnreadable(list.folder, out);
   const auto rows = newRows(listed.words, *there, list, pack);
   if (!rows.empty()) {

@@ -25,6 +25,13 @@ std::string nameOf(const VocabularyWord& word) {
   return lower(word.word());
 }
 
+std::set<std::string> namesOf(const Words& words) {
+  std::set<std::string> names;
+  for (const VocabularyWord& word : words)
+    names.insert(nameOf(word));
+  return names;
+}
+
 Words::iterator findWord(Words& words, const VocabularyWord& wanted) {
   const auto exact = std::find(words.begin(), words.end(), wanted);
   if (exact != words.end()) return exact;
@@ -33,9 +40,8 @@ Words::iterator findWord(Words& words, const VocabularyWord& wanted) {
                       [&](const VocabularyWord& each) { return nameOf(each) == nameOf(wanted); });
 }
 
-/// Does to a list what a journal says; true when that changed it.
-bool replay(const std::vector<WordDeed>& deeds, Words& words) {
-  const Words before = words;
+/// Does to a list what was done.
+void replay(const std::vector<WordDeed>& deeds, Words& words) {
   for (const WordDeed& deed : deeds) {
     const VocabularyWord word = deed.row.record();
     const auto found = findWord(words, word);
@@ -45,18 +51,6 @@ bool replay(const std::vector<WordDeed>& deeds, Words& words) {
       words.push_back(word);
     }
   }
-  return words != before;
-}
-
-/// A list that could not be read, with what was taken meanwhile behind it. What was there keeps its
-/// sentence also where it was taken once more.
-Words joined(Words before, Words meanwhile) {
-  const auto wasThere = [&](const VocabularyWord& word) {
-    return findWord(before, word) != before.end();
-  };
-  std::erase_if(meanwhile, wasThere);
-  before.insert(before.end(), meanwhile.begin(), meanwhile.end());
-  return before;
 }
 
 void count(Carried& carried, Found found) {
@@ -98,9 +92,6 @@ LearnerWords::Key LearnerWords::keyOf(const VocabularyWord& word) {
 
 void LearnerWords::open() {
   storing_ = mayStore();
-  readRows();
-  // What cannot be merged into the list on the disk is merged whenever that is read.
-  unmerged_ = true;
   if (!storing_) return;
   clearLeftOvers();
   std::error_code error;
@@ -135,58 +126,24 @@ void LearnerWords::clearLeftOvers() {
   }
 }
 
-void LearnerWords::readRows() {
-  std::error_code error;
-  const auto content = readWhole(files_, pathOf(learnerfile::Rows), error);
-  missedRows_ = !content && error != std::errc::no_such_file_or_directory;
-  rowsOnDisk_ = content ? textOfBytes(*content) : std::string();
-  // What has been learned of a word since is newer.
-  for (const WordRow& row : rowsFrom(rowsOnDisk_))
-    rows_.try_emplace(keyOf(row.record()), row);
-}
-
-void LearnerWords::adopt(const std::vector<WordRow>& rows) {
-  for (const WordRow& row : rows)
-    rows_[keyOf(row.record())] = row;
-}
-
+// What cannot be merged now is whenever the list is read or written; so long the journal stays.
 void LearnerWords::mergeJournal() {
-  const auto deeds = journal_.read();
-  unmerged_ = !deeds || !deeds->empty();
-  // What cannot be read now may be read next time; so long the journal stays.
-  if (!deeds || deeds->empty()) return;
-  std::error_code error;
-  auto words = list_.read(error);
-  missedList_ = !words && error != std::errc::no_such_file_or_directory;
-  if (!words) return;
-  for (const WordDeed& deed : *deeds)
-    adopt({deed.row});
-  if (replay(*deeds, *words)) static_cast<void>(copies_.keep());
-  static_cast<void>(store(*words));
-}
-
-std::optional<Words> LearnerWords::peek() {
-  rows_.clear();
-  readRows();
-  auto words = read();
-  if (!words) return words;
-  const auto deeds = journal_.read().value_or(std::vector<WordDeed>());
-  for (const WordDeed& deed : deeds)
-    adopt({deed.row});
-  replay(deeds, *words);
-  return words;
+  const Kept kept = gather();
+  if (!kept.list || !kept.anyDeeds) return;
+  if (kept.words != kept.list) static_cast<void>(copies_.keep());
+  static_cast<void>(store(kept.words, kept));
 }
 
 Carried LearnerWords::carry(TextCatalogue catalogue) {
   Carried carried;
   catalogue_ = std::move(catalogue);
   pack_ = catalogue_->fingerprint();
-  auto words = read();
+  const Kept kept = gather();
   // Without their rows nobody knows which pack the words belong to.
-  if (!words || missedRows_) return carried;
-  const Words before = *words;
+  if (!kept.list || !rowsOnDisk_) return carried;
+  Words words = kept.words;
   std::optional<SentenceFinder> finder;
-  for (VocabularyWord& word : *words) {
+  for (VocabularyWord& word : words) {
     WordRow row = rowOf(word);
     if (row.pack == pack_) {
       ++carried.inPlace;
@@ -198,11 +155,11 @@ Carried LearnerWords::carry(TextCatalogue catalogue) {
     }
     rows_[keyOf(word)] = std::move(row);
   }
-  if (*words == before && !missedList_ && !unmerged_) {
-    writeRows(*words);
+  if (words == kept.list) {
+    finish(words, kept);
   } else {
     static_cast<void>(copies_.keep());
-    static_cast<void>(store(*words));
+    static_cast<void>(store(words, kept));
   }
   static_cast<void>(copies_.keep());
   return carried;
@@ -235,30 +192,106 @@ std::string LearnerWords::keptSentence(const VocabularyWord& word) const {
   return known == rows_.end() ? std::string() : known->second.where.words;
 }
 
-// -- The run.
+// -- The list in memory and on the disk.
 
-std::optional<std::vector<VocabularyWord>> LearnerWords::read() {
+LearnerWords::Kept LearnerWords::gather() {
+  Kept kept;
+  kept.list = list_.read(kept.error);
+  kept.words = kept.list.value_or(Words());
+  auto journal = journal_.read();
+  kept.journalIsKnown = journal.has_value();
+  auto deeds = std::move(journal).value_or(std::vector<WordDeed>());
+  deeds.insert(deeds.end(), pending_.begin(), pending_.end());
+  kept.anyDeeds = !deeds.empty();
+  replay(deeds, kept.words);
+  // Of what is known of a word the newest holds: the memory, the last deed, what stands beside it.
+  for (auto deed = deeds.rbegin(); deed != deeds.rend(); ++deed)
+    rows_.try_emplace(keyOf(deed->row.record()), deed->row);
+  if (!rowsOnDisk_) readRows();
+  return kept;
+}
+
+void LearnerWords::readRows() {
   std::error_code error;
-  auto words = list_.read(error);
-  if (!words && error != std::errc::no_such_file_or_directory) missedList_ = true;
-  if (!words) return words;
-  onDisk_ = *words;
-  if (missedList_ || unmerged_) catchUp(*words);
-  return words;
+  const auto content = readWhole(files_, pathOf(learnerfile::Rows), error);
+  rowsOnDisk_.reset();
+  if (content) rowsOnDisk_ = textOfBytes(*content);
+  if (error == std::errc::no_such_file_or_directory) rowsOnDisk_.emplace();
+  if (!rowsOnDisk_) return;
+  for (const WordRow& row : rowsFrom(*rowsOnDisk_))
+    rows_.try_emplace(keyOf(row.record()), row);
 }
 
-/// Does to a list that was read what the journal and the memory have and it lacks; true when that
-/// changed it.
-bool LearnerWords::catchUp(Words& words) {
-  auto deeds = journal_.read();
-  unmerged_ = unmerged_ && (!deeds || !deeds->empty());
-  missedJournal_ = !deeds;
-  auto all = std::move(deeds).value_or(std::vector<WordDeed>());
-  all.insert(all.end(), pending_.begin(), pending_.end());
-  for (const WordDeed& deed : all)
-    rows_.try_emplace(keyOf(deed.row.record()), deed.row);
-  return replay(all, words);
+void LearnerWords::adopt(const std::vector<WordRow>& rows) {
+  for (const WordRow& row : rows)
+    rows_[keyOf(row.record())] = row;
 }
+
+std::optional<Words> LearnerWords::read() {
+  Kept kept = gather();
+  if (!kept.list) return std::nullopt;
+  seen_ = kept.words;
+  return std::move(kept.words);
+}
+
+std::optional<std::string> LearnerWords::write(Words words) {
+  const Kept kept = gather();
+  if (kept.unreadable()) return pathOf(learnerfile::Words) + ": cannot be read";
+  // An earlier run may have left deeds that could not be read so far, and somebody else, as one who
+  // copies folders between two machines, may have been at the list.
+  if (kept.list != seen_) {
+    static_cast<void>(copies_.keep());
+    readRows();
+  }
+  auto problem = store(together(kept, words), kept);
+  if (!problem && seen_) seen_ = std::move(words);
+  return problem;
+}
+
+/// The words of the disk and those of the memory, each once and none that was deleted.
+Words LearnerWords::together(const Kept& kept, Words mine) const {
+  const auto listed = namesOf(kept.list.value_or(Words()));
+  const auto left = namesOf(kept.words);
+  std::erase_if(mine, [&](const VocabularyWord& word) {
+    return listed.contains(nameOf(word)) && !left.contains(nameOf(word));
+  });
+  // A list that could not be read so far goes first: what was there keeps its place and its
+  // sentence also where it was taken once more.
+  Words theirs = kept.words;
+  if (!seen_) std::swap(theirs, mine);
+  auto known = namesOf(mine);
+  known.merge(namesOf(seen_.value_or(Words())));
+  known.insert(removed_.begin(), removed_.end());
+  for (const VocabularyWord& word : theirs) {
+    if (known.insert(nameOf(word)).second) mine.push_back(word);
+  }
+  return mine;
+}
+
+/// Writes a list that has all that is kept.
+std::optional<std::string> LearnerWords::store(const Words& words, const Kept& kept) {
+  if (auto problem = list_.write(words)) return problem;
+  pending_.clear();
+  finish(words, kept);
+  return std::nullopt;
+}
+
+/// Writes what is beside a list that is on the disk. The journal is emptied last: as long as the
+/// sentences are not beside the words, it has them.
+void LearnerWords::finish(const Words& words, const Kept& kept) {
+  if (writeRows(words) && kept.journalIsKnown) static_cast<void>(journal_.clear());
+}
+
+bool LearnerWords::writeRows(const Words& words) {
+  if (!rowsOnDisk_) return false;
+  const std::string content = talvora::fileOf(rowsOf(words));
+  if (content == rowsOnDisk_) return true;
+  if (replaceFile(files_, pathOf(learnerfile::Rows), bytesOfText(content))) return false;
+  rowsOnDisk_ = content;
+  return true;
+}
+
+// -- Deeds.
 
 void LearnerWords::noteAdded(const VocabularyWord& word) {
   removed_.erase(nameOf(word));
@@ -282,57 +315,6 @@ void LearnerWords::noteRemoved(const std::vector<VocabularyWord>& words) {
 void LearnerWords::journal(std::vector<WordDeed> deeds) {
   pending_.insert(pending_.end(), deeds.begin(), deeds.end());
   if (!journal_.append(pending_)) pending_.clear();
-}
-
-std::optional<std::string> LearnerWords::write(std::vector<VocabularyWord> words) {
-  std::error_code error;
-  auto unseen = list_.read(error);
-  if (missedList_) {
-    if (!unseen && error != std::errc::no_such_file_or_directory)
-      return pathOf(learnerfile::Words) + ": cannot be read";
-    Words before = std::move(unseen).value_or(Words());
-    if (catchUp(before)) static_cast<void>(copies_.keep());
-    words = joined(std::move(before), std::move(words));
-  } else {
-    if (unseen && onDisk_ && *unseen != *onDisk_) takeFromOthers(*unseen, words);
-    if (unmerged_ && catchUp(words)) static_cast<void>(copies_.keep());
-  }
-  return store(words);
-}
-
-/// Takes over the words that somebody else, as one who copies folders between two machines, has put
-/// into the list on the disk since it was read, and keeps that list as a copy.
-void LearnerWords::takeFromOthers(const Words& theirs, Words& words) {
-  static_cast<void>(copies_.keep());
-  readRows();
-  for (const VocabularyWord& word : theirs) {
-    const bool known = findWord(*onDisk_, word) != onDisk_->end() ||
-                       findWord(words, word) != words.end() || removed_.contains(nameOf(word));
-    if (!known) words.push_back(word);
-  }
-}
-
-/// Writes a list that has all that the one on the disk has, and the journal.
-std::optional<std::string> LearnerWords::store(const Words& words) {
-  if (auto problem = list_.write(words)) return problem;
-  onDisk_ = words;
-  missedList_ = false;
-  unmerged_ = unmerged_ && missedJournal_;
-  pending_.clear();
-  writeRows(words);
-  return std::nullopt;
-}
-
-// The journal is emptied last: as long as the sentences are not beside the words, it has them.
-void LearnerWords::writeRows(const Words& words) {
-  if (missedRows_) readRows();
-  if (missedRows_) return;
-  const std::string content = talvora::fileOf(rowsOf(words));
-  if (content != rowsOnDisk_) {
-    if (replaceFile(files_, pathOf(learnerfile::Rows), bytesOfText(content))) return;
-    rowsOnDisk_ = content;
-  }
-  if (!unmerged_) static_cast<void>(journal_.clear());
 }
 
 } // namespace talvora

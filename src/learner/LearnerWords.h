@@ -39,8 +39,6 @@ class LearnerWords {
   /// The start, ahead of everything else: clears what a killed write has left, merges the journal
   /// into data.c, which is created when it is missing. What goes wrong is left for `storing`.
   void open();
-  /// The list with what the journal adds, and all that is known of its words; writes nothing.
-  [[nodiscard]] std::optional<std::vector<VocabularyWord>> peek();
   /// Takes the pack in hand: finds the sentences of the words anew where it is another one than
   /// last time, and keeps a copy of what there is.
   Carried carry(TextCatalogue catalogue);
@@ -51,15 +49,16 @@ class LearnerWords {
   /// Whether every word that was taken is on the disk, in one file or the other.
   [[nodiscard]] bool safe() const noexcept { return pending_.empty(); }
 
-  /// The list as it is on disk; nothing when it is missing or cannot be read just now. One that
-  /// comes back has what was done meanwhile.
+  /// The list with all that was done to it since it was written; nothing when it is missing or
+  /// cannot be read just now. Writes nothing.
   [[nodiscard]] std::optional<std::vector<VocabularyWord>> read();
   /// A word has been taken: it is on the disk when this returns, unless `safe` says no.
   void noteAdded(const VocabularyWord& word);
   /// Words have been deleted; the list as it was before is kept as a copy.
   void noteRemoved(const std::vector<VocabularyWord>& words);
-  /// Replaces the list. Returns what went wrong, or nothing; then the old list and the journal
-  /// stand.
+  /// Replaces the list as it was last read; what has come to it on the disk since stays in it.
+  /// Returns what went wrong, or nothing; then the old list and the journal stand. A list that
+  /// cannot be read just now is not written over.
   [[nodiscard]] std::optional<std::string> write(std::vector<VocabularyWord> words);
 
   /// The sentence that a word was taken from, where the pack has it no more; else empty.
@@ -75,21 +74,35 @@ class LearnerWords {
   [[nodiscard]] DatedCopies& copies() noexcept { return copies_; }
 
  private:
+  using Words = std::vector<VocabularyWord>;
   using Key = std::pair<std::string, std::int32_t>;
+
+  /// The list in all the places where it is kept.
+  struct Kept {
+    std::optional<Words> list;   ///< as data.c has it; nothing when that cannot be read
+    std::error_code error;       ///< why it cannot
+    Words words;                 ///< the list with all that was done to it since
+    bool anyDeeds = false;       ///< something was
+    bool journalIsKnown = false; ///< else the journal may have more
+
+    [[nodiscard]] bool unreadable() const {
+      return !list && error != std::errc::no_such_file_or_directory;
+    }
+  };
 
   [[nodiscard]] static Key keyOf(const VocabularyWord& word);
   [[nodiscard]] std::string pathOf(std::string_view name) const;
   [[nodiscard]] bool mayStore();
   void clearLeftOvers();
-  void readRows();
   void mergeJournal();
-  bool catchUp(std::vector<VocabularyWord>& words);
-  void takeFromOthers(const std::vector<VocabularyWord>& theirs,
-                      std::vector<VocabularyWord>& words);
-  std::optional<std::string> store(const std::vector<VocabularyWord>& words);
+  [[nodiscard]] Kept gather();
+  void readRows();
+  [[nodiscard]] Words together(const Kept& kept, Words mine) const;
+  std::optional<std::string> store(const Words& words, const Kept& kept);
+  void finish(const Words& words, const Kept& kept);
+  [[nodiscard]] bool writeRows(const Words& words);
   void journal(std::vector<WordDeed> deeds);
   [[nodiscard]] WordRow rowOf(const VocabularyWord& word) const;
-  void writeRows(const std::vector<VocabularyWord>& words);
 
   std::string folder_;
   FileSystem& files_;
@@ -97,19 +110,14 @@ class LearnerWords {
   WordJournal journal_;
   DatedCopies copies_;
   std::map<Key, WordRow> rows_;
-  std::string rowsOnDisk_;
+  std::optional<std::string> rowsOnDisk_;  ///< nothing as long as they could not be read
   std::optional<TextCatalogue> catalogue_; ///< of the pack in hand
   std::string pack_;                       ///< its fingerprint
   std::vector<WordDeed> pending_;          ///< deeds that are on no disk
   bool storing_ = true;
+  /// The list as the one who reads and writes it has it; nothing until it could be read once.
+  std::optional<Words> seen_;
   std::set<std::string> removed_; ///< in this run, and not taken again
-  /// The list as it was last read or written.
-  std::optional<std::vector<VocabularyWord>> onDisk_;
-  /// Since it was last written, there was a list on the disk that could not be read.
-  bool missedList_ = false;
-  bool missedRows_ = false;    ///< there is a file of rows that could not be read
-  bool unmerged_ = false;      ///< the list on the disk may lack what the journal has
-  bool missedJournal_ = false; ///< the journal could not be read when the list was last caught up
 };
 
 } // namespace talvora

@@ -44,7 +44,7 @@ State stateAfterRestart(const std::string& pack, const std::string& learner) {
   refuseLeftOvers(learner);
   State state;
   LearnerWords words(learner, systemFiles(), systemCalendar());
-  const auto list = words.peek();
+  const auto list = words.read();
   if (!list) throw std::runtime_error("the words cannot be read");
   for (const VocabularyWord& word : *list)
     state.words.push_back(word.Tu + std::to_string(word.ViTriCauTu));

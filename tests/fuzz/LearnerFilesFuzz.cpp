@@ -27,7 +27,7 @@ void require(bool holds) {
 
 void useWords(test::MemoryFiles& files) {
   LearnerWords words(Learner, files, systemCalendar());
-  const auto seen = words.peek();
+  const auto seen = words.read();
   words.open();
   require(words.storing());
   const auto before = words.read();

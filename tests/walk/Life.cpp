@@ -184,7 +184,7 @@ std::optional<Breach> Life::lookAtWords() {
 std::vector<std::string> Life::storedWords() const {
   LearnerWords files(folders_.learner, systemFiles(), systemCalendar());
   std::vector<std::string> words;
-  for (const VocabularyWord& each : files.peek().value_or(std::vector<VocabularyWord>()))
+  for (const VocabularyWord& each : files.read().value_or(std::vector<VocabularyWord>()))
     words.push_back(each.Tu + std::to_string(each.ViTriCauTu));
   std::sort(words.begin(), words.end());
   return words;
