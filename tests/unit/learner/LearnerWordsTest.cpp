@@ -21,6 +21,8 @@ using namespace literals;
 using test::bankText;
 using test::Learning;
 using test::record;
+using test::Started;
+using test::TestFolder;
 using test::Texts;
 
 class LearnerWordsTest : public test::WithLearnersFolder {};
@@ -30,8 +32,7 @@ class LearnerWordsTest : public test::WithLearnersFolder {};
 TEST_F(LearnerWordsTest, ThePackIsOnlyReadAndTheLearnersFolderIsWritten) {
   const auto before = pack.names();
   const std::string settings = pack.read("data.Kcu");
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.take("bank");
   learning.run.program.closeWindow();
   EXPECT_EQ(pack.names(), before);
@@ -44,8 +45,7 @@ TEST_F(LearnerWordsTest, ThePackIsOnlyReadAndTheLearnersFolderIsWritten) {
 TEST_F(LearnerWordsTest, TheFirstRunMarksTheLearnersFolderOnly) {
   own.remove("Yes1");
   std::filesystem::remove(pack.pathOf("Yes1"));
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   EXPECT_EQ(learning.run.program.ending(), Ending::FirstRun);
   EXPECT_TRUE(own.has("Yes1"));
   EXPECT_FALSE(pack.has("Yes1"));
@@ -54,14 +54,8 @@ TEST_F(LearnerWordsTest, TheFirstRunMarksTheLearnersFolderOnly) {
 // -- The journal.
 
 TEST_F(LearnerWordsTest, AWordOutlivesAProgramThatWasKilledWithItsTextOpen) {
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.openText();
-    learning.add("bank");
-    learning.add("river");
-    EXPECT_EQ(own.read("data.c"), "") << "the list is written when reading is left";
-  }
+  dieTaking({"bank", "river"});
+  EXPECT_EQ(own.read("data.c"), "") << "the list is written when reading is left";
   EXPECT_EQ(wordsNextTime(), (Texts{"bank", "river"}));
   EXPECT_EQ(own.read("data.c").size(), 48U) << "merged at the start";
   EXPECT_EQ(own.read("words.journal"), "");
@@ -69,8 +63,7 @@ TEST_F(LearnerWordsTest, AWordOutlivesAProgramThatWasKilledWithItsTextOpen) {
 }
 
 TEST_F(LearnerWordsTest, AWordThatIsInTheListAlreadyIsNotMergedAgain) {
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.openText();
   learning.add("bank");
   const std::string journal = own.read("words.journal");
@@ -82,8 +75,7 @@ TEST_F(LearnerWordsTest, AWordThatIsInTheListAlreadyIsNotMergedAgain) {
 }
 
 TEST_F(LearnerWordsTest, AWordThatWasTakenAndDeletedStaysDeleted) {
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.openText();
   learning.add("bank");
   learning.add("river");
@@ -104,8 +96,7 @@ TEST_F(LearnerWordsTest, EveryWayToEndStoresWhatLeavingStores) {
   for (const auto& way : ways) {
     own.remove("data.c");
     own.remove("data.Kcu");
-    Learning learning(pack, own);
-    learning.run.start();
+    Started learning(pack, own);
     learning.openText();
     learning.add("bank");
     caret = learning.run.controls().R1.SelStart();
@@ -121,8 +112,7 @@ TEST_F(LearnerWordsTest, EveryWayToEndStoresWhatLeavingStores) {
 
 TEST_F(LearnerWordsTest, AFolderThatMayNotBeWrittenIsToldOfInOneSentenceAndTheProgramWorks) {
   Learning learning(pack, own);
-  learning.run.files.readOnly = true;
-  learning.run.files.failAlways(std::errc::read_only_file_system);
+  test::forbidWriting(learning.run.files);
   learning.run.start();
   ASSERT_TRUE(learning.run.program.running());
   EXPECT_EQ(learning.run.machine.log.count("message"), 1);
@@ -137,26 +127,21 @@ TEST_F(LearnerWordsTest, AFolderThatMayNotBeWrittenIsToldOfInOneSentenceAndThePr
 TEST_F(LearnerWordsTest, WithoutAFirstRunMarkThatCanBeWrittenTheMenuStillComes) {
   own.remove("Yes1");
   Learning learning(pack, own);
-  learning.run.files.readOnly = true;
-  learning.run.files.failAlways(std::errc::read_only_file_system);
+  test::forbidWriting(learning.run.files);
   learning.run.start();
   EXPECT_TRUE(learning.run.program.running());
 }
 
 TEST_F(LearnerWordsTest, ADiskThatIsFullIsToldOfAtTheStart) {
   Learning learning(pack, own);
-  learning.run.files.counts = [](const std::string& call, const std::string&) {
-    return call == "write";
-  };
-  learning.run.files.failAlways();
+  test::fillDisk(learning.run.files);
   learning.run.start();
   EXPECT_TRUE(learning.run.program.running());
   EXPECT_EQ(learning.run.machine.log.count("message"), 1);
 }
 
 TEST_F(LearnerWordsTest, WordsThatAreOnNoDiskStandInTheWayOfQuittingWithOneQuestion) {
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.openText();
   learning.run.files.failAlways(std::errc::io_error);
   learning.add("bank");
@@ -174,8 +159,7 @@ TEST_F(LearnerWordsTest, WordsThatAreOnNoDiskStandInTheWayOfQuittingWithOneQuest
 }
 
 TEST_F(LearnerWordsTest, WordsThatAreInTheJournalAreSafeAndAskNothing) {
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.openText();
   learning.add("bank");
   learning.run.files.failAlways(std::errc::io_error);
@@ -187,8 +171,7 @@ TEST_F(LearnerWordsTest, WordsThatAreInTheJournalAreSafeAndAskNothing) {
 }
 
 TEST_F(LearnerWordsTest, ASettingThatCannotBeWrittenEndsNothingAndHoldsForTheRun) {
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.openText();
   learning.run.files.failAlways(std::errc::io_error);
   learning.leaveText();
@@ -200,8 +183,7 @@ TEST_F(LearnerWordsTest, ASettingThatCannotBeWrittenEndsNothingAndHoldsForTheRun
 
 TEST_F(LearnerWordsTest, AListThatIsTakenAwayInMidRunIsMadeAgain) {
   own.write("data.c", record("bank", 1));
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   EXPECT_EQ(learning.words(), Texts{"bank"});
   own.remove("data.c");
   EXPECT_EQ(learning.words(), Texts{"bank"});
@@ -210,8 +192,7 @@ TEST_F(LearnerWordsTest, AListThatIsTakenAwayInMidRunIsMadeAgain) {
 
 TEST_F(LearnerWordsTest, AListThatCannotBeReadIsNotWrittenOver) {
   hideList();
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.take("bank");
   EXPECT_TRUE(std::filesystem::is_directory(own.pathOf("data.c")));
   bringListBack(record("river", 1));
@@ -221,8 +202,7 @@ TEST_F(LearnerWordsTest, AListThatCannotBeReadIsNotWrittenOver) {
 
 TEST_F(LearnerWordsTest, AWordThatWasThereKeepsItsSentenceWhenTheListComesBack) {
   hideList();
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.take("bank");
   bringListBack(record("river", 2) + record("bank", 1));
   learning.take("old");
@@ -232,8 +212,7 @@ TEST_F(LearnerWordsTest, AWordThatWasThereKeepsItsSentenceWhenTheListComesBack) 
 
 TEST_F(LearnerWordsTest, AWordThatIsDeletedStaysDeletedWhenTheListComesBack) {
   hideList();
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.take("bank");
   learning.removeFirst();
   bringListBack(record("river", 2) + record("bank", 1));
@@ -245,8 +224,7 @@ TEST_F(LearnerWordsTest, AWordThatIsDeletedStaysDeletedWhenTheListComesBack) {
 TEST_F(LearnerWordsTest, AWordThatIsDeletedWhileTheListIsAwayStaysDeleted) {
   const std::string list = record("bank", 1) + record("river", 2);
   own.write("data.c", list);
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   EXPECT_EQ(learning.words(), (Texts{"bank", "river"}));
   hideList();
   EXPECT_EQ(learning.words(), (Texts{"bank", "river"}));
@@ -260,18 +238,25 @@ TEST_F(LearnerWordsTest, AWordThatIsDeletedWhileTheListIsAwayStaysDeleted) {
 
 TEST_F(LearnerWordsTest, WhatAnEarlierRunTookIsThereWhenTheListComesBack) {
   hideList();
-  {
-    Learning earlier(pack, own);
-    earlier.run.start();
-    earlier.take("bank");
-  }
-  Learning learning(pack, own);
-  learning.run.start();
+  liveTaking("bank");
+  Started learning(pack, own);
   bringListBack(record("river", 2));
   EXPECT_EQ(learning.words(), (Texts{"river", "bank"}));
   learning.take("old");
   EXPECT_EQ(learning.words(), (Texts{"river", "bank", "old"}));
   EXPECT_EQ(wordsNextTime(), (Texts{"river", "bank", "old"}));
+}
+
+TEST_F(LearnerWordsTest, AListThatComesBackWhileItIsOpenIsThereAfterEveryDeletion) {
+  hideList();
+  Started learning(pack, own);
+  learning.take("bank");
+  learning.take("old");
+  learning.openList();
+  bringListBack(record("river", 2));
+  learning.removeFirstShown();
+  learning.removeFirstShown();
+  EXPECT_EQ(wordsNextTime(), Texts{"river"});
 }
 
 // -- A kill at each call.
@@ -293,49 +278,59 @@ void goThroughAnEvening(Learning& learning, const std::function<void(char)>& tel
   learning.run.program.closeWindow();
 }
 
+/// How far an evening came that was killed at a call.
+struct KilledEvening {
+  std::string told;   ///< what had been told by then
+  bool ended = false; ///< it came to its end: there are no more calls
+
+  [[nodiscard]] bool did(char deed) const { return told.find(deed) != std::string::npos; }
+};
+
+KilledEvening eveningUntil(int call, const TestFolder& pack, const TestFolder& own) {
+  int ends[2];
+  EXPECT_EQ(::pipe(ends), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    Learning learning(pack, own);
+    learning.run.files.before = [call](int number) {
+      if (number == call) ::kill(::getpid(), SIGKILL);
+    };
+    goThroughAnEvening(learning, [&](char deed) {
+      if (::write(ends[1], &deed, 1) != 1) ::_exit(2);
+    });
+    ::_exit(0);
+  }
+  ::close(ends[1]);
+  KilledEvening evening;
+  char deed = 0;
+  while (::read(ends[0], &deed, 1) == 1)
+    evening.told += deed;
+  ::close(ends[0]);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  evening.ended = WIFEXITED(status);
+  return evening;
+}
+
 TEST_F(LearnerWordsTest, AKillAtAnyCallOfTheEveningLosesNoWordAndDoublesNone) {
   int kills = 0;
-  for (int call = 1;; ++call) {
+  for (bool ended = false; !ended; ++kills) {
+    SCOPED_TRACE("call " + std::to_string(kills + 1));
     for (const std::string& name : own.names())
       std::filesystem::remove_all(own.pathOf(name));
     own.write("Yes1", "");
-    int ends[2];
-    ASSERT_EQ(::pipe(ends), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-      Learning learning(pack, own);
-      learning.run.files.before = [call](int number) {
-        if (number == call) ::kill(::getpid(), SIGKILL);
-      };
-      goThroughAnEvening(learning, [&](char deed) {
-        if (::write(ends[1], &deed, 1) != 1) ::_exit(2);
-      });
-      ::_exit(0);
-    }
-    ::close(ends[1]);
-    std::string told;
-    char deed = 0;
-    while (::read(ends[0], &deed, 1) == 1)
-      told += deed;
-    ::close(ends[0]);
-    int status = 0;
-    ::waitpid(child, &status, 0);
+    const KilledEvening evening = eveningUntil(kills + 1, pack, own);
     const Texts words = wordsNextTime();
-    const auto has = [&](const char* word) {
-      return std::count(words.begin(), words.end(), word) == 1;
+    const auto times = [&](const char* word) {
+      return std::count(words.begin(), words.end(), word);
     };
-    const auto hasNot = [&](const char* word) {
-      return std::count(words.begin(), words.end(), word) == 0;
-    };
-    const auto did = [&](char which) { return told.find(which) != std::string::npos; };
-    EXPECT_TRUE(has("bank") || hasNot("bank")) << "call " << call;
-    EXPECT_TRUE(!did('b') || did('r') || has("bank")) << "call " << call;
-    EXPECT_TRUE(!did('r') || has("river")) << "call " << call;
-    EXPECT_TRUE(!did('B') || hasNot("bank")) << "call " << call;
-    EXPECT_TRUE(!did('s') || has("stands")) << "call " << call;
-    EXPECT_LE(words.size(), 3U) << "call " << call;
-    if (WIFEXITED(status)) break;
-    ++kills;
+    EXPECT_LE(times("bank"), 1);
+    EXPECT_TRUE(!evening.did('b') || evening.did('r') || times("bank") == 1);
+    EXPECT_TRUE(!evening.did('r') || times("river") == 1);
+    EXPECT_TRUE(!evening.did('B') || times("bank") == 0);
+    EXPECT_TRUE(!evening.did('s') || times("stands") == 1);
+    EXPECT_LE(words.size(), 3U);
+    ended = evening.ended;
   }
   EXPECT_GT(kills, 40) << "the evening makes many calls";
 }
@@ -343,66 +338,37 @@ TEST_F(LearnerWordsTest, AKillAtAnyCallOfTheEveningLosesNoWordAndDoublesNone) {
 // -- Another pack.
 
 TEST_F(LearnerWordsTest, AWordFindsItsSentenceInAPackThatHasNewTextsAheadOfIt) {
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.take("river");
-  }
+  liveTaking("river");
   writeTexts({{1, "A new text\r_\tWith a sentence. _And one more.\r", "_Mot._Hai."}, bankText(7)});
-  Learning learning(pack, own);
-  learning.run.start();
-  learning.run.clickButton(2);
-  learning.run.doubleClick(learning.run.controls().Rchon, 3);
-  EXPECT_EQ(learning.run.text("ChuoiCau"), "A river runs here.");
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
   EXPECT_TRUE(own.has("backups")) << "the old list is kept";
 }
 
 TEST_F(LearnerWordsTest, AWordWhoseSentenceIsGoneStillShowsIt) {
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.take("river");
-  }
+  liveTaking("river");
   const std::string before = own.read("data.c");
   writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}});
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.run.clickButton(2);
-    learning.run.doubleClick(learning.run.controls().Rchon, 3);
-    EXPECT_EQ(learning.run.text("ChuoiCau"), "A river runs here.");
-    EXPECT_EQ(own.read("data.c"), record("river", 0));
-  }
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
+  EXPECT_EQ(own.read("data.c"), record("river", 0));
   writeTexts({bankText(4)});
   EXPECT_EQ(wordsNextTime(), Texts{"river"});
   EXPECT_EQ(own.read("data.c"), before) << "it is back, and so is the place";
 }
 
 TEST_F(LearnerWordsTest, AWordInTheJournalFindsItsSentenceInANewPackToo) {
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.openText();
-    learning.add("river");
-  }
+  dieTaking({"river"});
   writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}, bankText(7)});
-  Learning learning(pack, own);
-  learning.run.start();
-  learning.run.clickButton(2);
-  learning.run.doubleClick(learning.run.controls().Rchon, 3);
-  EXPECT_EQ(learning.run.text("ChuoiCau"), "A river runs here.");
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
 }
 
 TEST_F(LearnerWordsTest, ThePlaceInAListGoesWithItsTitle) {
   {
-    Learning learning(pack, own);
-    learning.run.start();
+    Started learning(pack, own);
     learning.openText();
     learning.leaveText();
   }
   writeTexts({{1, "A much longer title than before\r_\tWith a sentence.\r", "_Mot."}, bankText(9)});
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.run.clickButton(1);
   EXPECT_EQ(learning.run.controls().R1.SelText(), "\tOur town\r");
   EXPECT_EQ(learning.run.number("SoBaiChon"), 9);
@@ -412,8 +378,7 @@ TEST_F(LearnerWordsTest, ThePlaceInAListGoesWithItsTitle) {
 
 TEST_F(LearnerWordsTest, ADeletionLeavesACopyOfTheListAsItWas) {
   own.write("data.c", record("bank", 1) + record("river", 2));
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   learning.removeFirst();
   EXPECT_EQ(own.read("data.c"), record("river", 2));
   DatedCopies copies(own.path(), systemFiles(), systemCalendar());

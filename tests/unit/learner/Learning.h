@@ -4,12 +4,14 @@
 #include "learner/VocabularyFile.h"
 #include "support/ProgramRun.h"
 #include "support/TestFolder.h"
+#include "tests/support/FaultyFiles.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -26,6 +28,27 @@ inline std::string record(const std::string& word, std::int32_t place) {
   for (int shift = 0; shift < 32; shift += 8)
     bytes += static_cast<char>(static_cast<std::uint32_t>(place) >> shift & 0xFFU);
   return bytes;
+}
+
+/// Every write fails from now on.
+inline void fillDisk(FaultyFiles& files) {
+  files.counts = [](const std::string& call, const std::string&) { return call == "write"; };
+  files.failAlways();
+}
+
+/// No file of a name can be read from now on.
+inline void hideContent(FaultyFiles& files, const std::string& name) {
+  files.looksCount = true;
+  files.counts = [name](const std::string& call, const std::string& path) {
+    return call == "read" && path.ends_with("/" + name);
+  };
+  files.failAlways(std::errc::io_error);
+}
+
+/// Nothing may be written from now on.
+inline void forbidWriting(FaultyFiles& files) {
+  files.readOnly = true;
+  files.failAlways(std::errc::read_only_file_system);
 }
 
 /// A program on a pack and a learner's folder that outlive it.
@@ -55,23 +78,33 @@ class Learning {
     add(word);
     leaveText();
   }
-  /// Deletes the first word of the list.
-  void removeFirst() {
-    run.clickButton(2);
-    removeFirstShown();
+  void openList() { run.clickButton(2); }
+  void leaveList() {
+    while (run.controls().Rchon.Visible())
+      run.key(key::Esc);
   }
-  /// The same while the list is open.
+  /// Deletes the first word of the list that is open.
   void removeFirstShown() {
     Surface& Rchon = run.controls().Rchon;
     run.machine.boxes.answer(BoxAnswer::Yes);
     Rchon.SelStart(0);
     Rchon.SelLength(static_cast<int>(Rchon.Text().find('\r')));
     Rchon.releaseMouse(MouseButton::Left, shift::None, {});
-    while (Rchon.Visible())
-      run.key(key::Esc);
+  }
+  /// Deletes the first word and goes back to the menu.
+  void removeFirst() {
+    openList();
+    removeFirstShown();
+    leaveList();
+  }
+  /// The sentence that the list shows for its first word; the list stays open.
+  [[nodiscard]] std::string sentenceOfFirst() {
+    openList();
+    run.doubleClick(run.controls().Rchon, 3);
+    return run.text("ChuoiCau");
   }
   [[nodiscard]] Texts words() {
-    run.clickButton(2);
+    openList();
     Texts words;
     std::string word;
     for (const char each : run.controls().Rchon.Text()) {
@@ -79,8 +112,7 @@ class Learning {
       if (each == '\t') word.clear();
       if (each != '\r' && each != '\t') word += each;
     }
-    while (run.controls().Rchon.Visible())
-      run.key(key::Esc);
+    leaveList();
     return words;
   }
   [[nodiscard]] Texts boxes() const {
@@ -92,6 +124,12 @@ class Learning {
   }
 
   ProgramRun run;
+};
+
+/// The same, started.
+class Started : public Learning {
+ public:
+  Started(const TestFolder& pack, const TestFolder& own) : Learning(pack, own) { run.start(); }
 };
 
 class WithLearnersFolder : public testing::Test {
@@ -120,12 +158,17 @@ class WithLearnersFolder : public testing::Test {
     std::filesystem::remove(own.pathOf("data.c"));
     own.write("data.c", records);
   }
-  /// The words at the next start.
-  Texts wordsNextTime() {
-    Learning next(pack, own);
-    next.run.start();
-    return next.words();
+  /// A run in which a word is taken.
+  void liveTaking(const std::string& word) { Started(pack, own).take(word); }
+  /// A run that is killed when words have been taken and their text is still open.
+  void dieTaking(const Texts& words) {
+    Started learning(pack, own);
+    learning.openText();
+    for (const std::string& word : words)
+      learning.add(word);
   }
+  /// The words at the next start.
+  Texts wordsNextTime() { return Started(pack, own).words(); }
 
   TestFolder pack;
   TestFolder own;

@@ -19,6 +19,8 @@ StoredText textOf(int slot, const std::string& title, const std::vector<std::str
   return {slot, text + "\r", ""};
 }
 
+const std::vector<std::string> Bank = {"The bank stands by the river. ", "We go there every day. "};
+
 class SentenceFinderTest : public testing::Test {
  protected:
   SentenceFinderTest() { run.writeTexts({}, true); }
@@ -33,13 +35,16 @@ class SentenceFinderTest : public testing::Test {
     }
     throw std::runtime_error("no such sentence");
   }
+  /// The row of a word in a pack whose text it is.
+  WordRow rowOfBank() {
+    run.writeTexts({textOf(4, "One", Bank)});
+    return rowIn("bank", 4, 2);
+  }
   TextCatalogue catalogue() { return {run.folder.path(), run.folder.path(), systemFiles()}; }
   Found find(WordRow& row) { return SentenceFinder(catalogue()).find(row); }
 
   ProgramRun run;
 };
-
-const std::vector<std::string> Bank = {"The bank stands by the river. ", "We go there every day. "};
 
 TEST_F(SentenceFinderTest, ACatalogueTellsEachSentenceWithItsPlace) {
   run.writeTexts({textOf(1, "One", Bank)});
@@ -72,8 +77,7 @@ TEST_F(SentenceFinderTest, AnotherPackHasAnotherFingerprint) {
 }
 
 TEST_F(SentenceFinderTest, WhatOnlyMovedIsFoundInItsText) {
-  run.writeTexts({textOf(4, "One", Bank)});
-  WordRow row = rowIn("bank", 4, 2);
+  WordRow row = rowOfBank();
   run.writeTexts({textOf(1, "New", {"A new text."}), textOf(5, "One", {"First. ", Bank[0]})});
   EXPECT_EQ(find(row), Found::InItsText);
   EXPECT_EQ(row.where.text, 5);
@@ -90,16 +94,14 @@ TEST_F(SentenceFinderTest, OfTheSameSentenceInTwoTextsItsOwnIsTaken) {
 }
 
 TEST_F(SentenceFinderTest, ASentenceThatWasChangedIsTheLikestOfItsText) {
-  run.writeTexts({textOf(4, "One", Bank)});
-  WordRow row = rowIn("bank", 4, 2);
+  WordRow row = rowOfBank();
   run.writeTexts({textOf(4, "One", {"The river is long. ", "The old bank stands by the river. "})});
   EXPECT_EQ(find(row), Found::NearestInText);
   EXPECT_EQ(row.where.words, "The old bank stands by the river. ");
 }
 
 TEST_F(SentenceFinderTest, ASentenceWithoutTheWordIsNotItsSentence) {
-  run.writeTexts({textOf(4, "One", Bank)});
-  WordRow row = rowIn("bank", 4, 2);
+  WordRow row = rowOfBank();
   run.writeTexts({textOf(4, "One", {"The banks stands by the river. "})});
   EXPECT_EQ(find(row), Found::Nowhere);
   EXPECT_EQ(row.where.place, 0);
@@ -107,16 +109,14 @@ TEST_F(SentenceFinderTest, ASentenceWithoutTheWordIsNotItsSentence) {
 }
 
 TEST_F(SentenceFinderTest, ATextThatIsCalledOtherwiseHasTheSameSentence) {
-  run.writeTexts({textOf(4, "One", Bank)});
-  WordRow row = rowIn("bank", 4, 2);
+  WordRow row = rowOfBank();
   run.writeTexts({textOf(2, "Called otherwise", Bank)});
   EXPECT_EQ(find(row), Found::InAnotherText);
   EXPECT_EQ(row.where.title, "Called otherwise");
 }
 
 TEST_F(SentenceFinderTest, InTheSpeakingTextsToo) {
-  run.writeTexts({textOf(4, "One", Bank)});
-  WordRow row = rowIn("bank", 4, 2);
+  WordRow row = rowOfBank();
   run.writeTexts({});
   run.writeTexts({textOf(9, "Talk", Bank)}, true);
   EXPECT_EQ(find(row), Found::InAnotherText);
@@ -125,8 +125,7 @@ TEST_F(SentenceFinderTest, InTheSpeakingTextsToo) {
 }
 
 TEST_F(SentenceFinderTest, TheLikestSentenceOfAnotherTextIsTheLastHope) {
-  run.writeTexts({textOf(4, "One", Bank)});
-  WordRow row = rowIn("bank", 4, 2);
+  WordRow row = rowOfBank();
   run.writeTexts({textOf(6, "Two", {"A bank. ", "The bank stood by the river. "})});
   EXPECT_EQ(find(row), Found::LikeInOtherText);
   EXPECT_EQ(row.where.words, "The bank stood by the river. ");

@@ -18,22 +18,15 @@ namespace {
 using test::FaultyFiles;
 using test::Learning;
 using test::record;
-using test::TestFolder;
+using test::Started;
 using test::Texts;
 
 class TroubledStart : public test::WithLearnersFolder {
  protected:
   /// A word in the list, a second in the journal alone, as a kill leaves it.
   void liveUntilAKill() {
-    {
-      Learning learning(pack, own);
-      learning.run.start();
-      learning.take("old");
-    }
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.openText();
-    learning.add("bank");
+    liveTaking("old");
+    dieTaking({"bank"});
     ASSERT_NE(own.read("words.journal"), "");
   }
   /// Starts and ends while `trouble` is what becomes of the files; gives how many calls counted.
@@ -47,22 +40,24 @@ class TroubledStart : public test::WithLearnersFolder {
   }
 };
 
+void hideJournal(FaultyFiles& files) {
+  hideContent(files, "words.journal");
+}
+
+void hideSentences(FaultyFiles& files) {
+  hideContent(files, "words.txt");
+}
+
 TEST_F(TroubledStart, OnAFullDiskTheJournalStays) {
   liveUntilAKill();
-  liveThrough([](FaultyFiles& files) {
-    files.counts = [](const std::string& call, const std::string&) { return call == "write"; };
-    files.failAlways();
-  });
+  liveThrough(test::fillDisk);
   EXPECT_EQ(wordsNextTime(), (Texts{"old", "bank"}));
 }
 
 TEST_F(TroubledStart, OnAFullDiskTheWordsOfTheJournalAreShown) {
   liveUntilAKill();
   Learning learning(pack, own);
-  learning.run.files.counts = [](const std::string& call, const std::string&) {
-    return call == "write";
-  };
-  learning.run.files.failAlways();
+  test::fillDisk(learning.run.files);
   learning.run.start();
   EXPECT_EQ(learning.words(), (Texts{"old", "bank"}));
 }
@@ -76,13 +71,7 @@ TEST_F(TroubledStart, InAFolderThatMayNotBeWrittenTheJournalStays) {
 TEST_F(TroubledStart, AJournalThatCannotBeReadStays) {
   liveUntilAKill();
   const std::string journal = own.read("words.journal");
-  liveThrough([](FaultyFiles& files) {
-    files.looksCount = true;
-    files.counts = [](const std::string& call, const std::string& path) {
-      return call == "read" && path.ends_with("words.journal");
-    };
-    files.failAlways(std::errc::io_error);
-  });
+  liveThrough(hideJournal);
   EXPECT_EQ(own.read("words.journal"), journal);
   EXPECT_EQ(wordsNextTime(), (Texts{"old", "bank"}));
 }
@@ -90,11 +79,7 @@ TEST_F(TroubledStart, AJournalThatCannotBeReadStays) {
 TEST_F(TroubledStart, AJournalThatCanBeReadLaterIsTakenIntoTheList) {
   liveUntilAKill();
   Learning learning(pack, own);
-  learning.run.files.looksCount = true;
-  learning.run.files.counts = [](const std::string& call, const std::string& path) {
-    return call == "read" && path.ends_with("words.journal");
-  };
-  learning.run.files.failAlways(std::errc::io_error);
+  hideJournal(learning.run.files);
   learning.run.start();
   learning.take("river");
   EXPECT_EQ(own.read("data.c").size(), 2 * VocabularyWord::RecordSize);
@@ -132,53 +117,28 @@ TEST_F(TroubledStart, ALookThatFailsOnceLosesNoWord) {
 }
 
 TEST_F(TroubledStart, SentencesThatCannotBeReadAreNotWrittenOver) {
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.take("river");
-  }
+  liveTaking("river");
   writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}});
   liveThrough([](FaultyFiles&) {});
   const std::string rows = own.read("words.txt");
   ASSERT_THAT(rows, testing::HasSubstr("A river runs here."));
-  const auto unreadable = [](FaultyFiles& files) {
-    files.looksCount = true;
-    files.counts = [](const std::string& call, const std::string& path) {
-      return call == "read" && path.ends_with("words.txt");
-    };
-    files.failAlways(std::errc::io_error);
-  };
-  liveThrough(unreadable);
+  liveThrough(hideSentences);
   EXPECT_EQ(own.read("words.txt"), rows);
 
   Learning learning(pack, own);
-  unreadable(learning.run.files);
+  hideSentences(learning.run.files);
   learning.run.start();
   learning.run.files.failNever();
-  learning.run.clickButton(2);
-  learning.run.machine.boxes.answer(BoxAnswer::No);
-  learning.run.doubleClick(learning.run.controls().Rchon, 3);
+  static_cast<void>(learning.sentenceOfFirst());
   EXPECT_EQ(own.read("words.txt"), rows);
-  Learning next(pack, own);
-  next.run.start();
-  next.run.clickButton(2);
-  next.run.doubleClick(next.run.controls().Rchon, 3);
-  EXPECT_EQ(next.run.text("ChuoiCau"), "A river runs here.");
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
 }
 
 TEST_F(TroubledStart, SentencesThatCanBeReadLaterStandBesideTheNewOnes) {
-  {
-    Learning learning(pack, own);
-    learning.run.start();
-    learning.take("river");
-  }
+  liveTaking("river");
   const std::string before = own.read("words.txt");
   Learning learning(pack, own);
-  learning.run.files.looksCount = true;
-  learning.run.files.counts = [](const std::string& call, const std::string& path) {
-    return call == "read" && path.ends_with("words.txt");
-  };
-  learning.run.files.failAlways(std::errc::io_error);
+  hideSentences(learning.run.files);
   learning.run.start();
   learning.run.files.failNever();
   learning.take("bank");
@@ -191,8 +151,7 @@ TEST_F(TroubledStart, SentencesThatCanBeReadLaterStandBesideTheNewOnes) {
 
 TEST_F(TroubledStart, AListThatSomebodyElseWroteMeanwhileKeepsItsWords) {
   own.write("data.c", record("bank", 1));
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   EXPECT_EQ(learning.words(), Texts{"bank"});
   learning.openText();
   learning.add("river");
@@ -209,13 +168,22 @@ TEST_F(TroubledStart, AListThatSomebodyElseWroteMeanwhileKeepsItsWords) {
 
 TEST_F(TroubledStart, AWordThatIsDeletedStaysDeletedWhateverSomebodyElseWrote) {
   own.write("data.c", record("bank", 1) + record("old", 1));
-  Learning learning(pack, own);
-  learning.run.start();
+  Started learning(pack, own);
   EXPECT_EQ(learning.words(), (Texts{"bank", "old"}));
-  learning.run.clickButton(2);
+  learning.openList();
   own.write("data.c", record("bank", 1) + record("old", 1) + record("stone", 1));
   learning.removeFirstShown();
   EXPECT_EQ(wordsNextTime(), (Texts{"old", "stone"}));
+}
+
+TEST_F(TroubledStart, AListThatSomebodyElseWroteMeanwhileKeepsItsWordsWhateverIsDeletedThen) {
+  own.write("data.c", record("bank", 1) + record("old", 1) + record("river", 1));
+  Started learning(pack, own);
+  learning.openList();
+  own.write("data.c", own.read("data.c") + record("stone", 1));
+  learning.removeFirstShown();
+  learning.removeFirstShown();
+  EXPECT_EQ(wordsNextTime(), (Texts{"river", "stone"}));
 }
 
 } // namespace
