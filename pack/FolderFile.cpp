@@ -3,6 +3,7 @@
 #include "formats/LearnerFiles.h"
 #include "learner/LearnerLock.h"
 #include "learner/LearnerWords.h"
+#include "learner/WordJournal.h"
 #include "pack/Message.h"
 #include "pack/Telling.h"
 #include "platform/Files.h"
@@ -77,6 +78,15 @@ std::optional<std::string> put(const LearnersList& list, const std::string& name
   if (const auto error = list.files.makeFolder(folderOf(path)))
     return fileProblem(path, said("cannot be written"), error);
   return replaceFile(list.files, path, bytesOfText(content));
+}
+
+/// What keeps words in the journal that no copy has; nothing when it is empty.
+std::optional<std::string> unmerged(const LearnersList& list) {
+  const std::string path = pathOf(list, learnerfile::Journal);
+  const auto deeds = WordJournal(path, list.files).read();
+  if (!deeds) return path + ": " + said("cannot be read");
+  if (!deeds->empty()) return path + ": " + said("cannot be written");
+  return std::nullopt;
 }
 
 /// Moves the sources of texts out of the way, into the newest copy of the words. Gives what went
@@ -160,6 +170,7 @@ ListResult importFolder(const LearnersList& list, const std::string& file, std::
   if (lock.state() == LearnerLock::State::Taken) return tellRunning(out);
   LearnerWords words(list.folder, list.files, list.calendar);
   words.open();
+  if (const auto problem = unmerged(list)) return tellUnwritten(*problem, out);
   if (const auto problem = words.copies().keep()) return tellUnwritten(*problem, out);
   if (const auto problem = moveTextsIntoCopy(list, words.copies()))
     return tellUnwritten(*problem, out);

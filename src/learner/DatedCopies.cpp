@@ -120,9 +120,11 @@ std::optional<std::string> DatedCopies::read(std::string_view copy, std::string_
   return textOfBytes(*content);
 }
 
-std::optional<std::string> DatedCopies::readOwn(std::string_view file) const {
-  std::error_code error;
+/// Nothing, and no error, when there is none.
+std::optional<std::string> DatedCopies::readOwn(std::string_view file,
+                                                std::error_code& error) const {
   const auto content = readWhole(files_, learner_ + "/" + std::string(file), error);
+  if (error == std::errc::no_such_file_or_directory) error.clear();
   if (!content) return std::nullopt;
   return textOfBytes(*content);
 }
@@ -139,12 +141,14 @@ std::vector<DatedCopy> DatedCopies::all() const {
   return copies;
 }
 
-bool DatedCopies::newestIsTheSame() const {
+bool DatedCopies::newestIsTheSame(const std::string& words) const {
   const auto copies = all();
   if (copies.empty()) return false;
   const std::string& newest = copies.back().name;
-  return read(newest, learnerfile::Words) == readOwn(learnerfile::Words) &&
-         read(newest, learnerfile::Rows) == readOwn(learnerfile::Rows);
+  std::error_code error;
+  const auto rows = readOwn(learnerfile::Rows, error);
+  return !error && read(newest, learnerfile::Words) == words &&
+         read(newest, learnerfile::Rows) == rows;
 }
 
 std::string DatedCopies::freshName() const {
@@ -153,15 +157,19 @@ std::string DatedCopies::freshName() const {
   std::error_code error;
   for (int copy = 2; copy < MostOfAMoment; ++copy) {
     const FileStatus status = files_.status(pathOf(name, learnerfile::Words), error);
-    if (status.kind == FileStatus::Kind::Missing) break;
+    if (status.kind == FileStatus::Kind::Missing && !error) break;
     name = moment + (copy < 10 ? "-0" : "-") + std::to_string(copy);
   }
   return name;
 }
 
 std::optional<std::string> DatedCopies::keep() {
-  const auto words = readOwn(learnerfile::Words);
-  if (!words || words->empty() || newestIsTheSame()) return std::nullopt;
+  std::error_code unread;
+  const auto words = readOwn(learnerfile::Words, unread);
+  if (unread) {
+    return fileProblem(learner_ + "/" + std::string(learnerfile::Words), "cannot be read", unread);
+  }
+  if (!words || words->empty() || newestIsTheSame(*words)) return std::nullopt;
   const std::string name = freshName();
   if (const auto error = make(name)) {
     remove(name);
@@ -188,9 +196,10 @@ std::error_code DatedCopies::make(const std::string& name) {
   const std::string folder = folderOfCopies() + "/" + name;
   if (const auto error = files_.makeFolder(folder)) return error;
   for (const std::string_view each : copiedFiles) {
-    const auto content = readOwn(each);
-    if (!content) continue;
     std::error_code error;
+    const auto content = readOwn(each, error);
+    if (error) return error;
+    if (!content) continue;
     const auto file = files_.open(pathOf(name, each), OpenFor::Writing, error);
     if (file == nullptr) return error;
     error = file->truncate(0);

@@ -35,7 +35,7 @@ class DatedCopies {
   [[nodiscard]] std::vector<DatedCopy> all() const;
   /// Makes a copy of what is there now, unless the newest copy is the same or there is no word, and
   /// thins the copies out; what has a name of somebody's own stays. Returns what went wrong, or
-  /// nothing.
+  /// nothing; what is there and cannot be read is wrong.
   std::optional<std::string> keep();
   /// A file of a copy.
   [[nodiscard]] std::optional<std::string> read(std::string_view copy, std::string_view file) const;
@@ -43,8 +43,9 @@ class DatedCopies {
  private:
   [[nodiscard]] std::string folderOfCopies() const;
   [[nodiscard]] std::string pathOf(std::string_view copy, std::string_view file) const;
-  [[nodiscard]] std::optional<std::string> readOwn(std::string_view file) const;
-  [[nodiscard]] bool newestIsTheSame() const;
+  [[nodiscard]] std::optional<std::string> readOwn(std::string_view file,
+                                                   std::error_code& error) const;
+  [[nodiscard]] bool newestIsTheSame(const std::string& words) const;
   [[nodiscard]] std::string freshName() const;
   std::error_code make(const std::string& name);
   void thinOut();

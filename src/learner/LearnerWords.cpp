@@ -168,7 +168,10 @@ Carried LearnerWords::carry(TextCatalogue catalogue) {
 // A word of which nothing is known belongs to the pack in hand.
 WordRow LearnerWords::rowOf(const VocabularyWord& word) const {
   const auto known = rows_.find(keyOf(word));
-  if (known != rows_.end()) return known->second;
+  return known == rows_.end() ? rowInHand(word) : known->second;
+}
+
+WordRow LearnerWords::rowInHand(const VocabularyWord& word) const {
   WordRow row;
   row.word = word.word();
   row.pack = pack_;
@@ -284,7 +287,11 @@ void LearnerWords::finish(const Words& words, const Kept& kept) {
 
 bool LearnerWords::writeRows(const Words& words) {
   if (!rowsOnDisk_) return false;
-  const std::string content = talvora::fileOf(rowsOf(words));
+  Words known = words;
+  // Which pack an unknown word belongs to nobody can say without one in hand.
+  if (!catalogue_)
+    std::erase_if(known, [&](const VocabularyWord& word) { return !rows_.contains(keyOf(word)); });
+  const std::string content = talvora::fileOf(rowsOf(known));
   if (content == rowsOnDisk_) return true;
   if (replaceFile(files_, pathOf(learnerfile::Rows), bytesOfText(content))) return false;
   rowsOnDisk_ = content;
@@ -295,7 +302,8 @@ bool LearnerWords::writeRows(const Words& words) {
 
 void LearnerWords::noteAdded(const VocabularyWord& word) {
   removed_.erase(nameOf(word));
-  WordRow row = rowOf(word);
+  // Another pack may have had another sentence of the word at this place.
+  WordRow row = rowInHand(word);
   rows_[keyOf(word)] = row;
   journal({{WordDeed::Kind::Added, std::move(row)}});
 }

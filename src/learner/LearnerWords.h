@@ -103,6 +103,7 @@ class LearnerWords {
   [[nodiscard]] bool writeRows(const Words& words);
   void journal(std::vector<WordDeed> deeds);
   [[nodiscard]] WordRow rowOf(const VocabularyWord& word) const;
+  [[nodiscard]] WordRow rowInHand(const VocabularyWord& word) const;
 
   std::string folder_;
   FileSystem& files_;

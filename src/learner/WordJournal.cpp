@@ -29,6 +29,11 @@ std::string checkOf(std::string_view text) {
   return digits.data();
 }
 
+bool isForbidden(const std::error_code& error) {
+  return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+         error == std::errc::read_only_file_system;
+}
+
 bool removes(const WordDeed& deed) {
   return deed.kind == WordDeed::Kind::Removed;
 }
@@ -90,8 +95,6 @@ std::error_code WordJournal::append(const std::vector<WordDeed>& deeds) {
     text += '\n' + lineOf(*deed, removes(*deed) ? removed : AddedSign);
   }
   std::error_code error;
-  const bool made = files_.status(path_, error).kind == FileStatus::Kind::Missing;
-  if (error) return error;
   const auto file = files_.open(path_, OpenFor::Writing, error);
   if (file == nullptr) return error;
   const FileStatus before = file->status(error);
@@ -101,7 +104,8 @@ std::error_code WordJournal::append(const std::vector<WordDeed>& deeds) {
   }
   error = file->write(before.size, bytesOfText(text + '\n'));
   if (!error) error = file->sync();
-  if (!error && made) error = files_.syncFolder(folderOf(path_));
+  // An empty one may be new, or one whose folder could not be synced when it was.
+  if (!error && before.size == 0) error = files_.syncFolder(folderOf(path_));
   // Should that fail too, the deeds are there although nobody counts on them: they stand in memory
   // as well, and none is ever done twice.
   if (error) static_cast<void>(file->truncate(before.size));
@@ -113,6 +117,8 @@ std::error_code WordJournal::clear() {
   const FileStatus status = files_.status(path_, error);
   if (error || status.kind == FileStatus::Kind::Missing || status.size == 0) return error;
   const auto file = files_.open(path_, OpenFor::Writing, error);
+  // One that may not be written may be taken away: what it says would be done again and again.
+  if (isForbidden(error)) return files_.remove(path_);
   if (file == nullptr) return error;
   error = file->truncate(0);
   return error ? error : file->sync();

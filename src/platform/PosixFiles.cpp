@@ -91,9 +91,10 @@ class PosixFile final : public OpenFile {
     return done(retried([&] { return ::fsync(handle_); }));
   }
   std::error_code dressAs(const FileStatus& other) override {
-    // Only the owner of a machine may give files away; a guest's copy stays the guest's.
+    // Only the owner of a machine may give files away; a guest's copy stays the guest's. A
+    // container calls an owner that it does not know an invalid one.
     const int given = retried([&] { return ::fchown(handle_, other.owner, other.group); });
-    if (given != 0 && !isNotKnown(errno)) return lastError();
+    if (given != 0 && !isNotKnown(errno) && errno != EINVAL) return lastError();
     const int changed = retried([&] { return ::fchmod(handle_, other.mode); });
     return changed != 0 && isNotKnown(errno) ? std::error_code() : done(changed);
   }

@@ -128,6 +128,34 @@ TEST_F(DatedCopiesTest, ALookThatFailsLosesNoCopyThatIsThere) {
   }
 }
 
+TEST_F(DatedCopiesTest, WhatCannotBeReadIsToldAndNoCopy) {
+  writeWords(1);
+  folder.write("words.txt", "rows");
+  files.looksCount = true;
+  for (const std::string name : {"data.c", "words.txt"}) {
+    files.counts = [&](const std::string& call, const std::string& path) {
+      return call == "read" && path == folder.pathOf(name);
+    };
+    files.failAlways(std::errc::io_error);
+    EXPECT_NE(copies.keep(), std::nullopt) << name;
+    EXPECT_TRUE(copies.all().empty()) << name;
+  }
+}
+
+TEST_F(DatedCopiesTest, ACopyWhoseNameCannotBeLookedAtIsNotWrittenOver) {
+  writeWords(1);
+  EXPECT_EQ(copies.keep(), std::nullopt);
+  writeWords(2);
+  files.looksCount = true;
+  files.counts = [](const std::string& call, const std::string& path) {
+    return call == "status" && path.ends_with("2026-03-31_18-05-09/data.c");
+  };
+  files.failAlways(std::errc::io_error);
+  static_cast<void>(copies.keep());
+  files.failNever();
+  EXPECT_EQ(copies.read("2026-03-31_18-05-09", "data.c"), std::string(24, 'w'));
+}
+
 TEST_F(DatedCopiesTest, AFolderOfThatNameWithoutAListIsNoCopy) {
   writeWords(1);
   folder.write("backups/2026-01-01_00-00-00/words.txt", "rows");

@@ -112,6 +112,7 @@ TEST_F(SystemFilesTest, PermissionsThatAFileSystemDoesNotKnowAreDoneWithout) {
       EXPECT_FALSE(failureOf(call, unknown, dress)) << call << " " << unknown;
     EXPECT_EQ(failureOf(call, EIO, dress), std::errc::io_error) << call;
   }
+  EXPECT_FALSE(failureOf("fchown", EINVAL, dress)) << "an owner whom a container does not know";
 }
 
 TEST_F(SystemFilesTest, APathIsAFileAFolderSomethingElseOrMissing) {

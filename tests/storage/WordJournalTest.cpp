@@ -215,6 +215,28 @@ TEST_F(Journal, AClearingThatFailsIsToldAndKeepsItOrEmptiesIt) {
   }
 }
 
+TEST_F(Journal, OneThatMayNotBeWrittenIsTakenAwayToBeCleared) {
+  EXPECT_FALSE(journal.append({added("bank")}));
+  files.counts = [](const std::string& call, const std::string&) { return call == "open"; };
+  for (const std::errc forbidden :
+       {std::errc::permission_denied, std::errc::operation_not_permitted,
+        std::errc::read_only_file_system}) {
+    files.failAlways(forbidden);
+    EXPECT_FALSE(journal.clear());
+    EXPECT_EQ(journal.read(), Deeds{});
+    files.failNever();
+    EXPECT_FALSE(journal.append({added("go")}));
+  }
+}
+
+TEST_F(Journal, OneWhoseFolderCouldNotBeSyncedIsSyncedWithItsNextDeed) {
+  files.counts = [](const std::string& call, const std::string&) { return call == "syncFolder"; };
+  files.failFrom = files.failTo = 1;
+  EXPECT_TRUE(journal.append({added("bank")}));
+  EXPECT_FALSE(journal.append({added("bank")}));
+  EXPECT_EQ(files.calls, 2);
+}
+
 /// A line of the journal with the check that belongs to it, whatever it says.
 std::string checked(const std::string& text) {
   std::uint32_t sum = 2166136261U;

@@ -19,6 +19,7 @@ namespace {
 
 using namespace literals;
 using test::bankText;
+using test::FaultyFiles;
 using test::Learning;
 using test::record;
 using test::Started;
@@ -259,6 +260,26 @@ TEST_F(LearnerWordsTest, AListThatComesBackWhileItIsOpenIsThereAfterEveryDeletio
   EXPECT_EQ(wordsNextTime(), Texts{"river"});
 }
 
+TEST_F(LearnerWordsTest, AJournalThatMayNotBeWrittenBringsNoDeletedWordBack) {
+  dieTaking({"bank", "river"});
+  const auto forbidJournal = [](FaultyFiles& files) {
+    files.counts = [](const std::string& call, const std::string& path) {
+      return call == "open" && path.ends_with("/words.journal");
+    };
+    files.failAlways(std::errc::permission_denied);
+  };
+  {
+    Learning learning(pack, own);
+    forbidJournal(learning.run.files);
+    learning.run.start();
+    learning.removeFirst();
+  }
+  Learning next(pack, own);
+  forbidJournal(next.run.files);
+  next.run.start();
+  EXPECT_EQ(next.words(), Texts{"river"});
+}
+
 // -- A kill at each call.
 
 /// Goes through a learner's evening; tells after each deed what must be kept from then on.
@@ -359,6 +380,31 @@ TEST_F(LearnerWordsTest, AWordInTheJournalFindsItsSentenceInANewPackToo) {
   dieTaking({"river"});
   writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}, bankText(7)});
   EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
+}
+
+TEST_F(LearnerWordsTest, AJournalThatIsMergedWithoutAPackTakesNoWordItsSentence) {
+  liveTaking("bank");
+  dieTaking({"river"});
+  own.remove("words.txt");
+  LearnerWords(own.path(), systemFiles(), systemCalendar()).open();
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "The old bank stands. ");
+}
+
+TEST_F(LearnerWordsTest, AWordThatIsTakenAnewKeepsTheSentenceThatItWasTakenFrom) {
+  liveTaking("bank");
+  const std::string place = own.read("data.c");
+  // The place of the old sentence is that of another one, and the old one is elsewhere.
+  writeTexts({{4, "New town\r_\tThe big bank opens here. _A road.\r", "_Mot._Hai."}, bankText(9)});
+  {
+    Started learning(pack, own);
+    EXPECT_NE(own.read("data.c"), place);
+    learning.removeFirst();
+    learning.openText("New town");
+    learning.add("bank");
+    learning.leaveText();
+    EXPECT_EQ(own.read("data.c"), place);
+  }
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "The big bank opens here. ");
 }
 
 TEST_F(LearnerWordsTest, ThePlaceInAListGoesWithItsTitle) {

@@ -56,11 +56,11 @@ class Learning {
  public:
   Learning(const TestFolder& pack, const TestFolder& own) : run({pack.path(), own.path()}) {}
 
-  void openText() {
+  void openText(const std::string& title = "Our town") {
     run.clickButton(1);
     run.controls().RDOS.Visible(false);
     Surface& R1 = run.controls().R1;
-    R1.SelStart(static_cast<int>(R1.Text().find("Our town")));
+    R1.SelStart(static_cast<int>(R1.Text().find(title)));
     R1.releaseMouse(MouseButton::Left, shift::None, {});
   }
   void add(const std::string& word) {

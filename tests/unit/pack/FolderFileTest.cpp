@@ -115,6 +115,29 @@ TEST_F(FolderFileTest, AFileThatCannotBeReadIsToldAndTheOthersTravel) {
   EXPECT_EQ(theirs.read("learner/data.c"), record("bank"));
 }
 
+TEST_F(FolderFileTest, WhatCannotBeReadIsNotReplaced) {
+  theirs.write("learner/data.c", record("field"));
+  theirs.write("learner/words.txt", "rows");
+  WordJournal journal(theirs.pathOf("learner/words.journal"), systemFiles());
+  WordRow row;
+  row.word = "river";
+  ASSERT_FALSE(journal.append({{WordDeed::Kind::Added, row}}));
+  const std::string deeds = theirs.read("learner/words.journal");
+  putArchive({{"words.journal", ""}, {"words.txt", "other rows"}, {"data.c", record("bank")}});
+  for (const std::string name : {"data.c", "words.txt", "words.journal"}) {
+    test::FaultyFiles broken;
+    broken.looksCount = true;
+    broken.counts = [&](const std::string& call, const std::string& path) {
+      return call == "read" && path.ends_with("/learner/" + name);
+    };
+    broken.failAlways(std::errc::io_error);
+    EXPECT_EQ(importFolder({list.folder, broken}, file, out), ListResult::Impossible) << name;
+    EXPECT_TRUE(theirs.read("learner/data.c").starts_with(record("field"))) << name;
+    const bool merged = theirs.read("learner/data.c").size() == 48;
+    EXPECT_TRUE(merged || theirs.read("learner/words.journal") == deeds) << name;
+  }
+}
+
 TEST_F(FolderFileTest, NamesThatAreNoLearnersArePassedOver) {
   putArchive({{"data.c", record("bank")},
               {"../data.c", record("evil")},
