@@ -197,6 +197,10 @@ std::string LearnerWords::keptSentence(const VocabularyWord& word) const {
 
 // -- The list in memory and on the disk.
 
+bool LearnerWords::Kept::unreadable() const {
+  return !list && error != std::errc::no_such_file_or_directory;
+}
+
 LearnerWords::Kept LearnerWords::gather() {
   Kept kept;
   kept.list = list_.read(kept.error);

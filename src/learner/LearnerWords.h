@@ -85,9 +85,7 @@ class LearnerWords {
     bool anyDeeds = false;       ///< something was
     bool journalIsKnown = false; ///< else the journal may have more
 
-    [[nodiscard]] bool unreadable() const {
-      return !list && error != std::errc::no_such_file_or_directory;
-    }
+    [[nodiscard]] bool unreadable() const;
   };
 
   [[nodiscard]] static Key keyOf(const VocabularyWord& word);
