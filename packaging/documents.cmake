@@ -59,7 +59,9 @@ function(talvora_book name folder source pictures)
   set(made ${page})
   if(WEASYPRINT)
     set(book ${CMAKE_CURRENT_BINARY_DIR}/${name}.pdf)
-    add_custom_command(OUTPUT ${book} COMMAND ${WEASYPRINT} -q ${page} ${book}
+    # Links lead to where the packages put what they name, not into this build's folder.
+    add_custom_command(OUTPUT ${book}
+      COMMAND ${WEASYPRINT} -q --base-url file:///usr/share/doc/talvora/ ${page} ${book}
       DEPENDS ${page} VERBATIM)
     list(APPEND made ${book})
   endif()

@@ -17,13 +17,15 @@ clean_up() {
 }
 trap clean_up EXIT
 
-SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+# Both are made of this commit, whatever is committed meanwhile.
+commit=$(git rev-parse HEAD)
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct "$commit")
 export SOURCE_DATE_EPOCH
 
 # make_packages NAME: builds the last commit in a folder of that name.
 make_packages() {
   mkdir -p "$work/$1"
-  git archive HEAD | tar -x -C "$work/$1"
+  git archive "$commit" | tar -x -C "$work/$1"
   (
     cd "$work/$1"
     CCACHE_BASEDIR=$PWD

@@ -31,6 +31,8 @@ done
 readelf -d "$program" | grep -E 'NEEDED.*(flite|sndfile|Multimedia)' &&
   fail "the start pays for what only sound needs"
 
+telltale=$(grep -rlaF "$build" "$work/place") && fail "the folder of the build is in $telltale"
+
 LC_ALL=vi_VN.UTF-8 "$work/place/bin/talvora-pack" --help | grep -q "Cách dùng:" ||
   fail "the installed compiler does not speak Vietnamese"
 
