@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace talvora {
 
@@ -22,7 +23,7 @@ constexpr std::string_view OldNewName = "data.c.new";
 
 /// What two records of one word have alike.
 std::string nameOf(const VocabularyWord& word) {
-  return lower(word.word());
+  return lower(trim(asWritten(word.Tu)));
 }
 
 std::set<std::string> namesOf(const Words& words) {
@@ -165,10 +166,15 @@ Carried LearnerWords::carry(TextCatalogue catalogue) {
   return carried;
 }
 
-// A word of which nothing is known belongs to the pack in hand.
+// A word of which nothing is known belongs to the pack in hand. One whose place alone is not known
+// has been found in a pack, but that could not be written beside it: its sentence holds.
 WordRow LearnerWords::rowOf(const VocabularyWord& word) const {
-  const auto known = rows_.find(keyOf(word));
-  return known == rows_.end() ? rowInHand(word) : known->second;
+  const Key key = keyOf(word);
+  const auto known = rows_.find(key);
+  if (known != rows_.end()) return known->second;
+  const auto before = rows_.lower_bound({key.first, std::numeric_limits<std::int32_t>::min()});
+  const bool isItsOwn = before != rows_.end() && before->first.first == key.first;
+  return isItsOwn && before->second.pack != pack_ ? before->second : rowInHand(word);
 }
 
 WordRow LearnerWords::rowInHand(const VocabularyWord& word) const {

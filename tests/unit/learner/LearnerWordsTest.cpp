@@ -308,10 +308,12 @@ struct KilledEvening {
 };
 
 KilledEvening eveningUntil(int call, const TestFolder& pack, const TestFolder& own) {
+  const TestFolder scratch; // what is killed does not clear up behind itself
   int ends[2];
   EXPECT_EQ(::pipe(ends), 0);
   const pid_t child = ::fork();
   if (child == 0) {
+    ::setenv("TMPDIR", scratch.path().c_str(), 1);
     Learning learning(pack, own);
     learning.run.files.before = [call](int number) {
       if (number == call) ::kill(::getpid(), SIGKILL);
@@ -374,6 +376,38 @@ TEST_F(LearnerWordsTest, AWordWhoseSentenceIsGoneStillShowsIt) {
   writeTexts({bankText(4)});
   EXPECT_EQ(wordsNextTime(), Texts{"river"});
   EXPECT_EQ(own.read("data.c"), before) << "it is back, and so is the place";
+}
+
+TEST_F(LearnerWordsTest, AWordWhoseSentenceIsGoneStillShowsItThoughOnlyTheListCouldBeWritten) {
+  liveTaking("river");
+  writeTexts({{1, "A new text\r_\tWith a sentence.\r", "_Mot."}});
+  {
+    Learning learning(pack, own);
+    learning.run.files.counts = [](const std::string& call, const std::string& path) {
+      return call == "rename" && path.ends_with("/words.txt");
+    };
+    learning.run.files.failAlways();
+    learning.run.start();
+  }
+  ASSERT_EQ(own.read("data.c"), record("river", 0));
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
+}
+
+TEST_F(LearnerWordsTest,
+       APlaceThatWasFoundInOnePackIsFoundAnewInTheNextThoughOnlyTheListWasWritten) {
+  liveTaking("river");
+  const test::StoredText ahead{1, "A new text\r_\tWith a sentence. _And one more.\r", "_Mot._Hai."};
+  writeTexts({ahead, bankText(7)});
+  {
+    Learning learning(pack, own);
+    learning.run.files.counts = [](const std::string& call, const std::string& path) {
+      return call == "rename" && path.ends_with("/words.txt");
+    };
+    learning.run.files.failAlways();
+    learning.run.start();
+  }
+  writeTexts({bankText(9)});
+  EXPECT_EQ(Started(pack, own).sentenceOfFirst(), "A river runs here.");
 }
 
 TEST_F(LearnerWordsTest, AWordInTheJournalFindsItsSentenceInANewPackToo) {
