@@ -118,7 +118,10 @@ std::error_code WordJournal::clear() {
   if (error || status.kind == FileStatus::Kind::Missing || status.size == 0) return error;
   const auto file = files_.open(path_, OpenFor::Writing, error);
   // One that may not be written may be taken away: what it says would be done again and again.
-  if (isForbidden(error)) return files_.remove(path_);
+  if (isForbidden(error)) {
+    error = files_.remove(path_);
+    return error ? error : files_.syncFolder(folderOf(path_));
+  }
   if (file == nullptr) return error;
   error = file->truncate(0);
   return error ? error : file->sync();
