@@ -46,7 +46,24 @@ expect_note "focus=RVP2 "
 sleep 2
 keep lesson
 leave_to_menu
-# An item is another one each time; the settings stay.
+# The items of a bank are shuffled; the few of a lesson that is marked come in their order.
+click_button 3
+expect_note "focus=RVP1 "
+press ctrl+Home
+press Down
+press shift+F10
+press Return
+expect_note "focus=RDT "
+sleep 2
+keep item
+xdotool type --delay 60 "goes"
+press Return
+keep judged
+press Return
+expect_note "focus=RABCD "
+sleep 2
+keep choice
+leave_to_menu
 click_button 8
 expect_note "focus=RAmthanh "
 keep settings

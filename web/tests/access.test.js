@@ -1,16 +1,11 @@
 // What a screen reader hears: roles, names and notes; and axe-core's rules on every kind of page.
 import assert from 'node:assert/strict';
 import { readFile } from 'node:fs/promises';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { fileURLToPath } from 'node:url';
 import { Place } from './browser.js';
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 /** @param {import('./browser.js').Learner} learner @param {string} where */
 async function expectNoFault(learner, where) {
@@ -32,27 +27,21 @@ test('the pages have roles and names, and no fault that axe-core knows', async (
   const { page } = learner;
   await expectNoFault(learner, 'menu');
   await page.getByRole('button', { name: 'BÀI ĐỌC' }).waitFor();
-  await learner.control('but1').click();
-  await learner.at('R1');
+  await learner.open('but1', 'R1');
   const list = page.getByRole('listbox', { name: 'Danh sách bài' });
   await list.getByRole('option', { selected: true }).waitFor();
   await expectNoFault(learner, 'list');
-  await learner.key('ArrowDown');
-  await learner.key('Enter');
-  await learner.at('R2');
+  await learner.openFirst('R2');
   await page.getByRole('document', { name: 'Bài đọc' }).waitFor();
   await expectNoFault(learner, 'text');
-  await learner.clickWord('R2', await learner.wordOfText());
+  await learner.lookUp();
   await page.getByRole('document', { name: 'Nghĩa của từ' }).waitFor();
   await expectNoFault(learner, 'entry');
   await learner.key('F2');
-  await learner.control('RDOS').locator('.line').first().waitFor();
+  await learner.sees('RDOS');
   await expectNoFault(learner, 'hints');
   await learner.backToMenu();
-  await learner.control('but10').click();
-  await learner.at('RN1');
-  await learner.key('Enter');
-  await learner.atItem();
+  await learner.openItem();
   await expectNoFault(learner, 'item');
   await learner.close();
 });
@@ -62,8 +51,7 @@ test('what comes up is told: entries, words that were taken, questions', async (
   await learner.openText();
   await learner.takeWord();
   await learner.page.locator('#told', { hasText: 'Đã lưu' }).waitFor();
-  await learner.clickWord('R2', await learner.wordOfText());
-  await learner.control('RHD').locator('.line').first().waitFor();
+  await learner.lookUp();
   const entry = (await learner.control('RHD').locator('.line').first().textContent()) ?? '-';
   await learner.page.waitForFunction(
     (first) => document.querySelector('#told')?.textContent?.includes(first.trim()),

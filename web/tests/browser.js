@@ -1,46 +1,54 @@
 // A learner at the page in a real browser without a window, on the small pack of the scenarios.
 // SITE in the environment is the folder with the page, CHROMIUM the browser.
 import assert from 'node:assert/strict';
-import { spawn } from 'node:child_process';
-import { fileURLToPath } from 'node:url';
+import { after } from 'node:test';
 import { chromium } from 'playwright-core';
+import { standing, wordsIn } from '../tools/inpage.js';
+import { serve } from '../tools/serving.js';
 
 const Patience = 30_000;
 const Unseen = 4000;
 /** An item of any kind, with the keyboard. */
 export const AnyItem = ['RDT', 'RABCD', 'Rsai'].map((name) => `#c-${name}.focused`).join();
-const Desktop = { width: 1366, height: 768 };
-const server = fileURLToPath(new URL('../tools/serve.js', import.meta.url));
+export const Desktop = { width: 1366, height: 768 };
 
 /** @typedef {import('playwright-core').BrowserContextOptions} Options */
 
-/** The page served, and a browser that opens it. */
+/** Serves the site that is tested. @param {string[]} how what else the server is told */
+export const serveSite = (...how) => serve(process.env.SITE ?? '', ...how);
+
+/** What a word is found by. @param {string} word */
+export const patternOf = (word) => `\\b${word}\\b`;
+
+/**
+ * Goes back, a step at a time, until the menu stands; a step is over when the screen has changed.
+ * @param {{isOnMenu: () => Promise<boolean>, standing: () => Promise<string>, step: () => Promise<unknown>}} ways
+ */
+export async function goBack({ isOnMenu, standing, step }) {
+  while (!(await isOnMenu())) {
+    const was = await standing();
+    await step();
+    // A step that ends a sound changes nothing that can be seen.
+    const change = Date.now() + Unseen;
+    while ((await standing()) === was && Date.now() < change)
+      await new Promise((resolve) => setTimeout(resolve, 20));
+  }
+}
+
+/** The page served, and a browser that opens it, while the tests of a file run. */
 export class Place {
-  /** @param {string[]} [how] what else the server is told */
-  static async open(how = []) {
-    const place = new Place();
-    place.serving = spawn(process.execPath, [server, process.env.SITE ?? '', '0', ...how]);
-    place.address = await new Promise((resolve) =>
-      place.serving?.stdout?.once('data', (line) => resolve(String(line).trim())),
-    );
-    place.browser = await chromium.launch({
+  /** @param {string[]} how what else the server is told */
+  constructor(...how) {
+    this.address = '';
+    this.serving = serveSite(...how);
+    this.browser = chromium.launch({
       executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
       args: ['--no-sandbox'],
     });
-    return place;
-  }
-
-  constructor() {
-    /** @type {import('node:child_process').ChildProcess | undefined} */
-    this.serving = undefined;
-    /** @type {import('playwright-core').Browser | undefined} */
-    this.browser = undefined;
-    this.address = '';
-  }
-
-  async close() {
-    await this.browser?.close();
-    this.serving?.kill();
+    after(async () => {
+      await (await this.browser).close();
+      (await this.serving).end();
+    });
   }
 
   /**
@@ -49,10 +57,10 @@ export class Place {
    * @param {(context: import('playwright-core').BrowserContext) => Promise<unknown>} [prepare]
    */
   async learner(options = {}, prepare = async () => {}) {
-    assert.ok(this.browser);
-    const context = await this.browser.newContext({ viewport: Desktop, ...options });
+    this.address = (await this.serving).address;
+    const context = await (await this.browser).newContext({ viewport: Desktop, ...options });
     await prepare(context);
-    const learner = new Learner(context, await context.newPage(), this.address);
+    const learner = new Learner(context, await context.newPage());
     await learner.page.goto(this.address);
     // The first run of a learner tells where help is.
     await learner.page.locator('#yes').click();
@@ -65,12 +73,10 @@ export class Learner {
   /**
    * @param {import('playwright-core').BrowserContext} context
    * @param {import('playwright-core').Page} page
-   * @param {string} address
    */
-  constructor(context, page, address) {
+  constructor(context, page) {
     this.context = context;
     this.page = page;
-    this.address = address;
     /** @type {string[]} */
     this.faults = [];
     page.setDefaultTimeout(Patience);
@@ -105,6 +111,16 @@ export class Learner {
     await this.page.locator(AnyItem).waitFor();
   }
 
+  /** Waits until a surface shows text. @param {string} name */
+  async sees(name) {
+    await this.control(name).locator('.line').first().waitFor();
+  }
+
+  /** Waits until a control is gone. @param {string} name */
+  async misses(name) {
+    await this.control(name).waitFor({ state: 'hidden' });
+  }
+
   async onMenu() {
     await this.page.locator('.menu').nth(17).waitFor();
     await this.page.locator('.menu.focused').waitFor();
@@ -112,34 +128,49 @@ export class Learner {
 
   /** What stands on the screen, and who has the keyboard. */
   standing() {
-    return this.page.evaluate(() =>
-      [...document.querySelectorAll('[id^="c-"]')]
-        .filter((each) => each.checkVisibility())
-        .map((each) => `${each.id} ${each.className}`)
-        .join(),
-    );
+    return this.page.evaluate(standing);
   }
 
-  /**
-   * Goes back, a step at a time, until the menu stands; a step is over when the screen has changed.
-   * @param {() => Promise<unknown>} [step]
-   */
+  /** Goes back until the menu stands. @param {() => Promise<unknown>} [step] */
   async backToMenu(step = () => this.key('Escape')) {
-    while ((await this.page.locator('.menu.focused').count()) === 0) {
-      const before = await this.standing();
-      await step();
-      // A step that ends a sound changes nothing that can be seen.
-      const change = Date.now() + Unseen;
-      while ((await this.standing()) === before && Date.now() < change)
-        await this.page.waitForTimeout(20);
-    }
+    await goBack({
+      isOnMenu: async () => (await this.page.locator('.menu.focused').count()) > 0,
+      standing: () => this.standing(),
+      step,
+    });
     await this.onMenu();
+  }
+
+  /** Opens a section, whose page has the keyboard then. @param {string} button @param {string} page */
+  async open(button, page) {
+    await this.control(button).click();
+    await this.at(page);
+  }
+
+  /** Opens the first line of a list that is no heading. @param {string} page that it leads to */
+  async openFirst(page) {
+    await this.key('ArrowDown');
+    await this.key('Enter');
+    await this.at(page);
+    await this.sees(page);
+  }
+
+  /** Opens the first reading text. */
+  async openText() {
+    await this.open('but1', 'R1');
+    await this.openFirst('R2');
+  }
+
+  /** Opens an item of a bank. */
+  async openItem() {
+    await this.open('but10', 'RN1');
+    await this.key('Enter');
+    await this.atItem();
   }
 
   /** Opens the vocabulary, in which these words stand. @param {string[]} words */
   async findInVocabulary(...words) {
-    await this.control('but2').click();
-    await this.at('Rchon');
+    await this.open('but2', 'Rchon');
     for (const word of words) await this.control('Rchon').getByText(word).first().waitFor();
   }
 
@@ -147,16 +178,6 @@ export class Learner {
   async reload() {
     await this.page.reload();
     await this.onMenu();
-  }
-
-  /** Opens the first reading text, which stands below a heading. */
-  async openText() {
-    await this.control('but1').click();
-    await this.at('R1');
-    await this.key('ArrowDown');
-    await this.key('Enter');
-    await this.at('R2');
-    await this.control('R2').locator('.line').first().waitFor();
   }
 
   /** A word of the text that is open. */
@@ -167,36 +188,35 @@ export class Learner {
 
   /** The middle of a word of a surface. @param {string} name @param {string} word */
   async pointOf(name, word) {
-    const point = await this.control(name).evaluate((element, wanted) => {
-      const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
-      for (let node = walker.nextNode(); node !== null; node = walker.nextNode()) {
-        const at = (node.textContent ?? '').search(new RegExp(`\\b${wanted}\\b`));
-        if (at < 0) continue;
-        const range = document.createRange();
-        range.setStart(node, at);
-        range.setEnd(node, at + wanted.length);
-        const box = range.getBoundingClientRect();
-        return { x: box.x + box.width / 2, y: box.y + box.height / 2 };
-      }
-      return null;
-    }, word);
+    const [point] = await this.control(name).evaluateAll(wordsIn, patternOf(word));
     assert.ok(point, `${word} stands in ${name}`);
     return point;
   }
 
-  /** @param {string} name @param {string} word */
-  async clickWord(name, word) {
-    const point = await this.pointOf(name, word);
-    await this.page.mouse.click(point.x, point.y);
+  /** @param {string} name @param {string} word @param {'left' | 'right'} [button] */
+  async clickWord(name, word, button = 'left') {
+    const { x, y } = await this.pointOf(name, word);
+    await this.page.mouse.click(x, y, { button });
+  }
+
+  /** Looks a word of the text up. */
+  async lookUp() {
+    const word = await this.wordOfText();
+    await this.clickWord('R2', word);
+    await this.sees('RHD');
+    return word;
   }
 
   /** Looks a word of the text up and keeps it. */
   async takeWord() {
-    const word = await this.wordOfText();
-    await this.clickWord('R2', word);
-    await this.control('RHD').locator('.line').first().waitFor();
+    const word = await this.lookUp();
     await this.key('Enter');
     await this.page.locator('#typed', { hasText: 'Đã lưu' }).waitFor();
     return word;
+  }
+
+  /** Looks a word of the text up and has it spoken. */
+  async hearWord() {
+    await this.clickWord('R2', await this.lookUp(), 'right');
   }
 }

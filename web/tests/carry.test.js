@@ -5,7 +5,7 @@ import { execFileSync } from 'node:child_process';
 import { mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
-import { after, before, test } from 'node:test';
+import { after, test } from 'node:test';
 import { broughtBy, carriedOut, joined } from '../page/carry.js';
 import { Place } from './browser.js';
 
@@ -15,15 +15,8 @@ const tool = (/** @type {string[]} */ ...words) =>
 const record = (/** @type {string} */ word) =>
   new TextEncoder().encode(word.padEnd(20) + '\0\0\0\0');
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(async () => {
-  await place.close();
-  rmSync(folder, { recursive: true });
-});
+const place = new Place();
+after(() => rmSync(folder, { recursive: true }));
 
 test('an archive that another program packed is taken, and of it only what is a learner’s', async () => {
   const file = join(folder, 'packed.zip');

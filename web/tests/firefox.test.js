@@ -1,15 +1,12 @@
 // The page in Firefox: texts, entries, lessons and items open, and a word that was kept is there after a
 // reload, with a network and without.
 import assert from 'node:assert/strict';
-import { spawn } from 'node:child_process';
 import { after, before, test } from 'node:test';
-import { fileURLToPath } from 'node:url';
 import puppeteer from 'puppeteer-core';
-import { AnyItem } from './browser.js';
+import { standing, wordsIn } from '../tools/inpage.js';
+import { AnyItem, Desktop, goBack, patternOf, serveSite } from './browser.js';
 
 const Patience = 60_000;
-const Unseen = 4000;
-const server = fileURLToPath(new URL('../tools/serve.js', import.meta.url));
 
 /** @type {import('puppeteer-core').Browser} */
 let browser;
@@ -27,30 +24,27 @@ after(() => browser?.close());
 class Learner {
   /** One who is asked nothing any more and has the menu. */
   static async come() {
-    const learner = new Learner();
-    learner.serving = spawn(process.execPath, [server, process.env.SITE ?? '', '0']);
-    const address = await new Promise((resolve) =>
-      learner.serving?.stdout?.once('data', (line) => resolve(String(line).trim())),
-    );
-    learner.page = await browser.newPage();
+    const learner = new Learner(await serveSite(), await browser.newPage());
     learner.page.setDefaultTimeout(Patience);
-    await learner.page.setViewport({ width: 1366, height: 768 });
-    await learner.page.goto(address);
+    await learner.page.setViewport(Desktop);
+    await learner.page.goto(learner.serving.address);
     await learner.click('#yes');
     await learner.seen('.menu.focused');
     return learner;
   }
 
-  constructor() {
-    /** @type {import('node:child_process').ChildProcess | undefined} */
-    this.serving = undefined;
-    /** @type {import('puppeteer-core').Page} */
-    this.page = /** @type {any} */ (undefined);
+  /**
+   * @param {Awaited<ReturnType<typeof serveSite>>} serving
+   * @param {import('puppeteer-core').Page} page
+   */
+  constructor(serving, page) {
+    this.serving = serving;
+    this.page = page;
   }
 
   async go() {
     await this.page.close();
-    this.serving?.kill();
+    this.serving.end();
   }
 
   /** @param {string} what */
@@ -68,72 +62,62 @@ class Learner {
     for (const key of keys) await this.page.keyboard.press(key);
   }
 
-  standing() {
-    return this.page.evaluate(() =>
-      [...document.querySelectorAll('[id^="c-"]')]
-        .filter((each) => each.checkVisibility())
-        .map((each) => `${each.id} ${each.className}`)
-        .join(),
+  /** Waits until a text stands in an element. @param {string} what @param {string} text */
+  async reads(what, text) {
+    await this.page.waitForFunction(
+      (its, wanted) => document.querySelector(its)?.textContent?.includes(wanted),
+      {},
+      what,
+      text,
     );
   }
 
   async backToMenu() {
-    while ((await this.page.$('.menu.focused')) === null) {
-      const before = await this.standing();
-      await this.press('Escape');
-      // A step that ends a sound changes nothing that can be seen.
-      const change = Date.now() + Unseen;
-      while ((await this.standing()) === before && Date.now() < change)
-        await new Promise((resolve) => setTimeout(resolve, 20));
-    }
+    await goBack({
+      isOnMenu: async () => (await this.page.$('.menu.focused')) !== null,
+      standing: () => this.page.evaluate(standing),
+      step: () => this.press('Escape'),
+    });
+  }
+
+  /** Loads the page anew, which opens with the menu. */
+  async reload() {
+    await this.page.reload();
+    await this.seen('.menu.focused');
+  }
+
+  /** Opens a section, whose page has the keyboard then. @param {string} button @param {string} page */
+  async open(button, page) {
+    await this.click(`#c-${button}`);
+    await this.seen(`#c-${page}.focused`);
+  }
+
+  /** Opens the first line of a list that is no heading. @param {string} page that it leads to */
+  async openFirst(page) {
+    await this.press('ArrowDown', 'Enter');
+    await this.seen(`#c-${page}.focused`);
+    await this.seen(`#c-${page} .line`);
   }
 
   async openText() {
-    await this.click('#c-but1');
-    await this.seen('#c-R1.focused');
-    await this.press('ArrowDown', 'Enter');
-    await this.seen('#c-R2.focused');
-    await this.seen('#c-R2 .line');
+    await this.open('but1', 'R1');
+    await this.openFirst('R2');
   }
 
   /** Looks a word of the text up and keeps it. @param {string} word */
   async takeWord(word) {
-    const point = await this.page.$eval(
-      '#c-R2',
-      (surface, wanted) => {
-        const walker = document.createTreeWalker(surface, NodeFilter.SHOW_TEXT);
-        for (let node = walker.nextNode(); node !== null; node = walker.nextNode()) {
-          const at = (node.textContent ?? '').search(new RegExp(`\\b${wanted}\\b`));
-          if (at < 0) continue;
-          const range = document.createRange();
-          range.setStart(node, at);
-          range.setEnd(node, at + wanted.length);
-          const { x, y, width, height } = range.getBoundingClientRect();
-          return { x: x + width / 2, y: y + height / 2 };
-        }
-        return { x: 0, y: 0 };
-      },
-      word,
-    );
+    const [point] = await this.page.$$eval('#c-R2', wordsIn, patternOf(word));
+    assert.ok(point, `${word} stands in the text`);
     await this.page.mouse.click(point.x, point.y);
     await this.seen('#c-RHD .line');
     await this.press('Enter');
-    await this.page.waitForFunction(
-      (text) => document.querySelector('#typed')?.textContent?.includes(text),
-      {},
-      `Đã lưu: ${word}`,
-    );
+    await this.reads('#typed', `Đã lưu: ${word}`);
   }
 
   /** Opens the vocabulary, in which a word stands. @param {string} word */
   async findInVocabulary(word) {
-    await this.click('#c-but2');
-    await this.seen('#c-Rchon.focused');
-    await this.page.waitForFunction(
-      (text) => document.querySelector('#c-Rchon')?.textContent?.includes(text),
-      {},
-      word,
-    );
+    await this.open('but2', 'Rchon');
+    await this.reads('#c-Rchon', word);
   }
 }
 
@@ -142,38 +126,53 @@ test('a text opens, a click shows an entry, and the word is kept', async () => {
   assert.equal((await learner.page.$$('.menu')).length, 18);
   await learner.openText();
   await learner.takeWord('word');
-  await learner.page.reload();
-  await learner.seen('.menu.focused');
+  await learner.reload();
   await learner.findInVocabulary('word');
   await learner.go();
 });
 
-test('a lesson and an item open, and without a network the vocabulary is there', async () => {
+test('a lesson opens, is marked, and its items are worked through', async () => {
   const learner = await Learner.come();
-  const { page } = learner;
-  await learner.click('#c-but3');
+  const { keyboard } = learner.page;
+  await learner.open('but3', 'RVP1');
+  await learner.openFirst('RVP2');
+  await learner.press('Escape');
   await learner.seen('#c-RVP1.focused');
-  await learner.press('ArrowDown', 'Enter');
-  await learner.seen('#c-RVP2.focused');
-  await learner.seen('#c-RVP2 .line');
+  await keyboard.down('Shift');
+  await learner.press('F10');
+  await keyboard.up('Shift');
+  await learner.press('Enter');
+  await learner.seen('#c-RDT.focused');
+  await keyboard.type('goes');
+  await learner.press('Enter');
+  await learner.reads('#told', 'Đúng 1 trên 2 chỗ');
+  await learner.press('Enter');
+  await learner.seen('#c-RABCD.focused');
   await learner.backToMenu();
-  await learner.click('#c-but10');
-  await learner.seen('#c-RN1.focused');
+  await learner.go();
+});
+
+test('an item of a bank opens', async () => {
+  const learner = await Learner.come();
+  await learner.open('but10', 'RN1');
   await learner.press('Enter');
   await learner.seen(AnyItem);
-  await page.waitForFunction(() => document.querySelector('#title')?.textContent?.includes('Cau'));
+  await learner.reads('#title', 'Cau');
   await learner.backToMenu();
+  await learner.go();
+});
+
+test('without a network the page opens, and the word that was kept is there', async () => {
+  const learner = await Learner.come();
+  const { page } = learner;
   await learner.openText();
   await learner.takeWord('word');
-  await page.reload();
-  await learner.seen('.menu.focused');
-  await learner.findInVocabulary('word');
+  await learner.reload();
   // The page is the service worker's, and the pack is kept.
   await page.waitForFunction(() => navigator.serviceWorker.controller !== null);
   await learner.seen('[data-kept]');
-  learner.serving?.kill();
-  await page.reload();
-  await learner.seen('.menu.focused');
+  learner.serving.end();
+  await learner.reload();
   await learner.findInVocabulary('word');
   await learner.backToMenu();
   await learner.openText();

@@ -1,15 +1,10 @@
 // Hosts that send no headers of their own: the service worker adds them, and where there is none, page
 // and program get along without shared memory.
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open(['plain']);
-});
-after(() => place.close());
+const place = new Place('plain');
 
 const isolated = () => globalThis.crossOriginIsolated;
 
@@ -30,11 +25,8 @@ test('without shared memory the program is suspended while it waits', async () =
   // The section takes its time to open and closes by itself.
   await learner.control('but6').click();
   await learner.control('RHD').getByText('Phần này đang xây dựng.').waitFor();
-  await learner.control('RHD').waitFor({ state: 'hidden' });
-  await learner.control('but10').click();
-  await learner.at('RN1');
-  await learner.key('Enter');
-  await learner.atItem();
+  await learner.misses('RHD');
+  await learner.openItem();
   await learner.reload();
   await learner.findInVocabulary(word);
   await learner.close();
@@ -43,11 +35,7 @@ test('without shared memory the program is suspended while it waits', async () =
 test('speech ends by itself where memory is not shared', async () => {
   const learner = await place.learner({ serviceWorkers: 'block' });
   await learner.openText();
-  const word = await learner.wordOfText();
-  await learner.clickWord('R2', word);
-  await learner.control('RHD').locator('.line').first().waitFor();
-  const point = await learner.pointOf('R2', word);
-  await learner.page.mouse.click(point.x, point.y, { button: 'right' });
+  await learner.hearWord();
   // F9 reads the text aloud, a sentence behind the other.
   await learner.key('F9');
   await learner.control('R2').locator('.selected').first().waitFor();

@@ -1,14 +1,9 @@
 // The page as a whole: it comes up, looks words up, keeps them, and closes.
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 test('the menu stands, and its captions are right Vietnamese', async () => {
   const learner = await place.learner();
@@ -21,12 +16,10 @@ test('the menu stands, and its captions are right Vietnamese', async () => {
 test('a click on a word shows its entry, and Esc takes it away', async () => {
   const learner = await place.learner();
   await learner.openText();
-  await learner.clickWord('R2', await learner.wordOfText());
-  const entry = learner.control('RHD');
-  await entry.locator('.line').first().waitFor();
-  assert.ok((await entry.innerText()).length > 0);
+  await learner.lookUp();
+  assert.ok((await learner.control('RHD').innerText()).length > 0);
   await learner.key('Escape');
-  await entry.waitFor({ state: 'hidden' });
+  await learner.misses('RHD');
   await learner.close();
 });
 
@@ -38,8 +31,7 @@ test('a word that is taken is there after a reload in the middle of a text', asy
   await learner.findInVocabulary(word);
   await learner.backToMenu();
   // The list of texts opens where it was left.
-  await learner.control('but1').click();
-  await learner.at('R1');
+  await learner.open('but1', 'R1');
   await learner
     .control('R1')
     .locator('[aria-selected="true"]', { hasText: 'Small Guide' })

@@ -1,6 +1,6 @@
 // Every section by mouse, by keys, and by fingers.
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
 /** The menu's buttons and the page that has the keyboard when they are pressed. */
@@ -20,18 +20,12 @@ const Phones = [
 ];
 const LongPressMs = 800;
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 test('every section opens by a click and closes by Esc', async () => {
   const learner = await place.learner();
   for (const [button, page] of Sections) {
-    await learner.control(button).click();
-    await learner.at(page);
+    await learner.open(button, page);
     await learner.backToMenu();
   }
   await learner.control('but6').click();
@@ -53,23 +47,19 @@ test('keys alone lead from the menu through a text, a lesson and an item', async
   await goTo('but1');
   await learner.key('Enter');
   await learner.at('R1');
-  await learner.key('ArrowDown');
-  await learner.key('Enter');
-  await learner.at('R2');
+  await learner.openFirst('R2');
   await learner.key('ArrowRight', 3);
   await learner.key('F10');
-  await learner.control('RHD').locator('.line').first().waitFor();
+  await learner.sees('RHD');
   await learner.key('Escape');
-  await learner.control('RHD').waitFor({ state: 'hidden' });
+  await learner.misses('RHD');
   await learner.key('F2');
-  await learner.control('RDOS').locator('.line').first().waitFor();
+  await learner.sees('RDOS');
   await learner.backToMenu();
   await goTo('but3');
   await learner.key('Enter');
   await learner.at('RVP1');
-  await learner.key('ArrowDown');
-  await learner.key('Enter');
-  await learner.at('RVP2');
+  await learner.openFirst('RVP2');
   await learner.backToMenu();
   await goTo('but10');
   await learner.key('Enter');
@@ -115,16 +105,16 @@ for (const viewport of Phones) {
     await learner.at('R2');
     const point = await learner.pointOf('R2', await learner.wordOfText());
     await page.touchscreen.tap(point.x, point.y);
-    await learner.control('RHD').locator('.line').first().waitFor();
+    await learner.sees('RHD');
     await page.getByRole('button', { name: 'Esc', exact: true }).tap();
-    await learner.control('RHD').waitFor({ state: 'hidden' });
+    await learner.misses('RHD');
     // A long press is the right button, which speaks the sentence and marks it.
     await touch('touchStart', [point]);
     await page.waitForTimeout(LongPressMs);
     await touch('touchEnd', []);
     await learner.control('R2').locator('.selected').first().waitFor();
     await page.getByRole('button', { name: 'F2', exact: true }).tap();
-    await learner.control('RDOS').locator('.line').first().waitFor();
+    await learner.sees('RDOS');
     await learner.close();
   });
 }

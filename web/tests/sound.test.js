@@ -1,14 +1,9 @@
 // What is heard: the voices and the recordings, once the learner has touched the page.
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 /** Notes what the page gives to the device: seconds, and the loudest sample. */
 function listen() {
@@ -42,11 +37,7 @@ test('a word is spoken, and going back ends it', async () => {
   const learner = await newLearner();
   await learner.openText();
   assert.deepEqual(await heardBy(learner), []);
-  const word = await learner.wordOfText();
-  await learner.clickWord('R2', word);
-  await learner.control('RHD').locator('.line').first().waitFor();
-  const point = await learner.pointOf('R2', word);
-  await learner.page.mouse.click(point.x, point.y, { button: 'right' });
+  await learner.hearWord();
   await untilHeard(learner);
   await learner.backToMenu();
   const parts = (await heardBy(learner)).length;
@@ -57,8 +48,7 @@ test('a word is spoken, and going back ends it', async () => {
 
 test('a recording plays a sentence at a time', async () => {
   const learner = await newLearner();
-  await learner.control('but4').click();
-  await learner.at('RN1');
+  await learner.open('but4', 'RN1');
   await learner.key('ArrowDown');
   await learner.key('Enter');
   await untilHeard(learner);

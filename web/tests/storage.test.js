@@ -1,14 +1,9 @@
 // Browsers that keep nothing, and a store that is full.
 import { readFile } from 'node:fs/promises';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 /** A learner whose browser has another store: lines that run ahead of the page's own. @param {string} lines */
 async function learnerWithStore(lines) {

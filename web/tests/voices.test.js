@@ -1,14 +1,9 @@
 // The browser's own voices: a choice on the page of the sound's settings, kept for the next time.
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 /** Other voices than the browser's, which speak for as long as nobody ends them. @param {any[]} voices */
 function giveVoices(voices) {
@@ -53,16 +48,9 @@ const saidTo = (learner) =>
     })),
   );
 
-/** @param {import('./browser.js').Learner} learner */
-async function openSettings(learner) {
-  await learner.control('but8').click();
-  await learner.at('RAmthanh');
-}
-
 /** Has a word of the text spoken. @param {import('./browser.js').Learner} learner */
 async function speakWord(learner) {
-  await learner.control('but1').click();
-  await learner.at('R1');
+  await learner.open('but1', 'R1');
   // The list opens on the line above the first text, and later on that text.
   const onText = learner
     .control('R1')
@@ -71,18 +59,14 @@ async function speakWord(learner) {
   await onText.waitFor();
   await learner.key('Enter');
   await learner.at('R2');
-  await learner.control('R2').locator('.line').first().waitFor();
-  const word = await learner.wordOfText();
-  await learner.clickWord('R2', word);
-  await learner.control('RHD').locator('.line').first().waitFor();
-  const point = await learner.pointOf('R2', word);
-  await learner.page.mouse.click(point.x, point.y, { button: 'right' });
+  await learner.sees('R2');
+  await learner.hearWord();
 }
 
 test('without an English voice of its own nothing is shown', async () => {
   const learner = await learnerWith(Others);
-  await openSettings(learner);
-  await learner.control('RAmthanh').locator('.line').first().waitFor();
+  await learner.open('but8', 'RAmthanh');
+  await learner.sees('RAmthanh');
   assert.equal(await learner.page.locator('#voicesOpen').isVisible(), false);
   await learner.close();
 });
@@ -91,7 +75,7 @@ test('a voice that is chosen speaks, also after a reload, until the own one is c
   const learner = await learnerWith([English, ...Others]);
   const { page } = learner;
   assert.equal(await page.locator('#voicesOpen').isVisible(), false, 'not on the menu');
-  await openSettings(learner);
+  await learner.open('but8', 'RAmthanh');
   await page.locator('#voicesOpen').click();
   const choice = page.getByRole('combobox', { name: 'Giọng đọc tiếng Anh' });
   assert.deepEqual(await choice.locator('option').allTextContents(), ['Giọng của Talvora', 'Anna']);
@@ -115,7 +99,7 @@ test('a voice that is chosen speaks, also after a reload, until the own one is c
   await learner.backToMenu();
   assert.equal((await saidTo(learner)).at(-1).text, 'cancelled');
 
-  await openSettings(learner);
+  await learner.open('but8', 'RAmthanh');
   await page.locator('#voicesOpen').click();
   assert.equal(await choice.inputValue(), 'anna');
   await choice.selectOption('Giọng của Talvora');
@@ -125,7 +109,7 @@ test('a voice that is chosen speaks, also after a reload, until the own one is c
   await speakWord(learner);
   await learner.backToMenu();
   assert.deepEqual(await saidTo(learner), []);
-  await openSettings(learner);
+  await learner.open('but8', 'RAmthanh');
   await page.locator('#voicesOpen').click();
   assert.equal(await choice.inputValue(), '');
   await learner.close();

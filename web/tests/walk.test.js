@@ -1,7 +1,7 @@
 // A random walk through the page: whatever a learner does, something that can be seen has the keyboard,
 // nothing fails, and Esc leads to the menu. SEED and STEPS in the environment choose another walk.
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { Place } from './browser.js';
 
 const Steps = Number(process.env.STEPS ?? '200');
@@ -27,12 +27,7 @@ const Keys = [
   ],
 ];
 
-/** @type {Place} */
-let place;
-before(async () => {
-  place = await Place.open();
-});
-after(() => place.close());
+const place = new Place();
 
 /** Numbers below a bound, the same for the same seed. @param {number} seed */
 function dice(seed) {
