@@ -1,10 +1,11 @@
 // Measures the browser front on a site beside the limits that it has, and prints a table.
-import { execFileSync, spawn } from 'node:child_process';
+import { execFileSync } from 'node:child_process';
 import { existsSync, readdirSync, statSync } from 'node:fs';
 import { connect, createServer } from 'node:net';
-import { dirname, join } from 'node:path';
-import { fileURLToPath } from 'node:url';
+import { join } from 'node:path';
 import { chromium } from 'playwright-core';
+import { wordsIn } from './inpage.js';
+import { serve } from './serving.js';
 
 const Usage = `usage: node bench.js SITE [ROUNDS]
 Measures the browser front beside its limits, in Chromium without a window, and prints a table.
@@ -34,8 +35,8 @@ const LatencyMs = 20;
 const Ahead = 1 << 16;
 const Patience = 120_000;
 const SettleMs = 100;
+const HoldMs = 60; // that a learner's finger keeps a button down
 const LongMs = 3000;
-const here = dirname(fileURLToPath(import.meta.url));
 
 /** @param {number[]} values @param {number} part */
 const quantile = (values, part) =>
@@ -43,20 +44,21 @@ const quantile = (values, part) =>
 
 /** @type {string[][]} */
 const rows = [['what', 'measured', 'limit']];
-/** @param {string} what @param {number} value @param {string} unit @param {number} limit */
+/** @param {string} what @param {number} value @param {string} unit @param {number} [limit] */
 const row = (what, value, unit, limit) =>
-  rows.push([what, `${Math.round(value * 100) / 100} ${unit}`, `${limit} ${unit}`]);
+  rows.push([
+    what,
+    `${Math.round(value * 100) / 100} ${unit}`,
+    limit === undefined ? '' : `${limit} ${unit}`,
+  ]);
 
-const serving = spawn(process.execPath, [join(here, 'serve.js'), site, '0']);
-const address = await new Promise((resolve) =>
-  serving.stdout.once('data', (line) => resolve(String(line).trim())),
-);
+const serving = await serve(site);
 let isSlow = false;
 /** When the line is free again. */
 let freeAt = 0;
 /** All connections share the line, whoever of the browser's workers opens them. */
 const line = createServer((client) => {
-  const server = connect(Number(new URL(address).port), '127.0.0.1');
+  const server = connect(Number(new URL(serving.address).port), '127.0.0.1');
   let waiting = 0;
   let order = Promise.resolve();
   client.on('data', (part) => server.write(part));
@@ -132,41 +134,88 @@ async function visits() {
   await context.close();
 }
 
-/** Milliseconds from an event to the frame that shows what came of it. */
+/** Has a page note the milliseconds from an event to the frame that shows what came of it. */
+function watch() {
+  const times = /** @type {Record<string, number[]>} */ ({});
+  Object.assign(globalThis, { times });
+  /** @param {string} kind @param {string} control */
+  const measure = (kind, control) => {
+    times[kind] = [];
+    addEventListener(
+      kind,
+      (event) => {
+        const from = event.timeStamp;
+        const element = document.querySelector(control);
+        if (element === null) return;
+        const seen = new MutationObserver(() => {
+          seen.disconnect();
+          // The frame that is being made now shows it.
+          requestAnimationFrame(() => {
+            const channel = new MessageChannel();
+            channel.port1.onmessage = () => times[kind].push(performance.now() - from);
+            channel.port2.postMessage(0);
+          });
+        });
+        seen.observe(element, { childList: true, subtree: true, attributes: true });
+        setTimeout(() => seen.disconnect(), 400);
+      },
+      { capture: true },
+    );
+  };
+  measure('pointerdown', '#c-RHD');
+  measure('pointerup', '#c-RHD');
+  measure('keydown', '#c-RTD');
+}
+
+/** What was noted of a kind of event since this was last asked. @param {import('playwright-core').Page} page @param {string} kind */
+const noted = (page, kind) =>
+  page.evaluate((its) => {
+    const times = Reflect.get(globalThis, 'times');
+    const taken = times[its];
+    for (const each of Object.keys(times)) times[each] = [];
+    return /** @type {number[]} */ (taken);
+  }, kind);
+
+/**
+ * Looks words of the open text up; gives the milliseconds of each, from one half of the click on.
+ * @param {import('playwright-core').Page} page
+ * @param {{x: number, y: number}[]} points
+ * @param {number} holdMs how long the button is down
+ * @param {'pointerdown' | 'pointerup'} half
+ */
+async function lookUps(page, points, holdMs, half) {
+  const times = /** @type {number[]} */ ([]);
+  for (const { x, y } of points) {
+    // A learner's pointer stands on a word before it is pressed.
+    await page.mouse.move(x, y);
+    await page.waitForTimeout(SettleMs);
+    await noted(page, half);
+    await page.mouse.down();
+    if (holdMs > 0) await page.waitForTimeout(holdMs);
+    await page.mouse.up();
+    // An entry may close by itself before it is seen here.
+    const entry = page.locator('#c-RHD .line').first();
+    await entry.waitFor({ timeout: LongMs }).catch(() => undefined);
+    await page.waitForTimeout(SettleMs);
+    times.push(...(await noted(page, half)).slice(0, 1));
+    if (await page.locator('#c-RHD').isVisible()) await page.keyboard.press('Escape');
+    await page.locator('#c-RHD').waitFor({ state: 'hidden' });
+    if (await page.locator('#c-R1.focused').isVisible()) await page.keyboard.press('Enter');
+    await page.locator('#c-R2.focused').waitFor();
+  }
+  return times;
+}
+
+/** @param {string} what @param {number[]} times @param {number} [limit] */
+function reaction(what, times, limit) {
+  row(`${what}, middle`, quantile(times, 0.5), 'ms', limit);
+  row(`${what}, 95th of 100`, quantile(times, 0.95), 'ms', limit);
+}
+
 async function reactions() {
   const context = await browser.newContext({ viewport: { width: 1366, height: 768 } });
   const page = await onMenu(context);
-  await page.evaluate(() => {
-    /** @type {number[]} */
-    const times = [];
-    Object.assign(globalThis, { times });
-    /** @param {string} kind @param {string} control */
-    const measure = (kind, control) => {
-      addEventListener(
-        kind,
-        (event) => {
-          const from = event.timeStamp;
-          const element = document.querySelector(control);
-          if (element === null) return;
-          const seen = new MutationObserver(() => {
-            seen.disconnect();
-            // The frame that is being made now shows it.
-            requestAnimationFrame(() => {
-              const channel = new MessageChannel();
-              channel.port1.onmessage = () => times.push(performance.now() - from);
-              channel.port2.postMessage(0);
-            });
-          });
-          seen.observe(element, { childList: true, subtree: true, attributes: true });
-          setTimeout(() => seen.disconnect(), 400);
-        },
-        { capture: true },
-      );
-    };
-    measure('pointerdown', '#c-RHD');
-    measure('keydown', '#c-RTD');
-  });
-  const taken = () => page.evaluate(() => Reflect.get(globalThis, 'times').splice(0));
+  await page.evaluate(watch);
   await page.locator('#c-but1').click();
   await page.locator('#c-R1.focused').waitFor();
   // Below the text to practise with and a heading stands the first that is English throughout.
@@ -174,59 +223,23 @@ async function reactions() {
   await page.keyboard.press('Enter');
   await page.locator('#c-R2.focused').waitFor();
   await page.locator('#waiting').waitFor({ state: 'hidden' });
-  await taken();
-  const points = await page.locator('#c-R2').evaluate((surface) => {
-    /** @type {{x: number, y: number}[]} */
-    const found = [];
-    for (const line of surface.querySelectorAll('.line:lang(en)')) {
-      const walker = document.createTreeWalker(line, NodeFilter.SHOW_TEXT);
-      for (let node = walker.nextNode(); node !== null; node = walker.nextNode())
-        for (const { 0: word, index } of (node.textContent ?? '').matchAll(/\b[a-z]{4,}\b/g)) {
-          const range = document.createRange();
-          range.setStart(node, index);
-          range.setEnd(node, index + word.length);
-          const { x, y, width, height } = range.getBoundingClientRect();
-          found.push({ x: x + width / 2, y: y + height / 2 });
-        }
-    }
-    return found;
-  });
-  /** @type {number[]} */
-  const clicks = [];
-  for (let round = 0; round < 4 * Rounds; ++round) {
-    const { x, y } = points[round % points.length];
-    // A learner's pointer stands on a word before it is pressed.
-    await page.mouse.move(x, y);
-    await page.waitForTimeout(SettleMs);
-    await taken();
-    await page.mouse.down();
-    await page.mouse.up();
-    // An entry may close by itself before it is seen here.
-    const entry = page.locator('#c-RHD .line').first();
-    await entry.waitFor({ timeout: LongMs }).catch(() => undefined);
-    await page.waitForTimeout(SettleMs);
-    const [time] = await taken();
-    if (time !== undefined && round > 0) clicks.push(time);
-    if (await page.locator('#c-RHD').isVisible()) await page.keyboard.press('Escape');
-    await page.locator('#c-RHD').waitFor({ state: 'hidden' });
-    if (await page.locator('#c-R1.focused').isVisible()) await page.keyboard.press('Enter');
-    await page.locator('#c-R2.focused').waitFor();
-    await taken();
-  }
-  row('click to entry painted, middle', quantile(clicks, 0.5), 'ms', 16);
-  row('click to entry painted, 95th of 100', quantile(clicks, 0.95), 'ms', 16);
-  /** @type {number[]} */
-  const keys = [];
+  const lines = page.locator('#c-R2 .line:lang(en)');
+  const words = await lines.evaluateAll(wordsIn, '\\b[a-z]{4,}\\b');
+  const points = Array.from({ length: 4 * Rounds }, (_, at) => words[at % words.length]);
+  const [first] = await lookUps(page, points.slice(0, 1), HoldMs, 'pointerup');
+  row('first click of a session', first, 'ms');
+  reaction('click to entry', await lookUps(page, points, HoldMs, 'pointerup'), 16);
+  reaction('click without a pause to entry', await lookUps(page, points, 0, 'pointerdown'));
+  const keys = /** @type {number[]} */ ([]);
   await page.keyboard.press('s');
   await page.locator('#c-RTD .line').first().waitFor();
-  await taken();
+  await noted(page, 'keydown');
   for (let round = 0; round < 4 * Rounds; ++round) {
     await page.keyboard.press(round % 8 < 4 ? 'tree'[round % 8] : 'Backspace');
     await page.waitForTimeout(60);
-    keys.push(...(await taken()));
+    keys.push(...(await noted(page, 'keydown')));
   }
-  row('key to look-up list painted, middle', quantile(keys, 0.5), 'ms', 16);
-  row('key to look-up list painted, 95th of 100', quantile(keys, 0.95), 'ms', 16);
+  reaction('key to look-up list', keys, 16);
   await context.close();
 }
 
@@ -244,11 +257,7 @@ function bytes() {
   }
   row('page, program and faces', page / 1e6, 'MB', 15);
   row('and the pack with its voice', (page + pack) / 1e6, 'MB', 15);
-  rows.push([
-    'recordings and other voices besides',
-    `${Math.round(recordings / 1e4) / 100} MB`,
-    '',
-  ]);
+  row('recordings and other voices besides', recordings / 1e6, 'MB');
 }
 
 bytes();
@@ -256,6 +265,6 @@ await visits();
 await reactions();
 await browser.close();
 line.close();
-serving.kill();
+serving.end();
 for (const [what, measured, limit] of rows)
   console.log(`${what.padEnd(40)}${measured.padStart(12)}${limit.padStart(12)}`);
