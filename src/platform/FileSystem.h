@@ -2,6 +2,7 @@
 // stands behind it, a machine's own, another front's or one that fails, is met in one place.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -23,7 +24,7 @@ struct FileStatus {
   std::uint32_t group = 0;
 };
 
-/// The bytes of a file in memory, given back with this object.
+/// The bytes of a file, given back with this object.
 class FileMapping {
  public:
   FileMapping() = default;
@@ -31,7 +32,15 @@ class FileMapping {
   FileMapping& operator=(const FileMapping&) = delete;
   virtual ~FileMapping() = default;
 
+  /// All of them, in memory.
   [[nodiscard]] virtual std::span<const unsigned char> bytes() const noexcept = 0;
+  /// Those from an offset on: all of them where they lie in memory, else as many as there is room
+  /// for, which are read into it.
+  [[nodiscard]] virtual std::span<const unsigned char>
+  from(std::size_t offset, std::span<unsigned char>) const noexcept {
+    const std::span<const unsigned char> all = bytes();
+    return all.subspan(std::min(offset, all.size()));
+  }
   /// Gives up the memory that reading has taken; what is read again comes from the file again.
   virtual void letMemoryGo() const noexcept {}
 };

@@ -3,6 +3,7 @@
 
 #include "platform/FileSystem.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -68,6 +69,13 @@ class MappedFile {
 
   [[nodiscard]] std::span<const unsigned char> bytes() const noexcept {
     return mapping_ ? mapping_->bytes() : std::span<const unsigned char>(content_);
+  }
+  /// The bytes from an offset on: all of them where they lie in memory, else as many as there is
+  /// room for, which are read into it.
+  [[nodiscard]] std::span<const unsigned char> from(std::size_t offset,
+                                                    std::span<unsigned char> room) const noexcept {
+    return mapping_ ? mapping_->from(offset, room)
+                    : bytes().subspan(std::min(offset, content_.size()));
   }
   [[nodiscard]] std::string_view text() const noexcept {
     return {reinterpret_cast<const char*>(bytes().data()), bytes().size()};

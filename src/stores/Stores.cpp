@@ -51,21 +51,21 @@ std::int32_t RecordFile::integer(std::int64_t record) const noexcept {
   return integerAt(mapped_->text(), static_cast<std::size_t>(record));
 }
 
-unsigned char RecordFile::byte(std::int64_t record) const noexcept {
-  return holdsByte(record) ? mapped_->bytes()[static_cast<std::size_t>(record - 1)]
-                           : static_cast<unsigned char>(0);
-}
-
-bool RecordFile::holdsByte(std::int64_t record) const noexcept {
-  return mapped_ != nullptr && record >= 1 &&
-         record <= static_cast<std::int64_t>(mapped_->bytes().size());
+std::span<const unsigned char> RecordFile::from(std::int64_t record,
+                                                std::span<unsigned char> room) const noexcept {
+  if (mapped_ == nullptr || record < 1) return {};
+  return mapped_->from(static_cast<std::size_t>(record - 1), room);
 }
 
 std::optional<std::string_view> PieceReader::next() {
-  if (left_ <= 0 || !stream_->holdsByte(next_)) return std::nullopt;
+  if (left_ <= 0) return std::nullopt;
+  if (ahead_.empty()) ahead_ = stream_.from(next_, room_);
+  if (ahead_.empty()) return std::nullopt;
   --left_;
-  const std::string_view piece = MoRongByte(GiaiMaByte(stream_->byte(next_++)));
-  stream_->notePiece(piece);
+  ++next_;
+  const std::string_view piece = MoRongByte(GiaiMaByte(ahead_.front()));
+  ahead_ = ahead_.subspan(1);
+  stream_.notePiece(piece);
   return piece;
 }
 

@@ -36,7 +36,7 @@ inline constexpr int Analyses = 25;
 } // namespace file
 
 /// A read-only file of fixed-length records, numbered from 1. Reading past its end, or ahead of its
-/// first record, gives 0.
+/// first record, gives 0 or nothing.
 class RecordFile {
  public:
   RecordFile() = default;
@@ -48,15 +48,15 @@ class RecordFile {
   [[nodiscard]] bool isOpen() const noexcept { return mapped_ != nullptr; }
   /// A 4-byte record, signed and little-endian.
   [[nodiscard]] std::int32_t integer(std::int64_t record) const noexcept;
-  /// A 1-byte record.
-  [[nodiscard]] unsigned char byte(std::int64_t record) const noexcept;
-  /// True when a 1-byte record of that number exists.
-  [[nodiscard]] bool holdsByte(std::int64_t record) const noexcept;
   /// The same file for a reader that is nobody's business: what it reads is not noted.
   [[nodiscard]] RecordFile quiet() const { return RecordFile(mapped_); }
   [[nodiscard]] std::span<const unsigned char> bytes() const noexcept {
     return mapped_ ? mapped_->bytes() : std::span<const unsigned char>();
   }
+  /// The 1-byte records from one on: all of them where they lie in memory, else as many as there is
+  /// room for, which are read into it.
+  [[nodiscard]] std::span<const unsigned char> from(std::int64_t record,
+                                                    std::span<unsigned char> room) const noexcept;
   /// Tells that a reader has come upon a piece.
   void notePiece(std::string_view piece) const noexcept {
     if (lastPiece_ != nullptr) *lastPiece_ = piece;
@@ -84,7 +84,9 @@ class PieceReader {
  public:
   /// `record` is that of the first byte fetched, `most` the number of bytes to fetch at most.
   PieceReader(const RecordFile& stream, std::int64_t record, std::int64_t most = LongestText)
-      : stream_(&stream), next_(record), left_(most) {}
+      : stream_(stream), next_(record), left_(most) {}
+  PieceReader(const PieceReader&) = delete;
+  PieceReader& operator=(const PieceReader&) = delete;
 
   /// The next piece; empty at the end of the file, and behind the most that may be read, so that no
   /// text without its terminator runs on.
@@ -93,9 +95,14 @@ class PieceReader {
   [[nodiscard]] std::int64_t nextRecord() const noexcept { return next_; }
 
  private:
-  const RecordFile* stream_;
+  /// Most entries of the dictionary have room there.
+  static constexpr std::size_t Room = 256;
+
+  const RecordFile& stream_;
   std::int64_t next_;
   std::int64_t left_;
+  std::span<const unsigned char> ahead_; ///< fetched, and not read yet
+  std::array<unsigned char, Room> room_;
 };
 
 /// The folder in a learner's own that holds the course's dictionary merged with brought ones.

@@ -3,7 +3,6 @@
 #include "platform/Files.h"
 
 #include <algorithm>
-#include <functional>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -66,25 +65,33 @@ bool isFolder(const std::string& path) {
                      [&](const std::string& each) { return below(path, each).has_value(); });
 }
 
-/// The bytes of a file, which may still be on its way: whoever looks at them first waits.
-class ComingBytes final : public FileMapping {
+/// The bytes of a file. One of the pack may still be on its way: whoever looks at it first waits. A
+/// very large one, the entries of the dictionary, stays where it is kept.
+class FileBytes final : public FileMapping {
  public:
-  using Take = std::function<void(std::span<unsigned char> into)>;
-
-  ComingBytes(std::size_t size, Take take) : size_(size), take_(std::move(take)) {}
-  explicit ComingBytes(std::vector<unsigned char> there)
-      : size_(there.size()), bytes_(std::move(there)) {}
+  explicit FileBytes(std::vector<unsigned char> held)
+      : size_(held.size()), bytes_(std::move(held)) {}
+  FileBytes(int packFile, std::size_t size) : file_(packFile), size_(size) {}
   [[nodiscard]] std::span<const unsigned char> bytes() const noexcept override {
     if (bytes_.size() != size_) {
       bytes_.resize(size_);
-      take_(bytes_);
+      talvoraPackRead(file_, 0, bytes_.data(), size_);
     }
     return bytes_;
   }
+  [[nodiscard]] std::span<const unsigned char>
+  from(std::size_t offset, std::span<unsigned char> room) const noexcept override {
+    if (size_ <= LargestHeld || bytes_.size() == size_) return FileMapping::from(offset, room);
+    const auto part = room.first(std::min(room.size(), size_ - std::min(offset, size_)));
+    if (!part.empty()) talvoraPackRead(file_, offset, part.data(), part.size());
+    return part;
+  }
 
  private:
+  static constexpr std::size_t LargestHeld = std::size_t{8} << 20;
+
+  int file_ = -1;
   std::size_t size_;
-  Take take_;
   mutable std::vector<unsigned char> bytes_;
 };
 
@@ -92,12 +99,10 @@ class ComingBytes final : public FileMapping {
 class SizedFile : public OpenFile {
  public:
   [[nodiscard]] FileStatus status(std::error_code& error) override {
-    FileStatus status;
-    error = outcome(size());
-    if (error) return status;
-    status.kind = FileStatus::Kind::File;
-    status.size = static_cast<std::size_t>(size());
-    return status;
+    const int bytes = size();
+    error = outcome(bytes);
+    if (error) return {};
+    return {.kind = FileStatus::Kind::File, .size = static_cast<std::size_t>(bytes)};
   }
   [[nodiscard]] std::size_t read(std::size_t offset, std::span<unsigned char> into,
                                  std::error_code& error) override {
@@ -112,7 +117,7 @@ class SizedFile : public OpenFile {
                                                  std::error_code& error) override {
     std::vector<unsigned char> held(size);
     if (read(0, held, error) < size) return nullptr;
-    return std::make_unique<ComingBytes>(std::move(held));
+    return std::make_unique<FileBytes>(std::move(held));
   }
   /// The browser's own lock keeps a second page away before a program starts.
   [[nodiscard]] std::error_code lock() override { return {}; }
@@ -134,9 +139,7 @@ class PackFile final : public SizedFile {
   }
   [[nodiscard]] std::error_code sync() override { return {}; }
   [[nodiscard]] std::unique_ptr<FileMapping> map(std::size_t size, std::error_code&) override {
-    return std::make_unique<ComingBytes>(size, [number = number_](std::span<unsigned char> into) {
-      talvoraPackRead(number, 0, into.data(), into.size());
-    });
+    return std::make_unique<FileBytes>(number_, size);
   }
 
  private:

@@ -42,9 +42,11 @@ export function comingFrom(port, waits) {
   };
   /** @param {number} file @param {number} offset @param {Uint8Array} into */
   return async (file, offset, into) => {
-    if (!contents.has(file)) waits(true);
-    while (!contents.has(file)) await new Promise((resolve) => (came = () => resolve(undefined)));
-    waits(false);
+    if (!contents.has(file)) {
+      waits(true);
+      while (!contents.has(file)) await new Promise((resolve) => (came = () => resolve(undefined)));
+      waits(false);
+    }
     into.set(
       /** @type {Uint8Array} */ (contents.get(file)).subarray(offset).subarray(0, into.length),
     );

@@ -1,10 +1,16 @@
 #include "stores/Stores.h"
 
 #include "platform/FatalFailure.h"
+#include "stores/ByteCode.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <span>
+#include <vector>
 
 namespace talvora {
 namespace {
@@ -35,12 +41,13 @@ TEST_F(StoresTest, ReadingPastAnEndOrAheadOfTheStartGives0) {
   folder.write("data.av", "A");
   stores.MoDuLieu();
   const RecordFile& positions = stores.fileOf(file::TextPositions);
+  const RecordFile& texts = stores.fileOf(file::Texts);
   for (const std::int64_t record :
        {std::int64_t{-1}, std::int64_t{0}, std::int64_t{2}, std::int64_t{1} << 60}) {
     EXPECT_EQ(positions.integer(record), 0);
-    EXPECT_EQ(stores.fileOf(file::Texts).byte(record), 0);
+    EXPECT_TRUE(texts.from(record, {}).empty());
   }
-  EXPECT_EQ(stores.fileOf(file::Texts).byte(1), 'A');
+  EXPECT_EQ(texts.from(1, {}).front(), 'A');
 }
 
 TEST_F(StoresTest, AReaderStopsAtTheEndOfItsFile) {
@@ -53,6 +60,43 @@ TEST_F(StoresTest, AReaderStopsAtTheEndOfItsFile) {
   EXPECT_EQ(reader.next(), "b");
   EXPECT_EQ(reader.next(), std::nullopt);
   EXPECT_EQ(reader.next(), std::nullopt);
+}
+
+/// A file that never lies in memory as a whole.
+class DistantBytes final : public FileMapping {
+ public:
+  explicit DistantBytes(std::vector<unsigned char> content) : content_(std::move(content)) {}
+
+  [[nodiscard]] std::span<const unsigned char> bytes() const noexcept override {
+    ADD_FAILURE() << "nobody needs all of it";
+    return {};
+  }
+  [[nodiscard]] std::span<const unsigned char>
+  from(std::size_t offset, std::span<unsigned char> room) const noexcept override {
+    const std::size_t count = std::min(room.size(), content_.size() - offset);
+    std::copy_n(content_.begin() + static_cast<std::ptrdiff_t>(offset), count, room.begin());
+    return room.first(count);
+  }
+
+ private:
+  std::vector<unsigned char> content_;
+};
+
+TEST(PieceReader, ReadsAFileThatDoesNotLieInMemory) {
+  std::vector<unsigned char> stored;
+  std::string plain;
+  for (int letter = 0; letter < 1000; ++letter) {
+    plain += static_cast<char>('a' + letter % 23);
+    stored.push_back(GiaiMaByte(static_cast<unsigned char>(plain.back())));
+  }
+  const RecordFile stream(
+      std::make_shared<MappedFile>(std::make_unique<DistantBytes>(std::move(stored))));
+  std::string read;
+  PieceReader reader(stream, 101);
+  while (const auto piece = reader.next())
+    read += *piece;
+  EXPECT_EQ(read, plain.substr(100));
+  EXPECT_EQ(reader.nextRecord(), 1001);
 }
 
 TEST_F(StoresTest, WhatAByteStoodForIsRememberedWhicheverStreamItCameFrom) {
