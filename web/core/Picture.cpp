@@ -38,13 +38,9 @@ double shortened(double twips) {
   return std::round(twips * 100) / 100;
 }
 
-Json boxOf(const Box& box, double top = 0) {
+Json boxOf(const Box& box, double top) {
   return {shortened(box.left), shortened(top + box.top), shortened(box.width),
           shortened(box.height)};
-}
-
-Json markOf(const char* kind, const Box& box, double top) {
-  return {{"mark", kind}, {"box", boxOf(box, top)}};
 }
 
 Json runOf(const PaintedRun& run, Light back) {
@@ -113,12 +109,13 @@ Json Picture::lookOf(Control& control) const {
   if (control.Name() == "RDOS") card.emplace(*surface, form_.Height(), layout_);
   const int height = card ? card->height() : control.Height();
   const Light back = lightOf(control.BackColor());
-  Json json = {{"box", {control.Left(), control.Top(), control.Width(), height}},
-               {"back", hexOf(back)},
-               {"dark", contrastOf(back, White) > contrastOf(back, Black)}};
+  Json json = {{"box", {control.Left(), control.Top(), control.Width(), height}}};
+  const bool hasPicture = as<Button>(&control) != nullptr || as<Image>(&control) != nullptr;
+  if (!hasPicture) json["back"] = hexOf(back);
   if (surface != nullptr) {
     json.update(card ? hintsOf(*surface, *card) : textOf(*surface));
     json["kind"] = "surface";
+    json["dark"] = contrastOf(back, White) > contrastOf(back, Black);
     json["label"] = utf8Of(pageName(surface->Name()));
     json["locked"] = surface->Locked();
     json["list"] = traitsOf(*surface).isList;
@@ -208,7 +205,7 @@ void Picture::addMarks(Json& lines, const Surface& surface, int number, const Pa
   const PageTraits traits = traitsOf(surface);
   const ParagraphMarks marks = marksOf(surface, form_, number);
   const auto add = [&](const char* kind, const Box& box) {
-    lines.push_back(markOf(kind, box, top));
+    lines.push_back({{"mark", kind}, {"box", boxOf(box, top)}});
   };
   const double width = surface.Width();
   const double height = paragraph.shape().height;

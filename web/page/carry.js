@@ -1,13 +1,12 @@
 // What the learner owns as one file: carried to another machine and back.
 import { byId, onClick } from './elements.js';
 import { filesOf, zipOf } from './zip.js';
-import { keepIncoming } from './own.js';
+import { LargestFile, keepIncoming } from './own.js';
 
 const Words = 'data.c';
 const RecordSize = 24;
 const FirstRun = 'Yes1';
 const Copied = [Words, 'data.Kcu', 'words.txt', 'lists.txt'];
-const LargestFile = 64 * 1024 * 1024;
 const Travels =
   /^(Yes1|owntexts\.av|words\.journal|texts\/\d{3}\.txt|(backups\/\d{4}(-\d\d){2}_\d\d(-\d\d){2,3}\/)?(data\.c|data\.Kcu|words\.txt|lists\.txt))$/;
 

@@ -141,6 +141,7 @@ export class FormView {
     }
     element.hidden = false;
     place(element, control.box);
+    if (control.back !== undefined) element.style.background = control.back;
     this[/** @type {'surface'} */ (control.kind)]?.(element, control);
   }
 
@@ -155,7 +156,6 @@ export class FormView {
 
   /** @param {HTMLElement} element @param {any} control */
   surface(element, control) {
-    element.style.background = control.back;
     element.classList.toggle('plate', control.name.startsWith('Rnen'));
     element.classList.toggle('hintbar', control.name === 'RDOS');
     element.classList.toggle('dark', control.dark);
@@ -245,7 +245,6 @@ export class FormView {
 
   /** @param {HTMLElement} element @param {any} control */
   label(element, control) {
-    element.style.background = control.back;
     element.style.color = control.color;
     const part = Math.min(
       1,
@@ -258,12 +257,6 @@ export class FormView {
 
   /** @param {HTMLElement} element @param {any} control */
   panel(element, control) {
-    element.style.background = control.back;
     element.style.opacity = String(control.alpha);
-  }
-
-  /** @param {HTMLElement} element @param {any} control */
-  frame(element, control) {
-    element.style.background = control.back;
   }
 }

@@ -30,8 +30,8 @@ const Codes = {
   Delete: 46,
   ContextMenu: 93,
 };
-/** @type {Record<string, number>} */
-const Characters = { Enter: 13, Escape: 27, Backspace: 8, Tab: 9 };
+/** What is a character of the same number. */
+const Controls = ['Backspace', 'Tab', 'Enter', 'Escape'];
 
 const CtrlBit = 2;
 
@@ -60,7 +60,7 @@ export function codeOf(key) {
 
 /** @param {string} key @param {boolean} silent */
 export function characterOf(key, silent) {
-  if (key in Characters) return Characters[key];
+  if (Controls.includes(key)) return Codes[key];
   if (silent || key.length !== 1) return 0;
   const code = key.charCodeAt(0);
   return code >= 0x20 && code <= 0xff ? code : 0;

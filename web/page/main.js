@@ -85,13 +85,8 @@ async function listPack() {
   return reply.json();
 }
 
-/** @param {ReturnType<typeof makeWorkers>} workers @param {import('./pack.js').Entry[]} entries */
-function start({ worker, fetcher, port }, entries) {
-  const sharing = globalThis.crossOriginIsolated;
-  const ring = sharing ? makeRing() : undefined;
-  const events = ring && new Int32Array(ring);
-  const soundsSize = Sounds.All * Int32Array.BYTES_PER_ELEMENT;
-  const sounds = sharing ? new SharedArrayBuffer(soundsSize) : new ArrayBuffer(soundsSize);
+/** Shows how far the pack has come. @param {Worker} fetcher */
+function showFetching(fetcher) {
   fetcher.onmessage = ({ data }) => {
     if (data.do === 'progress') {
       const bar = data.stage === Stage.First ? 'progress' : 'waited';
@@ -101,13 +96,73 @@ function start({ worker, fetcher, port }, entries) {
     if (data.do === 'stalled')
       byId('loadingText').textContent = 'Chưa có mạng, đang chờ để tải tiếp…';
   };
+}
+
+/** The box with a question of the program, or with what it has to tell. */
+class Box {
+  /** @param {(agreed: number) => void} answer */
+  constructor(answer) {
+    this.dialog = /** @type {HTMLDialogElement} */ (byId('box'));
+    const close = (/** @type {number} */ agreed) => {
+      this.dialog.close();
+      answer(agreed);
+    };
+    onClick('yes', () => close(1));
+    onClick('no', () => close(0));
+    this.dialog.addEventListener('cancel', (event) => {
+      event.preventDefault();
+      close(0);
+    });
+  }
+
+  /** @param {any} message @param {boolean} question */
+  show(message, question) {
+    byId('boxText').textContent = message.text;
+    byId('no').hidden = !question;
+    byId('yes').textContent = question ? 'Có' : 'OK';
+    this.dialog.showModal();
+    byId(!question || message.yes ? 'yes' : 'no').focus();
+  }
+}
+
+/** The buttons of the strip and of the bar. @param {Input} input @param {(event: number[]) => void} tell */
+function wireButtons(input, tell) {
+  onClick('back', () => input.stroke('Escape'));
+  onClick('hint', () => input.stroke('F2'));
+  onClick('close', () => tell([Kind.Close]));
+  const showCtrl = () => byId('ctrl').setAttribute('aria-pressed', String(input.heldShift !== 0));
+  input.onLetGo = showCtrl;
+  onClick('ctrl', () => {
+    input.toggleCtrl();
+    showCtrl();
+  });
+  for (const button of document.querySelectorAll('#keys [data-key]'))
+    button.addEventListener('click', () => input.stroke(button.getAttribute('data-key') ?? ''));
+}
+
+/** Tells the program when the page may be gone soon. @param {(event: number[]) => void} tell @param {Int32Array | undefined} events */
+function watchLeaving(tell, events) {
+  document.addEventListener('visibilitychange', () => {
+    if (document.hidden) tell([Kind.Hidden]);
+  });
+  addEventListener('pagehide', () => events && leave(events));
+  // One that comes back as it was has lost its program.
+  addEventListener('pageshow', ({ persisted }) => persisted && location.reload());
+}
+
+/** @param {ReturnType<typeof makeWorkers>} workers @param {import('./pack.js').Entry[]} entries */
+function start({ worker, fetcher, port }, entries) {
+  const sharing = globalThis.crossOriginIsolated;
+  const ring = sharing ? makeRing() : undefined;
+  const events = ring && new Int32Array(ring);
+  const soundsSize = Sounds.All * Int32Array.BYTES_PER_ELEMENT;
+  const sounds = sharing ? new SharedArrayBuffer(soundsSize) : new ArrayBuffer(soundsSize);
   /** @param {number[]} event */
   const tell = (event) => {
     if (events !== undefined) put(events, event);
     worker.postMessage(sharing ? { do: 'wake' } : { do: 'wake', event });
   };
   const view = new FormView(byId('form'));
-  const input = new Input(stage, tell, () => place);
   const voices = new Voices();
   const sound = new Sound(
     sounds,
@@ -116,53 +171,19 @@ function start({ worker, fetcher, port }, entries) {
     sharing ? undefined : (place, turn) => worker.postMessage({ do: 'sounded', place, turn }),
   );
   const strip = new Strip(announce);
-  const box = /** @type {HTMLDialogElement} */ (byId('box'));
+  const box = new Box((agreed) => tell([Kind.Answer, agreed]));
   /** @type {(files: Map<string, Uint8Array>) => void} */
   let kept = () => {};
   const carry = new Carry(() => {
     tell([Kind.Carry]);
     return new Promise((resolve) => (kept = resolve));
   });
-  input.open = () => !box.open && !carry.dialog.open && !voices.dialog.open;
-  /** @param {number} answer */
-  const answer = (answer) => {
-    box.close();
-    tell([Kind.Answer, answer]);
-  };
-  onClick('yes', () => answer(1));
-  onClick('no', () => answer(0));
-  box.addEventListener('cancel', (event) => {
-    event.preventDefault();
-    answer(0);
-  });
-  onClick('back', () => input.stroke('Escape'));
-  onClick('hint', () => input.stroke('F2'));
-  onClick('close', () => tell([Kind.Close]));
-  document.addEventListener('visibilitychange', () => {
-    if (document.hidden) tell([Kind.Hidden]);
-  });
-  addEventListener('pagehide', () => events && leave(events));
-  // One that comes back as it was has lost its program.
-  addEventListener('pageshow', ({ persisted }) => persisted && location.reload());
-  const ctrl = byId('ctrl');
-  const showCtrl = () => ctrl.setAttribute('aria-pressed', String(input.heldShift !== 0));
-  input.onLetGo = showCtrl;
-  onClick('ctrl', () => {
-    input.toggleCtrl();
-    showCtrl();
-  });
-  for (const button of document.querySelectorAll('#keys [data-key]')) {
-    button.addEventListener('click', () => input.stroke(button.getAttribute('data-key') ?? ''));
-  }
+  const input = new Input(stage, tell, () => place);
+  input.open = () => [box, carry, voices].every(({ dialog }) => !dialog.open);
+  showFetching(fetcher);
+  wireButtons(input, tell);
+  watchLeaving(tell, events);
 
-  /** @param {any} message @param {boolean} question */
-  const showBox = (message, question) => {
-    byId('boxText').textContent = message.text;
-    byId('no').hidden = !question;
-    byId('yes').textContent = question ? 'Có' : 'OK';
-    box.showModal();
-    byId(!question || message.yes ? 'yes' : 'no').focus();
-  };
   /** @param {any} picture */
   const paint = (picture) => {
     if (!byId('loading').hidden) {
@@ -184,8 +205,8 @@ function start({ worker, fetcher, port }, entries) {
     },
     notKept: () => strip.warn('Trình duyệt không cho lưu: từ vựng sẽ mất khi đóng trang.'),
     kept: ({ files }) => kept(files),
-    ask: (message) => showBox(message, true),
-    tell: (message) => showBox(message, false),
+    ask: (message) => box.show(message, true),
+    tell: (message) => box.show(message, false),
     notice: ({ text }) => strip.notice(text),
     pointer: ({ text }) => (byId('form').style.cursor = text),
     help: ({ text }) => strip.setHelp(text),

@@ -10,7 +10,7 @@ const HeaderSize = 12; // magic, generation, checksum
 const RecordHead = 16; // kind, length of the name, number, length of the data
 const RecordTail = 4; // checksum
 const LongestName = 1024;
-const LargestFile = 64 * 1024 * 1024;
+export const LargestFile = 64 * 1024 * 1024;
 /** A log this much longer than what it says is written anew. */
 const Slack = 256 * 1024;
 const OpenTries = 20;

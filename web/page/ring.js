@@ -36,11 +36,7 @@ export function makeRing() {
   return new SharedArrayBuffer((Head + Room * Fields) * Int32Array.BYTES_PER_ELEMENT);
 }
 
-/**
- * Puts an event into the ring; one for which there is no room is lost.
- * @param {Int32Array} ring
- * @param {number[]} event
- */
+/** Puts an event into the ring; one for which there is no room is lost. @param {Int32Array} ring @param {number[]} event */
 export function put(ring, event) {
   const written = Atomics.load(ring, Written);
   if (written - Atomics.load(ring, Taken) >= Room) return;

@@ -150,12 +150,7 @@ export class Sound {
     this.recordingSource = undefined;
   }
 
-  /**
-   * @param {AudioBuffer} buffer
-   * @param {number} at
-   * @param {number} [from]
-   * @param {number} [seconds]
-   */
+  /** @param {AudioBuffer} buffer @param {number} at @param {number} [from] @param {number} [seconds] */
   start(buffer, at, from = 0, seconds = buffer.duration) {
     const device = /** @type {AudioContext} */ (this.device);
     const source = device.createBufferSource();

@@ -49,9 +49,8 @@ async function say(utterance) {
   if (wanted() !== current) return;
   const speed = Math.min(Math.max(utterance.speed, SlowestSpeed), FastestSpeed);
   try {
-    await (
-      await ready
-    )({ ...utterance, speed });
+    const speak = await ready;
+    await speak({ ...utterance, speed });
     postMessage({ do: 'spoken', turn: utterance.turn, silentMs: 0 });
   } catch {
     // Without the voice it takes the time that speaking would take.

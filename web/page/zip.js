@@ -78,7 +78,7 @@ export async function filesOf(archive, isWanted, most) {
   let at = view.getUint32(end + 16, true);
   for (let left = view.getUint16(end + 10, true); left > 0; --left) {
     if (view.getUint32(at, true) !== EntryMagic) throw new RangeError();
-    const [method] = [view.getUint16(at + 10, true)];
+    const method = view.getUint16(at + 10, true);
     const [crc, packed, size] = [16, 20, 24].map((each) => view.getUint32(at + each, true));
     const [nameSize, extraSize, noteSize] = [28, 30, 32].map((each) =>
       view.getUint16(at + each, true),
