@@ -188,7 +188,7 @@ Analysis parseAnalysis(std::string_view text, const std::string& file, Problems&
 
 AnalysisSource readAnalyses(const std::filesystem::path& folder, Problems& problems) {
   AnalysisSource source;
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const std::string file = path.string();
     const std::string stem = path.stem().string();
     const auto slot = stem.size() == 2 ? numberIn(stem, AnalysisSlots) : std::nullopt;

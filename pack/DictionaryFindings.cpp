@@ -14,7 +14,8 @@ constexpr std::string_view irregularVerbsLesson = "012";
 
 /// The text of the lesson with the table of irregular verbs; empty without one.
 std::string irregularVerbsText(const std::filesystem::path& source) {
-  for (const auto& path : textFilesIn(source / "lessons")) {
+  Problems ofLessons; // told where they are checked
+  for (const auto& path : textFilesIn(source / "lessons", ofLessons)) {
     const std::string name = path.filename().string();
     if (name.starts_with(irregularVerbsLesson) && name.find("items") == std::string::npos)
       return readWhole(path).value_or("");

@@ -249,7 +249,7 @@ std::vector<OwnEntry> parseDictionary(std::string_view text, const std::string& 
 std::vector<OwnEntry> readDictionary(const std::filesystem::path& folder, Problems& problems) {
   std::vector<OwnEntry> entries;
   std::unordered_map<std::string, Where> seen;
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     for (auto& entry : parseDictionary(readText(path, problems), path.string(), problems)) {
       const auto [first, isNew] = seen.emplace(ChuanHoaTu(entry.head), entry.where);
       const bool follows = !entries.empty() && entries.back().head == entry.head;

@@ -25,7 +25,7 @@ constexpr std::size_t tenseBank = 2;
 std::vector<Item> readBank(const std::filesystem::path& folder, BlankHelp help,
                            Problems& problems) {
   std::vector<Item> items;
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     auto more =
         parseItems(readText(path, problems), path.string(), ItemPlace::Bank, help, problems);
     std::move(more.begin(), more.end(), std::back_inserter(items));
@@ -39,7 +39,7 @@ std::vector<Item> readBank(const std::filesystem::path& folder, BlankHelp help,
 
 void readLessonItems(const std::filesystem::path& folder, const LessonSource& lessons,
                      ExerciseSource& source, Problems& problems) {
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const auto slot = lessonSlotOf(path);
     if (!slot || !holdsItems(path)) continue;
     const std::string file = path.string();

@@ -173,7 +173,7 @@ void checkGuideText(std::string_view source, const std::string& file, std::strin
 }
 
 void checkGuideTextIn(const std::filesystem::path& folder, Problems& problems) {
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     if (!path.filename().string().starts_with("002-")) continue;
     checkGuideText(readSource(path, problems), path.string(), firstLineOf(folder), problems);
   }

@@ -106,7 +106,7 @@ std::string checkKeySentences(const std::vector<SpokenText>& texts, Problems& pr
 std::string checkKeySentencesIn(const std::filesystem::path& folder, Problems& problems) {
   const auto headings = readSpeaking(folder, problems).headings;
   std::vector<SpokenText> texts;
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const int slot = slotOf(path);
     if (slot == 0) continue;
     texts.push_back({path.string(), readSource(path, problems), isUnderSituations(headings, slot)});

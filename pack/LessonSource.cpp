@@ -120,7 +120,7 @@ LessonSource readLessons(const std::filesystem::path& folder, Problems& problems
   std::map<int, std::string> files;
   reportStrangers(folder, said("no lesson is read from it: lessons are files NNN-slug.txt"),
                   problems);
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const std::string file = path.string();
     if (path.filename() == headingsFile) {
       source.headings = parseHeadings(readText(path, problems), file, problems, LessonSlots);

@@ -205,7 +205,7 @@ ListeningSource readListening(const std::filesystem::path& folder, Problems& pro
   ListeningSource source;
   source.page = defaultListeningPage();
   std::size_t items = 0;
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const std::string file = path.string();
     const std::string name = path.filename().string();
     const std::string text = readText(path, problems);

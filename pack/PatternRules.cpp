@@ -1,6 +1,7 @@
 // Looking at the words of patterns and examples.
 #include "pack/PatternRules.h"
 
+#include "pack/Contains.h"
 #include "sound/Pronunciations.h"
 #include "text/Text.h"
 
@@ -23,11 +24,6 @@ constexpr std::array<std::string_view, 15> behindNoun = {
 
 using Words = std::vector<std::string>;
 
-template <typename List>
-bool has(const List& list, std::string_view word) {
-  return std::ranges::find(list, word) != list.end();
-}
-
 std::string joinedFrom(const Words& words, std::size_t first, std::size_t end) {
   std::string text;
   for (std::size_t at = first; at < end; ++at)
@@ -43,8 +39,9 @@ bool describes(std::string_view word) {
 
 /// The word that counts a noun at a place, with none or one between; the place when nothing does.
 std::size_t countingAhead(const Words& words, std::size_t noun) {
-  if (noun > 0 && has(counting, words[noun - 1])) return noun - 1;
-  const bool further = noun > 1 && describes(words[noun - 1]) && has(counting, words[noun - 2]);
+  if (noun > 0 && contains(counting, words[noun - 1])) return noun - 1;
+  const bool further =
+      noun > 1 && describes(words[noun - 1]) && contains(counting, words[noun - 2]);
   return further ? noun - 2 : noun;
 }
 
@@ -55,7 +52,7 @@ Words countedIn(const Words& noun, const Words& words) {
     const std::size_t end = at + noun.size();
     if (!std::equal(noun.begin(), noun.end(), words.begin() + static_cast<long>(at))) continue;
     const std::size_t first = countingAhead(words, at);
-    const bool endsGroup = end == words.size() || has(behindNoun, words[end]);
+    const bool endsGroup = end == words.size() || contains(behindNoun, words[end]);
     if (first < at && endsGroup) found.push_back(joinedFrom(words, first, end));
   }
   return found;
@@ -67,7 +64,7 @@ Words pluralsIn(const std::string& noun, const Words& words) {
   if (noun.ends_with('y')) plurals.push_back(noun.substr(0, noun.size() - 1) + "ies");
   Words found;
   std::ranges::copy_if(words, std::back_inserter(found),
-                       [&plurals](const std::string& word) { return has(plurals, word); });
+                       [&plurals](const std::string& word) { return contains(plurals, word); });
   return found;
 }
 

@@ -171,7 +171,7 @@ ReadingSource readTexts(const std::filesystem::path& folder, int slots, Problems
   const std::string last = std::to_string(slots);
   const std::size_t digits = last.size();
   ReadingSource source;
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const std::string file = path.string();
     const std::string name = path.filename().string();
     if (name == "headings.txt") {

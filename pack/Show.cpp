@@ -155,9 +155,9 @@ std::string unitShown(const ShownPlace& place, const std::string& source, Proble
 /// The title of a lesson in the folder beside a source's; its number when that has none.
 std::string titleOfLesson(const ShownPlace& place, int number) {
   const auto folder = std::filesystem::absolute(place.file).parent_path().parent_path();
-  for (const auto& path : textFilesIn(folder / "lessons")) {
+  Problems elsewhere;
+  for (const auto& path : textFilesIn(folder / "lessons", elsewhere)) {
     if (lessonSlotOf(path) != number || holdsItems(path)) continue;
-    Problems elsewhere;
     return utf8Of(parseLesson(readText(path, elsewhere), path.string(), elsewhere).title);
   }
   return std::to_string(number);

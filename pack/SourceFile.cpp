@@ -2,6 +2,7 @@
 #include "pack/SourceFile.h"
 
 #include "pack/Message.h"
+#include "platform/Files.h"
 
 #include <utf8proc.h>
 
@@ -95,14 +96,18 @@ void reportStrangers(const std::filesystem::path& folder, const std::string& hin
     problems.add({stranger}, hint);
 }
 
-std::vector<std::filesystem::path> textFilesIn(const std::filesystem::path& folder) {
+std::vector<std::filesystem::path> textFilesIn(const std::filesystem::path& folder,
+                                               Problems& problems) {
   std::vector<std::filesystem::path> files;
-  std::error_code failure;
-  for (const auto& entry : std::filesystem::directory_iterator(folder, failure)) {
-    if (entry.is_regular_file() && entry.path().extension() == ".txt")
-      files.push_back(entry.path());
+  std::error_code error;
+  for (const std::string& name : systemFiles().list(folder.string(), error)) {
+    const auto path = folder / name;
+    std::error_code unknown;
+    if (path.extension() == ".txt" && std::filesystem::is_regular_file(path, unknown))
+      files.push_back(path);
   }
-  std::sort(files.begin(), files.end());
+  if (error && error != std::errc::no_such_file_or_directory)
+    problems.add({folder.string()}, said("cannot be read"));
   return files;
 }
 

@@ -17,8 +17,9 @@ struct SourceLine {
   int number = 0;
 };
 
-/// The lines of a text; a line end is LF or CR LF.
+/// The lines of a text, which has to outlive them; a line end is LF or CR LF.
 [[nodiscard]] std::vector<SourceLine> linesOf(std::string_view text);
+std::vector<SourceLine> linesOf(std::string&& text) = delete;
 
 /// The whole of a file; empty when it cannot be read.
 [[nodiscard]] std::optional<std::string> readWhole(const std::filesystem::path& path);
@@ -34,7 +35,9 @@ struct SourceLine {
 void reportStrangers(const std::filesystem::path& folder, const std::string& hint,
                      Problems& problems);
 
-/// The regular ".txt" files of a folder, sorted by name; none when there is no such folder.
-[[nodiscard]] std::vector<std::filesystem::path> textFilesIn(const std::filesystem::path& folder);
+/// The regular ".txt" files of a folder, sorted by name; none when there is no such folder. One
+/// that is there and cannot be listed is a problem: what lies in it would be taken for gone.
+[[nodiscard]] std::vector<std::filesystem::path> textFilesIn(const std::filesystem::path& folder,
+                                                             Problems& problems);
 
 } // namespace talvora::pack

@@ -195,7 +195,7 @@ void checkText(std::string_view source, const std::string& file, TextUse use,
 
 void checkTexts(const std::filesystem::path& folder, TextUse use,
                 const std::unordered_set<std::string>& heads, Problems& problems) {
-  for (const auto& path : textFilesIn(folder)) {
+  for (const auto& path : textFilesIn(folder, problems)) {
     const std::string name = path.filename().string();
     const bool guide = use == TextUse::Reading && name.starts_with("002-");
     if (guide || name == "headings.txt") continue;

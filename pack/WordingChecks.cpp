@@ -1,6 +1,7 @@
 // Looking for what is written otherwise, line by line.
 #include "pack/WordingChecks.h"
 
+#include "pack/Contains.h"
 #include "pack/ExerciseSource.h"
 #include "pack/MarkedLine.h"
 #include "pack/Message.h"
@@ -28,11 +29,6 @@ constexpr std::array<std::string_view, 8> tens = {"twenty", "thirty",  "forty", 
 constexpr std::array<std::string_view, 18> units = {
     "one",   "two",    "three", "four",   "five",  "six",   "seven",   "eight",  "nine",
     "first", "second", "third", "fourth", "fifth", "sixth", "seventh", "eighth", "ninth"};
-
-template <typename List>
-bool has(const List& list, std::string_view word) {
-  return std::find(list.begin(), list.end(), word) != list.end();
-}
 
 /// Whether a byte of UTF-8 belongs to a word; quotation marks and dashes begin with the byte 0xE2.
 bool isWordByte(char byte) {
@@ -223,14 +219,15 @@ class WordingChecker {
       const Stretch& ten = words[at];
       const Stretch& unit = words[at + 1];
       const bool beside = unit.at == ten.at + ten.text.size() + 1 && line_.text[unit.at - 1] == ' ';
-      if (!beside || !has(tens, lower(ten.text)) || !has(units, lower(unit.text))) continue;
+      if (!beside || !contains(tens, lower(ten.text)) || !contains(units, lower(unit.text)))
+        continue;
       report(ten.at, said("a number has a hyphen: \"{}-{}\"", ten.text, unit.text));
     }
   }
 
   void checkCapitals() {
     for (const Stretch& word : wordsOf(line_.text)) {
-      if (weekdayNamed(word.text) != nullptr || has(months, word.text))
+      if (weekdayNamed(word.text) != nullptr || contains(months, word.text))
         report(word.at, said("\"{}\" begins with a capital", word.text));
     }
   }
@@ -280,11 +277,11 @@ void checkWordings(const std::filesystem::path& source, Problems& problems) {
     checkWording(readText(path, problems), path.string(), list, use, problems);
   };
   for (const auto& [folder, use] : folders) {
-    for (const auto& path : textFilesIn(source / folder))
+    for (const auto& path : textFilesIn(source / folder, problems))
       checkFile(path, use);
   }
   for (const std::string_view bank : BankNames) {
-    for (const auto& path : textFilesIn(source / "exercises" / bank))
+    for (const auto& path : textFilesIn(source / "exercises" / bank, problems))
       checkFile(path, WordingUse::Lessons);
   }
   checkFile(source / "guide.txt", WordingUse::Lessons);

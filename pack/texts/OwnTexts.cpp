@@ -55,7 +55,7 @@ int numberOf(const fs::path& path) {
 
 Texts readAll(const std::string& learner, Problems& problems) {
   Texts texts;
-  for (const fs::path& path : textFilesIn(folderIn(learner))) {
+  for (const fs::path& path : textFilesIn(folderIn(learner), problems)) {
     const int number = numberOf(path);
     if (number == 0) continue;
     const std::string file = path.string();

@@ -2,7 +2,9 @@
 #include "pack/texts/OwnText.h"
 
 #include "pack/ReadingStore.h"
+#include "pack/Telling.h"
 #include "pack/ZipFile.h"
+#include "pack/texts/OwnTexts.h"
 #include "pack/texts/SentenceCutter.h"
 #include "stores/OwnTexts.h"
 #include "stores/Stores.h"
@@ -11,10 +13,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+
 namespace talvora::pack {
 namespace {
 
+namespace fs = std::filesystem;
+
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::Le;
 using testing::SizeIs;
 
@@ -131,6 +143,48 @@ TEST_F(OwnTextsFileTest, AFileThatIsNoneLeavesTheCourseAsItIs) {
        {std::string(), std::string("abc"), fileOf(0, own), fileOf(3, own), fileOf(301, own),
         fileOf(0xFFFFFFFF, own), whole.substr(0, 20), whole.substr(0, whole.size() - 1)})
     EXPECT_EQ(joined(bad).texts, 1) << bad.size();
+}
+
+/// What the rights of a folder and of all in it forbid is forbidden while this stands, to root too.
+class UnderRights {
+ public:
+  explicit UnderRights(const fs::path& folder) {
+    if (::geteuid() != 0) return;
+    give(folder);
+    for (const auto& each : fs::recursive_directory_iterator(folder))
+      give(each.path());
+    EXPECT_EQ(::seteuid(nobody), 0);
+  }
+  ~UnderRights() {
+    if (::getuid() == 0) {
+      EXPECT_EQ(::seteuid(0), 0);
+    }
+  }
+  UnderRights(const UnderRights&) = delete;
+  UnderRights& operator=(const UnderRights&) = delete;
+
+ private:
+  static void give(const fs::path& path) { EXPECT_EQ(::chown(path.c_str(), nobody, nobody), 0); }
+
+  static constexpr uid_t nobody = 65534;
+};
+
+TEST(OwnTexts, AFolderThatCannotBeListedKeepsItsTexts) {
+  const test::TestFolder folder;
+  const std::string first = "title: First\n\nIt is the first.\n= Mot.\n";
+  folder.write("texts/001.txt", first);
+  folder.write("new.txt", "It is a new one.\n");
+  const fs::path texts = folder.pathOf("texts");
+  std::ostringstream told;
+  {
+    const UnderRights limited(folder.path());
+    fs::permissions(texts, fs::perms::owner_write | fs::perms::owner_exec);
+    EXPECT_EQ(addTexts(folder.path(), {folder.pathOf("new.txt")}, told), ListResult::Impossible);
+    fs::permissions(texts, fs::perms::owner_all);
+  }
+  EXPECT_THAT(told.str(), HasSubstr(texts.string()));
+  EXPECT_EQ(folder.read("texts/001.txt"), first);
+  EXPECT_FALSE(fs::exists(folder.pathOf(OwnTextsFile)));
 }
 
 } // namespace
