@@ -1,5 +1,6 @@
 // Rules about what could give an answer away, and about answers that must be accepted.
 #include "pack/AnswerStatistics.h"
+#include "pack/Contains.h"
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
 #include "pack/kinds/ItemKind.h"
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <sstream>
 #include <utility>
 
 namespace talvora::pack {
@@ -122,15 +124,17 @@ bool helpsAVerb(std::string_view verb, std::string_view behind) {
          signs.find(" " + next.front() + " ") != std::string_view::npos;
 }
 
+bool hasShortForm(std::string_view subject, const std::string& verb) {
+  const auto* const found = std::ranges::find(shortForms, subject, &ShortForms::subject);
+  return found != shortForms.end() && !verb.empty() &&
+         found->verbs.find(" " + verb + " ") != std::string_view::npos;
+}
+
 bool takesShortForm(const BlankInText& blank) {
   if (blank.forms.size() != 1) return false;
   const std::string key = lower(blank.forms.front());
   const std::string verb = key.substr(0, key.find(' '));
-  const auto found =
-      std::find_if(shortForms.begin(), shortForms.end(),
-                   [&](const ShortForms& each) { return each.subject == blank.before; });
-  if (found == shortForms.end() || verb.empty()) return false;
-  if (found->verbs.find(" " + verb + " ") == std::string_view::npos) return false;
+  if (!hasShortForm(blank.before, verb)) return false;
   if (key.find(" not") != std::string::npos) return false;
   // In a question the subject stands behind its helping verb: "would you have gone".
   if (blank.behindBlank) return false;
@@ -141,6 +145,40 @@ bool takesShortForm(const BlankInText& blank) {
   // At the end of a sentence the full form stands.
   const bool goesOn = blank.behind.size() > 1 && blank.behind[0] == ' ';
   return goesOn && helpsAVerb(verb, blank.behind);
+}
+
+/// "We aren't" is "we're not" too, and a blank accepts two forms.
+bool hasThirdForm(const BlankInText& blank) {
+  return std::ranges::any_of(blank.forms, [&](const std::string& form) {
+    const auto words = englishWordsOf(form);
+    if (words.empty()) return false;
+    const std::string verb = words[0].substr(0, words[0].find("n't"));
+    const bool isNegative = words[0] != verb || (words.size() > 1 && words[1] == "not");
+    return isNegative && (verb == "is" || verb == "are") && hasShortForm(blank.before, verb);
+  });
+}
+
+// -- Hints.
+
+/// Words of a hint that the answer keeps, and that no answer has of itself.
+constexpr std::array<std::string_view, 6> keptWords = {"not",   "never", "already",
+                                                       "still", "just",  "always"};
+
+bool saysWord(std::string_view text, std::string_view word) {
+  const auto words = englishWordsOf(text);
+  if (contains(words, word)) return true;
+  return word == "not" && (text.find("n't") != std::string_view::npos || contains(words, "cannot"));
+}
+
+/// Whether a word is wanted without the hint: a line of the question names it ("Điền cả never"), or
+/// it is the not of a short answer: "No, he hasn't".
+bool asksForWord(const Item& item, const BlankInText& blank, std::string_view word) {
+  if (word == "not" && blank.twoBefore == "no") return true;
+  std::istringstream question(item.question);
+  for (std::string line; std::getline(question, line, '\r');) {
+    if (isVietnamese(line) && line.find(word) != std::string::npos) return true;
+  }
+  return false;
 }
 
 } // namespace
@@ -203,10 +241,30 @@ RuleReport shortFormsAreAccepted(const Course& course) {
   for (const CourseItem& each : course.items) {
     if (!each.item->kind->isTyped() || each.item->heading == fullFormHeading) continue;
     for (const BlankInText& blank : blanksOf(*each.item)) {
-      if (!takesShortForm(blank)) continue;
+      if (!takesShortForm(blank) && !hasThirdForm(blank)) continue;
       report.found.push_back(
           {each.item->where, said("\"{} {}\" has a short form that is not accepted", blank.before,
                                   blank.forms.front())});
+    }
+  }
+  return report;
+}
+
+RuleReport hintsAreKept(const Course& course) {
+  RuleReport report{said("a hint and its answer differ in a small word"), {}, 0};
+  for (const CourseItem& each : course.items) {
+    const std::vector<std::string>& hints = each.item->hints;
+    const auto blanks = blanksOf(*each.item);
+    if (hints.size() != blanks.size()) continue;
+    for (std::size_t at = 0; at < blanks.size(); ++at) {
+      const std::string& answer = blanks[at].forms.front();
+      for (const std::string_view word : keptWords) {
+        if (saysWord(hints[at], word) == saysWord(answer, word)) continue;
+        if (asksForWord(*each.item, blanks[at], word)) continue;
+        report.found.push_back({each.item->where, said("the hint \"{}\" and the answer \"{}\" "
+                                                       "differ in \"{}\"",
+                                                       hints[at], answer, word)});
+      }
     }
   }
   return report;

@@ -172,18 +172,20 @@ void checkCompiled(const Options& options, Problems& problems, const Progress& p
 CheckReport checkContent(const Options& options, const std::set<ContentKind>& only,
                          Warnings warnings, Problems& problems, const Progress& progress) {
   std::set<ContentKind> kinds = only;
-  if (only.empty()) {
+  const bool isWhole = only.empty();
+  if (isWhole) {
     checkCompiled(options, problems, progress);
     if (!problems.none()) return {};
     for (const ContentKindName& each : ContentKindNames)
       kinds.insert(each.kind);
   }
   CheckReport report = Checker(options, kinds, warnings, problems, progress).run();
-  if (problems.none() && kinds.contains(ContentKind::Dictionary)) {
+  // A whole check knows by now that all can be read: a rule that is broken hides no other one.
+  if ((isWhole || problems.none()) && kinds.contains(ContentKind::Dictionary)) {
     progress(said("rules of the dictionary"));
     reportErrors(checkDictionaryAlone(options.source, {}, problems), problems);
   }
-  if (problems.none() && only.empty()) {
+  if (isWhole) {
     progress(said("rules of texts and drills"));
     checkWordings(options.source, problems);
     report.notes = checkTextsAndDrills(options.source, problems);

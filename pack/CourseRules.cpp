@@ -13,8 +13,9 @@ std::vector<RuleReport> checkRules(const Course& course) {
           wornWordsAreRare(course),     positionsAreEven(course),
           positionsDoNotRun(course),    longestIsNoCue(course),
           bluePhraseIsNoCue(course),    shortFormsAreAccepted(course),
-          lessonsArePractised(course),  itemsHaveALesson(course),
-          unitsHaveTheirKinds(course),  absoluteWords(course)};
+          hintsAreKept(course),         lessonsArePractised(course),
+          itemsHaveALesson(course),     unitsHaveTheirKinds(course),
+          absoluteWords(course)};
 }
 
 std::string settleRules(const std::vector<RuleReport>& reports, bool listed, Problems& problems) {

@@ -72,8 +72,11 @@ struct RuleReport {
 [[nodiscard]] RuleReport longestIsNoCue(const Course& course);
 /// The blue phrase of a choice is right in 15 to 25 of 100.
 [[nodiscard]] RuleReport bluePhraseIsNoCue(const Course& course);
-/// A blank behind a pronoun takes the short form too.
+/// A blank behind a pronoun takes the short form too, and is none that has two of them.
 [[nodiscard]] RuleReport shortFormsAreAccepted(const Course& course);
+/// "not", "never" and their like stand in the hint of a blank when they stand in its answer, and
+/// the other way round.
+[[nodiscard]] RuleReport hintsAreKept(const Course& course);
 
 /// Each lesson with items has an item in a bank.
 [[nodiscard]] RuleReport lessonsArePractised(const Course& course);

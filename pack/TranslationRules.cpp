@@ -1,6 +1,7 @@
 // Comparing word by word.
 #include "pack/TranslationRules.h"
 
+#include "pack/Contains.h"
 #include "pack/Message.h"
 #include "pack/SmallLetters.h"
 #include "pack/Weekdays.h"
@@ -113,7 +114,7 @@ bool asks(std::string_view sentence) {
 bool mayRepeat(std::string_view word) {
   static constexpr std::array<std::string_view, 9> words = {"had", "that", "no",    "bye", "nil",
                                                             "ha",  "very", "great", "one"};
-  return std::ranges::find(words, word) != words.end() ||
+  return contains(words, word) ||
          std::ranges::find(numberWords, word, &NumberWord::english) != numberWords.end() ||
          std::ranges::find(tens, word, &NumberWord::english) != tens.end();
 }
@@ -121,6 +122,22 @@ bool mayRepeat(std::string_view word) {
 /// Whether a word stands twice with no more than a blank between.
 bool standsTwice(const std::string& word, std::string_view small) {
   return small.find(word + " " + word) != std::string_view::npos;
+}
+
+/// "Your cake" that became "bánh của chị ấy".
+void addOwner(std::vector<std::string>& faults, const std::vector<std::string>& words,
+              std::string_view small) {
+  constexpr std::array<std::string_view, 2> yours = {"your", "yours"};
+  constexpr std::array<std::string_view, 10> others = {"his", "her",  "hers", "their", "theirs",
+                                                       "him", "them", "he",   "she",   "they"};
+  constexpr std::array<std::string_view, 6> theirs = {"của anh ấy", "của chị ấy", "của cô ấy",
+                                                      "của ông ấy", "của bà ấy",  "của họ"};
+  const auto isAmong = [&words](std::string_view word) { return contains(words, word); };
+  if (std::ranges::none_of(yours, isAmong) || std::ranges::any_of(others, isAmong)) return;
+  for (const std::string_view owner : theirs) {
+    if (small.find(owner) != std::string_view::npos)
+      faults.push_back(said("the translation gives \"{}\" what the sentence calls yours", owner));
+  }
 }
 
 void addAsking(std::vector<std::string>& faults, std::string_view english,
@@ -138,8 +155,10 @@ std::vector<std::string> translationFaults(std::string_view english, std::string
   addAsking(faults, english, vietnamese);
   const std::string smallEnglish = lower(english);
   const std::string small = smallUtf8(vietnamese);
+  std::vector<std::string> words = spokenWordsOf(english);
+  addOwner(faults, words, small);
   std::string before;
-  for (std::string& word : spokenWordsOf(english)) {
+  for (std::string& word : words) {
     if (word == before && !mayRepeat(word) && standsTwice(word, smallEnglish))
       faults.push_back(said("\"{}\" stands twice in a row", word));
     if (!isSaid(word, small)) faults.push_back(said("\"{}\" is not in the translation", word));

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <string>
 
 namespace talvora::pack {
 namespace {
@@ -42,6 +44,23 @@ TEST(Check, LooksAtTheRulesOfTheCourse) {
   EXPECT_TRUE(std::any_of(problems.all().begin(), problems.all().end(), [](const Problem& each) {
     return each.message == "the general explanation (\"explain:\") is missing";
   })) << "the samples are not explained";
+}
+
+TEST(Check, ARuleThatIsBrokenHidesNoOtherOne) {
+  const TestFolder folder;
+  std::filesystem::copy(TALVORA_SMALL_CONTENT, folder.path(),
+                        std::filesystem::copy_options::recursive);
+  folder.write("reading/009-cats.txt", "title: Cats\n\nI have thirty five cats.\n"
+                                       "= Tôi có ba mươi lăm con mèo.\n");
+  Problems problems;
+  static_cast<void>(
+      checkContent(optionsOf(folder.path()), {}, Warnings::Counted, problems, noProgress));
+  const auto isTold = [&](const std::string& message) {
+    return std::any_of(problems.all().begin(), problems.all().end(),
+                       [&](const Problem& each) { return each.message == message; });
+  };
+  EXPECT_TRUE(isTold("the general explanation (\"explain:\") is missing")) << "of an item";
+  EXPECT_TRUE(isTold("a number has a hyphen: \"thirty-five\"")) << "of a text";
 }
 
 TEST(Check, LooksAtTheWantedKindsAlone) {

@@ -195,6 +195,21 @@ TEST_F(CourseRules, ShortFormsAreAccepted) {
   EXPECT_EQ(problem("What would you {have done} then?"), 0U);
   EXPECT_EQ(problem("{Would} you {have gone} there?"), 0U);
   EXPECT_EQ(problem("Mai {is} late."), 0U);
+  EXPECT_EQ(problem("We {aren't going|are not going} home."), 1U) << "or we're not going";
+  EXPECT_EQ(problem("Mai {isn't|is not} late."), 0U);
+}
+
+TEST_F(CourseRules, HintsAreKept) {
+  const auto problem = [&](const std::string& hints, const std::string& lines) {
+    addBank(testA, "item: fill, none\nhints: " + hints + "\n\n" + lines + "\n");
+    return found(hintsAreKept).size();
+  };
+  EXPECT_EQ(problem("meet", "She {had never met} him."), 1U);
+  EXPECT_EQ(problem("never meet", "She {had never met} him."), 0U);
+  EXPECT_EQ(problem("not meet", "She {met} him."), 1U);
+  EXPECT_EQ(problem("not meet", "She {didn't meet|did not meet} him."), 0U);
+  EXPECT_EQ(problem("meet", "Điền cả never.\nShe {had never met} him."), 0U);
+  EXPECT_EQ(problem("have", "No, he {hasn't|has not}, but he may."), 0U);
 }
 
 TEST_F(CourseRules, LessonsAndBanksBelongTogether) {

@@ -74,6 +74,10 @@ TEST(DictionaryCheck, ATranslationSaysWhatItsSentenceSays) {
             Lines{"go: \"forty\" is not in the translation"});
   EXPECT_EQ(found("A thousand go. = 999 người đi."),
             Lines{"go: \"thousand\" is not in the translation"});
+  EXPECT_EQ(found("Go to your room. = Đi vào phòng của chị ấy đi."),
+            Lines{"go: the translation gives \"của chị ấy\" what the sentence calls yours"});
+  EXPECT_EQ(found("Go to your room and not to hers. = Vào phòng bạn, đừng vào phòng của chị ấy."),
+            Lines{});
   EXPECT_EQ(found("I go to to school. = Tôi đi học."), Lines{"go: \"to\" stands twice in a row"});
 }
 
