@@ -154,8 +154,14 @@ void readMarks(Desk& desk) {
       desk.voice.NapMoc(recording);
       require(desk.voice.SoMoc >= 0 && desk.voice.SoMoc <= RecordedVoice::MaxMarks);
       desk.voice.PhatCau(1);
+      for (const int none : {0, RecordedVoice::MaxMarks + 1})
+        trying([&] { desk.voice.PhatCau(none); });
     });
   }
+  Variables variables;
+  desk.voice.declare(variables);
+  for (const char* name : {"DsThieuAm", "BangMoc", "SoMoc"})
+    static_cast<void>((*variables.find(name))());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // line at a caret is the one that a walk finds.
 #include "dictionary/LookUp.h"
 #include "platform/FatalFailure.h"
+#include "surface/ParagraphTable.h"
 #include "tests/fuzz/Pieces.h"
 #include "text/Text.h"
 
@@ -83,6 +84,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   } catch (const FatalFailure&) {
     return 0;
   }
+  // A surface takes the places as they are.
+  if (words.paragraphStarts() != ParagraphTable::startsIn(list)) std::abort();
   search(words, "a");
   search(words, "Word");
   search(words, input.substr(0, std::min<std::size_t>(size, 6)));
