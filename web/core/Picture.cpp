@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -59,6 +58,14 @@ void addText(Json& json, std::u16string_view text, const FontSpec& font) {
   json["face"] = static_cast<int>(faceOf(font, false));
 }
 
+void addButton(Json& json, const Button& button) {
+  json["kind"] = "button";
+  json["picture"] = button.Picture();
+  json["meaning"] = utf8Of(meaningOf(button));
+  json["english"] = hasEnglishCaption(button);
+  addText(json, captionOf(button), button.Font());
+}
+
 } // namespace
 
 Picture::Picture(Form& form, WebLineLayout& layout, const Faces& faces)
@@ -104,40 +111,46 @@ void Picture::send() {
 // -- Controls.
 
 Json Picture::lookOf(Control& control) const {
-  auto* const surface = as<Surface>(&control);
-  std::optional<HintCard> card;
-  if (control.Name() == "RDOS") card.emplace(*surface, form_.Height(), layout_);
-  const int height = card ? card->height() : control.Height();
-  const Light back = lightOf(control.BackColor());
-  Json json = {{"box", {control.Left(), control.Top(), control.Width(), height}}};
-  const bool hasPicture = as<Button>(&control) != nullptr || as<Image>(&control) != nullptr;
-  if (!hasPicture) json["back"] = hexOf(back);
-  if (surface != nullptr) {
-    json.update(card ? hintsOf(*surface, *card) : textOf(*surface));
-    json["kind"] = "surface";
-    json["dark"] = contrastOf(back, White) > contrastOf(back, Black);
-    json["label"] = utf8Of(pageName(surface->Name()));
-    json["locked"] = surface->Locked();
-    json["list"] = traitsOf(*surface).isList;
+  Json json = {{"box", {control.Left(), control.Top(), control.Width(), control.Height()}}};
+  const bool isImage = as<Image>(&control) != nullptr;
+  if (!isImage && as<Button>(&control) == nullptr)
+    json["back"] = hexOf(lightOf(control.BackColor()));
+  if (auto* const surface = as<Surface>(&control)) {
+    addSurface(json, *surface);
   } else if (const auto* button = as<Button>(&control)) {
-    json["kind"] = "button";
-    json["picture"] = button->Picture();
-    json["meaning"] = utf8Of(meaningOf(*button));
-    json["english"] = hasEnglishCaption(*button);
-    addText(json, captionOf(*button), button->Font());
+    addButton(json, *button);
   } else if (const auto* label = as<Label>(&control)) {
-    json["kind"] = "label";
-    json["color"] = hexOf(lightOf(label->ForeColor()));
-    json["wide"] = WebTextMetrics(faces_).widthOf(label->Caption(), label->Font());
-    addText(json, unitsOf(label->Caption(), label->Font().name), label->Font());
+    addLabel(json, *label);
   } else if (const auto* panel = as<Panel>(&control)) {
     json["kind"] = "panel";
     json["alpha"] = std::clamp(panel->Alpha(), 0, 255) / 255.0;
   } else {
-    const bool isFrame = as<Frame>(&control) != nullptr;
-    json["kind"] = isFrame ? "frame" : as<Image>(&control) != nullptr ? "image" : "none";
+    json["kind"] = isImage ? "image" : as<Frame>(&control) != nullptr ? "frame" : "none";
   }
   return json;
+}
+
+void Picture::addLabel(Json& json, const Label& label) const {
+  json["kind"] = "label";
+  json["color"] = hexOf(lightOf(label.ForeColor()));
+  json["wide"] = WebTextMetrics(faces_).widthOf(label.Caption(), label.Font());
+  addText(json, unitsOf(label.Caption(), label.Font().name), label.Font());
+}
+
+void Picture::addSurface(Json& json, Surface& surface) const {
+  const Light back = lightOf(surface.BackColor());
+  json["kind"] = "surface";
+  json["dark"] = contrastOf(back, White) > contrastOf(back, Black);
+  json["label"] = utf8Of(pageName(surface.Name()));
+  json["locked"] = surface.Locked();
+  json["list"] = traitsOf(surface).isList;
+  if (surface.Name() != "RDOS") {
+    json.update(textOf(surface));
+    return;
+  }
+  const HintCard card(surface, form_.Height(), layout_);
+  json["box"][3] = card.height();
+  json.update(hintsOf(surface, card));
 }
 
 // -- Surfaces.

@@ -34,6 +34,8 @@ class Picture final : public FormObserver {
   };
 
   [[nodiscard]] Json lookOf(Control& control) const;
+  void addLabel(Json& json, const Label& label) const;
+  void addSurface(Json& json, Surface& surface) const;
   /// What is in view of a surface, and its thumb.
   [[nodiscard]] Json textOf(Surface& surface) const;
   [[nodiscard]] Json hintsOf(const Surface& surface, HintCard card) const;

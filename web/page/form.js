@@ -99,12 +99,47 @@ function describe(element, control) {
   if (role === 'textbox') element.setAttribute('aria-multiline', 'true');
 }
 
+/** The elements of a surface by their looks: what was painted with the same one before stays. */
+class Parts {
+  /** @param {Map<string, HTMLElement>} [before] */
+  constructor(before = new Map()) {
+    this.before = before;
+    this.now = /** @type {Map<string, HTMLElement>} */ (new Map());
+  }
+
+  /** Two may look alike. @param {string} look @param {() => HTMLElement} make */
+  painted(look, make) {
+    const key = this.now.has(look) ? `${look} ${this.now.size}` : look;
+    const part = this.before.get(key) ?? make();
+    this.now.set(key, part);
+    return part;
+  }
+
+  /** @param {string} name @param {number[]} box @param {string} [colour] */
+  sign(name, box, colour = '') {
+    return this.painted(`${name} ${box} ${colour}`, () => makeSign(name, box, colour));
+  }
+}
+
+/** What a surface paints at its edges: where its text is cut, and the scroll bar. @param {any} control @param {Parts} parts */
+function borders(control, parts) {
+  const [, , width, height] = control.box;
+  const signs = /** @type {HTMLElement[]} */ ([]);
+  if (control.cut !== undefined)
+    signs.push(parts.sign('fade', [0, control.cut, width, height - control.cut], control.back));
+  if (control.thumb !== undefined) {
+    const [top, high] = control.thumb;
+    signs.push(parts.sign('thumb', [width - ThumbPlace, top, ThumbWidth, high]));
+  }
+  return signs;
+}
+
 export class FormView {
   /** @param {HTMLElement} root */
   constructor(root) {
     this.root = root;
     this.elements = /** @type {Map<string, HTMLElement>} */ (new Map());
-    /** Of the surfaces, lines by their numbers and signs by their looks. @type {WeakMap<HTMLElement, Map<string, HTMLElement>>} */
+    /** Of the surfaces, as they are painted now. @type {WeakMap<HTMLElement, Map<string, HTMLElement>>} */
     this.parts = new WeakMap();
   }
 
@@ -160,44 +195,37 @@ export class FormView {
     element.classList.toggle('hintbar', control.name === 'RDOS');
     element.classList.toggle('dark', control.dark);
     describe(element, control);
-    const before = this.parts.get(element) ?? new Map();
-    const now = /** @type {Map<string, HTMLElement>} */ (new Map());
-    /** What was painted like this stays; two may look alike. @param {string} look @param {() => HTMLElement} make */
-    const part = (look, make) => {
-      const key = now.has(look) ? `${look} ${now.size}` : look;
-      const its = before.get(key) ?? make();
-      now.set(key, its);
-      return its;
-    };
-    const sign = (/** @type {string} */ name, /** @type {number[]} */ box, colour = '') =>
-      part(`${name} ${box} ${colour}`, () => makeSign(name, box, colour));
+    const parts = new Parts(this.parts.get(element));
+    const { under, rows, over, current } = this.layers(element, control.lines, parts);
+    if (control.list) this.describeRows(element, rows, current);
+    setChildren(element, [...under, ...rows, ...over, ...borders(control, parts)]);
+    this.parts.set(element, parts.now);
+  }
+
+  /**
+   * The lines of a surface, what is painted under and over them, and the box of the current row.
+   * @param {HTMLElement} element
+   * @param {Line[]} lines
+   * @param {Parts} parts
+   */
+  layers(element, lines, parts) {
     const under = /** @type {HTMLElement[]} */ ([]);
     const rows = /** @type {HTMLElement[]} */ ([]);
     const over = /** @type {HTMLElement[]} */ ([]);
-    /** @type {number[] | undefined} */
-    let current;
-    for (const line of /** @type {Line[]} */ (control.lines)) {
+    const current = lines.findLast((line) => line.mark === 'current')?.box;
+    for (const line of lines) {
       if (line.mark !== undefined) {
-        (line.mark === 'caret' ? over : under).push(sign(`mark ${line.mark}`, line.box));
-        if (line.mark === 'current') current = line.box;
+        const layer = line.mark === 'caret' ? over : under;
+        layer.push(parts.sign(`mark ${line.mark}`, line.box));
         continue;
       }
-      if (line.dot !== undefined) over.push(sign('dot', line.dot, line.runs[0]?.color));
-      const row = part(`${line.id}`, () => makeLine(line));
+      if (line.dot !== undefined) over.push(parts.sign('dot', line.dot, line.runs[0]?.color));
+      const row = parts.painted(`${line.id}`, () => makeLine(line));
       this.placeLine(row, line);
       row.id = `${element.id}-${rows.length}`;
       rows.push(row);
     }
-    const [, , width, height] = control.box;
-    if (control.cut !== undefined)
-      over.push(sign('fade', [0, control.cut, width, height - control.cut], control.back));
-    if (control.thumb !== undefined)
-      over.push(
-        sign('thumb', [width - ThumbPlace, control.thumb[0], ThumbWidth, control.thumb[1]]),
-      );
-    if (control.list) this.describeRows(element, rows, current);
-    this.parts.set(element, now);
-    setChildren(element, [...under, ...rows, ...over]);
+    return { under, rows, over, current };
   }
 
   /** @param {HTMLElement} row @param {Line} line */

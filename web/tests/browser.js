@@ -20,18 +20,38 @@ export const serveSite = (...how) => serve(process.env.SITE ?? '', ...how);
 /** What a word is found by. @param {string} word */
 export const patternOf = (word) => `\\b${word}\\b`;
 
+const pause = () => new Promise((resolve) => setTimeout(resolve, 20));
+
+/** What stands once the curtain is open. @param {() => Promise<string>} standing */
+export async function behindCurtain(standing) {
+  let now = await standing();
+  for (; now.includes(' panel'); now = await standing()) await pause();
+  return now;
+}
+
+/** Whether one change is that the hint bar has come, which it does of itself. @param {string} was @param {string} now */
+function isHintBarComing(was, now) {
+  const without = (/** @type {string} */ standing) => standing.replaceAll(/,c-RDOS[^,]*/g, '');
+  return !was.includes('c-RDOS') && now.includes('c-RDOS') && without(now) === was;
+}
+
 /**
- * Goes back, a step at a time, until the menu stands; a step is over when the screen has changed.
+ * Goes back, a step at a time, until the menu stands; a step is over when the screen has changed. It waits
+ * for the curtain: who goes back while that opens only sees it open.
  * @param {{isOnMenu: () => Promise<boolean>, standing: () => Promise<string>, step: () => Promise<unknown>}} ways
  */
 export async function goBack({ isOnMenu, standing, step }) {
   while (!(await isOnMenu())) {
-    const was = await standing();
+    let was = await behindCurtain(standing);
     await step();
     // A step that ends a sound changes nothing that can be seen.
     const change = Date.now() + Unseen;
-    while ((await standing()) === was && Date.now() < change)
-      await new Promise((resolve) => setTimeout(resolve, 20));
+    let now = was;
+    while (now === was && Date.now() < change) {
+      await pause();
+      now = await standing();
+      if (isHintBarComing(was, now)) was = now;
+    }
   }
 }
 

@@ -8,7 +8,7 @@ import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, before, test } from 'node:test';
 import { fileURLToPath } from 'node:url';
-import { Place } from './browser.js';
+import { Place, behindCurtain } from './browser.js';
 
 const Width = 1366;
 const Height = 768;
@@ -139,10 +139,7 @@ function wayToEdge(picture, x, y, dx, dy, back) {
 
 /** @param {string} name */
 async function comparePlace(name) {
-  // The curtain is open.
-  await learner.page.waitForFunction(() =>
-    [...document.querySelectorAll('.panel')].every((each) => !each.checkVisibility()),
-  );
+  await behindCurtain(() => learner.standing());
   const desktop = desktopAt(name);
   const file = join(folder, `${name}-page.png`);
   writeFileSync(file, await learner.page.screenshot());

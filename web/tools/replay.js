@@ -11,7 +11,7 @@ Replays the commands of the scenarios through two builds of the driver, in turn,
 time that each takes, and of that what its start takes.
   NATIVE  talvora-driver of this machine
   WEB     the one that runs in node: build/web/web/driver/talvora-driver
-  PACK    the folder of a course
+  PACK    that of the scenarios; the replies of a whole course are longer than node's longest text
   ROUNDS  how often; 7 unless told`;
 const Escapes = 12;
 const Repeats = 40;
