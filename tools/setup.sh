@@ -65,8 +65,10 @@ install_packages() {
   # shellcheck disable=SC2086 # a word a package
   {
     $as_root apt-get update -q
-    LC_ALL=C $as_root apt-get install --assume-no --no-install-recommends $missing |
-      grep -E '^(Need to get|After this operation)' || echo "(apt did not say how much that is)"
+    # Answering no is a failure to apt, which has said the sizes all the same.
+    grep -E '^(Need to get|After this operation)' \
+      < <(LC_ALL=C $as_root apt-get install --assume-no --no-install-recommends $missing) ||
+      echo "(apt did not say how much that is)"
     $as_root env DEBIAN_FRONTEND=noninteractive \
       apt-get install -y -q --no-install-recommends $missing
   }
