@@ -140,6 +140,17 @@ void addOwner(std::vector<std::string>& faults, const std::vector<std::string>& 
   }
 }
 
+/// "By Friday", which Friday itself still is, and "Friday" without its day.
+void addDay(std::vector<std::string>& faults, const Weekday& day, std::string_view ahead,
+            std::string_view small) {
+  const std::string name = smallUtf8(day.vietnamese);
+  if (small.find(name) == std::string_view::npos)
+    faults.push_back(said("the translation has no \"{}\"", day.vietnamese));
+  if (ahead == "by" && small.find("trước " + name) != std::string_view::npos)
+    faults.push_back(
+        said("\"{}\" leaves the day out, \"by\" does not", "trước " + std::string(day.vietnamese)));
+}
+
 void addAsking(std::vector<std::string>& faults, std::string_view english,
                std::string_view vietnamese) {
   if (asks(english) && !asks(vietnamese))
@@ -162,9 +173,7 @@ std::vector<std::string> translationFaults(std::string_view english, std::string
     if (word == before && !mayRepeat(word) && standsTwice(word, smallEnglish))
       faults.push_back(said("\"{}\" stands twice in a row", word));
     if (!isSaid(word, small)) faults.push_back(said("\"{}\" is not in the translation", word));
-    const Weekday* const day = weekdayNamed(word);
-    if (day != nullptr && small.find(smallUtf8(day->vietnamese)) == std::string::npos)
-      faults.push_back(said("the translation has no \"{}\"", day->vietnamese));
+    if (const Weekday* const day = weekdayNamed(word)) addDay(faults, *day, before, small);
     before = std::move(word);
   }
   return faults;

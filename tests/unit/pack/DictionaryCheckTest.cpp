@@ -66,6 +66,10 @@ TEST(DictionaryCheck, ATranslationSaysWhatItsSentenceSays) {
             Lines{"go: the sentence asks and its translation does not"});
   EXPECT_EQ(found("I go on Friday. = Thứ Bảy tôi đi."),
             Lines{"go: the translation has no \"thứ Sáu\""});
+  EXPECT_EQ(found("I go by Friday. = Chậm nhất là thứ Sáu tôi đi."), Lines{});
+  EXPECT_EQ(found("I go before Friday. = Tôi đi trước thứ Sáu."), Lines{});
+  EXPECT_EQ(found("I go by Friday. = Tôi đi trước thứ Sáu."),
+            Lines{"go: \"trước thứ Sáu\" leaves the day out, \"by\" does not"});
   EXPECT_EQ(found("I go at seven. = Tôi đi lúc sáu giờ."),
             Lines{"go: \"seven\" is not in the translation"});
   EXPECT_EQ(found("Forty of 1945 go. = Bốn chục người đi."), Lines{});
