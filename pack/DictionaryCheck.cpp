@@ -203,6 +203,8 @@ class Checker {
     checkVietnamese(vietnamese);
     for (std::string& fault : translationFaults(utf8Of(english), utf8Of(vietnamese)))
       find(DictionaryRule::TranslationDiffers, std::move(fault));
+    for (std::string& fault : habitFaults(utf8Of(english), utf8Of(vietnamese)))
+      find(DictionaryRule::TranslationDiffers, std::move(fault));
   }
 
   /// Whether a word, what an apostrophe shortens, or each part of a word with a hyphen has a line

@@ -179,4 +179,18 @@ std::vector<std::string> translationFaults(std::string_view english, std::string
   return faults;
 }
 
+std::vector<std::string> habitFaults(std::string_view english, std::string_view vietnamese) {
+  constexpr std::array<std::string_view, 7> everyWeek = {"nào", "hằng", "các",   "mỗi",
+                                                         "mọi", "cứ",   "thường"};
+  const std::string small = smallUtf8(vietnamese);
+  const bool saysEveryWeek = std::ranges::any_of(
+      everyWeek, [&small](std::string_view each) { return small.find(each) != std::string::npos; });
+  std::vector<std::string> faults;
+  for (const std::string& word : spokenWordsOf(english)) {
+    if (!saysEveryWeek && word.ends_with("days") && weekdayNamed(word) != nullptr)
+      faults.push_back(said("\"{}\" is every week, and its translation one day", word));
+  }
+  return faults;
+}
+
 } // namespace talvora::pack

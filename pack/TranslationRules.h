@@ -12,4 +12,9 @@ namespace talvora::pack {
 [[nodiscard]] std::vector<std::string> translationFaults(std::string_view english,
                                                          std::string_view vietnamese);
 
+/// What a sentence says of every week and its translation of one day: "On Fridays" as "thứ Sáu". A
+/// text around it can tell which is meant, so this holds for a sentence that stands alone.
+[[nodiscard]] std::vector<std::string> habitFaults(std::string_view english,
+                                                   std::string_view vietnamese);
+
 } // namespace talvora::pack

@@ -70,6 +70,9 @@ TEST(DictionaryCheck, ATranslationSaysWhatItsSentenceSays) {
   EXPECT_EQ(found("I go before Friday. = Tôi đi trước thứ Sáu."), Lines{});
   EXPECT_EQ(found("I go by Friday. = Tôi đi trước thứ Sáu."),
             Lines{"go: \"trước thứ Sáu\" leaves the day out, \"by\" does not"});
+  EXPECT_EQ(found("I go on Fridays. = Thứ Sáu nào tôi cũng đi."), Lines{});
+  EXPECT_EQ(found("I go on Fridays. = Thứ Sáu tôi đi."),
+            Lines{"go: \"fridays\" is every week, and its translation one day"});
   EXPECT_EQ(found("I go at seven. = Tôi đi lúc sáu giờ."),
             Lines{"go: \"seven\" is not in the translation"});
   EXPECT_EQ(found("Forty of 1945 go. = Bốn chục người đi."), Lines{});
