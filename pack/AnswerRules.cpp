@@ -1,15 +1,14 @@
 // Rules about what could give an answer away, and about answers that must be accepted.
 #include "pack/AnswerStatistics.h"
-#include "pack/Contains.h"
 #include "pack/CourseRules.h"
 #include "pack/Message.h"
 #include "pack/kinds/ItemKind.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
 #include <array>
 #include <map>
-#include <sstream>
 #include <utility>
 
 namespace talvora::pack {
@@ -164,21 +163,22 @@ bool hasThirdForm(const BlankInText& blank) {
 constexpr std::array<std::string_view, 6> keptWords = {"not",   "never", "already",
                                                        "still", "just",  "always"};
 
-bool saysWord(std::string_view text, std::string_view word) {
-  const auto words = englishWordsOf(text);
-  if (contains(words, word)) return true;
-  return word == "not" && (text.find("n't") != std::string_view::npos || contains(words, "cannot"));
+/// The words of a text; "isn't" and "cannot" say "not" too.
+std::vector<std::string> wordsSaidBy(std::string_view text) {
+  auto words = englishWordsOf(text);
+  if (text.find("n't") != std::string_view::npos || contains(words, "cannot"))
+    words.emplace_back("not");
+  return words;
 }
 
 /// Whether a word is wanted without the hint: a line of the question names it ("Điền cả never"), or
 /// it is the not of a short answer: "No, he hasn't".
 bool asksForWord(const Item& item, const BlankInText& blank, std::string_view word) {
   if (word == "not" && blank.twoBefore == "no") return true;
-  std::istringstream question(item.question);
-  for (std::string line; std::getline(question, line, '\r');) {
-    if (isVietnamese(line) && line.find(word) != std::string::npos) return true;
-  }
-  return false;
+  const auto lines = split(item.question, '\r');
+  return std::ranges::any_of(lines, [word](const std::string& line) {
+    return isVietnamese(line) && line.find(word) != std::string::npos;
+  });
 }
 
 } // namespace
@@ -258,8 +258,10 @@ RuleReport hintsAreKept(const Course& course) {
     if (hints.size() != blanks.size()) continue;
     for (std::size_t at = 0; at < blanks.size(); ++at) {
       const std::string& answer = blanks[at].forms.front();
+      const auto hinted = wordsSaidBy(hints[at]);
+      const auto answered = wordsSaidBy(answer);
       for (const std::string_view word : keptWords) {
-        if (saysWord(hints[at], word) == saysWord(answer, word)) continue;
+        if (contains(hinted, word) == contains(answered, word)) continue;
         if (asksForWord(*each.item, blanks[at], word)) continue;
         report.found.push_back({each.item->where, said("the hint \"{}\" and the answer \"{}\" "
                                                        "differ in \"{}\"",

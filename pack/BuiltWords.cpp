@@ -1,6 +1,8 @@
 // What the database tells of a word and its base.
 #include "pack/BuiltWords.h"
 
+#include "text/Contains.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -10,9 +12,8 @@ namespace talvora::pack {
 namespace {
 
 bool areTied(const WordNetWord& word, const WordNetWord& base) {
-  return std::any_of(word.ties.begin(), word.ties.end(), [&base](SynsetKey tie) {
-    return std::find(base.synsets.begin(), base.synsets.end(), tie) != base.synsets.end();
-  });
+  return std::any_of(word.ties.begin(), word.ties.end(),
+                     [&base](SynsetKey tie) { return contains(base.synsets, tie); });
 }
 
 /// True when a definition of the word has one of the phrases.
@@ -38,9 +39,7 @@ bool isBornOut(const WordNet& wordNet, const WordNetWord& word, const Derivation
   if (base == nullptr) return false;
   if (derivation.affix == "re-") return isDefinedBy(word, saysAgain);
   if (derivation.affix == "-able") return isDefinedBy(word, saysPossible);
-  return std::find(tyingAffixes.begin(), tyingAffixes.end(), derivation.affix) !=
-             tyingAffixes.end() &&
-         areTied(word, *base);
+  return contains(tyingAffixes, derivation.affix) && areTied(word, *base);
 }
 
 } // namespace talvora::pack

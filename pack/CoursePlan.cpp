@@ -4,6 +4,7 @@
 #include "pack/Entry.h"
 #include "pack/Message.h"
 #include "pack/SourceFile.h"
+#include "text/Contains.h"
 
 #include <algorithm>
 #include <array>
@@ -95,8 +96,7 @@ class RowParser {
   }
 
   std::string level(const Field& field) {
-    if (std::find(Levels.begin(), Levels.end(), field.text) == Levels.end())
-      report(field, said("a level is A1, A2, B1, B2 or C1"));
+    if (!contains(Levels, field.text)) report(field, said("a level is A1, A2, B1, B2 or C1"));
     return std::string(field.text);
   }
 

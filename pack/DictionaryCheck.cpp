@@ -12,6 +12,7 @@
 #include "pack/TranslationRules.h"
 #include "sound/Pronunciations.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/GlyphMap.h"
 #include "text/Text.h"
 #include "text/WordForm.h"
@@ -176,7 +177,7 @@ class Checker {
     const auto& forms = entry_->block.forms;
     const auto lists = [](const std::string& form, const std::string& wanted) {
       const auto all = alternativesOf(form);
-      return std::find(all.begin(), all.end(), wanted) != all.end();
+      return contains(all, wanted);
     };
     if (forms.size() < 2 || !lists(forms[0], verb->second.first) ||
         !lists(forms[1], verb->second.second))
@@ -201,9 +202,8 @@ class Checker {
     if (equals == std::string::npos) return;
     const std::string vietnamese = sense.example.substr(equals + 3);
     checkVietnamese(vietnamese);
-    for (std::string& fault : translationFaults(utf8Of(english), utf8Of(vietnamese)))
-      find(DictionaryRule::TranslationDiffers, std::move(fault));
-    for (std::string& fault : habitFaults(utf8Of(english), utf8Of(vietnamese)))
+    for (std::string& fault :
+         translationFaults(utf8Of(english), utf8Of(vietnamese), Surroundings::None))
       find(DictionaryRule::TranslationDiffers, std::move(fault));
   }
 
@@ -218,8 +218,7 @@ class Checker {
     const auto parts = split(form, ' ');
     const auto ofHead = split(ChuanHoaTu(entry_->head), ' ');
     return std::ranges::all_of(parts, [&](const std::string& part) {
-      return (parts.size() > 1 && entries.contains(part)) ||
-             std::ranges::find(ofHead, part) != ofHead.end();
+      return (parts.size() > 1 && entries.contains(part)) || contains(ofHead, part);
     });
   }
 
@@ -234,8 +233,7 @@ class Checker {
     if (measures_.english.empty()) return;
     for (const std::string& word : clickedWords(text)) {
       const auto ofHead = split(ChuanHoaTu(entry_->head), ' ');
-      const bool known = std::ranges::find(ofHead, lower(word)) != ofHead.end() ||
-                         (lower(word) != word && hasEntry(word));
+      const bool known = contains(ofHead, lower(word)) || (lower(word) != word && hasEntry(word));
       if (known || word == "sb" || word == "sth" || word == "sb's") continue;
       for (const std::string& part : spokenWordsOf(word)) {
         if (!isAccepted(part) && !measures_.english.contains(part) &&

@@ -6,6 +6,7 @@
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/WordForm.h"
 
 #include <algorithm>
@@ -47,7 +48,7 @@ std::string_view levelIn(std::string_view head) {
   const std::size_t blank = head.rfind(' ');
   if (blank == std::string_view::npos) return {};
   const std::string_view last = head.substr(blank + 1);
-  return std::find(Levels.begin(), Levels.end(), last) != Levels.end() ? last : std::string_view{};
+  return contains(Levels, last) ? last : std::string_view{};
 }
 
 /// Reads a source line by line into entries.

@@ -5,6 +5,7 @@
 #include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "pack/TextWords.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -155,7 +156,7 @@ bool hasAdverb(const AnalysisEntry& entry) {
   if (!entry.field(AnalysisField::Class).starts_with(verb)) return false;
   const auto words = plainWords(entry.field(AnalysisField::Word));
   return words.size() > 1 && std::any_of(words.begin(), words.end(), [](const std::string& word) {
-           return std::find(adverbs.begin(), adverbs.end(), word) != adverbs.end();
+           return contains(adverbs, word);
          });
 }
 

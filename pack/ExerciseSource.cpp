@@ -5,6 +5,7 @@
 #include "pack/NearestName.h"
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -136,7 +137,7 @@ void reportUnknownBanks(const std::filesystem::path& folder, Problems& problems)
   for (const auto& path : entries) {
     const std::string name = path.filename().string();
     if (name.starts_with('.')) continue;
-    const bool known = std::find(names.begin(), names.end(), name) != names.end();
+    const bool known = contains(names, name);
     if (known && std::filesystem::is_directory(path)) {
       reportStrangers(path, said("no items are read from it: they stand in \".txt\" files"),
                       problems);

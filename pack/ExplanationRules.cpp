@@ -3,6 +3,7 @@
 #include "pack/Message.h"
 #include "pack/StreamText.h"
 #include "pack/kinds/ItemKind.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -112,9 +113,7 @@ RuleReport explanationsAreThere(const Course& course) {
     if (item.general.empty())
       report.found.push_back(
           {item.where, said("the general explanation (\"explain:\") is missing")});
-    const bool listed =
-        item.kind->isTyped() && std::find(banksWithALessonList.begin(), banksWithALessonList.end(),
-                                          groupOf(each)) != banksWithALessonList.end();
+    const bool listed = item.kind->isTyped() && contains(banksWithALessonList, groupOf(each));
     for (int number = 1; !listed && number <= item.kind->explainable(item); ++number) {
       if (item.explanations.count(number) > 0) continue;
       report.found.push_back({item.where, said("explanation {} is missing", number)});

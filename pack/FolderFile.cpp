@@ -8,9 +8,9 @@
 #include "pack/Telling.h"
 #include "platform/Files.h"
 #include "stores/OwnTexts.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
-#include <algorithm>
 #include <array>
 #include <ostream>
 
@@ -34,7 +34,7 @@ bool isOfCopy(std::string_view name) {
   const std::size_t end = name.rfind('/');
   if (!name.starts_with(copies) || end < copies.size()) return false;
   return isCopyName(name.substr(copies.size(), end - copies.size())) &&
-         std::ranges::find(copiedFiles, name.substr(end + 1)) != copiedFiles.end();
+         contains(copiedFiles, name.substr(end + 1));
 }
 
 std::string pathOf(const LearnersList& list, std::string_view name) {
@@ -124,8 +124,7 @@ std::optional<std::string> replaceAll(const LearnersList& list,
 } // namespace
 
 bool travels(std::string_view name) {
-  return std::ranges::find(topFiles, name) != topFiles.end() || fits(name, "texts/###.txt") ||
-         isOfCopy(name);
+  return contains(topFiles, name) || fits(name, "texts/###.txt") || isOfCopy(name);
 }
 
 FolderContent folderContentOf(std::string_view archive) {

@@ -2,6 +2,7 @@
 #include "pack/FormPhones.h"
 
 #include "pack/Inflection.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -16,11 +17,6 @@ namespace {
 constexpr std::array<std::string_view, 6> hisses = {"s", "z", "sh", "zh", "ch", "jh"};
 constexpr std::array<std::string_view, 5> voiceless = {"p", "t", "k", "f", "th"};
 constexpr std::array<std::string_view, 2> stops = {"t", "d"};
-
-template <typename List>
-bool isIn(const List& list, std::string_view phone) {
-  return std::find(list.begin(), list.end(), phone) != list.end();
-}
 
 /// Whether a form is its base with an ending: behind the base as it is, with its last letter
 /// doubled, or without its "e"; "y" and "ie" become another letter.
@@ -77,10 +73,10 @@ Phones withEnding(Phones base, SpokenEnding ending) {
   const std::string last = base.back();
   std::string_view sounds = "ih0 ng";
   if (ending == SpokenEnding::S)
-    sounds = isIn(hisses, last) ? "ih0 z" : isIn(voiceless, last) ? "s" : "z";
+    sounds = contains(hisses, last) ? "ih0 z" : contains(voiceless, last) ? "s" : "z";
   if (ending == SpokenEnding::Ed) {
-    const bool soft = !isIn(voiceless, last) && last != "s" && last != "sh" && last != "ch";
-    sounds = isIn(stops, last) ? "ih0 d" : soft ? "d" : "t";
+    const bool soft = !contains(voiceless, last) && last != "s" && last != "sh" && last != "ch";
+    sounds = contains(stops, last) ? "ih0 d" : soft ? "d" : "t";
   }
   for (std::string& phone : phonesOf(sounds))
     base.push_back(std::move(phone));

@@ -2,6 +2,7 @@
 #include "pack/Inflection.h"
 
 #include "pack/StreamText.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -123,7 +124,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 5> falseForm
      {"own", "owner"}}};
 
 bool isFalseForm(std::string_view base, std::string_view form) {
-  return std::find(falseForms.begin(), falseForms.end(), std::pair{base, form}) != falseForms.end();
+  return contains(falseForms, std::pair{base, form});
 }
 
 FormKind kindOf(std::string_view form, WordClass wordClass) {
@@ -216,7 +217,7 @@ class RegularForms {
 } // namespace
 
 bool Form::is(FormKind kind) const {
-  return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+  return contains(kinds, kind);
 }
 
 std::string formOf(const Form& form, std::string_view base) {

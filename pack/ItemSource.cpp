@@ -11,6 +11,7 @@
 #include "pack/StreamText.h"
 #include "pack/kinds/ItemKind.h"
 #include "text/Bytes.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -230,8 +231,7 @@ class ItemParser {
     const std::string option = sourceText(written, where, "@`*|{}+", problems_);
     checkBlanks(option, where, problems_);
     if (option.empty()) problems_.add(where, said("an option is missing here"));
-    const bool twice =
-        std::find(item_.options.begin(), item_.options.end(), option) != item_.options.end();
+    const bool twice = contains(item_.options, option);
     if (twice) problems_.add(where, said("the item has this option already"));
     item_.options.push_back(option);
     if (!line.text.starts_with(rightOpener)) return;

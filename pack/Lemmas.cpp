@@ -2,6 +2,7 @@
 #include "pack/Lemmas.h"
 
 #include "pack/Inflection.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -52,7 +53,7 @@ Lemmas::Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::s
     for (const Form& form : inflections.formsOf(entry.head, classesOf(entry))) {
       const std::string text = lower(form.text);
       auto& bases = bases_[text];
-      const bool isNew = std::find(bases.begin(), bases.end(), head) == bases.end();
+      const bool isNew = !contains(bases, head);
       if (text != head && isNew) bases.push_back(head);
     }
   }
@@ -68,7 +69,7 @@ Lemmas::Lemmas(const std::vector<OwnEntry>& own, const std::unordered_set<std::s
 
 void Lemmas::joinAdverb(const OwnEntry& adverb) {
   const std::string head = lower(adverb.head);
-  const bool isEstranged = std::find(estranged.begin(), estranged.end(), head) != estranged.end();
+  const bool isEstranged = contains(estranged, head);
   if (!head.ends_with("ly") || isEstranged) return;
   for (const std::string& adjective : adjectivesOf(head)) {
     const auto found = heads_.find(adjective);
@@ -96,9 +97,7 @@ std::vector<std::string> Lemmas::of(const std::string& word) const {
     const auto kin = related_.find(found[at]);
     if (kin == related_.end()) continue;
     std::copy_if(kin->second.begin(), kin->second.end(), std::back_inserter(found),
-                 [&found](const std::string& each) {
-                   return std::find(found.begin(), found.end(), each) == found.end();
-                 });
+                 [&found](const std::string& each) { return !contains(found, each); });
   }
   return found;
 }

@@ -1,8 +1,8 @@
 // Looking at the words of patterns and examples.
 #include "pack/PatternRules.h"
 
-#include "pack/Contains.h"
 #include "sound/Pronunciations.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>

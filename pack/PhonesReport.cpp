@@ -5,6 +5,7 @@
 #include "pack/Message.h"
 #include "pack/Pronouncer.h"
 #include "pack/StreamText.h"
+#include "text/Contains.h"
 
 #include <algorithm>
 #include <map>
@@ -49,7 +50,7 @@ std::string phonesReport(const std::filesystem::path& source, const std::vector<
     std::vector<std::string> shown;
     for (const WordClass each : found->second) {
       std::string notation = pronouncer.shownOf(word, each);
-      if (std::find(shown.begin(), shown.end(), notation) != shown.end()) continue;
+      if (contains(shown, notation)) continue;
       report += lineOf(pronouncer, word, each);
       shown.push_back(std::move(notation));
     }

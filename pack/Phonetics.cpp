@@ -5,6 +5,7 @@
 #include "pack/PhoneticTables.h"
 #include "pack/VowelGroups.h"
 
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -118,8 +119,7 @@ class PhoneticWriter {
     std::string joined = sounds_[from].phone;
     for (std::size_t place = from + 1; place < end; ++place)
       joined += " " + sounds_[place].phone;
-    return std::find(phonetics::openings.begin(), phonetics::openings.end(), joined) !=
-           phonetics::openings.end();
+    return contains(phonetics::openings, joined);
   }
 
   [[nodiscard]] bool opensStressedSyllable() const {
@@ -198,9 +198,7 @@ class PhoneticWriter {
     }
     if (lCarriesSyllable()) return;
     static constexpr std::array<std::string_view, 4> sonorants = {"l", "m", "n", "r"};
-    const bool sonorant =
-        at_ + 1 >= sounds_.size() ||
-        std::find(sonorants.begin(), sonorants.end(), sounds_[at_ + 1].phone) != sonorants.end();
+    const bool sonorant = at_ + 1 >= sounds_.size() || contains(sonorants, sounds_[at_ + 1].phone);
     const bool speltI =
         group() == "i" && !spelling_.ends_with("ible") && !spelling_.ends_with("ibly");
     const bool speltE = group() == "e" && (first || !sonorant);

@@ -1,5 +1,6 @@
 #include "pack/PlainMarkup.h"
 
+#include "text/Contains.h"
 #include "text/GlyphMap.h"
 #include "text/Text.h"
 
@@ -76,7 +77,7 @@ std::size_t readMark(std::string_view markup, std::string& text) {
     const std::size_t end = markup.substr(0, longestTag).find('>');
     if (end == std::string_view::npos) return 0;
     const std::string name = tagName(markup.substr(1, end - 1));
-    if (std::find(lineTags.begin(), lineTags.end(), name) != lineTags.end()) text += '\n';
+    if (contains(lineTags, name)) text += '\n';
     return end + 1;
   }
   const std::size_t end = markup.substr(0, longestName).find(';');

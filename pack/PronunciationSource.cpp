@@ -5,9 +5,9 @@
 #include "pack/SourceFile.h"
 #include "pack/StreamText.h"
 #include "sound/Pronunciations.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
-#include <algorithm>
 #include <unordered_map>
 
 namespace talvora::pack {
@@ -29,7 +29,7 @@ std::optional<WordClass> takeClass(std::string_view& word) {
 
 bool holds(std::string_view phrase, std::string_view word) {
   const auto words = spokenWordsOf(phrase);
-  return std::find(words.begin(), words.end(), lower(word)) != words.end();
+  return contains(words, lower(word));
 }
 
 /// What is wrong with a rule as a whole; empty when nothing is.

@@ -129,7 +129,7 @@ class TextChecker {
     if (!endsClosed(line.text))
       report(line.text.size(), said("the translation has no closing point"));
     checkQuotationMarks(line.text);
-    for (std::string& fault : translationFaults(sentence_, line.text))
+    for (std::string& fault : translationFaults(sentence_, line.text, Surroundings::Text))
       report(0, std::move(fault));
   }
 

@@ -1,12 +1,12 @@
 // Comparing word by word.
 #include "pack/TranslationRules.h"
 
-#include "pack/Contains.h"
 #include "pack/Message.h"
 #include "pack/SmallLetters.h"
 #include "pack/Weekdays.h"
 #include "sound/Pronunciations.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -151,6 +151,21 @@ void addDay(std::vector<std::string>& faults, const Weekday& day, std::string_vi
         said("\"{}\" leaves the day out, \"by\" does not", "trước " + std::string(day.vietnamese)));
 }
 
+/// "On Fridays" that became "thứ Sáu".
+void addHabit(std::vector<std::string>& faults, const std::vector<std::string>& words,
+              std::string_view small) {
+  constexpr std::array<std::string_view, 7> everyWeek = {"nào", "hằng", "các",   "mỗi",
+                                                         "mọi", "cứ",   "thường"};
+  const bool saysEveryWeek = std::ranges::any_of(everyWeek, [small](std::string_view each) {
+    return small.find(each) != std::string_view::npos;
+  });
+  if (saysEveryWeek) return;
+  for (const std::string& word : words) {
+    if (word.ends_with("days") && weekdayNamed(word) != nullptr)
+      faults.push_back(said("\"{}\" is every week, and its translation one day", word));
+  }
+}
+
 void addAsking(std::vector<std::string>& faults, std::string_view english,
                std::string_view vietnamese) {
   if (asks(english) && !asks(vietnamese))
@@ -161,35 +176,23 @@ void addAsking(std::vector<std::string>& faults, std::string_view english,
 
 } // namespace
 
-std::vector<std::string> translationFaults(std::string_view english, std::string_view vietnamese) {
+std::vector<std::string> translationFaults(std::string_view english, std::string_view vietnamese,
+                                           Surroundings surroundings) {
   std::vector<std::string> faults;
   addAsking(faults, english, vietnamese);
   const std::string smallEnglish = lower(english);
   const std::string small = smallUtf8(vietnamese);
-  std::vector<std::string> words = spokenWordsOf(english);
+  const std::vector<std::string> words = spokenWordsOf(english);
   addOwner(faults, words, small);
-  std::string before;
-  for (std::string& word : words) {
+  std::string_view before;
+  for (const std::string& word : words) {
     if (word == before && !mayRepeat(word) && standsTwice(word, smallEnglish))
       faults.push_back(said("\"{}\" stands twice in a row", word));
     if (!isSaid(word, small)) faults.push_back(said("\"{}\" is not in the translation", word));
     if (const Weekday* const day = weekdayNamed(word)) addDay(faults, *day, before, small);
-    before = std::move(word);
+    before = word;
   }
-  return faults;
-}
-
-std::vector<std::string> habitFaults(std::string_view english, std::string_view vietnamese) {
-  constexpr std::array<std::string_view, 7> everyWeek = {"nào", "hằng", "các",   "mỗi",
-                                                         "mọi", "cứ",   "thường"};
-  const std::string small = smallUtf8(vietnamese);
-  const bool saysEveryWeek = std::ranges::any_of(
-      everyWeek, [&small](std::string_view each) { return small.find(each) != std::string::npos; });
-  std::vector<std::string> faults;
-  for (const std::string& word : spokenWordsOf(english)) {
-    if (!saysEveryWeek && word.ends_with("days") && weekdayNamed(word) != nullptr)
-      faults.push_back(said("\"{}\" is every week, and its translation one day", word));
-  }
+  if (surroundings == Surroundings::None) addHabit(faults, words, small);
   return faults;
 }
 

@@ -7,14 +7,17 @@
 
 namespace talvora::pack {
 
-/// What the two do not agree in: the question mark, the days of the week, the number words; and a
-/// word that the English one has twice in a row. Both in UTF-8; empty when all is well.
-[[nodiscard]] std::vector<std::string> translationFaults(std::string_view english,
-                                                         std::string_view vietnamese);
+/// What stands around a sentence.
+enum class Surroundings {
+  Text, ///< which can tell what the translation leaves open
+  None
+};
 
-/// What a sentence says of every week and its translation of one day: "On Fridays" as "thứ Sáu". A
-/// text around it can tell which is meant, so this holds for a sentence that stands alone.
-[[nodiscard]] std::vector<std::string> habitFaults(std::string_view english,
-                                                   std::string_view vietnamese);
+/// What the two do not agree in: the question mark, the days of the week, the number words, whose
+/// a thing is; and a word that the English one has twice in a row. A sentence that stands alone
+/// also says of every week what its English does: "On Fridays" is not one Friday. Both in UTF-8;
+/// empty when all is well.
+[[nodiscard]] std::vector<std::string>
+translationFaults(std::string_view english, std::string_view vietnamese, Surroundings surroundings);
 
 } // namespace talvora::pack

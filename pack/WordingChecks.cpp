@@ -1,7 +1,6 @@
 // Looking for what is written otherwise, line by line.
 #include "pack/WordingChecks.h"
 
-#include "pack/Contains.h"
 #include "pack/ExerciseSource.h"
 #include "pack/MarkedLine.h"
 #include "pack/Message.h"
@@ -9,6 +8,7 @@
 #include "pack/SourceFile.h"
 #include "pack/Weekdays.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>

@@ -2,13 +2,13 @@
 #include "pack/Message.h"
 #include "pack/ZipFile.h"
 #include "pack/texts/BroughtText.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <libxml/HTMLparser.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <filesystem>
@@ -37,11 +37,6 @@ constexpr std::array<std::string_view, 16> blocks = {
     "h6", "br",  "blockquote", "tr", "dt", "dd", "section", "figcaption"};
 constexpr std::array<std::string_view, 6> silent = {"script", "style", "head", "sup", "svg", "nav"};
 constexpr std::array<std::string_view, 3> headings = {"h1", "h2", "h3"};
-
-template <class Names>
-bool isOneOf(std::string_view name, const Names& names) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 std::string_view nameOf(const xmlNode* node) {
   return node->name == nullptr ? "" : reinterpret_cast<const char*>(node->name);
@@ -100,7 +95,7 @@ class Page {
     for (; node != nullptr; node = node->next) {
       if (node->type == XML_TEXT_NODE && node->content != nullptr) {
         add(reinterpret_cast<const char*>(node->content));
-      } else if (node->type == XML_ELEMENT_NODE && !isOneOf(nameOf(node), silent)) {
+      } else if (node->type == XML_ELEMENT_NODE && !contains(silent, nameOf(node))) {
         enter(node, depth);
       }
     }
@@ -108,10 +103,10 @@ class Page {
 
   void enter(const xmlNode* node, int depth) {
     const std::string_view name = nameOf(node);
-    const bool isBlock = isOneOf(name, blocks);
+    const bool isBlock = contains(blocks, name);
     if (isBlock) endParagraph();
     walk(node->children, depth + 1);
-    if (isOneOf(name, headings) && chapter_.title.empty()) {
+    if (contains(headings, name) && chapter_.title.empty()) {
       chapter_.title = std::exchange(paragraph_, {});
     } else if (isBlock) {
       endParagraph();

@@ -2,9 +2,9 @@
 
 #include "pack/StreamText.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
-#include <algorithm>
 #include <array>
 
 namespace talvora::pack {
@@ -40,7 +40,7 @@ bool isOfWord(std::string_view text, std::size_t point) {
   const std::string word = wordAhead(text, point);
   const bool isInitial =
       word.size() == 1 && point > 0 && capitals.has(text[point - 1]) && word != "i";
-  return isInitial || std::find(shortened.begin(), shortened.end(), word) != shortened.end();
+  return isInitial || contains(shortened, word);
 }
 
 /// Where the sentence that begins at `from` ends.

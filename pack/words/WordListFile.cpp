@@ -7,6 +7,7 @@
 #include "pack/words/CardFields.h"
 #include "pack/words/Table.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -66,7 +67,7 @@ char separatorIn(std::string_view content) {
 std::optional<std::size_t> columnNamed(const Fields& names,
                                        std::initializer_list<std::string_view> wanted) {
   const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
-    return std::find(wanted.begin(), wanted.end(), lower(trim(name))) != wanted.end();
+    return contains(wanted, lower(trim(name)));
   });
   if (found == names.end()) return std::nullopt;
   return static_cast<std::size_t>(found - names.begin());

@@ -2,13 +2,13 @@
 
 #include "desktop/Fonts.h"
 #include "text/Bytes.h"
+#include "text/Contains.h"
 #include "text/GlyphMap.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QTextLayout>
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -40,7 +40,7 @@ std::vector<CharStyle> stylesOf(const ReadingControls& controls) {
     CharStyle style;
     style.font = font;
     style.italic = italic;
-    if (std::find(styles.begin(), styles.end(), style) == styles.end()) styles.push_back(style);
+    if (!contains(styles, style)) styles.push_back(style);
   };
   const auto addBoth = [&](FontSpec font) {
     add(font, false);
@@ -64,9 +64,7 @@ void FontWarmer::warm(std::vector<CharStyle> styles, double pixelsPerTwip) {
   // A face that came later would take away what is ready by then.
   loadFonts();
   if (std::exchange(scale_, pixelsPerTwip) != pixelsPerTwip) ready_.clear();
-  std::erase_if(styles, [this](const CharStyle& style) {
-    return std::find(ready_.begin(), ready_.end(), style) != ready_.end();
-  });
+  std::erase_if(styles, [this](const CharStyle& style) { return contains(ready_, style); });
   styles_ = std::move(styles);
   letters_ = everyLetter();
   style_ = 0;

@@ -1,6 +1,7 @@
 #include "fronts/Links.h"
 
 #include "surface/Button.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -13,11 +14,6 @@ namespace talvora {
 namespace {
 
 constexpr std::string_view Blanks = " \t\r\n\xA0";
-
-template <std::size_t Count>
-bool isOneOf(std::string_view name, const std::array<std::string_view, Count>& names) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 /// Lists of titles and panels of choices: each of their lines answers.
 constexpr std::array<std::string_view, 6> Lists = {"R1", "RVP1", "RN1", "RW1", "RTD", "RAmthanh"};
@@ -74,7 +70,7 @@ int nextLessonLink(const Surface& explanation, int caret) {
 bool isLink(const Surface& surface, SurfacePoint at) {
   const int caret = surface.caretAt(at);
   const std::string& name = surface.Name();
-  if (isOneOf(name, Lists)) return isLineOfList(surface, at, caret);
+  if (contains(Lists, name)) return isLineOfList(surface, at, caret);
   const std::string word = wordAt(surface, caret);
   if (word.empty()) return false;
   if (word.starts_with("<Back>") || word.starts_with("<Next>")) return true;

@@ -1,5 +1,7 @@
 #include "fronts/PageTraits.h"
 
+#include "text/Contains.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -10,7 +12,7 @@ namespace {
 
 bool isList(std::string_view name) {
   constexpr std::array lists = {"R1", "RVP1", "RN1", "RW1", "RTD", "Rchon"};
-  return std::find(lists.begin(), lists.end(), name) != lists.end();
+  return contains(lists, name);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "learner/WordJournal.h"
 
 #include "platform/Files.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -58,7 +58,7 @@ std::optional<Entry> entryFrom(std::string_view line) {
   if (checkOf(text) != line.substr(0, CheckDigits) || text[1] != '\t') return std::nullopt;
   auto row = rowFrom(text.substr(2));
   constexpr std::array signs = {AddedSign, RemovedSign, RemovedWithNextSign};
-  if (!row || std::find(signs.begin(), signs.end(), text[0]) == signs.end()) return std::nullopt;
+  if (!row || !contains(signs, text[0])) return std::nullopt;
   const auto kind = text[0] == AddedSign ? WordDeed::Kind::Added : WordDeed::Kind::Removed;
   return Entry{{kind, std::move(*row)}, text[0] == RemovedWithNextSign};
 }

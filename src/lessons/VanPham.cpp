@@ -5,6 +5,7 @@
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 #include "text/Vietnamese.h"
 
@@ -313,8 +314,7 @@ bool VanPham::isMarked(int lesson) const {
 }
 
 bool VanPham::ConBaiChon() const {
-  return std::find(TrangThaiVP_.begin(), TrangThaiVP_.end(), LessonMark::Marked) !=
-         TrangThaiVP_.end();
+  return contains(TrangThaiVP_, LessonMark::Marked);
 }
 
 void VanPham::BoChonBai() {

@@ -5,6 +5,7 @@
 #include "surface/Looks.h"
 #include "surface/SectionNumbers.h"
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Vietnamese.h"
 
 #include <algorithm>
@@ -293,7 +294,7 @@ void Reading::pressKey(int& keyCode) {
 void Reading::releaseKey(int keyCode) {
   shell_.gestures.keyReleased();
   constexpr std::array moves = {key::Up, key::Down, key::PgUp, key::PgDn, key::Home, key::End};
-  if (std::find(moves.begin(), moves.end(), keyCode) != moves.end()) ChonDongR1(controls_.R1);
+  if (contains(moves, keyCode)) ChonDongR1(controls_.R1);
 }
 
 void Reading::pressCharacter(int pressed) {

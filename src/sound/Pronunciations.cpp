@@ -2,6 +2,7 @@
 #include "sound/Pronunciations.h"
 
 #include "text/CharClass.h"
+#include "text/Contains.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -145,9 +146,8 @@ std::vector<LexiconEntry> Pronunciations::lexicon() const {
 std::vector<LexiconEntry> Pronunciations::lexiconFor(std::string_view text) const {
   const auto words = spokenWordsOf(prepared(text));
   std::vector<LexiconEntry> entries = lexicon();
-  std::erase_if(entries, [&words](const LexiconEntry& entry) {
-    return std::find(words.begin(), words.end(), entry.word) == words.end();
-  });
+  std::erase_if(entries,
+                [&words](const LexiconEntry& entry) { return !contains(words, entry.word); });
   return entries;
 }
 

@@ -1,5 +1,7 @@
 #include "surface/Form.h"
 
+#include "text/Contains.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
@@ -116,7 +118,7 @@ Control* Form::foremostSurface(std::span<const Control* const> butNot) const noe
   const auto found =
       std::find_if(controls_.rbegin(), controls_.rend(), [butNot](const Control* control) {
         return takesKeys(*control) && control->kind() == ControlKind::Surface &&
-               std::find(butNot.begin(), butNot.end(), control) == butNot.end();
+               !contains(butNot, control);
       });
   return found == controls_.rend() ? nullptr : *found;
 }

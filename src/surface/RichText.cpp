@@ -1,6 +1,7 @@
 #include "surface/RichText.h"
 
 #include "text/Bytes.h"
+#include "text/Contains.h"
 
 #include <algorithm>
 #include <array>
@@ -243,7 +244,7 @@ class RichTextReader {
       state_.destination = Destination::ColourTable;
     } else if (word.name == "pn") {
       if (state_.destination == Destination::Text) state_.destination = Destination::Bullet;
-    } else if (std::find(skipped.begin(), skipped.end(), word.name) != skipped.end()) {
+    } else if (contains(skipped, word.name)) {
       state_.destination = Destination::Skipped;
     } else {
       return false;

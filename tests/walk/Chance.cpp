@@ -2,6 +2,7 @@
 
 #include "shell/Controls.h"
 #include "surface/VirtualScreen.h"
+#include "text/Contains.h"
 
 #include <algorithm>
 
@@ -54,8 +55,7 @@ std::string Chance::visibleSurface(Life& life) {
     if (name.starts_with('R')) surfaces.push_back(name);
   }
   if (surfaces.empty()) return {};
-  const bool hasFocus =
-      std::find(surfaces.begin(), surfaces.end(), life.view().focus) != surfaces.end();
+  const bool hasFocus = contains(surfaces, life.view().focus);
   return hasFocus && !oneOf(3) ? life.view().focus : pick(surfaces);
 }
 

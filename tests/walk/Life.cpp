@@ -2,6 +2,7 @@
 
 #include "formats/LearnerFiles.h"
 #include "learner/LearnerWords.h"
+#include "text/Contains.h"
 
 #include <algorithm>
 #include <charconv>
@@ -28,7 +29,7 @@ View viewFrom(const Json& state) {
 
 /// The field for what a dictation asks for is there.
 bool dictates(const View& view) {
-  return std::find(view.visible.begin(), view.visible.end(), "Rviet") != view.visible.end();
+  return contains(view.visible, "Rviet");
 }
 
 } // namespace

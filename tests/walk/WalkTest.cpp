@@ -1,10 +1,9 @@
 // The walk itself: what it looks for it finds, and what it shortens still breaks.
 #include "Minimiser.h"
 #include "Promises.h"
+#include "text/Contains.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace talvora::walk {
 namespace {
@@ -73,9 +72,7 @@ TEST(Minimiser, LeavesTheStepsThatItTakes) {
   Steps steps;
   for (int number = 0; number < 300; ++number)
     steps.push_back(number);
-  const auto holds = [](const Steps& some, int number) {
-    return std::find(some.begin(), some.end(), Json(number)) != some.end();
-  };
+  const auto holds = [](const Steps& some, int number) { return contains(some, Json(number)); };
   const auto breaks = [&](const Steps& some) {
     return holds(some, 17) && holds(some, 203) && holds(some, 299);
   };

@@ -1,6 +1,7 @@
 // The road map of the course names each lesson once, by the number that the list shows.
 #include "pack/LessonSource.h"
 #include "pack/SourceFile.h"
+#include "text/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -20,13 +21,12 @@ constexpr int FirstTable = 352; // they are for every level
 /// The numbers behind ">> " in a line "Động từ: >> 1 đến 3, 9": 1, 2, 3 and 9; none in other lines.
 std::vector<int> numbersIn(std::string_view line) {
   const std::size_t arrow = std::min(line.find(">> "), line.size());
-  std::istringstream list(std::string(line.substr(arrow)).erase(0, 3));
   std::vector<int> numbers;
-  for (std::string range; std::getline(list, range, ',');) {
+  for (const std::string& range : split(std::string(line.substr(arrow)).erase(0, 3), ',')) {
     std::istringstream words(range);
     int first = 0;
+    if (!(words >> first)) continue;
     std::string until;
-    words >> first;
     int last = first;
     words >> until >> last;
     for (; first <= last; ++first)

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <iterator>
 
-namespace talvora::pack {
+namespace talvora {
 
 template <typename List, typename Value>
 [[nodiscard]] constexpr bool contains(const List& list, const Value& value) {
   return std::find(std::begin(list), std::end(list), value) != std::end(list);
 }
 
-} // namespace talvora::pack
+} // namespace talvora
