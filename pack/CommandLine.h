@@ -23,6 +23,7 @@ void takeOneOf(CLI::Option& option, const std::vector<std::pair<std::string, int
 template <class Value>
 void takeOneOf(CLI::Option& option, const std::map<std::string, Value>& words) {
   std::vector<std::pair<std::string, int>> numbers;
+  numbers.reserve(words.size());
   for (const auto& [word, value] : words)
     numbers.emplace_back(word, static_cast<int>(value));
   takeOneOf(option, numbers);

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <ostream>
+#include <utility>
 
 namespace talvora::pack {
 
@@ -37,8 +38,12 @@ bool isOfCopy(std::string_view name) {
          contains(copiedFiles, name.substr(end + 1));
 }
 
+std::string inFolder(const std::string& folder, std::string_view name) {
+  return folder + "/" + std::string(name);
+}
+
 std::string pathOf(const LearnersList& list, std::string_view name) {
-  return list.folder + "/" + std::string(name);
+  return inFolder(list.folder, name);
 }
 
 bool isTextSource(std::string_view name) {
@@ -51,12 +56,13 @@ std::vector<std::string> namesIn(const LearnersList& list) {
   std::error_code error;
   const auto addAll = [&](const std::string& folder) {
     for (const std::string& each : list.files.list(pathOf(list, folder), error)) {
-      if (travels(folder + "/" + each)) names.push_back(folder + "/" + each);
+      std::string name = inFolder(folder, each);
+      if (travels(name)) names.push_back(std::move(name));
     }
   };
   const std::string copies(learnerfile::Copies);
   for (const std::string& each : list.files.list(pathOf(list, copies), error))
-    addAll(copies + "/" + each);
+    addAll(inFolder(copies, each));
   addAll(std::string(learnerfile::Texts));
   names.insert(names.end(), topFiles.begin(), topFiles.end());
   return names;

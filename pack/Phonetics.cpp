@@ -150,6 +150,13 @@ class PhoneticWriter {
     return spelling_.find('o') != std::string::npos && spelling_.find('a') == std::string::npos;
   }
 
+  /// Whether the vowel here is the short one of "hot", which "watch" has too behind its "w".
+  [[nodiscard]] bool isShortO() const {
+    const std::string& phone = sounds_[at_].phone;
+    if ((phone == "aa" || phone == "ao") && speltO()) return true;
+    return phone == "aa" && group().ends_with('a') && afterW();
+  }
+
   void writeVowel() {
     const Sound& sound = sounds_[at_];
     if (is(at_ + 1, "r") && writeVowelAheadOfR()) return;
@@ -159,9 +166,7 @@ class PhoneticWriter {
       if (sounds_[at_].phone == "er" && isVowel(at_ + 1)) text_ += "r";
     } else if (sound.phone == "er") {
       writeEr();
-    } else if ((sound.phone == "aa" || sound.phone == "ao") && speltO()) {
-      text_ += "o";
-    } else if (sound.phone == "aa" && group().ends_with('a') && afterW()) {
+    } else if (isShortO()) {
       text_ += "o";
     } else if (sound.phone == "aa" && (spelling_.find("ough") != std::string::npos ||
                                        group() == "au" || group() == "ou")) {
