@@ -50,7 +50,8 @@ std::string completed(const Item& item) {
   return choice && !placed ? text + lineEnd + right : text;
 }
 
-void appendItems(std::vector<CourseItem>& all, const std::vector<Item>& items, CourseItem first) {
+void appendItems(std::vector<CourseItem>& all, const std::vector<Item>& items,
+                 const CourseItem& first) {
   const std::size_t units = std::max<std::size_t>(items.size() / UnitSize, 1);
   for (std::size_t place = 0; place < items.size(); ++place) {
     CourseItem each = first;

@@ -138,8 +138,10 @@ class SheetWriter {
   }
 
   std::string missed() const {
+    const auto lemmas = planner_.book.missedOf(slot_);
     std::vector<std::string> late;
-    for (const DueLemma& due : planner_.book.missedOf(slot_))
+    late.reserve(lemmas.size());
+    for (const DueLemma& due : lemmas)
       late.push_back(said("{} (by {})", utf8Of(due.lemma), due.lastSlot));
     if (late.empty()) return "";
     return said("Brought here and not returned in time: {}", late.size()) + "\n" + wrapped(late);
@@ -152,6 +154,7 @@ class SheetWriter {
     std::string report = said("Known by then: {} lemmas from {} texts", known.size(), ahead) + "\n";
     if (detail == Detail::Short) return report;
     std::vector<std::string> words;
+    words.reserve(known.size());
     for (const std::string& lemma : known)
       words.push_back(utf8Of(lemma));
     return report + wrapped(words);

@@ -38,7 +38,7 @@ std::string aboutOf(const std::vector<ImportedDictionary>& dictionaries) {
 
 /// Writes all files into a folder of its own, which then takes the place of the old one: no moment
 /// shows half of it.
-std::optional<std::string> put(const std::string& learner, std::vector<PackFile> files) {
+std::optional<std::string> put(const std::string& learner, const std::vector<PackFile>& files) {
   const fs::path fresh = besideIn(learner, ".new");
   const fs::path old = besideIn(learner, ".old");
   std::error_code error;
@@ -101,8 +101,7 @@ ListResult importDictionaries(const ImportWish& wish, std::ostream& out,
   merged.files.push_back({std::string(learnerfile::DictionaryParts), aboutOf(dictionaries)});
   merged.files.push_back({std::string(MergedCourseFile), courseMark(wish.pack)});
   progress(said("writing the dictionary"));
-  if (const auto problem = put(wish.learner, std::move(merged.files)))
-    return tellUnwritten(*problem, out);
+  if (const auto problem = put(wish.learner, merged.files)) return tellUnwritten(*problem, out);
   for (const ImportedDictionary& each : dictionaries) {
     out << said("{}: {} entries", each.name, each.entries.size());
     if (each.unread > 0) out << said(", {} of them without text", each.unread);

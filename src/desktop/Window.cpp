@@ -74,9 +74,8 @@ Window::Window(DesktopMachine& machine, Program& program, EventBridge& bridge)
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
   installAccessibility();
-  view_ =
-      new FormView(program.form(), program.input(), bridge, machine.layout, // NOLINT: Qt owns it
-                   this);
+  // NOLINTNEXTLINE: Qt owns it
+  view_ = new FormView(program.form(), program.input(), bridge, machine.layout, this);
   strip_ = new CaptionStrip(this);  // NOLINT: Qt owns it
   announcer_ = new Announcer(this); // NOLINT: Qt owns it
   announcer_->setGeometry(0, 0, 1, 1);

@@ -183,6 +183,7 @@ int startAgain(const char* name, const talvora::Folders& folders,
   if (!line.trace.empty()) words.insert(words.end(), {"--trace", line.trace});
   words.insert(words.end(), line.rest.begin(), line.rest.end());
   std::vector<char*> pointers;
+  pointers.reserve(words.size() + 1);
   for (std::string& word : words)
     pointers.push_back(word.data());
   pointers.push_back(nullptr);

@@ -65,9 +65,9 @@ std::strong_ordering compareWithForm(std::string_view key, std::string_view line
     if (becomesBlank && started) ++blanks;
     if (character == ' ' || character == NotKept) continue;
     for (; blanks > 0; --blanks) {
-      if (const auto order = walker.step(' '); order != 0) return order;
+      if (const auto order = walker.step(' '); std::is_neq(order)) return order;
     }
-    if (const auto order = walker.step(character); order != 0) return order;
+    if (const auto order = walker.step(character); std::is_neq(order)) return order;
     started = true;
   }
   return walker.atEnd();

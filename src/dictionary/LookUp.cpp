@@ -46,8 +46,8 @@ SearchResult LookUp::search(std::string_view key, LetterRange range) const {
   while (high - low > 1) {
     const int middle = low + (high - low) / 2;
     const auto order = compareWithForm(key, words_.Chu(middle));
-    if (order == 0) return {true, middle, words_.ViTriNghia(middle)};
-    (order < 0 ? high : low) = middle;
+    if (std::is_eq(order)) return {true, middle, words_.ViTriNghia(middle)};
+    (std::is_lt(order) ? high : low) = middle;
   }
   return searchPair(key, low, high);
 }
@@ -57,8 +57,8 @@ SearchResult LookUp::searchPair(std::string_view key, int low, int high) const {
   // A section of one line has no pair, and one that is missing has no line at all.
   for (int i = low; i <= high; ++i) {
     const auto order = compareWithForm(key, words_.Chu(i));
-    if (order <= 0) result.ViTriGan = i;
-    if (order == 0) {
+    if (std::is_lteq(order)) result.ViTriGan = i;
+    if (std::is_eq(order)) {
       result.TimThay = true;
       result.ViTriNghia = words_.ViTriNghia(i);
       break;

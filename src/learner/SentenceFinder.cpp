@@ -89,11 +89,13 @@ const SentencePlace* SentenceFinder::same(const WordRow& row) const {
   return best;
 }
 
-SentenceFinder::Candidate SentenceFinder::likest(const WordRow& row, bool inSameText) const {
+const SentencePlace* SentenceFinder::likest(const WordRow& row, bool inSameText,
+                                            double least) const {
   const Words wanted = wordsOf(row.where.words);
   const Words parts = wordsOf(row.word);
-  Candidate best;
-  if (parts.empty()) return best;
+  if (parts.empty()) return nullptr;
+  const SentencePlace* best = nullptr;
+  double bestLikeness = least;
   const auto [first, last] = byWord_.equal_range(*parts.begin());
   for (auto each = first; each != last; ++each) {
     const SentencePlace& found = sentences_[each->second];
@@ -101,10 +103,12 @@ SentenceFinder::Candidate SentenceFinder::likest(const WordRow& row, bool inSame
     const Words words = wordsOf(found.words);
     if (!std::includes(words.begin(), words.end(), parts.begin(), parts.end())) continue;
     const double likeness = likenessOf(wanted, words);
-    const bool nearer = best.where == nullptr || likeness > best.likeness ||
-                        (likeness == best.likeness &&
-                         distance(row.where, found) < distance(row.where, *best.where));
-    if (nearer) best = {&found, likeness};
+    if (likeness < bestLikeness) continue;
+    const bool better = best == nullptr || likeness > bestLikeness ||
+                        distance(row.where, found) < distance(row.where, *best);
+    if (!better) continue;
+    best = &found;
+    bestLikeness = likeness;
   }
   return best;
 }
@@ -116,11 +120,10 @@ Found SentenceFinder::find(WordRow& row) const {
   };
   const SentencePlace* const equal = row.where.words.empty() ? nullptr : same(row);
   if (equal != nullptr && sameText(row.where, *equal)) return take(*equal, Found::InItsText);
-  const Candidate near = likest(row, true);
-  if (near.likeness >= LikeInText) return take(*near.where, Found::NearestInText);
+  if (const auto* near = likest(row, true, LikeInText)) return take(*near, Found::NearestInText);
   if (equal != nullptr) return take(*equal, Found::InAnotherText);
-  const Candidate like = likest(row, false);
-  if (like.likeness >= LikeElsewhere) return take(*like.where, Found::LikeInOtherText);
+  if (const auto* like = likest(row, false, LikeElsewhere))
+    return take(*like, Found::LikeInOtherText);
   row.where.place = 0;
   return Found::Nowhere;
 }

@@ -33,15 +33,12 @@ class SentenceFinder {
 
  private:
   using Words = std::multiset<std::string, std::less<>>;
-  struct Candidate {
-    const SentencePlace* where = nullptr;
-    double likeness = 0;
-  };
 
   [[nodiscard]] static Words wordsOf(std::string_view text);
   [[nodiscard]] static double likenessOf(const Words& one, const Words& other);
-  /// The best of the sentences that hold the word: the likest, and of equals the nearest.
-  [[nodiscard]] Candidate likest(const WordRow& row, bool sameText) const;
+  /// The best of the sentences that hold the word: the likest, and of equals the nearest; none when
+  /// it is less like than `least`, from 0 (nothing in common) to 1 (the same words).
+  [[nodiscard]] const SentencePlace* likest(const WordRow& row, bool sameText, double least) const;
   [[nodiscard]] const SentencePlace* same(const WordRow& row) const;
 
   std::vector<SentencePlace> sentences_;
