@@ -13,7 +13,8 @@ void LineCounts::changed(int first, int last, int added) {
   const bool reachesEnd = to == lines_.size();
   const auto at =
       lines_.erase(lines_.begin() + first, lines_.begin() + static_cast<std::ptrdiff_t>(to));
-  if (!reachesEnd) lines_.insert(at, static_cast<std::size_t>(last + 1 - first + added), 0);
+  const int uncounted = last + 1 - first + added;
+  if (!reachesEnd) lines_.insert(at, static_cast<std::size_t>(uncounted), 0);
 }
 
 void LineCounts::forget() {
