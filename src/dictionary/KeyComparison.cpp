@@ -65,9 +65,10 @@ std::strong_ordering compareWithForm(std::string_view key, std::string_view line
     if (becomesBlank && started) ++blanks;
     if (character == ' ' || character == NotKept) continue;
     for (; blanks > 0; --blanks) {
-      if (const auto order = walker.step(' '); std::is_neq(order)) return order;
+      if (const auto order = walker.step(' '); order != std::strong_ordering::equal) return order;
     }
-    if (const auto order = walker.step(character); std::is_neq(order)) return order;
+    if (const auto order = walker.step(character); order != std::strong_ordering::equal)
+      return order;
     started = true;
   }
   return walker.atEnd();

@@ -46,8 +46,8 @@ SearchResult LookUp::search(std::string_view key, LetterRange range) const {
   while (high - low > 1) {
     const int middle = low + (high - low) / 2;
     const auto order = compareWithForm(key, words_.Chu(middle));
-    if (std::is_eq(order)) return {true, middle, words_.ViTriNghia(middle)};
-    (std::is_lt(order) ? high : low) = middle;
+    if (order == std::strong_ordering::equal) return {true, middle, words_.ViTriNghia(middle)};
+    (order == std::strong_ordering::less ? high : low) = middle;
   }
   return searchPair(key, low, high);
 }
@@ -57,8 +57,8 @@ SearchResult LookUp::searchPair(std::string_view key, int low, int high) const {
   // A section of one line has no pair, and one that is missing has no line at all.
   for (int i = low; i <= high; ++i) {
     const auto order = compareWithForm(key, words_.Chu(i));
-    if (std::is_lteq(order)) result.ViTriGan = i;
-    if (std::is_eq(order)) {
+    if (order != std::strong_ordering::greater) result.ViTriGan = i;
+    if (order == std::strong_ordering::equal) {
       result.TimThay = true;
       result.ViTriNghia = words_.ViTriNghia(i);
       break;
