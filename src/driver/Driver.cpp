@@ -120,13 +120,15 @@ Driver::Driver(const ScriptedOptions& options, const Folders& folders,
       learner_(machine_, program_) {}
 
 std::string Driver::answer(std::string_view line) {
-  Json reply;
+  return reply(line).dump();
+}
+
+Json Driver::reply(std::string_view line) {
   try {
-    reply = replyTo(Command(line));
+    return replyTo(Command(line));
   } catch (const CommandError& error) {
-    reply = {{"ok", false}, {"error", jsonText(error.what())}};
+    return {{"ok", false}, {"error", jsonText(error.what())}};
   }
-  return reply.dump();
 }
 
 Json Driver::replyTo(const Command& command) {

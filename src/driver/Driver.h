@@ -25,6 +25,8 @@ class Driver {
   /// Carries out one command and gives its reply. A command that cannot be understood changes
   /// nothing; a fatal failure of the program is a reply.
   [[nodiscard]] std::string answer(std::string_view line);
+  /// The reply before it is put into words: for who is in the same process and looks at long pages.
+  [[nodiscard]] Json reply(std::string_view line);
 
  private:
   /// When a command is taken.

@@ -20,6 +20,9 @@ constexpr std::chrono::seconds LongestStep(20);
 // What is dearer to look at is looked at every so many steps.
 constexpr long StepsPerLog = 10;
 constexpr long StepsPerWords = 50;
+constexpr long StepsPerLongPage = 20;
+// The list of all words is such a page, and nothing else.
+constexpr std::size_t LongPage = 1'000'000;
 // From the deepest page the menu is not so many Esc away.
 constexpr int MostEscapes = 20;
 
@@ -65,11 +68,16 @@ Life::Life(Folders folders, Setting setting)
 }
 
 Json Life::ask(const Json& command) {
-  return Json::parse(driver_->answer(command.dump()));
+  return driver_->reply(command.dump());
 }
 
 Json Life::control(const std::string& name) {
-  return ask({{"do", "surface"}, {"name", name}});
+  Json told = ask({{"do", "surface"}, {"name", name}});
+  if (told.contains("text") && told["text"].get_ref<const std::string&>().size() > LongPage)
+    longPages_.insert(name);
+  else
+    longPages_.erase(name);
+  return told;
 }
 
 // -- Steps.
@@ -148,12 +156,19 @@ std::optional<Breach> Life::look() {
 
 /// The page that has the keyboard, and one of the others in turn.
 std::optional<Breach> Life::lookAtVisible() {
-  const Json focus = view_.focus.empty() ? Json() : control(view_.focus);
-  if (auto breach = focusBreach(focus, view_.onMenu())) return breach;
-  if (auto breach = controlBreach(focus)) return breach;
+  if (view_.focus.empty()) return focusBreach(Json(), view_.onMenu());
+  if (isDue(view_.focus)) {
+    const Json focus = control(view_.focus);
+    if (auto breach = focusBreach(focus, view_.onMenu())) return breach;
+    if (auto breach = controlBreach(focus)) return breach;
+  }
   if (view_.onMenu()) return std::nullopt;
-  const auto turn = static_cast<std::size_t>(steps_) % view_.visible.size();
-  return controlBreach(control(view_.visible[turn]));
+  const std::string& other = view_.visible[static_cast<std::size_t>(steps_) % view_.visible.size()];
+  return isDue(other) ? controlBreach(control(other)) : std::nullopt;
+}
+
+bool Life::isDue(const std::string& name) const {
+  return !longPages_.contains(name) || steps_ % StepsPerLongPage == 0;
 }
 
 std::optional<Breach> Life::lookAtMenu() {

@@ -7,7 +7,9 @@
 #include "driver/Driver.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -60,6 +62,8 @@ class Life {
   std::optional<Breach> goToMenu();
   std::optional<Breach> look();
   std::optional<Breach> lookAtVisible();
+  /// Whether a page is looked at in this step: one that was long the last time only now and then.
+  [[nodiscard]] bool isDue(const std::string& name) const;
   std::optional<Breach> lookAtMenu();
   std::optional<Breach> lookAtWords();
   std::optional<Breach> lookAtLog();
@@ -70,6 +74,7 @@ class Life {
   Setting setting_;
   std::optional<Driver> driver_;
   View view_;
+  std::set<std::string, std::less<>> longPages_;
   long steps_ = 0;
 };
 
