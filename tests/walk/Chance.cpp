@@ -12,17 +12,13 @@ namespace {
 
 constexpr int LongestWait = 20'000; // ms
 
-int textLength(const Json& control) {
-  return static_cast<int>(bytesOfJson(control["text"]).value_or(std::string()).size());
-}
-
 /// Whether a part of a control is in the window, below whose caption there are so many percent of
 /// the screen.
-bool inWindow(const Json& control, const Setting& setting) {
+bool inWindow(const Aim& aim, const Setting& setting) {
   constexpr int FormPercent = 97;
   const ScriptedOptions options = setting.options();
-  return control["left"] < options.screenWidth * TwipsPerPixel &&
-         control["top"] < options.screenHeight * TwipsPerPixel * FormPercent / 100;
+  return aim.left < options.screenWidth * TwipsPerPixel &&
+         aim.top < options.screenHeight * TwipsPerPixel * FormPercent / 100;
 }
 
 } // namespace
@@ -106,12 +102,11 @@ Json Chance::mouseStep(Life& life) {
 }
 
 Json Chance::mouseStepOn(const std::string& name, Life& life) {
-  const Json control = life.control(name);
+  const Aim aim = life.aim(name);
   // What is parked beside the window is out of reach.
-  if (!inWindow(control, life.setting())) return keyStep();
-  const int length = textLength(control);
+  if (!inWindow(aim, life.setting())) return keyStep();
   // Headings and first lines are where most is met.
-  const auto place = [&] { return below((oneOf(3) ? std::min(length, 200) : length) + 1); };
+  const auto place = [&] { return below((oneOf(3) ? std::min(aim.length, 200) : aim.length) + 1); };
   Json step = {{"do", "mouse"}, {"surface", name}, {"at", place()}};
   switch (below(12)) {
   case 0:
@@ -135,19 +130,19 @@ Json Chance::mouseStepOn(const std::string& name, Life& life) {
 
 /// A pointer on its way meets what stands in front; later controls stand ahead of earlier ones.
 Json Chance::moveStep(Life& life) {
-  const std::string aim = visibleSurface(life);
-  if (aim.empty()) return keyStep();
-  const Json aimed = life.control(aim);
-  const int x = aimed["left"].get<int>() + below(std::max(aimed["width"].get<int>(), 1));
-  const int y = aimed["top"].get<int>() + below(std::max(aimed["height"].get<int>(), 1));
+  const std::string wanted = visibleSurface(life);
+  if (wanted.empty()) return keyStep();
+  const Aim aim = life.aim(wanted);
+  const int x = aim.left + below(std::max(aim.width, 1));
+  const int y = aim.top + below(std::max(aim.height, 1));
   const auto& visible = life.view().visible;
   for (auto name = visible.rbegin(); name != visible.rend(); ++name) {
-    const Json met = life.control(*name);
-    const int atX = x - met["left"].get<int>();
-    const int atY = y - met["top"].get<int>();
-    if (atX < 0 || atY < 0 || atX >= met["width"] || atY >= met["height"]) continue;
+    const Aim met = life.aim(*name);
+    const int atX = x - met.left;
+    const int atY = y - met.top;
+    if (atX < 0 || atY < 0 || atX >= met.width || atY >= met.height) continue;
     // A plate behind a page is no surface, and tells nobody of the pointer.
-    if (!met.contains("runs")) return keyStep();
+    if (!met.isSurface) return keyStep();
     return {{"do", "move"}, {"surface", *name}, {"x", atX}, {"y", atY}};
   }
   return keyStep();

@@ -22,9 +22,19 @@ constexpr long StepsPerLog = 10;
 constexpr long StepsPerWords = 50;
 constexpr long StepsPerLongPage = 20;
 // The list of all words is such a page, and nothing else.
-constexpr std::size_t LongPage = 1'000'000;
+constexpr int LongPage = 1'000'000;
 // From the deepest page the menu is not so many Esc away.
 constexpr int MostEscapes = 20;
+
+Aim aimFrom(const Json& control) {
+  const std::string text = bytesOfJson(control.value("text", Json(""))).value_or("");
+  return {control["left"],
+          control["top"],
+          control["width"],
+          control["height"],
+          static_cast<int>(text.size()),
+          control.contains("runs")};
+}
 
 View viewFrom(const Json& state) {
   return {state["focus"], state["visible"], state["clock_ms"]};
@@ -73,11 +83,16 @@ Json Life::ask(const Json& command) {
 
 Json Life::control(const std::string& name) {
   Json told = ask({{"do", "surface"}, {"name", name}});
-  if (told.contains("text") && told["text"].get_ref<const std::string&>().size() > LongPage)
-    longPages_.insert(name);
+  const Aim seen = aimFrom(told);
+  if (seen.length > LongPage)
+    longPages_[name] = seen;
   else
     longPages_.erase(name);
   return told;
+}
+
+Aim Life::aim(const std::string& name) {
+  return isDue(name) ? aimFrom(control(name)) : longPages_.at(name);
 }
 
 // -- Steps.

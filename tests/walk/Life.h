@@ -7,9 +7,8 @@
 #include "driver/Driver.h"
 
 #include <cstdint>
-#include <functional>
+#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -39,6 +38,16 @@ struct View {
   friend bool operator==(const View&, const View&) = default;
 };
 
+/// What a pointer needs to know of a control; places in twips.
+struct Aim {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  int length = 0; ///< of its text, in characters
+  bool isSurface = false;
+};
+
 class Life {
  public:
   /// The learner's folder is there; it gets the marker of a finished first run.
@@ -52,10 +61,11 @@ class Life {
 
   [[nodiscard]] const Setting& setting() const noexcept { return setting_; }
   [[nodiscard]] const View& view() const noexcept { return view_; }
-  /// What the driver tells of a control.
-  [[nodiscard]] Json control(const std::string& name);
+  /// A control as it stands now, or a long page as it stood when it was looked at last.
+  [[nodiscard]] Aim aim(const std::string& name);
 
  private:
+  [[nodiscard]] Json control(const std::string& name);
   [[nodiscard]] Json ask(const Json& command);
   std::optional<Breach> give(const std::string& line);
   std::optional<Breach> restart();
@@ -74,7 +84,7 @@ class Life {
   Setting setting_;
   std::optional<Driver> driver_;
   View view_;
-  std::set<std::string, std::less<>> longPages_;
+  std::map<std::string, Aim> longPages_;
   long steps_ = 0;
 };
 
